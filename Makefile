@@ -1,0 +1,49 @@
+# The two commands of this project, and the few that its developers use besides.
+# Each installs what is missing, builds what changed, and needs no answer to any question.
+
+JOBS ?= $(shell nproc)
+ARGS ?=
+
+.PHONY: run test asan tsan bench install clean
+
+run: build/release/.configured-run
+	@cmake --build build/release -j $(JOBS) --target glyphorium-cli >build/release/build.log 2>&1 \
+	  || { cat build/release/build.log; exit 1; }
+	@scripts/show
+
+test:
+	@scripts/bootstrap test
+	cmake --preset test
+	cmake --build --preset test -j $(JOBS)
+	ctest --preset test -j $(JOBS)
+
+# The whole test suite once more under a sanitizer.
+asan tsan:
+	@scripts/bootstrap test
+	cmake --preset $@
+	cmake --build --preset $@ -j $(JOBS)
+	ctest --preset $@ -j $(JOBS)
+
+bench:
+	@scripts/bootstrap test
+	cmake --preset bench
+	cmake --build --preset bench -j $(JOBS)
+	@for b in build/bench/benchmarks/*_benchmark; do "$$b" $(ARGS) || exit 1; done
+
+# The desktop finds the installed program, its manual page and completions here.
+PREFIX ?= /usr/local
+install:
+	@scripts/bootstrap run
+	cmake --preset release -DCMAKE_INSTALL_PREFIX=$(PREFIX)
+	cmake --build --preset release -j $(JOBS)
+	cmake --install build/release
+
+build/release/.configured-run:
+	@scripts/bootstrap run
+	@echo 'Building the catalog and its command line (a minute or two the first time) ...' >&2
+	@mkdir -p build/release && cmake --preset release >build/release/configure.log 2>&1 \
+	  || { cat build/release/configure.log; exit 1; }
+	@touch $@
+
+clean:
+	rm -rf build

@@ -1,0 +1,18 @@
+# Options of every target of this project: the language, the warnings it is clean of, the sanitizers asked for.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+add_library(glyphorium_options INTERFACE)
+target_compile_options(glyphorium_options INTERFACE
+  $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow>)
+if(GLYPHORIUM_SANITIZE)
+  target_compile_options(glyphorium_options INTERFACE -fsanitize=${GLYPHORIUM_SANITIZE} -fno-omit-frame-pointer
+                         -fno-sanitize-recover=undefined)
+  target_link_options(glyphorium_options INTERFACE -fsanitize=${GLYPHORIUM_SANITIZE})
+else()
+  target_link_options(glyphorium_options INTERFACE -Wl,--no-undefined)
+endif()
