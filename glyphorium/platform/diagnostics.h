@@ -13,8 +13,8 @@ namespace glyph {
 using DiagnosticsSink = std::function<void(std::string_view line)>;
 
 /// Puts `sink` in the place of standard output for every diagnostic line of the library from now on. An empty
-/// function restores standard output. Safe to call from any thread; a line being delivered meanwhile may still
-/// reach the sink before.
+/// function restores standard output. Safe to call from any thread; a line being delivered meanwhile may
+/// still reach the sink before.
 GLYPHORIUM_EXPORT void setDiagnosticsSink(DiagnosticsSink sink);
 
 /// Hands one line (without a line feed) to the sink. What the sink throws is swallowed.

@@ -17,8 +17,8 @@ namespace glyph {
 /// A list that the host has put in place with setPreferredLanguages is returned as it is.
 GLYPHORIUM_EXPORT std::vector<std::string> preferredLanguages();
 
-/// Puts the host's own list in the place of the environment's, as given (also an empty one); nullopt goes back
-/// to the environment.
+/// Puts the host's own list in the place of the environment's, as given (also an empty one); nullopt goes
+/// back to the environment.
 GLYPHORIUM_EXPORT void setPreferredLanguages(std::optional<std::vector<std::string>> languages);
 
 }  // namespace glyph
