@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "glyphorium/catalog/entity/records.h"
+#include "glyphorium/catalog/observed.h"
+#include "glyphorium/platform/export.h"
+
+namespace glyph {
+
+namespace catalog_observers {
+// Each prints one diagnostic line that names the field and counts its elements.
+GLYPHORIUM_EXPORT void allBuildInEntitiesDidSet(const std::vector<Entity>& entities);
+GLYPHORIUM_EXPORT void allCustomEntitiesDidSet(const std::vector<Entity>& entities);
+GLYPHORIUM_EXPORT void allEntityGroupNamesWithCountDidSet(const std::map<std::string, std::int64_t>& counts);
+GLYPHORIUM_EXPORT void selectedGroupsHadChangedDidSet(const bool& value);
+}  // namespace catalog_observers
+
+/// The character catalog: a value, of which glyphorium() is the shared instance. No operation throws or
+/// reports an error; bad input gives the neutral value named with the operation, and what went wrong is a
+/// diagnostic line. A catalog and the module's globals must not be used from two threads at once.
+struct GLYPHORIUM_EXPORT Glyphorium {
+  using ComputedEntity = glyph::ComputedEntity;
+  using AdditionalData = glyph::AdditionalData;
+  using AdditionalDataAdvice = glyph::AdditionalDataAdvice;
+  using Entity = glyph::Entity;
+  using Unicode = glyph::Unicode;
+
+  /// Entities per group, by the exact group name. A group without entities has no key.
+  using GroupCounts = std::map<std::string, std::int64_t>;
+
+  Glyphorium();
+  Glyphorium(const Glyphorium&) = default;
+  Glyphorium(Glyphorium&&) noexcept = default;
+  Glyphorium& operator=(const Glyphorium& other);
+  ~Glyphorium() = default;
+
+  /// Code points, in hexadecimal, that selectedEntities() never shows; letter case does not count.
+  std::vector<std::string> forbiddenUnicodes;
+
+  /// The characters that the user added, in the order added; filled by configure().
+  Observed<std::vector<Entity>, catalog_observers::allCustomEntitiesDidSet> allCustomEntities;
+
+  Observed<GroupCounts, catalog_observers::allEntityGroupNamesWithCountDidSet> allEntityGroupNamesWithCount;
+
+  /// Raised by every write of the displayed groups; the host lowers it. Every assignment prints a diagnostic
+  /// line.
+  Observed<bool, catalog_observers::selectedGroupsHadChangedDidSet> selectedGroupsHadChanged;
+
+  /// The entities of all configured tables, in their order, each with its enrichment; empty before
+  /// configure().
+  const std::vector<Entity>& buildInEntities() const { return allBuildInEntities_; }
+
+  /// Fills the catalog from the embedded tables and the user's stored choices, and publishes
+  /// selectedEntities(). May be called again at any time; each run replaces everything.
+  void configure();
+
+  /// The rows of a group table's JSON text, after the table repair: the rows of U+0022 and U+005C stand in
+  /// `latinBasicJson` with their symbols unescaped, and are escaped before decoding. nullopt where the text
+  /// does not decode, which one diagnostic line explains.
+  std::optional<std::vector<ComputedEntity>> getComputedEntitiesFrom(std::string_view json) const;
+
+  /// The rows of an enrichment table's JSON text; nullopt likewise.
+  std::optional<std::vector<AdditionalData>> getAdditionalDataFrom(std::string_view json) const;
+
+  /// An entity for each record, in their order, with the first enrichment record of its hex code (compared
+  /// byte for byte), if there is one.
+  std::vector<Entity> getEntitiesByEnriching(std::vector<ComputedEntity> records,
+                                             const std::optional<std::vector<AdditionalData>>& with) const;
+
+ private:
+  friend struct CatalogTestAccess;
+
+  std::vector<std::string> getBuildInEntityGroups();
+  void setEntityGroupNamesWithCount();
+
+  std::vector<std::string_view> entityData_;  // the texts of the configured group tables
+  std::vector<std::string>
+      notDisplayableUnicodes_;  // dropped from selectedEntities() like the forbidden ones
+  Observed<std::vector<Entity>, catalog_observers::allBuildInEntitiesDidSet> allBuildInEntities_;
+};
+
+/// The shared catalog, created with its fixed lists on first use; that is safe from several threads at once.
+GLYPHORIUM_EXPORT Glyphorium& glyphorium();
+
+/// The group names in display order: "custom", the three curated groups, then the others ascending. Empty
+/// until configure() fills it.
+GLYPHORIUM_EXPORT std::vector<std::string>& allBuildInEntityGroups();
+
+/// The group of the characters that the user added.
+inline constexpr std::string_view customGroup = "custom";
+
+}  // namespace glyph

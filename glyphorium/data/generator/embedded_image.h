@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace glyph::generator {
+
+/// Collects everything that the library embeds into one read-only blob, and writes the sources that name its
+/// parts. One blob behind one symbol costs the compiler nothing and the loader no relocation per text.
+class EmbeddedImage {
+ public:
+  /// A text constant of namespace glyph: a group table, or another text with an empty group.
+  void addText(std::string constant, std::string group, std::size_t entries, bool configured,
+               std::string_view text);
+
+  /// A text constant that is a part of the text added last.
+  void addPart(const std::string& constant, std::size_t entries, std::size_t offset, std::size_t size);
+
+  /// The name index: pairs of code point and offset, ascending by code point.
+  void addNameIndex(const std::vector<std::pair<char32_t, std::uint32_t>>& index);
+
+  /// Writes embedded.bin, embedded.S, embedded_image.cpp and glyphorium/data/group_tables.h below the folder.
+  void write(const std::filesystem::path& folder) const;
+
+ private:
+  struct Text {
+    std::string constant;
+    std::string variable;  // that holds it
+    std::string group;
+    std::size_t entries;
+    bool configured;
+    std::size_t offset;
+    std::size_t size;
+  };
+
+  std::string blob_;
+  std::vector<Text> texts_;
+  std::size_t lastOffset_ = 0;
+  std::size_t nameIndexOffset_ = 0;
+  std::size_t nameIndexSize_ = 0;
+};
+
+}  // namespace glyph::generator

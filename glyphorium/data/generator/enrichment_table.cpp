@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/data/generator/enrichment_table.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <optional>
+#include <vector>
+
+#include "glyphorium/data/name_capitalization.h"
+
+namespace glyph::generator {
+namespace {
+
+// The order in which the notes of a row stand.
+constexpr std::array<const char*, 5> languages{"en", "de", "fr", "it", "es"};
+
+struct Row {
+  std::map<std::string, std::string> notes;  // by language
+  std::string htmlNamed;
+  std::string betterName;
+  std::string imageName;
+  bool needsSerifs = false;
+  std::vector<std::string> searchTerms;
+};
+
+// All rows of a code point, in table order: one, or one for each of its lines of search terms.
+using RowsByHex = std::map<std::string, std::vector<Row>>;
+
+// The row of a code point that carries everything but further search terms.
+Row& mainRow(RowsByHex& rows, const std::string& hex) {
+  std::vector<Row>& all = rows[hex];
+  if (all.empty()) all.emplace_back();
+  return all.back();
+}
+
+void requirePlainText(const Place& place, const std::string& text) {
+  if (text.find_first_of("\"\\") != std::string::npos)
+    place.fail("holds a straight quotation mark or a reverse solidus");
+  for (const char c : text) {
+    if (static_cast<unsigned char>(c) < 0x20 && c != '\n') place.fail("holds a control character");
+  }
+}
+
+void readSearchTerms(const std::filesystem::path& file, RowsByHex& rows) {
+  std::string previous;
+  for (const SourceLine& line : readTable(file, 2, 10)) {
+    const std::string hex = hexText(line.codePoint(0, false));
+    if (hex < previous) line.fail("is out of order");
+    previous = hex;
+    Row row;
+    row.searchTerms.assign(line.columns.begin() + 1, line.columns.end());
+    std::vector<std::string> sorted = row.searchTerms;
+    std::sort(sorted.begin(), sorted.end());
+    if (std::adjacent_find(sorted.begin(), sorted.end()) != sorted.end()) line.fail("holds a term twice");
+    for (const std::string& term : row.searchTerms) {
+      if (term.empty()) line.fail("holds an empty term");
+      requirePlainText(line.place, term);
+    }
+    rows[hex].push_back(std::move(row));
+  }
+}
+
+void readReferences(const std::filesystem::path& file, RowsByHex& rows, Figures& figures) {
+  std::string previous;
+  std::size_t elsewhere = 0;
+  for (const SourceLine& line : readTable(file, 3, 3)) {
+    const std::string hex = hexText(line.codePoint(0, false));
+    if (hex <= previous) line.fail("is out of order");
+    previous = hex;
+    const std::string& reference = line.columns[1];
+    if (reference.empty()) continue;
+    if (reference.size() < 3 || reference.front() != '&' || reference.back() != ';')
+      line.fail("is no reference");
+    const std::string name = " " + reference.substr(1, reference.size() - 2) + " ";
+    if ((" " + line.columns[2] + " ").find(name) == std::string::npos) ++elsewhere;
+    mainRow(rows, hex).htmlNamed = reference;
+  }
+  figures.reached("htmlNamed beside another character", elsewhere);
+}
+
+void readAttributes(const std::filesystem::path& file, RowsByHex& rows) {
+  std::string previous;
+  for (const SourceLine& line : readTable(file, 3, 3)) {
+    const std::string hex = hexText(line.codePoint(0, false));
+    if (hex < previous) line.fail("is out of order");
+    previous = hex;
+    requirePlainText(line.place, line.columns[2]);
+    Row& row = mainRow(rows, hex);
+    if (line.columns[1] == "betterName") {
+      row.betterName = line.columns[2];
+    } else if (line.columns[1] == "imageName") {
+      row.imageName = line.columns[2];
+    } else if (line.columns[1] == "needsSerifs" && line.columns[2] == "true") {
+      row.needsSerifs = true;
+    } else {
+      line.fail("is no attribute");
+    }
+  }
+}
+
+void readNotes(const std::filesystem::path& file, const std::string& language, const NameTable& names,
+               RowsByHex& rows) {
+  std::string previous;
+  std::optional<Place> heading;
+  std::string hex;
+  std::string note;
+  const auto finish = [&] {
+    while (note.ends_with('\n')) note.pop_back();
+    note.erase(0, std::min(note.find_first_not_of('\n'), note.size()));
+    if (!heading) {
+      if (!note.empty()) Place{file, 1}.fail("does not begin with a heading");
+      return;
+    }
+    if (note.empty()) heading->fail("has no note");
+    requirePlainText(*heading, note);
+    mainRow(rows, hex).notes[language] = note;
+  };
+  std::size_t number = 0;
+  for (const std::string& text : readLines(file)) {
+    const Place place{file, ++number};
+    if (text.ends_with(' ')) place.fail("ends with a blank");
+    if (!text.starts_with("## ")) {
+      note += text + '\n';
+      continue;
+    }
+    finish();
+    note.clear();
+    heading = place;
+    const SourceLine line{place, {text.substr(3, text.find(' ', 3) - 3)}};
+    const char32_t codePoint = line.codePoint(0, false);
+    hex = hexText(codePoint);
+    if (hex <= previous) place.fail("is out of order");
+    previous = hex;
+    const NameTable::Entry* const entry = names.find(codePoint);
+    const std::string wanted = "## " + hex + " " + (entry ? capitalizedName(entry->name) : "?");
+    if (text != wanted) place.fail("must read '" + wanted + "'");
+  }
+  finish();
+}
+
+std::string jsonText(std::string_view text) {
+  std::string json = "\"";
+  for (const char c : text) {
+    if (c == '\n')
+      json += "\\n";
+    else
+      json += c;
+  }
+  return json + '"';
+}
+
+// The elements of an array in two-space indentation, one a line; an empty array keeps a line of blanks.
+std::string jsonArray(const std::vector<std::string>& elements) {
+  std::string json = "[\n      ";
+  for (std::size_t i = 0; i < elements.size(); ++i) json += (i ? ",\n      " : "") + elements[i];
+  return json + "\n    ]";
+}
+
+std::string rowJson(const std::string& hex, const Row& row) {
+  std::vector<std::string> advice;
+  for (const char* const language : languages) {
+    const auto note = row.notes.find(language);
+    if (note == row.notes.end()) continue;
+    advice.push_back("{\n        \"lang\": \"" + std::string(language) +
+                     "\",\n        \"text\": " + jsonText(note->second) + "\n      }");
+  }
+  std::vector<std::string> terms;
+  for (const std::string& term : row.searchTerms) terms.push_back(jsonText(term));
+  return "  {\n    \"advice\": " + jsonArray(advice) + ",\n    \"hex\": " + jsonText(hex) +
+         ",\n    \"htmlNamed\": " + jsonText(row.htmlNamed) +
+         ",\n    \"needsSerifs\": " + (row.needsSerifs ? "true" : "false") +
+         ",\n    \"imageName\": " + jsonText(row.imageName) +
+         ",\n    \"betterName\": " + jsonText(row.betterName) +
+         ",\n    \"searchTerms\": " + jsonArray(terms) + "\n  }";
+}
+
+void noteFigures(const RowsByHex& rows, const NameTable& names, const std::set<char32_t>& configured,
+                 Figures& figures) {
+  std::map<std::string, std::size_t> counts;
+  for (const auto& [hex, all] : rows) {
+    const auto codePoint = static_cast<char32_t>(std::stoul(hex, nullptr, 16));
+    if (!names.find(codePoint)) throw SourceError("enrichment: error: " + hex + " has no name");
+    counts["enrichment code points in no configured table"] += configured.contains(codePoint) ? 0 : 1;
+    for (const Row& row : all) {
+      counts["rows with htmlNamed"] += row.htmlNamed.empty() ? 0 : 1;
+      counts["rows with searchTerms"] += row.searchTerms.empty() ? 0 : 1;
+      counts["search terms"] += row.searchTerms.size();
+      counts["rows with advice"] += row.notes.empty() ? 0 : 1;
+      counts["rows with needsSerifs"] += row.needsSerifs ? 1 : 0;
+      counts["rows with betterName"] += row.betterName.empty() ? 0 : 1;
+      counts["rows with imageName"] += row.imageName.empty() ? 0 : 1;
+      for (const auto& [language, note] : row.notes) {
+        counts["line break escapes in advice"] +=
+            static_cast<std::size_t>(std::count(note.begin(), note.end(), '\n'));
+      }
+    }
+    counts["enrichment rows"] += all.size();
+  }
+  counts["enrichment code points"] = rows.size();
+  for (const auto& [figure, value] : counts) figures.reached(figure, value);
+}
+
+}  // namespace
+
+EnrichmentTable makeEnrichmentTable(const std::filesystem::path& sources, const NameTable& names,
+                                    const std::set<char32_t>& configured, Figures& figures) {
+  const std::filesystem::path folder = sources / "enrichment";
+  RowsByHex rows;
+  readSearchTerms(folder / "search-terms.tsv", rows);  // first: it decides how many rows a code point has
+  readReferences(folder / "html-references.tsv", rows, figures);
+  readAttributes(folder / "attributes.tsv", rows);
+  for (const char* const language : languages) {
+    readNotes(folder / "advice" / (std::string(language) + ".md"), language, names, rows);
+  }
+  noteFigures(rows, names, configured, figures);
+
+  EnrichmentTable table{"[\n", 0};
+  for (const auto& [hex, all] : rows) {  // std::map holds them in the order of the hex text
+    for (const Row& row : all) {
+      if (table.rows++ > 0) table.json += ",\n";
+      table.json += rowJson(hex, row);
+    }
+  }
+  table.json += "\n]";
+  return table;
+}
+
+}  // namespace glyph::generator

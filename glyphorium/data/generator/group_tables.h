@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "glyphorium/data/generator/name_table.h"
+
+namespace glyph::generator {
+
+/// One of the 119 group tables.
+struct GroupTable {
+  std::string constant;
+  std::string group;
+  bool configured;  // decoded into the catalog
+  std::vector<char32_t> members;
+  std::string json;
+};
+
+/// All tables in the order of groups.tsv.
+std::vector<GroupTable> makeGroupTables(const std::filesystem::path& sources, const NameTable& names);
+
+}  // namespace glyph::generator

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+// Turns the sources of the embedded texts into constants of the library. The build runs it; it stops the
+// build when a source breaks a rule or a text does not come to its figures.
+#include <cstdio>
+#include <exception>
+#include <set>
+
+#include "glyphorium/data/generator/embedded_image.h"
+#include "glyphorium/data/generator/enrichment_table.h"
+#include "glyphorium/data/generator/figures.h"
+#include "glyphorium/data/generator/group_tables.h"
+#include "glyphorium/data/generator/name_table.h"
+
+namespace {
+
+using namespace glyph::generator;
+
+void addGroupTables(const std::vector<GroupTable>& tables, EmbeddedImage& image, Figures& figures) {
+  std::size_t rows = 0;
+  std::size_t bytes = 0;
+  std::size_t configuredTables = 0;
+  std::size_t configuredRows = 0;
+  for (const GroupTable& table : tables) {
+    image.addText(table.constant, table.group, table.members.size(), table.configured, table.json);
+    rows += table.members.size();
+    bytes += table.json.size();
+    configuredTables += table.configured ? 1 : 0;
+    configuredRows += table.configured ? table.members.size() : 0;
+    for (const char* const listed :
+         {"sfSymbolsJson", "mathematicalAlphanumericSymbolsJson", "yiSyllablesJson"}) {
+      if (table.constant == listed) figures.reached("bytes of " + table.constant, table.json.size());
+    }
+  }
+  figures.reached("group tables", tables.size());
+  figures.reached("group table rows", rows);
+  figures.reached("group table bytes", bytes);
+  figures.reached("configured group tables", configuredTables);
+  figures.reached("configured rows", configuredRows);
+}
+
+void addNameTable(const NameTable& names, EmbeddedImage& image, Figures& figures) {
+  const NameTable::Text text = names.text();
+  const std::size_t entries = names.unicode().size() + names.symbols().size();
+  image.addText("structuredUnicodeJSON", "", entries, false, text.json);
+  image.addPart("sfSymbols", names.symbols().size(), text.fragmentOffset, text.fragmentSize);
+  image.addNameIndex(text.index);
+  figures.reached("unicode names", names.unicode().size());
+  figures.reached("sf symbols", names.symbols().size());
+  figures.reached("name table rows", entries);
+  figures.reached("name table first piece bytes", text.fragmentOffset);
+  figures.reached("bytes of sfSymbols", text.fragmentSize);
+  figures.reached("bytes of structuredUnicodeJSON", text.json.size());
+}
+
+void generate(const std::filesystem::path& sources, const std::filesystem::path& folder) {
+  Figures figures(sources);
+  EmbeddedImage image;
+  const NameTable names(sources);
+  const std::vector<GroupTable> tables = makeGroupTables(sources, names);
+  addGroupTables(tables, image, figures);
+
+  std::set<char32_t> configured;
+  for (const GroupTable& table : tables) {
+    if (table.configured) configured.insert(table.members.begin(), table.members.end());
+  }
+  const EnrichmentTable enrichment = makeEnrichmentTable(sources, names, configured, figures);
+  image.addText("additionalJson", "", enrichment.rows, false, enrichment.json);
+  figures.reached("bytes of additionalJson", enrichment.json.size());
+
+  addNameTable(names, image, figures);
+  figures.check();
+  image.write(folder);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::fputs("usage: glyphorium-generate SOURCES FOLDER\n", stderr);
+    return 2;
+  }
+  try {
+    generate(argv[1], argv[2]);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 1;
+  }
+  return 0;
+}
