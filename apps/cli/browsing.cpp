@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <map>
+#include <nlohmann/json.hpp>
+
+#include "card.h"
+#include "commands.h"
+#include "glyphorium/catalog/glyphorium.h"
+#include "lookup.h"
+
+namespace cli {
+namespace {
+
+using glyph::Entity;
+
+void printEntities(Output& output, const std::vector<const Entity*>& entities, bool json) {
+  if (json) {
+    std::vector<std::string> objects;
+    for (const Entity* entity : entities) objects.push_back(entityJson(*entity));
+    printJsonArray(output, objects);
+    return;
+  }
+  std::vector<std::vector<std::string>> rows;
+  for (const Entity* entity : entities) {
+    const bool named = entity->additional && entity->additional->htmlNamed;
+    rows.push_back({output.accent(visibleSymbol(entity->computed)), output.faint(entity->computed.hex),
+                    entity->name(), output.faint(named ? *entity->additional->htmlNamed : "")});
+  }
+  output.printTable(rows);
+}
+
+}  // namespace
+
+int listGroups(Output& output, bool json) {
+  glyph::Glyphorium& catalog = glyph::glyphorium();
+  catalog.configure();
+  std::vector<std::string> objects;
+  std::vector<std::vector<std::string>> rows;
+  for (const std::string& group : glyph::allBuildInEntityGroups()) {
+    const auto place = catalog.allEntityGroupNamesWithCount->find(group);
+    const std::int64_t count = place == catalog.allEntityGroupNamesWithCount->end() ? 0 : place->second;
+    objects.push_back(nlohmann::ordered_json{{"name", group}, {"count", count}}.dump());
+    rows.push_back({group, output.faint(std::to_string(count))});
+  }
+  json ? printJsonArray(output, objects) : output.printTable(rows);
+  return found;
+}
+
+int listEntities(Output& output, const std::vector<std::string>& groups, bool all, bool json) {
+  glyph::Glyphorium& catalog = glyph::glyphorium();
+  catalog.configure();
+  std::vector<const Entity*> entities;
+  const auto append = [&](const std::vector<Entity>& from, const std::string* group) {
+    for (const Entity& entity : from) {
+      if (!group || entity.computed.group == *group) entities.push_back(&entity);
+    }
+  };
+  if (all) {
+    append(catalog.buildInEntities(), nullptr);
+    append(catalog.allCustomEntities, nullptr);
+  }
+  for (const std::string& name : groups) {
+    const auto group = groupNamed(name);
+    if (!group) {
+      complain(unknownGroup(name));
+      return wrongUse;
+    }
+    append(catalog.buildInEntities(), &*group);
+    append(catalog.allCustomEntities, &*group);
+  }
+  printEntities(output, entities, json);
+  return entities.empty() ? nothingFound : found;
+}
+
+int showCharacters(Output& output, const std::vector<std::string>& arguments, bool json) {
+  glyph::glyphorium().configure();
+  std::vector<std::vector<Entity>> characters;  // the entities of each, in the order first met
+  std::map<std::string, std::size_t> places;
+  int exitCode = found;
+  for (const std::string& argument : arguments) {
+    std::vector<Entity> entities = resolve(argument);
+    if (entities.empty()) {
+      complain("no character is '" + argument + "'");
+      exitCode = nothingFound;
+    }
+    std::map<std::string, bool> shown;  // an argument that repeats a character shows it again, once
+    for (Entity& entity : entities) {
+      if (!shown[entity.computed.hex]) {
+        shown[entity.computed.hex] = true;
+        places[entity.computed.hex] = characters.size();
+        characters.emplace_back();
+      }
+      characters[places[entity.computed.hex]].push_back(std::move(entity));
+    }
+  }
+  if (json) {
+    std::vector<std::string> objects;
+    for (const auto& entities : characters) {
+      for (const Entity& entity : entities) objects.push_back(entityJson(entity));
+    }
+    printJsonArray(output, objects);
+    return exitCode;
+  }
+  for (const auto& entities : characters) {
+    if (&entities != &characters.front()) output.printLine();
+    printCard(output, entities);
+  }
+  return exitCode;
+}
+
+}  // namespace cli

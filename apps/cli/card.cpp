@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "card.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+#include "glyphorium/catalog/entity/codec.h"
+#include "glyphorium/data/name_table.h"
+#include "glyphorium/platform/unicode_text.h"
+#include "glyphorium/toolkit/entity_tool_kit.h"
+
+namespace cli {
+namespace {
+
+using glyph::ComputedEntity;
+using glyph::Entity;
+
+std::string joined(const std::vector<std::string>& texts) {
+  std::string result;
+  for (const std::string& text : texts) result += (result.empty() ? "" : ", ") + text;
+  return result;
+}
+
+void printForms(Output& output, const Entity& entity, const std::vector<std::string>& groups) {
+  const ComputedEntity& record = entity.computed;
+  const auto print = [&](std::string_view label, std::string_view value) {
+    if (value.empty()) return;
+    std::string column(label);
+    column.resize(14, ' ');
+    output.printLine("    " + output.faint(column) + std::string(value));
+  };
+  if (entity.additional && entity.additional->htmlNamed) print("HTML", *entity.additional->htmlNamed);
+  print("HTML hex", record.htmlHex);
+  print("HTML decimal", record.htmlDecimal);
+  print("Hex", record.hex);
+  print("Decimal", std::to_string(record.decimal));
+  print("Swift", entity.swiftDecimal());
+  if (record.isSFSymbol.value_or(false)) {
+    // Snippets take the symbol library's own spelling, which only the name table keeps.
+    if (const auto entry = glyph::findName(record.hex)) {
+      print("SwiftUI", glyph::toolKit().getSFSymbolSwiftUICode(entry->name));
+      print("UIKit", glyph::toolKit().getSFSymbolUIKitCode(entry->name));
+    }
+  }
+  print(groups.size() > 1 ? "Groups" : "Group", joined(groups));
+  if (entity.additional && entity.additional->searchTerms) {
+    print("Found by", joined(*entity.additional->searchTerms));
+  }
+}
+
+}  // namespace
+
+std::string visibleSymbol(const ComputedEntity& record) {
+  const std::u32string points = glyph::codePoints(record.symbol);
+  if (points.size() != 1) return record.symbol;
+  const char32_t point = points.front();
+  if (point < 0x20) return glyph::utf8(0x2400 + static_cast<std::int64_t>(point));
+  if (point == 0x7F) return "␡";
+  if (glyph::isCombining(point)) return "◌" + record.symbol;
+  const bool privateUse = (point >= 0xE000 && point <= 0xF8FF) || point >= 0xF0000;
+  if (privateUse) return "▯";
+  const bool space = point == 0x20 || point == 0xA0 || point == 0x1680 ||
+                     (point >= 0x2000 && point <= 0x200A) || point == 0x202F || point == 0x205F ||
+                     point == 0x3000;
+  if (space) return "␣";
+  return glyph::isInvisible(point) ? "⬚" : record.symbol;
+}
+
+void printCard(Output& output, const std::vector<Entity>& entities) {
+  const Entity& entity = entities.front();
+  std::vector<std::string> groups;
+  for (const Entity& one : entities) {
+    if (!one.computed.group.empty()) groups.push_back(one.computed.group);
+  }
+  const std::string name = entity.name().empty() ? "(not in the Unicode 13.0 name table)" : entity.name();
+  std::string code = "U+" + entity.computed.hex;
+  std::transform(code.begin(), code.end(), code.begin(),
+                 [](char c) { return c >= 'a' && c <= 'f' ? static_cast<char>(c - ('a' - 'A')) : c; });
+  output.printLine("  " + output.accent(visibleSymbol(entity.computed)) + "  " + output.strong(name) + "  " +
+                   output.faint(code));
+  if (name != entity.computed.fallbackName && !entity.computed.fallbackName.empty()) {
+    output.printLine("    " + output.faint("in Unicode: " + entity.computed.fallbackName));
+  }
+  printForms(output, entity, groups);
+  if (const auto note = entity.additional ? entity.additional->localizedAdvice() : std::nullopt) {
+    output.printLine();
+    for (const std::string& line : wrapped(*note, std::min(terminalWidth(), 84) - 4)) {
+      output.printLine(line.empty() ? "" : "    " + line);
+    }
+  }
+}
+
+std::string entityJson(const Entity& entity) {
+  using Json = nlohmann::ordered_json;
+  Json json = Json::parse(glyph::encode(entity.computed));
+  json["name"] = entity.name();
+  if (entity.additional) json["additional"] = Json::parse(glyph::encode(*entity.additional));
+  return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+void printJsonArray(Output& output, const std::vector<std::string>& objects) {
+  if (objects.empty()) {
+    output.printLine("[]");
+    return;
+  }
+  for (const std::string& object : objects) {
+    output.print((&object == &objects.front() ? "[" : ",\n ") + object);
+  }
+  output.printLine("]");
+}
+
+}  // namespace cli

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "glyphorium/catalog/entity/records.h"
+#include "output.h"
+
+namespace cli {
+
+/// The entity's symbol so that a terminal shows something: spaces as "␣", controls as their pictures,
+/// combining marks on a dotted circle, other invisible characters as a dotted square, private-use ones as an
+/// empty box.
+std::string visibleSymbol(const glyph::ComputedEntity& record);
+
+/// Everything about one character: all its entities differ in their groups only.
+void printCard(Output& output, const std::vector<glyph::Entity>& entitiesOfOneCharacter);
+
+/// The JSON object of an entity: the record's own fields, `name`, and its enrichment under `additional`.
+std::string entityJson(const glyph::Entity& entity);
+
+/// A JSON array of objects, one a line.
+void printJsonArray(Output& output, const std::vector<std::string>& objects);
+
+}  // namespace cli

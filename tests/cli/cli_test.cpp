@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
+#include <nlohmann/json.hpp>
+
+#include "glyphorium/data/embedded_texts.h"
+#include "tests/support/program.h"
+
+namespace glyph {
+namespace {
+
+using testing::HasSubstr;
+
+// The program in a home directory of its own, in a plain environment.
+ProgramResult run(const std::string& arguments, const std::string& environment = "") {
+  return runProgram("export HOME=/nonexistent XDG_CONFIG_HOME= XDG_DATA_HOME= LC_ALL=C NO_COLOR=; " +
+                    environment + " " PROGRAM " " + arguments);
+}
+
+TEST(CommandLine, PrintsEmbeddedTextsByteForByte) {
+  for (const EmbeddedText& text : embeddedTexts()) {
+    const ProgramResult result = run("table " + std::string(text.constant));
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_TRUE(result.output == text.text) << text.constant;
+  }
+}
+
+TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
+  const struct {
+    std::string arguments;
+    int exitCode;
+    std::string output;  // somewhere in standard output and error
+  } cases[] = {
+      {"show U+2192", 0, "&rarr;"},
+      {"show '→'", 0, "Rightwards Arrow"},
+      {"show '\\u{1F600}'", 0, "Grinning Face"},
+      {"show '&#8594;' '&rarr;' 'rightwards arrow'", 0, "arrows, digital typography (latin)"},
+      {"show square.and.arrow.up", 0, "Image(systemName: \"square.and.arrow.up\")"},
+      {"show 200b", 0, "⬚"},
+      {"show 0301", 0, "◌\u0301"},
+      {"show U+4E01", 0, "not in the Unicode 13.0 name table"},
+      {"show U+D800", 1, "no character is 'U+D800'"},
+      {"show 'no such name'", 1, "no character is"},
+      {"show", 2, "required"},
+      {"list ARROWS", 0, "2192\tRightwards Arrow\t&rarr;"},
+      {"list arows", 2, "did you mean 'arrows'"},
+      {"list custom", 1, ""},
+      {"list --all arrows", 2, "--all"},
+      {"names 0041 1f600", 0, "GRINNING FACE"},
+      {"names 41", 1, "four digits"},
+      {"table latinBasic", 2, "latinBasicJson"},
+      {"table", 0, "sfSymbolsJson\tSF Symbols\t1083\t187853"},
+      {"groups", 0, "custom\t0\ndigital typography (latin)\t254\n"},
+      {"frobnicate", 2, "there is no command 'frobnicate'"},
+      {"", 2, "--help"},
+      {"--version", 0, "glyphorium 1."},
+      {"show \"$(printf 'a\\377')\"", 2, "not UTF-8"},
+      {"groups >/dev/full", 3, "could not be written"},
+  };
+  for (const auto& [arguments, exitCode, output] : cases) {
+    const ProgramResult result = run("2>&1 " + arguments);
+    EXPECT_EQ(result.exitCode, exitCode) << arguments << "\n" << result.output;
+    EXPECT_THAT(result.output, HasSubstr(output)) << arguments;
+    EXPECT_THAT(result.output, testing::Not(HasSubstr("didSet"))) << arguments;
+    EXPECT_THAT(result.output, testing::Not(HasSubstr("\x1b"))) << arguments;
+  }
+  EXPECT_THAT(run("groups --verbose 2>&1 >/dev/null").output,
+              HasSubstr("didSet ↘ allBuildInEntities '17532'"));
+  EXPECT_THAT(run("--color always show 2192").output, HasSubstr("\x1b["));
+  EXPECT_THAT(run("--color always show 2192", "NO_COLOR=1").output, testing::Not(HasSubstr("\x1b")));
+  EXPECT_EQ(run("names 2>&1 | head -1").output,
+            "0000\tNull character (Control)\n");  // a closed pipe is no error
+}
+
+TEST(CommandLine, PrintsJsonOfTheRecordsFields) {
+  const struct {
+    std::string arguments;
+    std::size_t count;
+    std::string key, value;
+  } cases[] = {
+      {"groups --json", 113, "name", "custom"},           {"list --all --json", 17532, "name", "Space"},
+      {"list arrows --json", 112, "htmlHex", "&#x2190;"}, {"show 0027 --json", 1, "name", "False Apostrophe"},
+      {"show 2603 --json", 1, "fallbackName", "Snowman"}, {"names --json", 35469, "hex", "0000"},
+      {"table --json", 122, "name", "latinBasicJson"},    {"list custom --json", 0, "", ""}};
+  for (const auto& [arguments, count, key, value] : cases) {
+    const auto json = nlohmann::json::parse(run(arguments).output, nullptr, false);
+    ASSERT_TRUE(json.is_array()) << arguments;
+    ASSERT_EQ(json.size(), count) << arguments;
+    if (count == 0) continue;
+    EXPECT_EQ(json[0].value(key, ""), value) << arguments;
+  }
+}
+
+TEST(CommandLine, SpeaksTheUsersLanguage) {
+  EXPECT_THAT(run("show 201e", "LC_ALL=de_AT.UTF-8").output, HasSubstr("Anführung"));
+  EXPECT_THAT(run("show 2019", "LC_ALL=en_GB.UTF-8 LANGUAGE=fr:en").output, HasSubstr("apostrophe"));
+}
+
+}  // namespace
+}  // namespace glyph

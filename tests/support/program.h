@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <string>
+
+namespace glyph {
+
+struct ProgramResult {
+  int exitCode;  // -1: ended by a signal
+  std::string output;
+};
+
+/// Runs a shell command and collects its standard output; redirect standard error in the command to have it
+/// too.
+inline ProgramResult runProgram(const std::string& command) {
+  ProgramResult result{-1, {}};
+  FILE* const pipe = popen(command.c_str(), "r");
+  if (!pipe) return result;
+  char buffer[1 << 16];
+  while (const std::size_t count = fread(buffer, 1, sizeof buffer, pipe)) result.output.append(buffer, count);
+  const int status = pclose(pipe);
+  if (WIFEXITED(status)) result.exitCode = WEXITSTATUS(status);
+  return result;
+}
+
+}  // namespace glyph
