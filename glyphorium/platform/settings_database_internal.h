@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <sys/types.h>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+struct sqlite3;
+
+namespace glyph {
+
+/// The settings file and the connection to it: single steps, each telling its outcome. Not thread-safe.
+class SettingsDatabase {
+ public:
+  enum class Outcome {
+    done,
+    absent,   ///< there is no such file, table or row
+    damaged,  ///< the file is no database or a corrupt one
+    failed    ///< for another reason, see error()
+  };
+
+  /// nullopt stands for "settings.sqlite" in the application's directory at the time of opening.
+  explicit SettingsDatabase(std::optional<std::filesystem::path> file) : chosenFile_(std::move(file)) {}
+  ~SettingsDatabase() { close(); }
+  SettingsDatabase(const SettingsDatabase&) = delete;
+  SettingsDatabase& operator=(const SettingsDatabase&) = delete;
+
+  /// The JSON text stored for the key into `json`. Creates nothing.
+  Outcome read(const std::string& key, std::string& json);
+
+  /// Begins the one transaction that may write; others wait for its end. Creates what is missing, and says
+  /// "damaged" again for a file that has shown to be so, until it is put aside.
+  Outcome begin();
+  Outcome write(const std::string& key, const std::string& json);
+  Outcome commit();
+  /// Ends the transaction, if there is one, without effect.
+  void rollback();
+
+  /// Whether the file in place is not the one that is open any more.
+  bool moved() const;
+
+  /// Renames the damaged file with all that belongs to it, unless another process has done so. The name that
+  /// it has got goes into `name`, empty where there was nothing left to do.
+  Outcome putAside(std::filesystem::path& name);
+
+  /// Why the last step failed.
+  const std::string& error() const { return error_; }
+  /// The file in use, links resolved; empty before the first step.
+  const std::filesystem::path& file() const { return file_; }
+
+ private:
+  Outcome open(bool create);
+  Outcome create();
+  void close();
+  Outcome select(sqlite3* connection, const std::string& key, std::string& json);
+  Outcome readAlone(const std::string& key, std::string& json);
+  bool readOnly() const;
+  Outcome execute(const char* sql);
+  Outcome outcome(sqlite3* connection);
+  Outcome fail(std::string error);
+  Outcome failBySystem();
+
+  const std::optional<std::filesystem::path> chosenFile_;
+  std::filesystem::path file_;
+  sqlite3* connection_ = nullptr;
+  pid_t process_ = 0;  // that opened the connection
+  bool configured_ = false;
+  bool damaged_ = false;
+  std::string error_;
+};
+
+}  // namespace glyph
