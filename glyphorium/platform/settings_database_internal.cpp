@@ -130,9 +130,9 @@ Outcome SettingsDatabase::open(bool createMissing) {
     if (!(createMissing && readOnly()) && !moved()) return Outcome::done;
     close();
   }
-  if (chosenFile_) {
+  if (!chosenFile_.empty()) {
     std::error_code error;
-    file_ = followLinks(std::filesystem::absolute(*chosenFile_, error));
+    file_ = followLinks(std::filesystem::absolute(chosenFile_, error));
   } else {
     const auto directory = applicationConfigDirectory();
     if (!directory) return fail("no home directory is known");
@@ -202,19 +202,7 @@ Outcome SettingsDatabase::select(sqlite3* connection, const std::string& key, st
 Outcome SettingsDatabase::readAlone(const std::string& key, std::string& json) {
   std::string uri = "file:";
   for (const char c : file_.native()) {
-    switch (c) {
-      case '%':
-        uri += "%25";
-        break;
-      case '?':
-        uri += "%3f";
-        break;
-      case '#':
-        uri += "%23";
-        break;
-      default:
-        uri += c;
-    }
+    uri += c == '%' ? "%25" : c == '?' ? "%3f" : c == '#' ? "%23" : std::string(1, c);
   }
   sqlite3* connection = nullptr;
   const bool opened =

@@ -4,8 +4,8 @@
 #include <sys/types.h>
 
 #include <filesystem>
-#include <optional>
 #include <string>
+#include <utility>
 
 struct sqlite3;
 
@@ -21,8 +21,8 @@ class SettingsDatabase {
     failed    ///< for another reason, see error()
   };
 
-  /// nullopt stands for "settings.sqlite" in the application's directory at the time of opening.
-  explicit SettingsDatabase(std::optional<std::filesystem::path> file) : chosenFile_(std::move(file)) {}
+  /// The empty path stands for "settings.sqlite" in the application's directory at the time of opening.
+  explicit SettingsDatabase(std::filesystem::path file) : chosenFile_(std::move(file)) {}
   ~SettingsDatabase() { close(); }
   SettingsDatabase(const SettingsDatabase&) = delete;
   SettingsDatabase& operator=(const SettingsDatabase&) = delete;
@@ -62,7 +62,7 @@ class SettingsDatabase {
   Outcome fail(std::string error);
   Outcome failBySystem();
 
-  const std::optional<std::filesystem::path> chosenFile_;
+  const std::filesystem::path chosenFile_;
   std::filesystem::path file_;
   sqlite3* connection_ = nullptr;
   pid_t process_ = 0;  // that opened the connection

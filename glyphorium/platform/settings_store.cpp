@@ -31,6 +31,11 @@ void SettingsStore::update(std::string_view key, const Change& change) {
 }
 
 std::shared_ptr<SettingsStore> settingsStore() {
+  // At the end of the process the file is closed, so that it lies there complete, with no log beside it.
+  // Whoever uses the settings still later opens it again.
+  static const struct AtExit {
+    ~AtExit() { setSettingsStore(nullptr); }
+  } atExit;
   const std::lock_guard lock(place().mutex);
   if (!place().store) place().store = std::make_shared<SqliteSettingsStore>();
   return place().store;

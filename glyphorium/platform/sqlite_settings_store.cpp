@@ -17,7 +17,7 @@ namespace glyph {
 using Outcome = SettingsDatabase::Outcome;
 
 struct SqliteSettingsStore::Impl {
-  explicit Impl(std::optional<std::filesystem::path> file) : database(std::move(file)) {}
+  explicit Impl(std::filesystem::path file) : database(std::move(file)) {}
 
   // A value that is not on the disk yet.
   struct Unsaved {
@@ -38,10 +38,10 @@ struct SqliteSettingsStore::Impl {
       ++impl_.sessions;
     }
     ~Session() {
-      std::vector<std::string> lines;
-      if (--impl_.sessions == 0) lines.swap(impl_.lines);
+      std::vector<std::string> untold;
+      if (--impl_.sessions == 0) untold.swap(impl_.lines);
       impl_.mutex.unlock();
-      for (const std::string& line : lines) printDiagnostic(line);
+      for (const std::string& line : untold) printDiagnostic(line);
     }
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -54,7 +54,7 @@ struct SqliteSettingsStore::Impl {
   bool begin();
   void save();
   Outcome writeUnsaved();
-  void put(const std::string& key, const SettingValue& value, bool blind);
+  bool put(const std::string& key, const SettingValue& value, bool blind);
   void tell(std::string line);
   std::string location() const;
 
@@ -95,12 +95,13 @@ SqliteSettingsStore::Impl::Present SqliteSettingsStore::Impl::present(const std:
   return {std::nullopt, false};
 }
 
-void SqliteSettingsStore::Impl::put(const std::string& key, const SettingValue& value, bool blind) {
+bool SqliteSettingsStore::Impl::put(const std::string& key, const SettingValue& value, bool blind) {
   if (auto json = settingToJson(value)) {
     unsaved.insert_or_assign(key, Unsaved{*std::move(json), blind});
-  } else {
-    tell("Setting '" + key + "' is not set: its value is no JSON");
+    return true;
   }
+  tell("Setting '" + key + "' is not set: its value is no JSON");
+  return false;
 }
 
 // Begins a transaction, in a new file where the one in place is damaged.
@@ -158,7 +159,7 @@ void SqliteSettingsStore::Impl::save() {
   tell(location() + " cannot be saved and last only until the program ends: " + database.error());
 }
 
-SqliteSettingsStore::SqliteSettingsStore() : impl_(std::make_unique<Impl>(std::nullopt)) {}
+SqliteSettingsStore::SqliteSettingsStore() : impl_(std::make_unique<Impl>(std::filesystem::path())) {}
 
 SqliteSettingsStore::SqliteSettingsStore(std::filesystem::path file)
     : impl_(std::make_unique<Impl>(std::move(file))) {}
@@ -173,7 +174,7 @@ std::optional<SettingValue> SqliteSettingsStore::object(std::string_view key) {
 
 void SqliteSettingsStore::set(std::string_view key, SettingValue value) {
   const Impl::Session session(*impl_);
-  impl_->put(std::string(key), value, false);
+  if (!impl_->put(std::string(key), value, false)) return;
   // Within a change, the update that called it saves.
   if (!impl_->updating && impl_->begin()) impl_->save();
 }
