@@ -21,6 +21,7 @@
 #include "glyphorium/platform/application.h"
 #include "glyphorium/platform/diagnostics.h"
 #include "glyphorium/platform/memory_settings_store.h"
+#include "glyphorium/platform/settings_database_internal.h"
 #include "glyphorium/platform/sqlite_settings_store.h"
 
 namespace glyph {
@@ -232,26 +233,31 @@ TEST_F(SettingsStoreTest, KeepsADamagedFileAsideOnTheNextWrite) {
     SqliteSettingsStore store(file);
     store.set("key", List(2000, "a value of several pages"));
   }
-  const std::string good = contents(file);
+  SqliteSettingsStore open(file);
+  open.set("another", true);
+  const std::string good = contents(file), log = contents(file.string() + "-wal");
+  ASSERT_NE(log, "");
   std::string headless = good, corrupt = good;
   headless[0] = 'X';
   corrupt.replace(8192, 4096, 4096, '\xFF');
   const struct {
     const char* name;
-    std::string bytes;
+    std::string bytes, log = {};
   } cases[] = {{"no database", "{\"displayedGroups\": [\"custom\"]}\n"},
                {"two bytes", "SQ"},
                {"zeros", std::string(8192, '\0')},
                {"wrong magic", headless},
                {"a page of garbage", corrupt},
+               {"a page of garbage beside a log", corrupt, log},
                {"cut off", good.substr(0, 5000)}};
-  for (const auto& [name, bytes] : cases) {
+  for (const auto& [name, bytes, pending] : cases) {
     SCOPED_TRACE(name);
     fs::remove_all(directory / "real");
     fs::remove(file);
     fs::create_directory(directory / "real");
     const fs::path real = directory / "real" / "user.sqlite", aside = real.string() + ".damaged";
     writeFile(real, bytes);
+    if (!pending.empty()) writeFile(real.string() + "-wal", pending);
     writeFile(aside, "an older one");
     fs::create_symlink("real/user.sqlite", file);
 
@@ -262,6 +268,7 @@ TEST_F(SettingsStoreTest, KeepsADamagedFileAsideOnTheNextWrite) {
       EXPECT_EQ(store.object("key"), std::nullopt);
     }
     EXPECT_EQ(contents(real), bytes);
+    EXPECT_EQ(contents(real.string() + "-wal"), pending);
     EXPECT_THAT(lines, ElementsAre(HasSubstr("damaged")));
 
     SqliteSettingsStore witness(file), store(file);
@@ -270,6 +277,7 @@ TEST_F(SettingsStoreTest, KeepsADamagedFileAsideOnTheNextWrite) {
     store.update("key", [](Value present) -> Value { return !present.has_value(); });
     EXPECT_EQ(store.object("key"), SettingValue(true));
     EXPECT_EQ(contents(aside.string() + "2"), bytes);
+    EXPECT_EQ(contents(aside.string() + "2-wal"), pending);
     EXPECT_EQ(contents(aside), "an older one");
     EXPECT_THAT(lines, Contains(HasSubstr("kept in " + aside.string() + "2")).Times(1));
     // Another one that knew the damaged file goes on with the new one, and takes nothing aside.
@@ -279,6 +287,21 @@ TEST_F(SettingsStoreTest, KeepsADamagedFileAsideOnTheNextWrite) {
     EXPECT_TRUE(fs::is_symlink(file));
     EXPECT_FALSE(fs::exists(aside.string() + "3"));
   }
+}
+
+TEST_F(SettingsStoreTest, PutsAsideOnlyOnceWhatTwoFindDamaged) {
+  using Outcome = SettingsDatabase::Outcome;
+  writeFile(file, "this is no database");
+  SettingsDatabase first(file), second(file);
+  EXPECT_EQ(first.begin(), Outcome::damaged);
+  EXPECT_EQ(second.begin(), Outcome::damaged);
+  fs::path name;
+  EXPECT_EQ(first.putAside(name), Outcome::done);
+  EXPECT_EQ(name, file.string() + ".damaged");
+  SqliteSettingsStore(file).set("key", true);
+  EXPECT_EQ(second.putAside(name), Outcome::done);
+  EXPECT_EQ(name, "");
+  EXPECT_EQ(stored("key"), SettingValue(true));
 }
 
 TEST_F(SettingsStoreTest, SurvivesEveryCutAndFlippedByte) {
