@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <stdlib.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "glyphorium/platform/diagnostics.h"
+
+namespace glyph::test {
+
+/// A new directory of this test's own, deleted in the end.
+class TemporaryDirectory {
+ public:
+  TemporaryDirectory() {
+    std::string name = std::filesystem::temp_directory_path() / "glyphorium-XXXXXX";
+    path_ = mkdtemp(name.data());
+  }
+  ~TemporaryDirectory() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  TemporaryDirectory(const TemporaryDirectory&) = delete;
+  TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;
+  std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+/// Sets an environment variable, or unsets it, until the end of the scope.
+class ScopedVariable {
+ public:
+  ScopedVariable(const char* name, const std::optional<std::string>& value) : name_(name) {
+    if (const char* const before = getenv(name)) before_ = before;
+    assign(value);
+  }
+  ~ScopedVariable() { assign(before_); }
+  ScopedVariable(const ScopedVariable&) = delete;
+  ScopedVariable& operator=(const ScopedVariable&) = delete;
+
+ private:
+  void assign(const std::optional<std::string>& value) {
+    value ? setenv(name_, value->c_str(), 1) : unsetenv(name_);
+  }
+  const char* name_;
+  std::optional<std::string> before_;
+};
+
+/// Collects the diagnostics of the scope.
+class CapturedDiagnostics {
+ public:
+  CapturedDiagnostics() {
+    setDiagnosticsSink([this](std::string_view line) {
+      const std::lock_guard lock(mutex_);
+      lines_.emplace_back(line);
+    });
+  }
+  ~CapturedDiagnostics() { setDiagnosticsSink({}); }
+  CapturedDiagnostics(const CapturedDiagnostics&) = delete;
+  CapturedDiagnostics& operator=(const CapturedDiagnostics&) = delete;
+  /// The lines since the last call.
+  std::vector<std::string> take() {
+    const std::lock_guard lock(mutex_);
+    return std::exchange(lines_, {});
+  }
+
+ private:
+  std::mutex mutex_;
+  std::vector<std::string> lines_;
+};
+
+inline std::string fileContent(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+inline void writeFile(const std::filesystem::path& file, std::string_view content) {
+  std::ofstream(file, std::ios::binary) << content;
+}
+
+/// Runs `body` in a child process that ends at once with its result, and waits for it.
+template <class Body>
+int inChild(Body body) {
+  const pid_t child = fork();
+  if (child == 0) _exit(body());
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+}  // namespace glyph::test
