@@ -1,0 +1,408 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/platform/searchable_index.h"
+
+#include <gmock/gmock.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <future>
+#include <random>
+#include <thread>
+
+#include "glyphorium/platform/application.h"
+#include "glyphorium/platform/searchable_index_reader.h"
+#include "glyphorium/platform/sqlite_internal.h"
+#include "glyphorium/platform/sqlite_searchable_index.h"
+#include "tests/platform/sandbox.h"
+
+namespace glyph {
+namespace {
+
+using namespace std::chrono_literals;
+using namespace std::string_literals;
+using test::CapturedDiagnostics;
+
+using test::ScopedVariable;
+using test::TemporaryDirectory;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr auto longEnough = 120s;
+
+SearchableItem glyphItem(const std::string& uid, const std::string& symbol, const std::string& name,
+                         const std::vector<std::string>& more = {}, const std::string& genre = "arrows") {
+  SearchableItem item{uid, "org.example", "Glyph", symbol + "\t" + name, std::nullopt, genre, {}};
+  item.keywords = {symbol, name, "qv:", "qv: ", "entity"};
+  item.keywords.insert(item.keywords.end(), more.begin(), more.end());
+  return item;
+}
+
+// Collects what a request's completion is called with.
+class Outcomes {
+ public:
+  SearchableIndex::Completion next() {
+    const auto at = outcomes_.size();
+    outcomes_.push_back(std::make_unique<Outcome>());
+    return [outcome = outcomes_[at].get()](std::optional<std::string> error) {
+      if (error) outcome->error = *error;
+      ++outcome->calls;
+    };
+  }
+  // The errors in the order of the requests; each completion must have been called exactly once.
+  std::vector<std::string> errors() const {
+    std::vector<std::string> result;
+    for (const auto& outcome : outcomes_) {
+      EXPECT_EQ(outcome->calls, 1);
+      result.push_back(outcome->error);
+    }
+    return result;
+  }
+
+ private:
+  struct Outcome {
+    std::atomic<int> calls = 0;
+    std::string error;
+  };
+  std::vector<std::unique_ptr<Outcome>> outcomes_;
+};
+
+// Hands the request over and waits; what its completion said.
+std::string indexAndWait(SearchableIndex& index, std::vector<SearchableItem> items) {
+  Outcomes outcomes;
+  index.indexItems(std::move(items), outcomes.next());
+  EXPECT_TRUE(index.waitUntilIdle(longEnough));
+  return outcomes.errors().front();
+}
+
+std::vector<std::string> identifiers(const std::vector<SearchableItem>& items) {
+  std::vector<std::string> result;
+  for (const auto& item : items) result.push_back(item.uniqueIdentifier);
+  return result;
+}
+
+TEST(SearchableIndex, FindsSymbolsAndWordsByWhatPeopleType) {
+  const TemporaryDirectory directory;
+  SqliteSearchableIndex index(directory / "index");
+  auto commented = glyphItem("2190", "←", "Leftwards Arrow");
+  commented.comment = "zeigt zurück";
+  ASSERT_EQ(
+      indexAndWait(index, {glyphItem("2192", "→", "Rightwards Arrow", {"&rarr;", "NEAR", "OR"}), commented,
+                           glyphItem("0026", "&", "Ampersand", {"&amp;", ""}, "latin basic"),
+                           glyphItem("2103", "℃", "Degree Celsius", {"°C"}, "letterlike"),
+                           glyphItem("1f600", "😀", "Grinning Face", {}, "emoji"),
+                           glyphItem("1fa95", "🪕", "Banjo", {}, "emoji"),
+                           glyphItem("100202", "\U00100202", "Square.And.Arrow.Up", {}, "symbols"),
+                           glyphItem("0041", "A", "Latin Capital Letter A", {}, "latin basic"),
+                           glyphItem("0061", "a", "Latin Small Letter A", {}, "latin basic"),
+                           glyphItem("00c1", "Á", "Latin Capital Letter A With Acute", {}, "latin basic"),
+                           glyphItem("0301", "\u0301", "Combining Acute Accent"),
+                           glyphItem("0022", "\"", "Quotation Mark", {"\"\""}, "latin basic"),
+                           glyphItem("002c", ",", "Comma", {}, "latin basic")}),
+      "");
+  using Found = std::vector<std::string>;
+  const struct {
+    std::string query;
+    Found found;
+  } cases[] = {
+      {"→", {"2192"}},
+      {"&amp;", {"0026"}},
+      {"amp", {"0026"}},
+      {"°C", {"2103"}},
+      {"1F600", {"1f600"}},
+      {"😀", {"1f600"}},
+      {"🪕", {"1fa95"}},
+      {"\u0301", {"0301"}},
+      {",", {"002c"}},
+      {"\"", {"0022"}},
+      {"Á", {"00c1"}},
+      {"á", {"00c1"}},
+      {"square.and.arrow.up", {"100202"}},
+      {"\U00100202", {"100202"}},
+      {"arrow right", {"2192"}},
+      {"ZURÜCK", {"2190"}},
+      {"latin basic comma", {"002c"}},
+      // The character itself, then shorter names, then lower identifiers.
+      {"a latin", {"0026", "0061", "0041", "00c1"}},
+      {"A", {"0041", "0026", "2190", "2192", "100202", "0061", "0301", "00c1"}},
+      {"leftwards  ARROW", {"2190"}},
+      {"qv:arrow", {"2190", "2192", "100202", "0301"}},
+      {"QV: →", {"2192"}},
+      {"qv:→", {"2192"}},
+      // No operators, and nothing that breaks out of the query.
+      {"NEAR", {"2192"}},
+      {"OR", {"2192"}},
+      {"arrow OR comma", {}},
+      {"arrow NOT right", {}},
+      {"NEAR(arrow)", {}},
+      {"tok:arrow", {}},
+      {"arrow*", {}},
+      {"-comma", {}},
+      {"arr\" OR \"comma", {}},
+      {"';DROP TABLE item;--", {}},
+      {"(", {}},
+      {"^arrow", {}},
+      {"", {}},
+      {" \t\u00a0\u3000\u180e", {}},
+      {"\0"s, {}},
+      {"→\0arrow"s, {"2192"}},
+      {"arrow\u2003right", {"2192"}},
+      {"\xff\x80\xa0", {}},
+      {std::string(100'000, '"'), {}},
+  };
+  SearchableIndexReader reader(directory / "index");
+  CapturedDiagnostics diagnostics;
+  for (const auto& [query, found] : cases) EXPECT_EQ(identifiers(reader.search(query, 100)), found) << query;
+  std::string manyTerms;
+  for (int i = 0; i < 2'000; ++i) manyTerms += "arrow" + std::to_string(i) + " ";
+  EXPECT_THAT(reader.search(manyTerms, 100), IsEmpty());
+  EXPECT_EQ(reader.search("qv:", 100).size(), 13u);
+  EXPECT_EQ(identifiers(reader.search("qv:", 2)), (Found{"002c", "1fa95"}));
+  EXPECT_THAT(reader.search("qv:", -1), IsEmpty());
+  EXPECT_THAT(diagnostics.take(), IsEmpty());
+}
+
+TEST(SearchableIndex, HoldsWhatTheSameRequestsLeaveInMemory) {
+  const TemporaryDirectory directory;
+  SqliteSearchableIndex index(directory / "index");
+  MemorySearchableIndex memory;
+  SearchableIndexReader reader(directory / "index");
+  Outcomes outcomes;
+  std::minstd_rand random(1);
+  const auto number = [&](unsigned below) { return static_cast<unsigned>(random() % below); };
+  const auto identifier = [&] { return "\0u"s + std::to_string(number(40)); };
+  for (int round = 0; round < 400; ++round) {
+    const auto kind = number(20);
+    std::vector<SearchableItem> items;
+    std::vector<std::string> removed;
+    for (auto count = number(6); count > 0; --count) {
+      SearchableItem item{identifier(),        "d", "t", "\xff\0\t" + std::to_string(round), {}, "",
+                          {"", "1:a", "\n\0"s}};
+      if (number(2)) item.comment = "";
+      items.push_back(item);
+      removed.push_back(identifier());
+    }
+    for (SearchableIndex* const each :
+         {static_cast<SearchableIndex*>(&index), static_cast<SearchableIndex*>(&memory)}) {
+      if (kind == 0) {
+        each->deleteAllItems(outcomes.next());
+      } else if (kind < 6) {
+        each->deleteItems(removed, outcomes.next());
+      } else {
+        each->indexItems(items, outcomes.next());
+      }
+    }
+    if (round % 50 != 49) continue;
+    std::vector<PendingIndexWork> progress;
+    EXPECT_TRUE(index.waitUntilIdle(longEnough, [&](PendingIndexWork left) { progress.push_back(left); }));
+    EXPECT_EQ(progress.back(), PendingIndexWork{});
+    std::vector<SearchableItem> held;
+    for (const auto& item : memory.items()) held.push_back(*reader.item(item.uniqueIdentifier));
+    EXPECT_EQ(held, memory.items());
+    EXPECT_EQ(reader.count(), memory.items().size());
+    EXPECT_EQ(reader.search("u", 100).size(), memory.items().size());
+  }
+  for (const auto& error : outcomes.errors()) EXPECT_EQ(error, "");
+}
+
+TEST(SearchableIndex, RepairsAndReportsUnusableFiles) {
+  const TemporaryDirectory directory;
+  const auto file = directory / "index";
+  {
+    SqliteSearchableIndex index(file);
+    std::vector<SearchableItem> items;
+    for (int i = 0; i < 500; ++i) items.push_back(glyphItem(std::to_string(i), "→", "Arrow"));
+    ASSERT_EQ(indexAndWait(index, items), "");
+  }
+  const std::string whole = test::fileContent(file);
+  ASSERT_GT(whole.size(), 40'000u);
+  const auto overwritten = [&](std::size_t at, std::size_t length) {
+    return std::string(whole).replace(at, length, length, '\x5a');
+  };
+  const std::string contents[] = {overwritten(0, 100),     overwritten(4096, whole.size() - 4096),
+                                  overwritten(16, 60),     whole.substr(0, 4096 * 3),
+                                  whole.substr(0, 600),    std::string(whole).replace(60, 4, "\0\0\0\x63"s),
+                                  std::string(20'000, 't')};
+  for (const auto& content : contents) {
+    SCOPED_TRACE(&content - contents);
+    for (const char* const suffix : {"-wal", "-shm"}) std::filesystem::remove(file.string() + suffix);
+    test::writeFile(file, content);
+    CapturedDiagnostics diagnostics;
+    SearchableIndexReader reader(file);
+    for (int question = 0; question < 3; ++question) {
+      EXPECT_THAT(reader.search("arrow", 10), IsEmpty());
+      EXPECT_EQ(reader.item("7"), std::nullopt);
+    }
+    EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("not readable")));
+    SqliteSearchableIndex index(file);
+    EXPECT_EQ(indexAndWait(index, {glyphItem("7", "→", "Arrow")}), "");
+    EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("emptied")));
+    EXPECT_EQ(identifiers(reader.search("arrow", 10)), std::vector{"7"s});
+    EXPECT_EQ(reader.count(), 1u);
+  }
+
+  // Damage that only some questions meet, while another program keeps the file open.
+  Database(file, SQLITE_OPEN_READWRITE).execute("DELETE FROM token_data");
+  SearchableIndexReader bystander(file);
+  EXPECT_EQ(bystander.count(), 1u);
+  CapturedDiagnostics diagnostics;
+  SqliteSearchableIndex index(file);
+  EXPECT_EQ(indexAndWait(index, {glyphItem("7", "→", "Arrow")}), "");
+  EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("emptied")));
+  EXPECT_EQ(identifiers(bystander.search("arrow", 10)), std::vector{"7"s});
+}
+
+TEST(SearchableIndex, TellsTheCompletionWhatTheDiskRefused) {
+  const TemporaryDirectory directory;
+  test::writeFile(directory / "file", "");
+  SqliteSearchableIndex nowhere(directory / "file/index");
+  EXPECT_THAT(indexAndWait(nowhere, {glyphItem("1", "→", "Arrow")}), HasSubstr("Not a directory"));
+
+  SqliteSearchableIndex index(directory / "index");
+  SearchableIndexReader reader(directory / "index");
+  EXPECT_EQ(reader.count(), 0u);
+  EXPECT_EQ(indexAndWait(index, {glyphItem("1", "→", "Arrow")}), "");
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit small{200'000, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &small);
+  std::vector<SearchableItem> many;
+  for (int i = 0; i < 5'000; ++i) many.push_back(glyphItem(std::to_string(i), "→", "Arrow"));
+  EXPECT_NE(indexAndWait(index, many), "");
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_EQ(reader.count(), 1u);
+  EXPECT_EQ(indexAndWait(index, many), "");
+  EXPECT_EQ(reader.count(), 5'000u);
+
+  // Somebody deletes the file while it is open on both sides.
+  for (const char* const suffix : {"", "-wal", "-shm"})
+    std::filesystem::remove(directory / ("index"s + suffix));
+  EXPECT_EQ(reader.count(), 0u);
+  EXPECT_EQ(indexAndWait(index, {glyphItem("2", "→", "Arrow")}), "");
+  EXPECT_EQ(reader.count(), 1u);
+
+  // Another process keeps the file locked for longer than anybody waits.
+  Outcomes outcomes;
+  Database other(directory / "index", SQLITE_OPEN_READWRITE);
+  other.execute("BEGIN IMMEDIATE");
+  {
+    SqliteSearchableIndex blocked(directory / "index");
+    for (int i = 0; i < 600; ++i) blocked.deleteAllItems(outcomes.next());
+  }
+  for (const auto& error : outcomes.errors()) EXPECT_NE(error, "");
+  EXPECT_EQ(reader.count(), 1u);
+}
+
+TEST(SearchableIndex, DrainsWhenProgramsEnd) {
+  const TemporaryDirectory directory;
+  const ScopedVariable data("XDG_DATA_HOME", directory / "data");
+  std::vector<pid_t> programs;
+  for (int program = 0; program < 3; ++program) {
+    programs.push_back(fork());
+    if (programs.back() != 0) continue;
+    for (int i = 0; i < 300; ++i) {
+      searchableIndex()->indexItems({glyphItem(std::to_string(program * 1000 + i), "→", "Arrow")}, {});
+    }
+    std::exit(0);
+  }
+  for (const pid_t program : programs) {
+    int status = -1;
+    waitpid(program, &status, 0);
+    EXPECT_EQ(status, 0);
+  }
+  EXPECT_EQ(SearchableIndexReader().count(), 900u);
+  struct stat status {};
+  stat(applicationDataDirectory()->c_str(), &status);
+  EXPECT_EQ(status.st_mode & 0777, 0700u);
+  stat((*applicationDataDirectory() / "index.sqlite").c_str(), &status);
+  EXPECT_EQ(status.st_mode & 0777, 0600u);
+}
+
+TEST(SearchableIndex, MayBeUsedAndEndedByACompletion) {
+  const TemporaryDirectory directory;
+  std::promise<void> done;
+  auto index = std::make_shared<SqliteSearchableIndex>(directory / "index");
+  index->indexItems({glyphItem("1", "→", "Arrow")}, [&index, &done](auto) {
+    index->indexItems({glyphItem("2", "→", "Arrow")}, [&done](auto) {
+      done.set_value();
+      throw std::runtime_error("the host's own");
+    });
+    index.reset();
+  });
+  EXPECT_EQ(done.get_future().wait_for(longEnough), std::future_status::ready);
+  EXPECT_EQ(SearchableIndexReader(directory / "index").count(), 2u);
+}
+
+// Writes until killed: item n in request n, and one item that every request replaces. Acknowledges each
+// completion with a byte.
+[[noreturn]] void writeForEver(const std::filesystem::path& file, std::size_t from, int acknowledgements) {
+  SqliteSearchableIndex index(file);
+  for (std::size_t n = from;; ++n) {
+    const auto number = std::to_string(n);
+    index.indexItems({glyphItem(number, "→", "Arrow", {"words", number}), glyphItem("last", "↓", number)},
+                     [acknowledgements](const auto& error) {
+                       if (error || write(acknowledgements, "", 1) != 1) _exit(1);
+                     });
+    if (n % 100 == 0) index.waitUntilIdle(longEnough);
+  }
+}
+
+TEST(SearchableIndex, KeepsWhatItAcknowledgedWhenItsProcessIsKilled) {
+  const char* const wanted = std::getenv("GLYPHORIUM_KILL_ROUNDS");
+  const int rounds = wanted ? std::atoi(wanted) : 20;
+  const TemporaryDirectory directory;
+  const auto file = directory / "index";
+  SearchableIndexReader reader(file);
+  CapturedDiagnostics diagnostics;
+  std::minstd_rand random(std::random_device{}());
+  std::size_t kept = 0, total = 0;
+  for (int round = 0; round < rounds; ++round) {
+    if (kept > 20'000) {  // else many rounds take their time
+      for (const char* const suffix : {"", "-wal", "-shm"}) std::filesystem::remove(file.string() + suffix);
+      kept = 0;
+    }
+    int pipe[2];
+    ASSERT_EQ(::pipe(pipe), 0);
+    const pid_t writer = fork();
+    if (writer == 0) writeForEver(file, kept, pipe[1]);
+    close(pipe[1]);
+    char bytes[4096];
+    ssize_t read = ::read(pipe[0], bytes, 1);
+    ASSERT_EQ(read, 1) << "the writer failed";
+    const auto first = kept;
+    auto acknowledged = first;
+    const auto end = std::chrono::steady_clock::now() + std::chrono::microseconds(random() % 30'000);
+    for (std::size_t before = 0; std::chrono::steady_clock::now() < end;) {  // reading beside the writer
+      const auto now = reader.search("words", 1'000'000).size();
+      EXPECT_GE(now, before);
+      before = now;
+    }
+    kill(writer, SIGKILL);
+    waitpid(writer, nullptr, 0);
+    for (; read > 0; read = ::read(pipe[0], bytes, sizeof bytes))
+      acknowledged += static_cast<std::size_t>(read);
+    close(pipe[0]);
+
+    Database database(file, SQLITE_OPEN_READWRITE);
+    Statement check(database, "PRAGMA quick_check");
+    ASSERT_TRUE(check.step() && check.text(0) == "ok");
+    database.execute("INSERT INTO token(token) VALUES('integrity-check')");
+    Statement counts(database,
+                     "SELECT (SELECT count(*) FROM item), (SELECT count(*) FROM token),"
+                     " (SELECT max(CAST(uid AS INTEGER)) FROM item WHERE uid <> 'last')");
+    counts.step();
+    kept = static_cast<std::size_t>(counts.integer(2)) + 1;
+    ASSERT_GE(kept, acknowledged);
+    total += acknowledged - first;
+    ASSERT_EQ(counts.integer(0), static_cast<std::int64_t>(kept) + 1) << "requests are whole and in order";
+    ASSERT_EQ(counts.integer(1), counts.integer(0));
+  }
+  EXPECT_THAT(diagnostics.take(), IsEmpty());
+  RecordProperty("acknowledged", std::to_string(total));
+}
+
+}  // namespace
+}  // namespace glyph
