@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <unordered_map>
 
+#include "glyphorium/catalog/decoding_and_joining_internal.h"
 #include "glyphorium/catalog/entity/codec.h"
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/catalog/table_repair_internal.h"
 
 namespace glyph {
 namespace {
@@ -23,13 +24,36 @@ std::string replaced(std::string_view text, std::string_view what, std::string_v
 
 }  // namespace
 
+void enrich(std::vector<Entity>& entities, const std::vector<AdditionalData>& with) {
+  std::unordered_map<std::string_view, const AdditionalData*> firstOfHex;
+  firstOfHex.reserve(with.size());
+  for (const AdditionalData& enrichment : with) firstOfHex.try_emplace(enrichment.hex, &enrichment);
+  for (Entity& entity : entities) {
+    const auto enrichment = firstOfHex.find(entity.computed.hex);
+    if (enrichment != firstOfHex.end()) entity.additional = *enrichment->second;
+  }
+}
+
+bool needsRepair(std::string_view json) {
+  // No branch in the loop, so that the compiler makes vector code of it.
+  constexpr std::size_t block = 4096;
+  for (std::size_t begin = 0; begin + 2 < json.size(); begin += block) {
+    const std::size_t end = std::min(begin + block, json.size() - 2);
+    unsigned char found = 0;
+    for (std::size_t i = begin; i < end; ++i) {
+      const char middle = json[i + 1];
+      found |= static_cast<unsigned char>((json[i] == '"') & (json[i + 2] == '"') &
+                                          ((middle == '"') | (middle == '\\')));
+    }
+    if (found) return true;
+  }
+  return false;
+}
+
 std::optional<std::string> repairedTable(std::string_view json) {
   constexpr std::string_view bareReverseSolidus = "\"\\\"";
   constexpr std::string_view bareQuotationMark = "\"\"\"";
-  if (json.find(bareReverseSolidus) == std::string_view::npos &&
-      json.find(bareQuotationMark) == std::string_view::npos) {
-    return std::nullopt;
-  }
+  if (!needsRepair(json)) return std::nullopt;
   // In this order: the other one would take the escape of the quotation mark for a bare reverse solidus.
   return replaced(replaced(json, bareReverseSolidus, R"("\\")"), bareQuotationMark, R"("\"")");
 }
@@ -45,18 +69,10 @@ std::optional<std::vector<AdditionalData>> Glyphorium::getAdditionalDataFrom(std
 
 std::vector<Entity> Glyphorium::getEntitiesByEnriching(
     std::vector<ComputedEntity> records, const std::optional<std::vector<AdditionalData>>& with) const {
-  std::unordered_map<std::string_view, const AdditionalData*> firstOfHex;
-  if (with) {
-    firstOfHex.reserve(with->size());
-    for (const AdditionalData& enrichment : *with) firstOfHex.try_emplace(enrichment.hex, &enrichment);
-  }
   std::vector<Entity> entities;
   entities.reserve(records.size());
-  for (ComputedEntity& record : records) {
-    const auto enrichment = firstOfHex.find(record.hex);
-    Entity& entity = entities.emplace_back(Entity{std::move(record), std::nullopt});
-    if (enrichment != firstOfHex.end()) entity.additional = *enrichment->second;
-  }
+  for (ComputedEntity& record : records) entities.push_back({std::move(record), std::nullopt});
+  if (with) enrich(entities, *with);
   return entities;
 }
 

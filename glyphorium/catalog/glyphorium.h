@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -10,6 +11,7 @@
 
 #include "glyphorium/catalog/entity/records.h"
 #include "glyphorium/catalog/observed.h"
+#include "glyphorium/catalog/user_influenced_entity_key.h"
 #include "glyphorium/platform/export.h"
 
 namespace glyph {
@@ -31,6 +33,7 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   using AdditionalDataAdvice = glyph::AdditionalDataAdvice;
   using Entity = glyph::Entity;
   using Unicode = glyph::Unicode;
+  using UserInfluencedEntityKey = glyph::UserInfluencedEntityKey;
 
   /// Entities per group, by the exact group name. A group without entities has no key.
   using GroupCounts = std::map<std::string, std::int64_t>;
@@ -61,6 +64,45 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   /// selectedEntities(). May be called again at any time; each run replaces everything.
   void configure();
 
+  /// The names of the displayed groups, in display order, asked of the settings store on every call;
+  /// ["custom"] where none are stored.
+  std::vector<std::string> selectedGroups() const;
+
+  /// Stores the names, "custom" once and in front if it is among them, and raises selectedGroupsHadChanged.
+  /// Names are not checked. The displayed list stays until the host calls setSelectedEntities().
+  void setSelectedGroups(std::vector<std::string> groups);
+
+  /// Changes the stored names by one read and one write, which no other process can come between.
+  void modifySelectedGroups(const std::function<void(std::vector<std::string>&)>& change);
+
+  /// Appends the lower-cased name unless it is there, which changes nothing.
+  void addSelectedGroup(std::string_view named);
+
+  /// Drops the name in every letter case, and stores the list also where it held none.
+  void removeSelectedGroup(std::string_view named);
+
+  /// The hexadecimal codes (or hex lists, see CodeFormats) that the user added, in the order added.
+  std::vector<std::string> customAddedEntityUnicodes() const;
+
+  /// Stores the codes, which are not checked, and at once updates the search index (unless
+  /// EntityUserData::useSpotlightExtension() is off), allCustomEntities and selectedEntities().
+  void setCustomAddedEntityUnicodes(std::vector<std::string> codes);
+
+  /// Changes the stored codes by one read and one write, with the same effects.
+  void modifyCustomAddedEntityUnicodes(const std::function<void(std::vector<std::string>&)>& change);
+
+  /// Appends the lower-cased code unless it is there, displays the group "custom", and in any case has the
+  /// effects of setCustomAddedEntityUnicodes() and recounts the groups.
+  void addCustomAddedEntity(std::string_view unicode);
+
+  /// Drops the lower-cased code, with the same effects; the group "custom" stays displayed.
+  void removeCustomAddedEntity(std::string_view unicode);
+
+  /// Builds the displayed list: the entities of the selected groups (letter case does not count) without
+  /// forbidden and not displayable code points, each code point once (the entity of the earlier group stays),
+  /// in code-point order. Assigns it to selectedEntities(), which posts "contentHasChanged" once.
+  void setSelectedEntities();
+
   /// The rows of a group table's JSON text, after the table repair: the rows of U+0022 and U+005C stand in
   /// `latinBasicJson` with their symbols unescaped, and are escaped before decoding. nullopt where the text
   /// does not decode, which one diagnostic line explains.
@@ -75,10 +117,11 @@ struct GLYPHORIUM_EXPORT Glyphorium {
                                              const std::optional<std::vector<AdditionalData>>& with) const;
 
  private:
-  friend struct CatalogTestAccess;
-
   std::vector<std::string> getBuildInEntityGroups();
   void setEntityGroupNamesWithCount();
+  std::vector<Entity> getCustomEntities() const;
+  std::vector<Entity> buildSelectedEntities() const;
+  void changeSelectedGroups(const std::function<bool(std::vector<std::string>&)>& change);
 
   std::vector<std::string_view> entityData_;  // the texts of the configured group tables
   std::vector<std::string>

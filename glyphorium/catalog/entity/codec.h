@@ -24,8 +24,9 @@ class TableDecoder {
   TableDecoder(const TableDecoder&) = delete;
   TableDecoder& operator=(const TableDecoder&) = delete;
 
-  /// Appends the records of `json` to `records` and returns an empty text, or leaves them as they were and
-  /// returns one line that says what is wrong: one faulty row fails the whole array.
+  /// Appends the records of `json` (for Entity: entities with ComputedEntity records, not enriched) to
+  /// `records` and returns an empty text, or leaves them as they were and returns one line that says what is
+  /// wrong: one faulty row fails the whole array.
   template <class Record>
   std::string append(std::string_view json, std::vector<Record>& records);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <simdjson.h>
 
+#include <array>
+
 #include "glyphorium/catalog/entity/codec.h"
 #include "glyphorium/data/embedded_image_internal.h"
 #include "glyphorium/data/text_padding.h"
@@ -114,26 +116,41 @@ void readObject(dom::element value, Record& record) {
   if (value.get(object) != simdjson::SUCCESS) throw RowError{"is no object"};
   constexpr auto fields = fieldsOf<Record>();
   constexpr std::size_t count = std::tuple_size_v<decltype(fields)>;
-  auto next = object.begin();
-  const auto end = object.end();
-  const auto readField = [&](const auto& field) {
-    // In the embedded texts the next key is this one or, where an optional one is left out, the one after.
-    if (next != end && next.key() == field.key) {
+  std::array<bool, count> isRead{};
+  [&]<std::size_t... i>(std::index_sequence<i...>) {
+    // In the embedded texts the next key is this one or, where an optional one is left out, the one after:
+    // then one walk reads all there is. What it has not met is looked up, unless no key is left.
+    auto next = object.begin();
+    const auto end = object.end();
+    const auto readNext = [&](const auto& field, bool& done) {
+      if (next == end || next.key() != field.key) return;
       read(next.value(), field.key, record.*field.member);
       ++next;
-      return;
-    }
-    dom::element found;
-    if (object.at_key(field.key).get(found) == simdjson::SUCCESS) {
-      read(found, field.key, record.*field.member);
-    } else if constexpr (!isOptional<std::remove_cvref_t<decltype(record.*field.member)>>) {
-      throw RowError{"required key '" + std::string(field.key) + "' is missing"};
-    }
-  };
-  [&]<std::size_t... i>(std::index_sequence<i...>) {
-    (readField(std::get<i>(fields)), ...);
+      done = true;
+    };
+    (readNext(std::get<i>(fields), isRead[i]), ...);
+
+    const auto lookUp = [&](const auto& field, bool done) {
+      dom::element found;
+      if (done) return;
+      if (next != end && object.at_key(field.key).get(found) == simdjson::SUCCESS) {
+        read(found, field.key, record.*field.member);
+      } else if constexpr (!isOptional<std::remove_cvref_t<decltype(record.*field.member)>>) {
+        throw RowError{"required key '" + std::string(field.key) + "' is missing"};
+      }
+    };
+    (lookUp(std::get<i>(fields), isRead[i]), ...);
   }
   (std::make_index_sequence<count>());
+}
+
+// A row of a group table may be read right into the entity that it becomes.
+void readRow(dom::element value, Entity& entity) {
+  readObject(value, entity.computed);
+}
+template <class Record>
+void readRow(dom::element value, Record& record) {
+  readObject(value, record);
 }
 
 bool isEmbedded(std::string_view text) {
@@ -162,7 +179,7 @@ std::string TableDecoder::append(std::string_view json, std::vector<Record>& rec
   std::size_t row = 0;
   try {
     for (const dom::element element : rows) {
-      readObject(element, records.emplace_back());
+      readRow(element, records.emplace_back());
       ++row;
     }
   } catch (const RowError& fault) {
@@ -182,6 +199,7 @@ std::optional<std::vector<Record>> decodeOrReport(std::string_view json) {
 }
 
 template std::string TableDecoder::append(std::string_view, std::vector<ComputedEntity>&);
+template std::string TableDecoder::append(std::string_view, std::vector<Entity>&);
 template std::string TableDecoder::append(std::string_view, std::vector<AdditionalData>&);
 template std::string TableDecoder::append(std::string_view, std::vector<RawUnicodeEntity>&);
 template std::optional<std::vector<ComputedEntity>> decodeOrReport(std::string_view);

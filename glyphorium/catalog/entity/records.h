@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "glyphorium/catalog/entity/boxed_optional.h"
 #include "glyphorium/platform/export.h"
 
 /// The value records in which every character travels through the catalog. Hosts know the nested ones by
@@ -55,7 +56,7 @@ struct GLYPHORIUM_EXPORT AdditionalData {
 /// One catalog entry: a character and its enrichment, if it has any.
 struct GLYPHORIUM_EXPORT Entity {
   ComputedEntity computed;
-  std::optional<AdditionalData> additional;
+  BoxedOptional<AdditionalData> additional;  ///< fewer than one entity in eight has any
 
   /// The name to show: the enrichment's better name where it has one, else the table's name.
   std::string name() const;

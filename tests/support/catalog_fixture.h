@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/platform/memory_settings_store.h"
+#include "glyphorium/platform/notification_center.h"
+#include "glyphorium/platform/pasteboard.h"
+#include "glyphorium/platform/searchable_index.h"
+#include "glyphorium/state/notification_names.h"
+#include "glyphorium/state/selected_entities.h"
+#include "tests/support/recorded_diagnostics.h"
+
+namespace glyph {
+
+/// A fresh user: empty settings, index and clipboard in memory, and a record of what happens, in order.
+class CatalogFixture : public testing::Test {
+ protected:
+  using Names = std::vector<std::string>;
+
+  // Settings that note their writes among the events.
+  class Settings final : public SettingsStore {
+   public:
+    explicit Settings(Names& events) : events_(events) {}
+    std::optional<SettingValue> object(std::string_view key) override {
+      ++reads;
+      return values.object(key);
+    }
+    void set(std::string_view key, SettingValue value) override {
+      events_.push_back("saved " + std::string(key));
+      values.set(key, std::move(value));
+    }
+    bool synchronize() override {
+      ++synchronized;
+      return true;
+    }
+
+    MemorySettingsStore values;
+    int reads = 0;
+    int synchronized = 0;
+
+   private:
+    Names& events_;
+  };
+
+  // An index that notes its requests among the events.
+  class Index final : public SearchableIndex {
+   public:
+    explicit Index(Names& events) : events_(events) {}
+    void indexItems(std::vector<SearchableItem> items, Completion) override {
+      note("indexed", items, [](const SearchableItem& item) { return item.uniqueIdentifier; });
+      indexed = std::move(items);
+    }
+    void deleteItems(std::vector<std::string> identifiers, Completion) override {
+      note("deleted", identifiers, [](const std::string& identifier) { return identifier; });
+    }
+    void deleteAllItems(Completion) override { events_.push_back("deleted all"); }
+    bool waitUntilIdle(std::chrono::milliseconds, const Progress&) override { return true; }
+
+    std::vector<SearchableItem> indexed;
+
+   private:
+    template <class List, class Name>
+    void note(const char* what, const List& list, Name name) {
+      std::string event = what;
+      for (const auto& one : list) event += " " + name(one);
+      events_.push_back(event);
+    }
+    Names& events_;
+  };
+
+  CatalogFixture() {
+    setSettingsStore(settings);
+    setSearchableIndex(index);
+    setPasteboard(clipboard);
+    selectedEntities() = std::vector<Entity>();
+    setDiagnosticsSink([this](std::string_view line) { events.emplace_back(line); });
+    token =
+        NotificationCenter::defaultCenter().addObserver(notificationName::contentHasChanged, [this](auto&) {
+          events.push_back("contentHasChanged " + std::to_string(selectedEntities()->size()));
+        });
+  }
+  ~CatalogFixture() override {
+    setDiagnosticsSink(nullptr);
+    setSettingsStore(nullptr);
+    setSearchableIndex(nullptr);
+    setPasteboard(nullptr);
+  }
+
+  Names taken() { return std::exchange(events, {}); }
+
+  void store(std::string_view key, SettingValue value) { settings->values.set(key, std::move(value)); }
+  std::optional<SettingValue> stored(std::string_view key) { return settings->values.object(key); }
+
+  static Names hexCodes(const std::vector<Entity>& entities) {
+    Names codes;
+    for (const Entity& entity : entities) codes.push_back(entity.computed.hex);
+    return codes;
+  }
+
+  Names events;
+  std::shared_ptr<Settings> settings = std::make_shared<Settings>(events);
+  std::shared_ptr<Index> index = std::make_shared<Index>(events);
+  std::shared_ptr<MemoryPasteboard> clipboard = std::make_shared<MemoryPasteboard>();
+  NotificationToken token;
+};
+
+}  // namespace glyph
