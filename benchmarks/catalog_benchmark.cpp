@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+// Decoding and joining the catalog beside the parser's bare parse of the same bytes.
+#include <benchmark/benchmark.h>
+#include <simdjson.h>
+
+#include "glyphorium/catalog/decoding_and_joining_internal.h"
+#include "glyphorium/catalog/entity/codec.h"
+#include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/data/embedded_texts.h"
+#include "glyphorium/data/name_table.h"
+#include "glyphorium/toolkit/entity_tool_kit.h"
+
+namespace {
+
+using namespace glyph;
+
+std::vector<std::string_view> configuredTables() {
+  static const std::string repaired =
+      *repairedTable(embeddedText("latinBasicJson")->text) + std::string(64, '\0');
+  std::vector<std::string_view> tables;
+  for (const EmbeddedText& text : embeddedTexts()) {
+    if (text.configured) tables.push_back(text.text);
+  }
+  tables.front() = std::string_view(repaired).substr(0, repaired.size() - 64);
+  tables.push_back(additionalJson);
+  return tables;
+}
+
+// The raw limit: no record is made of what is parsed.
+void bareParse(benchmark::State& state) {
+  const auto tables = configuredTables();
+  simdjson::dom::parser parser;
+  std::int64_t bytes = 0;
+  for (auto _ : state) {
+    for (const std::string_view table : tables) {
+      benchmark::DoNotOptimize(parser.parse(table.data(), table.size(), false).error());
+      bytes += static_cast<std::int64_t>(table.size());
+    }
+  }
+  state.SetBytesProcessed(bytes);
+}
+BENCHMARK(bareParse)->Unit(benchmark::kMillisecond);
+
+// As configure() does it.
+std::vector<Entity> decodedRows() {
+  std::vector<Entity> records;
+  records.reserve(17532);
+  TableDecoder decoder;
+  for (const std::string_view table : configuredTables()) {
+    if (table.data() == additionalJson.data()) continue;
+    if (const auto repaired = repairedTable(table)) {
+      decoder.append(*repaired, records);
+    } else {
+      decoder.append(table, records);
+    }
+  }
+  return records;
+}
+
+// Taking the entities down again is not part of the cost: a catalog is filled once and kept.
+template <class Make>
+void measureMaking(benchmark::State& state, Make make) {
+  for (auto _ : state) {
+    auto made = make();
+    benchmark::DoNotOptimize(made);
+    state.PauseTiming();
+    made = {};
+    state.ResumeTiming();
+  }
+}
+
+void decodeTables(benchmark::State& state) {
+  measureMaking(state, decodedRows);
+}
+BENCHMARK(decodeTables)->Unit(benchmark::kMillisecond);
+
+void decodeEnrichment(benchmark::State& state) {
+  const Glyphorium catalog;
+  for (auto _ : state) benchmark::DoNotOptimize(catalog.getAdditionalDataFrom(additionalJson));
+}
+BENCHMARK(decodeEnrichment)->Unit(benchmark::kMillisecond);
+
+void decodeAndJoin(benchmark::State& state) {
+  const Glyphorium catalog;
+  measureMaking(state, [&] {
+    auto entities = decodedRows();
+    enrich(entities, *catalog.getAdditionalDataFrom(additionalJson));
+    return entities;
+  });
+}
+BENCHMARK(decodeAndJoin)->Unit(benchmark::kMillisecond);
+
+void joinAlone(benchmark::State& state) {
+  const Glyphorium catalog;
+  const auto rows = decodedRows();
+  const auto enrichment = catalog.getAdditionalDataFrom(additionalJson);
+  for (auto _ : state) {
+    state.PauseTiming();
+    auto copy = rows;
+    state.ResumeTiming();
+    enrich(copy, *enrichment);
+    state.PauseTiming();
+    copy = {};
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(joinAlone)->Unit(benchmark::kMillisecond);
+
+// Name completion of that many records, beside decoding the name table once.
+void completeNames(benchmark::State& state) {
+  std::vector<ComputedEntity> records(static_cast<std::size_t>(state.range(0)));
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    records[i] = Unicode(toolKit().getHex(static_cast<std::int64_t>(0x21 + i % 0x2000))).computedEntity();
+  }
+  for (auto _ : state) benchmark::DoNotOptimize(toolKit().addNames(records));
+}
+BENCHMARK(completeNames)->Arg(1)->Arg(100)->Arg(10000)->Unit(benchmark::kMicrosecond);
+
+void decodeNameTable(benchmark::State& state) {
+  for (auto _ : state) loadStructuredUnicodes();
+}
+BENCHMARK(decodeNameTable)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();
