@@ -6,30 +6,11 @@
 #include "card.h"
 #include "commands.h"
 #include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/state/selected_entities.h"
 #include "lookup.h"
 
 namespace cli {
-namespace {
-
 using glyph::Entity;
-
-void printEntities(Output& output, const std::vector<const Entity*>& entities, bool json) {
-  if (json) {
-    std::vector<std::string> objects;
-    for (const Entity* entity : entities) objects.push_back(entityJson(*entity));
-    printJsonArray(output, objects);
-    return;
-  }
-  std::vector<std::vector<std::string>> rows;
-  for (const Entity* entity : entities) {
-    const bool named = entity->additional && entity->additional->htmlNamed;
-    rows.push_back({output.accent(visibleSymbol(entity->computed)), output.faint(entity->computed.hex),
-                    entity->name(), output.faint(named ? *entity->additional->htmlNamed : "")});
-  }
-  output.printTable(rows);
-}
-
-}  // namespace
 
 int listGroups(Output& output, bool json) {
   glyph::Glyphorium& catalog = glyph::glyphorium();
@@ -50,6 +31,12 @@ int listEntities(Output& output, const std::vector<std::string>& groups, bool al
   glyph::Glyphorium& catalog = glyph::glyphorium();
   catalog.configure();
   std::vector<const Entity*> entities;
+  if (groups.empty() && !all) {
+    for (const Entity& entity : glyph::selectedEntities().get()) entities.push_back(&entity);
+    if (entities.empty()) {
+      complain("the displayed groups hold no characters; 'glyphorium display add GROUP' displays more");
+    }
+  }
   const auto append = [&](const std::vector<Entity>& from, const std::string* group) {
     for (const Entity& entity : from) {
       if (!group || entity.computed.group == *group) entities.push_back(&entity);

@@ -66,6 +66,22 @@ std::string visibleSymbol(const ComputedEntity& record) {
   return glyph::isInvisible(point) ? "⬚" : record.symbol;
 }
 
+void printEntities(Output& output, const std::vector<const Entity*>& entities, bool json) {
+  if (json) {
+    std::vector<std::string> objects;
+    for (const Entity* entity : entities) objects.push_back(entityJson(*entity));
+    printJsonArray(output, objects);
+    return;
+  }
+  std::vector<std::vector<std::string>> rows;
+  for (const Entity* entity : entities) {
+    const bool named = entity->additional && entity->additional->htmlNamed;
+    rows.push_back({output.accent(visibleSymbol(entity->computed)), output.faint(entity->computed.hex),
+                    entity->name(), output.faint(named ? *entity->additional->htmlNamed : "")});
+  }
+  output.printTable(rows);
+}
+
 void printCard(Output& output, const std::vector<Entity>& entities) {
   const Entity& entity = entities.front();
   std::vector<std::string> groups;

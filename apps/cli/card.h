@@ -14,6 +14,9 @@ namespace cli {
 /// empty box.
 std::string visibleSymbol(const glyph::ComputedEntity& record);
 
+/// Entities as a list: symbol, hex, name and HTML name, or their JSON objects.
+void printEntities(Output& output, const std::vector<const glyph::Entity*>& entities, bool json);
+
 /// Everything about one character: all its entities differ in their groups only.
 void printCard(Output& output, const std::vector<glyph::Entity>& entitiesOfOneCharacter);
 

@@ -14,6 +14,24 @@ int listGroups(Output& output, bool json);
 int listEntities(Output& output, const std::vector<std::string>& groups, bool all, bool json);
 int showCharacters(Output& output, const std::vector<std::string>& arguments, bool json);
 
+// The user's choices.
+enum class Choice { show, add, remove, set };
+int displayGroups(Output& output, Choice choice, const std::vector<std::string>& groups, bool json);
+int addCharacters(Output& output, const std::vector<std::string>& codes);
+int removeCharacters(Output& output, const std::vector<std::string>& codes);
+int listAdded(Output& output, bool json);
+
+// The clipboard. The forms are names of copyForms().
+const std::vector<std::string>& copyForms();
+int copyCharacter(Output& output, const std::string& argument, const std::string& form);
+
+// The desktop's search index.
+int showIndexStatus(Output& output, bool json);
+int addToIndex(Output& output, const std::vector<std::string>& arguments, bool all);
+int removeFromIndex(Output& output, const std::vector<std::string>& arguments, bool all);
+int searchIndex(Output& output, const std::vector<std::string>& words, int limit, bool json);
+int enableIndex(Output& output, bool enable);
+
 // The embedded data as it stands.
 int listNames(Output& output, const std::vector<std::string>& hexCodes, bool json);
 int printTable(Output& output, const std::string& constant, bool json);

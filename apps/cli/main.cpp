@@ -4,7 +4,6 @@
 #include <functional>
 
 #include "commands.h"
-#include "glyphorium/platform/diagnostics.h"
 #include "glyphorium/platform/unicode_text.h"
 #include "glyphorium/version.h"
 #include "lookup.h"
@@ -18,6 +17,8 @@ struct Options {
   bool all = false;
   std::vector<std::string> words;
   std::string word;
+  std::string form = "character";
+  int limit = 20;
 };
 
 using Run = std::function<int(cli::Output&)>;
@@ -31,13 +32,13 @@ void addBrowsing(CLI::App& app, Options& options, Run& run) {
   addJson(*groups, options);
   groups->callback([&] { run = [&](cli::Output& output) { return cli::listGroups(output, options.json); }; });
 
-  CLI::App* const list = app.add_subcommand("list", "The characters of groups");
+  CLI::App* const list = app.add_subcommand("list", "The characters of groups, or of the displayed groups");
   list->add_option("GROUP", options.words, "Names of groups, in any letter case");
   list->add_flag("--all", options.all, "The whole catalog");
   addJson(*list, options);
   list->callback([&] {
-    if (options.all == !options.words.empty()) {
-      throw CLI::ValidationError("list", "needs names of groups, or --all");
+    if (options.all && !options.words.empty()) {
+      throw CLI::ValidationError("list", "takes names of groups or --all, not both");
     }
     run = [&](cli::Output& output) {
       return cli::listEntities(output, options.words, options.all, options.json);
@@ -51,6 +52,104 @@ void addBrowsing(CLI::App& app, Options& options, Run& run) {
   show->callback([&] {
     run = [&](cli::Output& output) { return cli::showCharacters(output, options.words, options.json); };
   });
+}
+
+void addChoices(CLI::App& app, Options& options, Run& run) {
+  CLI::App* const display = app.add_subcommand("display", "The displayed groups, and changes of them");
+  addJson(*display, options);
+  const auto choose = [&](cli::Choice choice) {
+    run = [&, choice](cli::Output& output) {
+      return cli::displayGroups(output, choice, options.words, options.json);
+    };
+  };
+  display->require_subcommand(0, 1);
+  display->callback([choose, display] {
+    if (display->get_subcommands().empty()) choose(cli::Choice::show);
+  });
+  const struct {
+    const char* name;
+    const char* description;
+    cli::Choice choice;
+  } changes[] = {{"add", "Display more groups", cli::Choice::add},
+                 {"remove", "Display these groups no more", cli::Choice::remove},
+                 {"set", "Display these groups and no others", cli::Choice::set}};
+  for (const auto& change : changes) {
+    CLI::App* const command = display->add_subcommand(change.name, change.description);
+    command->add_option("GROUP", options.words, "Names of groups, in any letter case")->required();
+    command->callback([choose, choice = change.choice] { choose(choice); });
+  }
+
+  CLI::App* const add = app.add_subcommand("add", "Add characters of your own to the group custom");
+  add->add_option("CODE", options.words, "21d0, U+21D0 or the character itself")->required();
+  add->callback(
+      [&] { run = [&](cli::Output& output) { return cli::addCharacters(output, options.words); }; });
+
+  CLI::App* const remove = app.add_subcommand("remove", "Remove added characters");
+  remove->add_option("CODE", options.words, "21d0, U+21D0 or the character itself")->required();
+  remove->callback(
+      [&] { run = [&](cli::Output& output) { return cli::removeCharacters(output, options.words); }; });
+
+  CLI::App* const added = app.add_subcommand("added", "The characters that you added");
+  addJson(*added, options);
+  added->callback([&] { run = [&](cli::Output& output) { return cli::listAdded(output, options.json); }; });
+}
+
+void addCopying(CLI::App& app, Options& options, Run& run) {
+  CLI::App* const copy =
+      app.add_subcommand("copy", "Copy a character, or one of its code forms, to the clipboard");
+  copy->add_option("CHARACTER", options.word, "→, U+2192, 2192, '&rarr;', 'rightwards arrow' ...")
+      ->required();
+  copy->add_option("--as", options.form, "The form to copy")
+      ->capture_default_str()
+      ->check(CLI::IsMember(cli::copyForms()))
+      ->type_name("FORM");
+  copy->callback([&] {
+    run = [&](cli::Output& output) { return cli::copyCharacter(output, options.word, options.form); };
+  });
+}
+
+void addIndexing(CLI::App& app, Options& options, Run& run) {
+  CLI::App* const index = app.add_subcommand("index", "What the desktop's search finds");
+  index->require_subcommand(1);
+
+  CLI::App* const status = index->add_subcommand("status", "How much is indexed");
+  addJson(*status, options);
+  status->callback(
+      [&] { run = [&](cli::Output& output) { return cli::showIndexStatus(output, options.json); }; });
+
+  CLI::App* const add = index->add_subcommand("add", "Let the desktop's search find characters");
+  add->add_option("WHAT", options.words, "Names of groups, codes or characters");
+  add->add_flag("--all", options.all, "The whole catalog");
+  add->callback([&] {
+    if (options.all == !options.words.empty())
+      throw CLI::ValidationError("index add", "needs groups, codes or --all");
+    run = [&](cli::Output& output) { return cli::addToIndex(output, options.words, options.all); };
+  });
+
+  CLI::App* const remove = index->add_subcommand("remove", "Take characters out of the index");
+  remove->add_option("WHAT", options.words, "Names of groups, codes or characters")->required();
+  remove->callback(
+      [&] { run = [&](cli::Output& output) { return cli::removeFromIndex(output, options.words, false); }; });
+
+  CLI::App* const reset = index->add_subcommand("reset", "Take everything out of the index");
+  reset->callback([&] { run = [&](cli::Output& output) { return cli::removeFromIndex(output, {}, true); }; });
+
+  CLI::App* const search = index->add_subcommand("search", "What the desktop's search would find");
+  search->add_option("WORDS", options.words, "Words, a code or a character")->required();
+  search->add_option("--limit", options.limit, "At most so many")
+      ->capture_default_str()
+      ->check(CLI::PositiveNumber);
+  addJson(*search, options);
+  search->callback([&] {
+    run = [&](cli::Output& output) {
+      return cli::searchIndex(output, options.words, options.limit, options.json);
+    };
+  });
+
+  CLI::App* const enable = index->add_subcommand("enable", "Index the characters that you add");
+  enable->callback([&] { run = [&](cli::Output& output) { return cli::enableIndex(output, true); }; });
+  CLI::App* const disable = index->add_subcommand("disable", "Do not index the characters that you add");
+  disable->callback([&] { run = [&](cli::Output& output) { return cli::enableIndex(output, false); }; });
 }
 
 void addEmbeddedData(CLI::App& app, Options& options, Run& run) {
@@ -83,13 +182,6 @@ std::string explanation(const CLI::App& app, const CLI::ParseError& error) {
          (names.empty() ? "" : "; did you mean '" + names.front() + "'?");
 }
 
-// The library's own lines are for its developers: dropped, or on standard error where they are asked for.
-void directDiagnostics(bool verbose) {
-  glyph::setDiagnosticsSink([verbose](std::string_view line) {
-    if (verbose) cli::complain(line);
-  });
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -115,6 +207,9 @@ int main(int argc, char** argv) {
   app.require_subcommand(1);
   app.fallthrough();
   addBrowsing(app, options, run);
+  addChoices(app, options, run);
+  addCopying(app, options, run);
+  addIndexing(app, options, run);
   addEmbeddedData(app, options, run);
 
   try {
@@ -126,7 +221,7 @@ int main(int argc, char** argv) {
     return cli::wrongUse;
   }
 
-  directDiagnostics(options.verbose);
+  cli::keepDiagnostics(options.verbose);
   cli::Output output(options.style);
   const int exitCode = run(output);
   if (!output.flush()) {

@@ -8,7 +8,9 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
 
+#include "glyphorium/platform/diagnostics.h"
 #include "glyphorium/platform/unicode_text.h"
 
 namespace cli {
@@ -78,6 +80,33 @@ bool Output::flush() {
 void complain(std::string_view message) {
   const std::string line = "glyphorium: " + std::string(message) + "\n";
   std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+namespace {
+
+std::mutex keptMutex;  // lines come from the index's thread too
+std::vector<std::string> keptLines;
+
+// The lines that only say that something has changed.
+bool isChangeLine(std::string_view line) {
+  return line.starts_with("didSet ") || line.starts_with("selectedGroupsHadChanged ");
+}
+
+}  // namespace
+
+void keepDiagnostics(bool verbose) {
+  glyph::setDiagnosticsSink([verbose](std::string_view line) {
+    if (verbose) complain(line);
+    const std::lock_guard lock(keptMutex);
+    if (!verbose && !isChangeLine(line)) keptLines.emplace_back(line);
+  });
+}
+
+void complainOfFailure(std::string_view otherwise) {
+  const std::lock_guard lock(keptMutex);
+  if (keptLines.empty()) complain(otherwise);
+  for (const std::string& line : keptLines) complain(line);
+  keptLines.clear();
 }
 
 int terminalWidth() {

@@ -46,6 +46,12 @@ class Output {
 /// Tells the user what is wrong, on standard error.
 void complain(std::string_view message);
 
+/// The library's own lines go here from now on: to standard error with `verbose`, else they are kept.
+void keepDiagnostics(bool verbose);
+
+/// Complains with the kept lines that speak of a failure, or with `otherwise` where there are none.
+void complainOfFailure(std::string_view otherwise);
+
 /// The columns of the terminal behind standard output, 80 where it does not say.
 int terminalWidth();
 

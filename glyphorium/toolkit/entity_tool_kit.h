@@ -8,6 +8,7 @@
 
 #include "glyphorium/catalog/entity/records.h"
 #include "glyphorium/platform/export.h"
+#include "glyphorium/platform/searchable_index.h"
 #include "glyphorium/toolkit/code_formats.h"
 
 namespace glyph {
@@ -29,6 +30,10 @@ class GLYPHORIUM_EXPORT EntityToolKit : public CodeFormats {
   /// also where the pasteboard did not take the text, which the result tells.
   bool writeToPasteboard(std::string_view text,
                          const std::optional<std::string>& displayedValue = std::nullopt) const;
+
+  /// The item by which the desktop's search finds the entity: its symbol and name as title, its usage note as
+  /// comment, its group as genre, and all of its search string as keywords.
+  SearchableItem searchableItem(const Entity& entity) const;
 
   /// Hands searchableIndex() one request to add, or replace, an item for each entity, and does not wait for
   /// it.

@@ -6,11 +6,6 @@
 namespace glyph {
 namespace {
 
-// Completions are ignored: an index that refuses a request tells so through the diagnostics by itself.
-SearchableIndex::Completion nothing() {
-  return {};
-}
-
 // The text split at every single blank; an empty piece stands wherever two meet and at the ends.
 void appendPieces(std::string_view text, std::vector<std::string>& pieces) {
   for (;;) {
@@ -21,10 +16,12 @@ void appendPieces(std::string_view text, std::vector<std::string>& pieces) {
   }
 }
 
-SearchableItem itemOf(const Entity& entity, const std::string& domain) {
+}  // namespace
+
+SearchableItem EntityToolKit::searchableItem(const Entity& entity) const {
   SearchableItem item;
   item.uniqueIdentifier = entity.computed.hex;
-  item.domainIdentifier = domain;
+  item.domainIdentifier = applicationIdentifier();
   item.contentType = "Glyph";
   const std::string name = entity.name();
   item.title = entity.computed.symbol + "\t" + name;
@@ -35,25 +32,25 @@ SearchableItem itemOf(const Entity& entity, const std::string& domain) {
   return item;
 }
 
-}  // namespace
+// What becomes of these requests is nobody's to hear: the completions are empty. A host that wants to know
+// makes a request of its own, of searchable items.
 
 void EntityToolKit::addToSpotlight(const std::vector<Entity>& entities) const {
-  const std::string domain = applicationIdentifier();
   std::vector<SearchableItem> items;
   items.reserve(entities.size());
-  for (const Entity& entity : entities) items.push_back(itemOf(entity, domain));
-  searchableIndex()->indexItems(std::move(items), nothing());
+  for (const Entity& entity : entities) items.push_back(searchableItem(entity));
+  searchableIndex()->indexItems(std::move(items), {});
 }
 
 void EntityToolKit::removeFromSpotlight(const std::vector<Entity>& entities) const {
   std::vector<std::string> identifiers;
   identifiers.reserve(entities.size());
   for (const Entity& entity : entities) identifiers.push_back(entity.computed.hex);
-  searchableIndex()->deleteItems(std::move(identifiers), nothing());
+  searchableIndex()->deleteItems(std::move(identifiers), {});
 }
 
 void EntityToolKit::resetSpotlight() const {
-  searchableIndex()->deleteAllItems(nothing());
+  searchableIndex()->deleteAllItems({});
 }
 
 }  // namespace glyph

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <nlohmann/json.hpp>
 
 #include "glyphorium/data/embedded_texts.h"
@@ -45,6 +46,7 @@ TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
       {"list ARROWS", 0, "2192\tRightwards Arrow\t&rarr;"},
       {"list arows", 2, "did you mean 'arrows'"},
       {"list custom", 1, ""},
+      {"list", 1, "display add GROUP"},
       {"list --all arrows", 2, "--all"},
       {"names 0041 1f600", 0, "GRINNING FACE"},
       {"names 41", 1, "four digits"},
@@ -89,6 +91,63 @@ TEST(CommandLine, PrintsJsonOfTheRecordsFields) {
     if (count == 0) continue;
     EXPECT_EQ(json[0].value(key, ""), value) << arguments;
   }
+}
+
+TEST(CommandLine, KeepsTheUsersChoices) {
+  const std::filesystem::path home =
+      std::filesystem::temp_directory_path() / ("cli-test-" + std::to_string(getpid()));
+  std::filesystem::create_directories(home);
+  const std::string own = "HOME=" + home.string() + " DISPLAY= WAYLAND_DISPLAY=";
+  const struct {
+    std::string arguments;
+    int exitCode;
+    std::string output;  // all of standard output, or for a failure a part of standard error
+  } steps[] = {
+      {"list", 1, "display add GROUP"},
+      {"added", 1, ""},
+      {"display", 0, "custom\t0\n"},
+      {"display add Arrows 'sf symbols'", 0, "custom\t0\narrows\t112\nSF Symbols\t1083\n"},
+      {"display add arows", 2, "did you mean 'arrows'"},
+      {"display remove armenian", 1, "is not displayed"},
+      {"display remove 'SF SYMBOLS'", 0, "custom\t0\narrows\t112\n"},
+      {"display --json", 0, "[{\"name\":\"custom\",\"count\":0},\n {\"name\":\"arrows\",\"count\":112}]\n"},
+      {"add 0378", 2, "0377 (GREEK SMALL LETTER PAMPHYLIAN DIGAMMA)"},
+      {"add 21d0 U+110000", 2, "is no code of a character"},
+      {"added", 1, ""},  // of several codes all are added or none
+      {"add 21D0 é", 0,
+       "⇐\t21d0\tLeftwards Double Arrow\t&lArr;\né\t00e9\tLatin Small Letter E With Acute\t&eacute;\n"},
+      {"index status --json", 0, "{\"enabled\":true,\"items\":2}\n"},
+      {"index search 'double arrow'", 0, "⇐\t21d0\tLeftwards Double Arrow\tcustom\n"},
+      {"remove 21d1", 1, "did you mean '21d0'"},
+      {"remove U+21D0", 0, "é\t00e9\tLatin Small Letter E With Acute\t&eacute;\n"},
+      {"index disable", 0, "Characters that you add are not indexed any more; those in the index stay\n"},
+      {"add 2192", 0,
+       "é\t00e9\tLatin Small Letter E With Acute\t&eacute;\n→\t2192\tRightwards Arrow\t&rarr;\n"},
+      {"index status --json", 0, "{\"enabled\":false,\"items\":1}\n"},
+      {"index add arrows 'smile nothing'", 2, "is no character"},
+      {"index add arrows 2603", 0, "Indexed 113 characters\n"},
+      {"index remove arrows", 0, "Removed 112 characters from the index\n"},
+      {"index reset", 0, "Removed 2 characters from the index\n"},
+      {"index add", 2, "needs groups, codes or --all"},
+      {"copy 2192", 3, "no display"},
+      {"copy A --as html", 1, "has no HTML name"},
+      {"copy A --as swiftui", 1, "only SF Symbols"},
+      {"copy A --as morse", 2, "character"},
+  };
+  for (const auto& [arguments, exitCode, output] : steps) {
+    const ProgramResult result = run((exitCode == 0 ? "" : "2>&1 ") + arguments, own);
+    EXPECT_EQ(result.exitCode, exitCode) << arguments << "\n" << result.output;
+    if (exitCode == 0) {
+      EXPECT_EQ(result.output, output) << arguments;
+    } else {
+      EXPECT_THAT(result.output, HasSubstr(output)) << arguments;
+    }
+  }
+  // A choice that cannot be saved is told: here a file stands where the directory would be.
+  const ProgramResult unsaved = run("2>&1 display add emoji", own + " XDG_CONFIG_HOME=/dev/null");
+  EXPECT_EQ(unsaved.exitCode, 3);
+  EXPECT_THAT(unsaved.output, HasSubstr("cannot be saved"));
+  std::filesystem::remove_all(home);
 }
 
 TEST(CommandLine, SpeaksTheUsersLanguage) {

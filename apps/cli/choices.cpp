@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+#include "card.h"
+#include "commands.h"
+#include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/data/name_table.h"
+#include "glyphorium/platform/settings_store.h"
+#include "glyphorium/platform/unicode_text.h"
+#include "glyphorium/toolkit/entity_tool_kit.h"
+#include "lookup.h"
+
+namespace cli {
+namespace {
+
+using Names = std::vector<std::string>;
+
+// What was chosen must outlive the program, or the user must hear that it does not.
+int saved() {
+  if (glyph::settingsStore()->synchronize()) return found;
+  complainOfFailure("the choice could not be saved");
+  return notWritten;
+}
+
+void printDisplayed(Output& output, bool json) {
+  const auto& counts = glyph::glyphorium().allEntityGroupNamesWithCount.get();
+  Names objects;
+  std::vector<Names> rows;
+  for (const std::string& stored : glyph::glyphorium().selectedGroups()) {
+    const std::string group = groupNamed(stored).value_or(stored);
+    const auto place = counts.find(group);
+    const std::int64_t count = place == counts.end() ? 0 : place->second;
+    objects.push_back(nlohmann::ordered_json{{"name", group}, {"count", count}}.dump());
+    rows.push_back({group, output.faint(std::to_string(count))});
+  }
+  json ? printJsonArray(output, objects) : output.printTable(rows);
+}
+
+// The named code points closest to one that names nothing.
+std::string nearestCodes(char32_t codePoint) {
+  Names near;
+  for (const int step : {-1, 1}) {
+    for (std::int64_t distance = 1; distance < 0x400; ++distance) {
+      const std::string hex = glyph::toolKit().getHex(static_cast<std::int64_t>(codePoint) + step * distance);
+      const auto entry = glyph::findName(hex);
+      if (!entry || entry->name.starts_with('<')) continue;
+      near.push_back(hex + " (" + std::string(entry->name) + ")");
+      break;
+    }
+  }
+  if (near.empty()) return {};
+  return "; the nearest that do are " + near.front() + (near.size() > 1 ? " and " + near.back() : "");
+}
+
+// The codes of the arguments as the catalog stores them. False, after a complaint, where one names no
+// character.
+bool readCodes(const Names& arguments, Names& codes) {
+  for (const std::string& argument : arguments) {
+    const std::u32string points = glyph::codePoints(argument);
+    const auto codePoint = points.size() == 1 ? std::optional(points.front()) : codePointOf(argument);
+    if (!codePoint) {
+      complain("'" + argument +
+               "' is no code of a character; right would be 21d0, U+21D0 or the character itself");
+      return false;
+    }
+    const std::string hex = glyph::toolKit().getHex(*codePoint);
+    if (glyph::toolKit().addNames({glyph::Unicode(hex).computedEntity()}).empty()) {
+      complain("'" + argument + "' names no character of Unicode 13.0" + nearestCodes(*codePoint));
+      return false;
+    }
+    codes.push_back(hex);
+  }
+  return true;
+}
+
+}  // namespace
+
+int displayGroups(Output& output, Choice choice, const Names& groups, bool json) {
+  glyph::Glyphorium& catalog = glyph::glyphorium();
+  catalog.configure();
+  const Names displayed = catalog.selectedGroups();
+  const auto isDisplayed = [&](const std::string& name) {
+    return std::any_of(displayed.begin(), displayed.end(),
+                       [&](auto& one) { return glyph::lowercased(one) == glyph::lowercased(name); });
+  };
+  Names names;
+  for (const std::string& name : groups) {
+    const auto group = groupNamed(name);
+    if (!group && !(choice == Choice::remove && isDisplayed(name))) {
+      complain(unknownGroup(name));
+      return wrongUse;
+    }
+    if (choice == Choice::remove && !isDisplayed(name)) {
+      complain("the group '" + name + "' is not displayed; 'glyphorium display' lists those that are");
+      return nothingFound;
+    }
+    names.push_back(group.value_or(name));
+  }
+  if (choice == Choice::set) catalog.setSelectedGroups(names);
+  for (const std::string& name : names) {
+    if (choice == Choice::add) catalog.addSelectedGroup(name);
+    if (choice == Choice::remove) catalog.removeSelectedGroup(name);
+  }
+  printDisplayed(output, json);
+  return choice == Choice::show ? found : saved();
+}
+
+int addCharacters(Output& output, const Names& arguments) {
+  glyph::Glyphorium& catalog = glyph::glyphorium();
+  catalog.configure();
+  Names codes;
+  if (!readCodes(arguments, codes)) return wrongUse;
+  for (const std::string& code : codes) catalog.addCustomAddedEntity(code);
+  listAdded(output, false);
+  return saved();
+}
+
+int removeCharacters(Output& output, const Names& arguments) {
+  glyph::Glyphorium& catalog = glyph::glyphorium();
+  catalog.configure();
+  Names codes;
+  for (const std::string& argument : arguments) {
+    const Names added = catalog.customAddedEntityUnicodes();
+    // What is stored may be removed as it is spelled, whatever it is.
+    const bool asStored = std::find(added.begin(), added.end(), glyph::lowercased(argument)) != added.end();
+    const std::u32string points = glyph::codePoints(argument);
+    const auto codePoint = points.size() == 1 ? std::optional(points.front()) : codePointOf(argument);
+    const std::string code = asStored || !codePoint ? argument : glyph::toolKit().getHex(*codePoint);
+    if (std::find(added.begin(), added.end(), glyph::lowercased(code)) == added.end()) {
+      const Names near = nearest(code, added);
+      complain("'" + argument + "' is not among the added characters" +
+               (near.empty() ? std::string() : "; did you mean '" + near.front() + "'?"));
+      return nothingFound;
+    }
+    codes.push_back(code);
+  }
+  for (const std::string& code : codes) catalog.removeCustomAddedEntity(code);
+  listAdded(output, false);
+  return saved();
+}
+
+int listAdded(Output& output, bool json) {
+  glyph::Glyphorium& catalog = glyph::glyphorium();
+  catalog.configure();
+  std::vector<const glyph::Entity*> entities;
+  for (const glyph::Entity& entity : catalog.allCustomEntities.get()) entities.push_back(&entity);
+  printEntities(output, entities, json);
+  return entities.empty() ? nothingFound : found;
+}
+
+}  // namespace cli
