@@ -73,8 +73,8 @@ std::optional<FileIdentity> fileIdentity(const std::filesystem::path& file) {
 IndexStore::IndexStore(const std::filesystem::path& file, const std::atomic<bool>& abandoned)
     : file_(file), abandoned_(abandoned) {
   prepareFile();
+  identity_ = fileIdentity(file);  // before opening it: a replacement in between shows in inPlace()
   database_.emplace(file, SQLITE_OPEN_READWRITE);
-  identity_ = fileIdentity(file);
   sqlite3_busy_handler(database_->handle(), waitWhileBusy, this);
   // Two processes that both create the file: SQLite does not call the busy handler for this switch.
   for (int attempt = 0;; ++attempt) {
@@ -92,7 +92,7 @@ IndexStore::IndexStore(const std::filesystem::path& file, const std::atomic<bool
 
 void IndexStore::prepareFile() {
   const auto directory = file_.parent_path();
-  if (!createPrivateDirectory(directory)) {
+  if (!directory.empty() && !createPrivateDirectory(directory)) {
     throw SqliteError(SQLITE_CANTOPEN, directory.string() + ": " + std::generic_category().message(errno));
   }
   // SQLite would create it readable for others. Never opened when it exists: closing any descriptor of it
@@ -186,8 +186,8 @@ void IndexStore::remove(const std::vector<std::string>& identifiers) {
 
 void IndexStore::clear() {
   database_->execute("DELETE FROM item");
-  database_->execute(
-      "DROP TABLE token");  // quicker than deleting its rows one by one, and leaves none behind
+  // Quicker than deleting its rows one by one, and leaves nothing of them behind.
+  database_->execute("DROP TABLE token");
   database_->execute(tokenTable);
 }
 

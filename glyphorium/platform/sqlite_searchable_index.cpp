@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
-
 #include <exception>
 #include <iterator>
 #include <list>
@@ -219,7 +218,7 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
   bool ending_ = false;
   std::atomic<bool> abandoned_ = false;
   std::optional<std::filesystem::path> file_;
-  pid_t process_ = getpid();
+  std::atomic<pid_t> process_ = getpid();
   std::thread thread_;
   std::optional<IndexStore> store_;  // the thread's own
 };

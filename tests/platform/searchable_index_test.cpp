@@ -107,58 +107,57 @@ TEST(SearchableIndex, FindsSymbolsAndWordsByWhatPeopleType) {
   const struct {
     std::string query;
     Found found;
-  } cases[] = {
-      {"→", {"2192"}},
-      {"&amp;", {"0026"}},
-      {"amp", {"0026"}},
-      {"°C", {"2103"}},
-      {"1F600", {"1f600"}},
-      {"😀", {"1f600"}},
-      {"🪕", {"1fa95"}},
-      {"\u0301", {"0301"}},
-      {",", {"002c"}},
-      {"\"", {"0022"}},
-      {"Á", {"00c1"}},
-      {"á", {"00c1"}},
-      {"square.and.arrow.up", {"100202"}},
-      {"\U00100202", {"100202"}},
-      {"arrow right", {"2192"}},
-      {"ZURÜCK", {"2190"}},
-      {"latin basic comma", {"002c"}},
-      // The character itself, then shorter names, then lower identifiers.
-      {"a latin", {"0026", "0061", "0041", "00c1"}},
-      {"A", {"0041", "0026", "2190", "2192", "100202", "0061", "0301", "00c1"}},
-      {"leftwards  ARROW", {"2190"}},
-      {"qv:arrow", {"2190", "2192", "100202", "0301"}},
-      {"QV: →", {"2192"}},
-      {"qv:→", {"2192"}},
-      // No operators, and nothing that breaks out of the query.
-      {"NEAR", {"2192"}},
-      {"OR", {"2192"}},
-      {"arrow OR comma", {}},
-      {"arrow NOT right", {}},
-      {"NEAR(arrow)", {}},
-      {"tok:arrow", {}},
-      {"arrow*", {}},
-      {"-comma", {}},
-      {"arr\" OR \"comma", {}},
-      {"';DROP TABLE item;--", {}},
-      {"(", {}},
-      {"^arrow", {}},
-      {"", {}},
-      {" \t\u00a0\u3000\u180e", {}},
-      {"\0"s, {}},
-      {"→\0arrow"s, {"2192"}},
-      {"arrow\u2003right", {"2192"}},
-      {"\xff\x80\xa0", {}},
-      {std::string(100'000, '"'), {}},
-  };
+  } cases[] = {{"→", {"2192"}},
+               {"&amp;", {"0026"}},
+               {"amp", {"0026"}},
+               {"°C", {"2103"}},
+               {"1F600", {"1f600"}},
+               {"😀", {"1f600"}},
+               {"🪕", {"1fa95"}},
+               {"\u0301", {"0301"}},
+               {",", {"002c"}},
+               {"\"", {"0022"}},
+               {"Á", {"00c1"}},
+               {"á", {"00c1"}},
+               {"square.and.arrow.up", {"100202"}},
+               {"\U00100202", {"100202"}},
+               {"arrow right", {"2192"}},
+               {"ZURÜCK", {"2190"}},
+               {"latin basic comma", {"002c"}},
+               // The character itself, then shorter names, then lower identifiers.
+               {"a latin", {"0026", "0061", "0041", "00c1"}},
+               {"A", {"0041", "0026", "2190", "2192", "100202", "0061", "0301", "00c1"}},
+               {"leftwards  ARROW", {"2190"}},
+               {"qv:arrow", {"2190", "2192", "100202", "0301"}},
+               {"QV: →", {"2192"}},
+               {"qv:→", {"2192"}},
+               {"NEAR", {"2192"}},
+               {"OR", {"2192"}},
+               {"→\0arrow"s, {"2192"}},
+               {"arrow\u2003right", {"2192"}}};
+  std::string manyTerms;
+  for (int i = 0; i < 2'000; ++i) manyTerms += "arrow" + std::to_string(i) + " ";
+  // No operators, and nothing that breaks out of the query.
+  const std::string notFound[] = {"arrow OR comma",
+                                  "arrow NOT right",
+                                  "NEAR(arrow)",
+                                  "tok:arrow",
+                                  "arrow*",
+                                  "-comma",
+                                  "arr\" OR \"comma",
+                                  "';DROP TABLE item;--",
+                                  "(",
+                                  "^arrow",
+                                  "",
+                                  " \t\u00a0\u3000\u180e",
+                                  "\0"s,
+                                  "\xff\x80\xa0",
+                                  std::string(100'000, '"'),
+                                  manyTerms};
   SearchableIndexReader reader(directory / "index");
   CapturedDiagnostics diagnostics;
   for (const auto& [query, found] : cases) EXPECT_EQ(identifiers(reader.search(query, 100)), found) << query;
-  std::string manyTerms;
-  for (int i = 0; i < 2'000; ++i) manyTerms += "arrow" + std::to_string(i) + " ";
-  EXPECT_THAT(reader.search(manyTerms, 100), IsEmpty());
+  for (const auto& query : notFound) EXPECT_THAT(reader.search(query, 100), IsEmpty()) << query;
   EXPECT_EQ(reader.search("qv:", 100).size(), 13u);
   EXPECT_EQ(identifiers(reader.search("qv:", 2)), (Found{"002c", "1fa95"}));
   EXPECT_THAT(reader.search("qv:", -1), IsEmpty());
@@ -321,7 +320,12 @@ TEST(SearchableIndex, DrainsWhenProgramsEnd) {
   EXPECT_EQ(status.st_mode & 0777, 0600u);
 }
 
+std::ptrdiff_t threads() {
+  return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+}
+
 TEST(SearchableIndex, MayBeUsedAndEndedByACompletion) {
+  const auto before = threads();
   const TemporaryDirectory directory;
   std::promise<void> done;
   auto index = std::make_shared<SqliteSearchableIndex>(directory / "index");
@@ -334,6 +338,9 @@ TEST(SearchableIndex, MayBeUsedAndEndedByACompletion) {
   });
   EXPECT_EQ(done.get_future().wait_for(longEnough), std::future_status::ready);
   EXPECT_EQ(SearchableIndexReader(directory / "index").count(), 2u);
+  // Its thread ends by itself, too.
+  for (int attempt = 0; attempt < 1'000 && threads() > before; ++attempt) std::this_thread::sleep_for(10ms);
+  EXPECT_EQ(threads(), before);
 }
 
 // Writes until killed: item n in request n, and one item that every request replaces. Acknowledges each
