@@ -5,8 +5,8 @@
 #include <set>
 #include <unordered_map>
 
-#include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/catalog/decoding_and_joining_internal.h"
+#include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/data/name_table.h"
 #include "glyphorium/platform/unicode_text.h"

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
-#include <filesystem>
 #include <nlohmann/json.hpp>
 
 #include "glyphorium/data/embedded_texts.h"
 #include "tests/support/program.h"
+#include "tests/support/sandbox.h"
 
 namespace glyph {
 namespace {
@@ -94,10 +94,8 @@ TEST(CommandLine, PrintsJsonOfTheRecordsFields) {
 }
 
 TEST(CommandLine, KeepsTheUsersChoices) {
-  const std::filesystem::path home =
-      std::filesystem::temp_directory_path() / ("cli-test-" + std::to_string(getpid()));
-  std::filesystem::create_directories(home);
-  const std::string own = "HOME=" + home.string() + " DISPLAY= WAYLAND_DISPLAY=";
+  const TemporaryDirectory home;
+  const std::string own = "HOME=" + home.path().string() + " DISPLAY= WAYLAND_DISPLAY=";
   const struct {
     std::string arguments;
     int exitCode;
@@ -147,7 +145,6 @@ TEST(CommandLine, KeepsTheUsersChoices) {
   const ProgramResult unsaved = run("2>&1 display add emoji", own + " XDG_CONFIG_HOME=/dev/null");
   EXPECT_EQ(unsaved.exitCode, 3);
   EXPECT_THAT(unsaved.output, HasSubstr("cannot be saved"));
-  std::filesystem::remove_all(home);
 }
 
 TEST(CommandLine, SpeaksTheUsersLanguage) {

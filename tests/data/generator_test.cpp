@@ -2,24 +2,18 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
-#include <fstream>
 
 #include "tests/support/program.h"
+#include "tests/support/sandbox.h"
 
 namespace glyph {
 namespace {
 
 namespace fs = std::filesystem;
 
-std::string contentOf(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 TEST(Generator, StopsTheBuildAtAFaultySourceWithFileAndLine) {
-  const fs::path folder = fs::temp_directory_path() / ("generator-test-" + std::to_string(getpid()));
+  const TemporaryDirectory folder;
   const fs::path sources = folder / "sources";
-  fs::create_directories(folder);
   fs::copy(SOURCES, sources, fs::copy_options::recursive);
   const std::string command =
       std::string(GENERATOR) + " " + sources.string() + " " + (folder / "out").string() + " 2>&1";
@@ -48,7 +42,7 @@ TEST(Generator, StopsTheBuildAtAFaultySourceWithFileAndLine) {
       {"control-names.tsv", "\n", "\r\n", "carriage return"},
   };
   for (const auto& [file, what, with, message] : cases) {
-    const std::string original = contentOf(sources / file);
+    const std::string original = fileContent(sources / file);
     const std::size_t place = original.find(what);
     ASSERT_NE(place, std::string::npos) << file << ": " << what;
     std::ofstream(sources / file, std::ios::binary)
@@ -56,9 +50,8 @@ TEST(Generator, StopsTheBuildAtAFaultySourceWithFileAndLine) {
     const ProgramResult result = runProgram(command);
     EXPECT_EQ(result.exitCode, 1) << file << ": " << with;
     EXPECT_THAT(result.output, testing::HasSubstr(message));
-    std::ofstream(sources / file, std::ios::binary) << original;
+    writeFile(sources / file, original);
   }
-  fs::remove_all(folder);
 }
 
 }  // namespace

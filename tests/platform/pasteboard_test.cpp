@@ -15,18 +15,14 @@
 
 #include "glyphorium/platform/desktop_pasteboard.h"
 #include "glyphorium/platform/terminal_pasteboard.h"
-#include "tests/platform/sandbox.h"
+#include "tests/support/recorded_diagnostics.h"
+#include "tests/support/sandbox.h"
 
 namespace glyph {
 namespace {
 
 using namespace std::chrono_literals;
 using namespace std::string_literals;
-using test::CapturedDiagnostics;
-using test::fileContent;
-using test::inChild;
-using test::ScopedVariable;
-using test::TemporaryDirectory;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -93,7 +89,7 @@ TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
       for (const auto& [name, body] :
            {std::pair{"xclip", row.xclip}, {"wl-copy", row.wlCopy}, {"xsel", row.xsel}}) {
         if (body == missing) continue;
-        test::writeFile(directory / name, "#!/bin/sh\nprintf '"s + name + " ' >>\"$DIR/log\"\n" + body);
+        writeFile(directory / name, "#!/bin/sh\nprintf '"s + name + " ' >>\"$DIR/log\"\n" + body);
         chmod((directory / name).c_str(), 0700);
       }
       const ScopedVariable variables[] = {{"PATH", directory / ""},
@@ -101,7 +97,7 @@ TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
                                           {"DISPLAY", row.display},
                                           {"WAYLAND_DISPLAY", row.waylandDisplay},
                                           {"XDG_CURRENT_DESKTOP", row.desktop}};
-      CapturedDiagnostics diagnostics;
+      RecordedDiagnostics diagnostics;
       const bool hangs = row.problem.find("in time") != std::string::npos;
       DesktopPasteboard pasteboard(hangs ? 1s : 20s);
       if (pidfd) {
@@ -128,7 +124,7 @@ TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
 
 TEST(DesktopPasteboard, WhatStaysBehindHoldsNothingOfTheHost) {
   const TemporaryDirectory directory;
-  test::writeFile(directory / "xclip", "#!/bin/sh\n/bin/sleep 1000 & echo $! >\"$DIR/process\"\n");
+  writeFile(directory / "xclip", "#!/bin/sh\n/bin/sleep 1000 & echo $! >\"$DIR/process\"\n");
   chmod((directory / "xclip").c_str(), 0700);
   const ScopedVariable variables[] = {
       {"PATH", directory / ""}, {"DIR", directory / ""}, {"DISPLAY", "x"}, {"WAYLAND_DISPLAY", {}}};
@@ -216,7 +212,7 @@ TEST(DesktopPasteboard, TextOutlivesItsWriterUnderX11) {
     // xsel detaches itself a moment before the clipboard is its own.
     EXPECT_TRUE(comesAbout([] { return output("xclip -selection clipboard -o") == "by xsel →\n"; }));
   }
-  CapturedDiagnostics diagnostics;
+  RecordedDiagnostics diagnostics;
   server.freeze();
   EXPECT_FALSE(DesktopPasteboard(500ms).setPlainText("never arrives"));
   EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("no answer in time")));
@@ -231,7 +227,7 @@ TEST(DesktopPasteboard, TextOutlivesItsWriterUnderWayland) {
   chmod((directory / "").c_str(), 0755);
   std::filesystem::create_directory(runtime);
   chmod(runtime.c_str(), 0700);
-  test::writeFile(configuration, "xwayland disable\n");
+  writeFile(configuration, "xwayland disable\n");
   // The compositor refuses to run as root, but lets root's programs connect.
   std::string asNobody;
   if (getuid() == 0) {
@@ -250,7 +246,7 @@ TEST(DesktopPasteboard, TextOutlivesItsWriterUnderWayland) {
     EXPECT_THAT(output("wl-paste -l"), HasSubstr("text/plain;charset=utf-8\n"));
     EXPECT_TRUE(output("wl-paste -n") == text) << text.substr(0, 20);
   }
-  CapturedDiagnostics diagnostics;
+  RecordedDiagnostics diagnostics;
   server.freeze();
   EXPECT_FALSE(DesktopPasteboard(500ms).setPlainText("never arrives"));
   EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("no answer in time")));
@@ -276,7 +272,7 @@ TEST(TerminalPasteboard, AsksTheTerminalForWhatItCanTake) {
   EXPECT_EQ(sequence("\xff"), "\033]52;c;/w==\a");
   EXPECT_EQ(sequence(std::string(74'000, 'a')).size(), 8u + 98'668u);
 
-  CapturedDiagnostics diagnostics;
+  RecordedDiagnostics diagnostics;
   EXPECT_FALSE(pasteboard.setPlainText(""));
   EXPECT_FALSE(pasteboard.setPlainText(std::string(74'001, 'a')));
   EXPECT_FALSE(pasteboard.setPlainText(std::string(74'000, 'a'))) << "nobody reads";

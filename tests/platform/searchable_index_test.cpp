@@ -16,17 +16,15 @@
 #include "glyphorium/platform/searchable_index_reader.h"
 #include "glyphorium/platform/sqlite_internal.h"
 #include "glyphorium/platform/sqlite_searchable_index.h"
-#include "tests/platform/sandbox.h"
+#include "tests/support/recorded_diagnostics.h"
+#include "tests/support/sandbox.h"
 
 namespace glyph {
 namespace {
 
 using namespace std::chrono_literals;
 using namespace std::string_literals;
-using test::CapturedDiagnostics;
 
-using test::ScopedVariable;
-using test::TemporaryDirectory;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -155,7 +153,7 @@ TEST(SearchableIndex, FindsSymbolsAndWordsByWhatPeopleType) {
                                   std::string(100'000, '"'),
                                   manyTerms};
   SearchableIndexReader reader(directory / "index");
-  CapturedDiagnostics diagnostics;
+  RecordedDiagnostics diagnostics;
   for (const auto& [query, found] : cases) EXPECT_EQ(identifiers(reader.search(query, 100)), found) << query;
   for (const auto& query : notFound) EXPECT_THAT(reader.search(query, 100), IsEmpty()) << query;
   EXPECT_EQ(reader.search("qv:", 100).size(), 13u);
@@ -216,7 +214,7 @@ TEST(SearchableIndex, RepairsAndReportsUnusableFiles) {
     for (int i = 0; i < 500; ++i) items.push_back(glyphItem(std::to_string(i), "→", "Arrow"));
     ASSERT_EQ(indexAndWait(index, items), "");
   }
-  const std::string whole = test::fileContent(file);
+  const std::string whole = fileContent(file);
   ASSERT_GT(whole.size(), 40'000u);
   const auto overwritten = [&](std::size_t at, std::size_t length) {
     return std::string(whole).replace(at, length, length, '\x5a');
@@ -228,8 +226,8 @@ TEST(SearchableIndex, RepairsAndReportsUnusableFiles) {
   for (const auto& content : contents) {
     SCOPED_TRACE(&content - contents);
     for (const char* const suffix : {"-wal", "-shm"}) std::filesystem::remove(file.string() + suffix);
-    test::writeFile(file, content);
-    CapturedDiagnostics diagnostics;
+    writeFile(file, content);
+    RecordedDiagnostics diagnostics;
     SearchableIndexReader reader(file);
     for (int question = 0; question < 3; ++question) {
       EXPECT_THAT(reader.search("arrow", 10), IsEmpty());
@@ -247,7 +245,7 @@ TEST(SearchableIndex, RepairsAndReportsUnusableFiles) {
   Database(file, SQLITE_OPEN_READWRITE).execute("DELETE FROM token_data");
   SearchableIndexReader bystander(file);
   EXPECT_EQ(bystander.count(), 1u);
-  CapturedDiagnostics diagnostics;
+  RecordedDiagnostics diagnostics;
   SqliteSearchableIndex index(file);
   EXPECT_EQ(indexAndWait(index, {glyphItem("7", "→", "Arrow")}), "");
   EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("emptied")));
@@ -256,7 +254,7 @@ TEST(SearchableIndex, RepairsAndReportsUnusableFiles) {
 
 TEST(SearchableIndex, TellsTheCompletionWhatTheDiskRefused) {
   const TemporaryDirectory directory;
-  test::writeFile(directory / "file", "");
+  writeFile(directory / "file", "");
   SqliteSearchableIndex nowhere(directory / "file/index");
   EXPECT_THAT(indexAndWait(nowhere, {glyphItem("1", "→", "Arrow")}), HasSubstr("Not a directory"));
 
@@ -363,7 +361,7 @@ TEST(SearchableIndex, KeepsWhatItAcknowledgedWhenItsProcessIsKilled) {
   const TemporaryDirectory directory;
   const auto file = directory / "index";
   SearchableIndexReader reader(file);
-  CapturedDiagnostics diagnostics;
+  RecordedDiagnostics diagnostics;
   std::minstd_rand random(std::random_device{}());
   std::size_t kept = 0, total = 0;
   for (int round = 0; round < rounds; ++round) {

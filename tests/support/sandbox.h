@@ -8,16 +8,11 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
-#include "glyphorium/platform/diagnostics.h"
-
-namespace glyph::test {
+namespace glyph {
 
 /// A new directory of this test's own, deleted in the end.
 class TemporaryDirectory {
@@ -32,6 +27,7 @@ class TemporaryDirectory {
   }
   TemporaryDirectory(const TemporaryDirectory&) = delete;
   TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;
+  const std::filesystem::path& path() const { return path_; }
   std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
 
  private:
@@ -57,29 +53,6 @@ class ScopedVariable {
   std::optional<std::string> before_;
 };
 
-/// Collects the diagnostics of the scope.
-class CapturedDiagnostics {
- public:
-  CapturedDiagnostics() {
-    setDiagnosticsSink([this](std::string_view line) {
-      const std::lock_guard lock(mutex_);
-      lines_.emplace_back(line);
-    });
-  }
-  ~CapturedDiagnostics() { setDiagnosticsSink({}); }
-  CapturedDiagnostics(const CapturedDiagnostics&) = delete;
-  CapturedDiagnostics& operator=(const CapturedDiagnostics&) = delete;
-  /// The lines since the last call.
-  std::vector<std::string> take() {
-    const std::lock_guard lock(mutex_);
-    return std::exchange(lines_, {});
-  }
-
- private:
-  std::mutex mutex_;
-  std::vector<std::string> lines_;
-};
-
 inline std::string fileContent(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), {}};
@@ -99,4 +72,4 @@ int inChild(Body body) {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-}  // namespace glyph::test
+}  // namespace glyph
