@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+// The user's choices when the program that changes them is killed, or runs several times at once.
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <signal.h>
+
+#include <cstdlib>
+#include <random>
+#include <set>
+
+#include "glyphorium/platform/sqlite_settings_store.h"
+#include "tests/support/program.h"
+#include "tests/support/sandbox.h"
+
+namespace glyph {
+namespace {
+
+using Names = std::vector<std::string>;
+
+// Starts the program in the environment of this process, without output.
+pid_t start(Names arguments) {
+  const pid_t child = fork();
+  if (child != 0) return child;
+  std::vector<char*> argv{const_cast<char*>(PROGRAM)};
+  for (std::string& argument : arguments) argv.push_back(argument.data());
+  argv.push_back(nullptr);
+  const int null = open("/dev/null", O_RDWR);
+  for (const int standard : {0, 1, 2}) dup2(null, standard);
+  execv(PROGRAM, argv.data());
+  _exit(127);
+}
+
+struct State {
+  Names groups, codes;
+  bool operator==(const State&) const = default;
+};
+
+State stored(const TemporaryDirectory& config) {
+  SqliteSettingsStore store(config / "org.glyphorium.Glyphorium/settings.sqlite");
+  const auto list = [&](const char* key) {
+    const auto value = store.object(key);
+    return value ? std::get<Names>(*value) : Names();
+  };
+  return {list("displayedGroups"), list("customAddedEntities")};
+}
+
+TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
+  const TemporaryDirectory config;
+  const TemporaryDirectory data;
+  const ScopedVariable configHome("XDG_CONFIG_HOME", config.path().string());
+  const ScopedVariable dataHome("XDG_DATA_HOME", data.path().string());
+  const char* const asked = std::getenv("GLYPHORIUM_KILL_ROUNDS");
+  const int rounds = asked ? std::atoi(asked) : 60;
+  std::mt19937 random(20260101);
+  // One change after the other, round and round. Adding also displays the group "custom": both are one step,
+  // or a killed program would leave one without the other.
+  const struct {
+    Names arguments;
+    State after;
+  } changes[] = {{{"add", "2603"}, {{"custom", "arrows"}, {"2603"}}},
+                 {{"display", "set", "arrows"}, {{"arrows"}, {"2603"}}},
+                 {{"remove", "2603"}, {{"arrows"}, {}}}};
+  State before{{"arrows"}, {}};
+  ASSERT_EQ(runProgram(PROGRAM " display set arrows").exitCode, 0);
+  std::size_t changed = 0;
+  for (int round = 0; round < rounds; ++round) {
+    const auto& [arguments, after] = changes[changed % std::size(changes)];
+    const pid_t child = start(arguments);
+    ASSERT_GT(child, 0);
+    usleep(std::uniform_int_distribution<useconds_t>(0, 30000)(random));
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    const State now = stored(config);
+    ASSERT_TRUE(now == before || now == after)
+        << "round " << round << ": " << testing::PrintToString(now.groups)
+        << testing::PrintToString(now.codes);
+    if (now == after) ++changed;
+    before = now;
+  }
+  RecordProperty("changed", static_cast<int>(changed));
+  EXPECT_GT(changed, 0u);                                // some were killed after their change,
+  EXPECT_LT(changed, static_cast<std::size_t>(rounds));  // some before
+}
+
+TEST(SeveralPrograms, LoseNothingOfEachOther) {
+  const TemporaryDirectory config;
+  const TemporaryDirectory data;
+  const ScopedVariable configHome("XDG_CONFIG_HOME", config.path().string());
+  const ScopedVariable dataHome("XDG_DATA_HOME", data.path().string());
+  std::vector<pid_t> children;
+  std::set<std::string> wanted;
+  for (int i = 0; i < 24; ++i) {
+    char code[8];
+    std::snprintf(code, sizeof code, "%04x", 0x2600 + i);
+    wanted.insert(code);
+    children.push_back(start({"add", code}));
+  }
+  for (const pid_t child : children) {
+    int status = -1;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+  }
+  const Names codes = stored(config).codes;
+  EXPECT_EQ(std::set<std::string>(codes.begin(), codes.end()), wanted);
+}
+
+}  // namespace
+}  // namespace glyph
