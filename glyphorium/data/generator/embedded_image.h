@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -24,6 +25,11 @@ class EmbeddedImage {
   /// The name index: pairs of code point and offset, ascending by code point.
   void addNameIndex(const std::vector<std::pair<char32_t, std::uint32_t>>& index);
 
+  /// Facts of the search: texts by code point, of a kind (an enumerator of SearchFactKind) and a language.
+  void addSearchFacts(std::string kind, std::string language,
+                      const std::map<char32_t, std::vector<std::string>>& facts);
+  void addSynonyms(std::string_view lines);
+
   /// Writes embedded.bin, embedded.S, embedded_image.cpp and glyphorium/data/group_tables.h below the folder.
   void write(const std::filesystem::path& folder) const;
 
@@ -38,11 +44,27 @@ class EmbeddedImage {
     std::size_t size;
   };
 
+  struct Piece {
+    std::size_t offset;
+    std::size_t size;
+  };
+  struct SearchFacts {
+    std::string kind;
+    std::string language;
+    Piece index;
+    Piece texts;
+  };
+
+  static std::string view(Piece piece);
+  Piece add(std::string_view bytes);
+  std::string searchFactDefinitions() const;
+
   std::string blob_;
   std::vector<Text> texts_;
   std::size_t lastOffset_ = 0;
-  std::size_t nameIndexOffset_ = 0;
-  std::size_t nameIndexSize_ = 0;
+  Piece nameIndex_{};
+  std::vector<SearchFacts> searchFacts_;
+  Piece synonyms_{};
 };
 
 }  // namespace glyph::generator

@@ -10,6 +10,7 @@
 #include "glyphorium/data/generator/figures.h"
 #include "glyphorium/data/generator/group_tables.h"
 #include "glyphorium/data/generator/name_table.h"
+#include "glyphorium/data/generator/search_facts.h"
 
 namespace {
 
@@ -68,6 +69,7 @@ void generate(const std::filesystem::path& sources, const std::filesystem::path&
   figures.reached("bytes of additionalJson", enrichment.json.size());
 
   addNameTable(names, image, figures);
+  addSearchFacts(sources, names, image, figures);
   figures.check();
   image.write(folder);
 }
