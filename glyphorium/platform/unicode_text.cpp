@@ -4,6 +4,7 @@
 #include <unicode/brkiter.h>
 #include <unicode/bytestream.h>
 #include <unicode/casemap.h>
+#include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
 #include <unicode/utext.h>
 #include <unicode/utf8.h>
@@ -119,6 +120,21 @@ std::string utf8(std::int64_t codePoint) {
 
 bool isCombining(char32_t codePoint) {
   return (U_GET_GC_MASK(static_cast<UChar32>(codePoint)) & U_GC_M_MASK) != 0;
+}
+
+bool isAlphanumeric(char32_t codePoint) {
+  return u_isalnum(static_cast<UChar32>(codePoint)) != 0;
+}
+
+std::string composed(std::string_view text) {
+  if (isAscii(text) || !isWellFormedUtf8(text)) return std::string(text);
+  UErrorCode status = U_ZERO_ERROR;
+  std::string result;
+  icu::StringByteSink<std::string> sink(&result, length32(text));
+  const icu::Normalizer2* const form = icu::Normalizer2::getNFCInstance(status);
+  if (U_SUCCESS(status))
+    form->normalizeUTF8(0, icu::StringPiece(text.data(), length32(text)), sink, nullptr, status);
+  return U_SUCCESS(status) ? result : std::string(text);
 }
 
 bool isInvisible(char32_t codePoint) {

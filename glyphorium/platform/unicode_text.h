@@ -33,6 +33,12 @@ GLYPHORIUM_EXPORT bool isInvisible(char32_t codePoint);
 /// Whether the code point combines with the one before it (general category M).
 GLYPHORIUM_EXPORT bool isCombining(char32_t codePoint);
 
+/// Whether the code point is a letter or a decimal digit.
+GLYPHORIUM_EXPORT bool isAlphanumeric(char32_t codePoint);
+
+/// The text in Normalization Form C: "e" and U+0301 become "é". Ill-formed text stays as it is.
+GLYPHORIUM_EXPORT std::string composed(std::string_view text);
+
 /// Whether the text is well-formed UTF-8 (no surrogates, nothing above U+10FFFF, no overlong forms).
 GLYPHORIUM_EXPORT bool isWellFormedUtf8(std::string_view text);
 

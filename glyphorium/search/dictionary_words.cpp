@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+
+#include "glyphorium/search/matching_internal.h"
+#include "glyphorium/search/words_internal.h"
+
+namespace glyph::search {
+namespace {
+
+void addVariant(const Index& index, QueryWord& word, std::string_view variant) {
+  const WordRange range = index.exactly(variant);
+  if (!range.empty()) word.alternatives.push_back({range, WordMatch::variant});
+}
+
+// The singulars that the word may be the plural of, by the endings of the languages that the catalog knows.
+void addSingulars(const Index& index, QueryWord& word) {
+  const std::string_view text = word.text;
+  if (text.size() < 4 || text.ends_with("ss")) return;
+  if (text.ends_with("s")) addVariant(index, word, text.substr(0, text.size() - 1));
+  if (text.ends_with("es")) addVariant(index, word, text.substr(0, text.size() - 2));
+  if (text.ends_with("en") || text.ends_with("er")) addVariant(index, word, text.substr(0, text.size() - 2));
+  if (text.ends_with("e") || text.ends_with("n")) addVariant(index, word, text.substr(0, text.size() - 1));
+  if (text.ends_with("ies")) addVariant(index, word, std::string(text.substr(0, text.size() - 3)) + "y");
+}
+
+void addSynonyms(const Index& index, QueryWord& word) {
+  const auto found =
+      std::lower_bound(index.synonyms.begin(), index.synonyms.end(), word.text,
+                       [](const auto& entry, const std::string& text) { return entry.first < text; });
+  if (found == index.synonyms.end() || found->first != word.text) return;
+  for (std::string_view rest = found->second; !rest.empty();) {
+    const std::string_view synonym = rest.substr(0, rest.find('\t'));
+    addVariant(index, word, synonym);
+    rest.remove_prefix(std::min(synonym.size() + 1, rest.size()));
+  }
+}
+
+}  // namespace
+
+void addDictionaryWords(const Index& index, QueryWord& word, bool prefixes) {
+  WordRange range = index.withPrefix(word.text);
+  if (!range.empty() && index.word(range.first) == word.text) {
+    word.alternatives.push_back({{range.first, range.first + 1}, WordMatch::whole});
+    ++range.first;
+  }
+  addSingulars(index, word);
+  addSynonyms(index, word);
+  if (prefixes && !range.empty()) word.alternatives.push_back({range, WordMatch::prefix});
+}
+
+std::vector<SearchRange> nameRanges(const Index& index, const std::vector<QueryWord>& words,
+                                    std::string_view name) {
+  std::vector<SearchRange> ranges;
+  WordReader reader(name);
+  while (reader.next()) {
+    std::size_t size = 0;
+    const auto cover = [&](const QueryWord& word, const Alternative& alternative) {
+      // Every word of a name is in the dictionary, so it is in the range if it is between its ends.
+      if (reader.word() < index.word(alternative.words.first) ||
+          reader.word() > index.word(alternative.words.last - 1)) {
+        return;
+      }
+      const bool partly =
+          alternative.match == WordMatch::prefix && reader.word().size() == reader.end() - reader.begin();
+      size = std::max(size, partly ? word.text.size() : reader.end() - reader.begin());
+    };
+    for (const QueryWord& word : words) {
+      for (const Alternative& alternative : word.alternatives) cover(word, alternative);
+    }
+    if (size > 0) ranges.push_back({reader.begin(), reader.begin() + size});
+  }
+  return ranges;
+}
+
+}  // namespace glyph::search

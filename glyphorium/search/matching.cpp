@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+
+#include "glyphorium/search/matching_internal.h"
+
+namespace glyph::search {
+namespace {
+
+// The ranking. A match costs the base of its tier, some detail within the tier, and the character's prior
+// (static_rank.cpp). Bases are so far apart that nothing within a tier reaches the next one:
+//
+// - Who types a whole name, alias, HTML name, term or annotation means what is called so. A name is no better
+//   than the others here: "lightning" is rather the sign of high voltage than the astrological one that
+//   Unicode calls so, which the prior knows and the names do not.
+// - Then all words as whole words of one text, in which they belong together; then of several texts.
+// - Then words still being typed, in the same order.
+// - A group says little of a character, a word within a usage note less.
+// - Mistyped words only come with queries that match nothing as they stand.
+constexpr std::uint32_t exactBase = 0;
+constexpr std::uint32_t exactVariantBase = 140;
+constexpr std::uint32_t wholeSpreadBase = 400;
+constexpr std::uint32_t prefixBase = 600;
+constexpr std::uint32_t prefixSpreadBase = 800;
+constexpr std::uint32_t groupBase = 1000;
+constexpr std::uint32_t noteBase = 1200;
+constexpr std::uint32_t exactTypoBase = 1400;
+constexpr std::uint32_t typoBase = 1600;
+constexpr std::uint32_t typoPrefixBase = 1800;
+constexpr std::uint32_t spreadTypo = 400;
+constexpr std::uint32_t variantExtra = 60;
+
+// A keyword names a trait that many characters share. An HTML name is often an abbreviation that happens to
+// be a word ("die", "image"); one that is spelled exactly as asked for is not penalised (see search.cpp).
+std::uint32_t kindDetail(PhraseKind kind) {
+  return kind == PhraseKind::keyword ? 8 : kind == PhraseKind::htmlName ? 4 : 0;
+}
+constexpr std::uint32_t extraWordDetail = 4;  // for each word of the phrase that nobody asked for
+constexpr std::uint32_t mostExtraWords = 8;
+constexpr std::uint32_t orderDetail = 3;    // the words stand in another order
+constexpr std::uint32_t unnamedDetail = 6;  // the words are not in the name: "star" is rather ★ than *
+constexpr std::uint32_t fillerDetail = 10;  // for each filler of the query that is missing
+constexpr std::uint32_t mostFillers = 3;
+
+struct PhraseState {
+  std::uint32_t epoch = 0;
+  std::uint8_t count = 0;    // of the query's words, from the first on, that it matches
+  std::uint8_t fillers = 0;  // likewise of the fillers
+  std::uint8_t lastPosition = 0;
+  std::uint8_t worst : 7 = 0;  // WordMatch
+  std::uint8_t ordered : 1 = 1;
+};
+
+struct DocState {
+  std::uint32_t epoch = 0;
+  std::uint32_t phrase = noPhrase;
+  std::uint32_t best = 0;  // cost of its best phrase that matches all words
+  std::uint8_t count = 0;
+  std::uint8_t worst = 0;
+  std::uint8_t current = 0;  // the best WordMatch of the word at hand
+  std::uint8_t fillers = 0;
+  bool named = false;  // all words are in its name
+};
+
+constexpr std::uint32_t noCost = 0xFFFFFFFF;
+
+// Working memory, kept for the next query. States of earlier queries are told by their epoch, so that nothing
+// needs clearing.
+struct Scratch {
+  std::vector<PhraseState> phrases;
+  std::vector<DocState> docs;
+  std::vector<std::uint32_t> touched;  // docs that match the first word
+  std::uint32_t epoch = 0;
+
+  void begin(const Index& index) {
+    if (phrases.size() < index.phrases.size()) phrases.resize(index.phrases.size());
+    if (docs.size() < index.docCount()) docs.resize(index.docCount());
+    touched.clear();
+    if (++epoch == 0) {
+      std::fill(phrases.begin(), phrases.end(), PhraseState{});
+      std::fill(docs.begin(), docs.end(), DocState{});
+      epoch = 1;
+    }
+  }
+};
+
+class Matcher {
+ public:
+  Matcher(const Index& index, const MatchFilter& filter, Scratch& scratch)
+      : index_(index), filter_(filter), scratch_(scratch), epoch_(scratch.epoch) {}
+
+  std::vector<Match> match(const std::vector<QueryWord>& words) {
+    std::vector<const QueryWord*> needed;
+    std::vector<const QueryWord*> fillers;
+    for (const QueryWord& word : words) (word.filler ? fillers : needed).push_back(&word);
+    if (needed.empty()) needed.swap(fillers);  // "sign" alone is what is looked for
+    needed_ = static_cast<std::uint8_t>(needed.size());
+    fillers_ = static_cast<std::uint8_t>(fillers.size());
+    for (std::size_t i = 0; i < needed.size(); ++i) matchNeeded(*needed[i], static_cast<std::uint8_t>(i));
+    for (std::size_t i = 0; i < fillers.size(); ++i) matchFiller(*fillers[i], static_cast<std::uint8_t>(i));
+    return result();
+  }
+
+ private:
+  // The language and the group of a phrase are the ones asked for.
+  bool counts(const Phrase& phrase) const {
+    return (filter_.languages >> phrase.language & 1) != 0 && (!filter_.docs || (*filter_.docs)[phrase.doc]);
+  }
+
+  void matchNeeded(const QueryWord& word, std::uint8_t i) {
+    for (const Alternative& alternative : word.alternatives) {
+      for (const std::uint32_t posting : index_.postingsOf(alternative.words)) {
+        const std::uint32_t number = posting >> 8;
+        const Phrase& phrase = index_.phrases[number];
+        if (i > 0 && (scratch_.docs[phrase.doc].epoch != epoch_ || scratch_.docs[phrase.doc].count < i))
+          continue;
+        if (!counts(phrase)) continue;
+        const auto match = phrase.kind == PhraseKind::note ? std::max(alternative.match, WordMatch::note)
+                                                           : alternative.match;
+        noteDoc(phrase.doc, i, match, number);
+        notePhrase(number, phrase, i, match, static_cast<std::uint8_t>(posting));
+      }
+    }
+    if (word.text.size() >= 3) matchGroups(word, i);
+  }
+
+  void noteDoc(std::uint32_t doc, std::uint8_t i, WordMatch match, std::uint32_t phrase) {
+    DocState& state = scratch_.docs[doc];
+    const auto quality = static_cast<std::uint8_t>(match);
+    if (state.epoch != epoch_) {
+      if (i > 0) return;
+      state = {epoch_, phrase, noCost, 1, 0, quality, 0, false};
+      scratch_.touched.push_back(doc);
+    } else if (state.count == i) {
+      state.worst = std::max(state.worst, state.current);
+      state.current = quality;
+      state.count = static_cast<std::uint8_t>(i + 1);
+    } else if (state.count == i + 1 && quality < state.current) {
+      state.current = quality;
+    }
+  }
+
+  void notePhrase(std::uint32_t number, const Phrase& phrase, std::uint8_t i, WordMatch match,
+                  std::uint8_t position) {
+    PhraseState& state = scratch_.phrases[number];
+    if (state.epoch != epoch_) {
+      state = {};
+      state.epoch = epoch_;
+    }
+    if (state.count != i) return;  // lacks a word, or has this one already, by a better match
+    state.ordered = state.ordered && (i == 0 || position > state.lastPosition);
+    state.lastPosition = position;
+    state.count = static_cast<std::uint8_t>(i + 1);
+    const auto quality = static_cast<std::uint8_t>(match);
+    if (quality > state.worst) state.worst = quality & 0x7F;
+    if (state.count == needed_) offer(number, phrase, state);
+  }
+
+  void matchGroups(const QueryWord& word, std::uint8_t i) {
+    for (const Group& group : index_.groups) {
+      const bool named =
+          std::any_of(group.words.begin(), group.words.end(),
+                      [&](const std::string& groupWord) { return groupWord.starts_with(word.text); });
+      if (!named) continue;
+      for (const std::uint32_t doc : group.docs) {
+        if (!filter_.docs || (*filter_.docs)[doc]) noteDoc(doc, i, WordMatch::group, noPhrase);
+      }
+    }
+  }
+
+  void matchFiller(const QueryWord& word, std::uint8_t i) {
+    for (const Alternative& alternative : word.alternatives) {
+      if (alternative.match != WordMatch::whole) continue;
+      for (const std::uint32_t posting : index_.postingsOf(alternative.words)) {
+        const std::uint32_t number = posting >> 8;
+        const Phrase& phrase = index_.phrases[number];
+        DocState& doc = scratch_.docs[phrase.doc];
+        if (doc.epoch != epoch_ || doc.count != needed_ || !counts(phrase)) continue;
+        if (doc.fillers == i) ++doc.fillers;
+        PhraseState& state = scratch_.phrases[number];
+        if (state.epoch != epoch_ || state.count != needed_ || state.fillers != i) continue;
+        ++state.fillers;
+        offer(number, phrase, state);
+      }
+    }
+  }
+
+  // A phrase that matches all words: it counts for its doc if it is the best one.
+  void offer(std::uint32_t number, const Phrase& phrase, const PhraseState& state) {
+    const std::uint32_t cost = costOf(phrase, state);
+    DocState& doc = scratch_.docs[phrase.doc];
+    if (phrase.kind == PhraseKind::name || phrase.kind == PhraseKind::replacedName) doc.named = true;
+    if (cost >= doc.best) return;
+    doc.best = cost;
+    doc.phrase = number;
+  }
+
+  std::uint32_t costOf(const Phrase& phrase, const PhraseState& state) const {
+    const unsigned matched = state.count + state.fillers;
+    const bool all = matched >= phrase.words || state.count >= phrase.coreWords;
+    const unsigned left = phrase.words > matched ? phrase.words - matched : 0;
+    std::uint32_t base = 0;
+    switch (static_cast<WordMatch>(state.worst)) {
+      case WordMatch::whole:
+        base = all ? exactBase : wholeBase;
+        break;
+      case WordMatch::variant:
+        base = all ? exactVariantBase : wholeBase + variantExtra;
+        break;
+      case WordMatch::prefix:
+        base = prefixBase;
+        break;
+      case WordMatch::group:
+      case WordMatch::note:
+        base = noteBase;
+        break;
+      case WordMatch::typo:
+        base = all ? exactTypoBase : typoBase;
+        break;
+      case WordMatch::typoPrefix:
+        base = typoPrefixBase;
+        break;
+    }
+    return base + kindDetail(phrase.kind) + extraWordDetail * std::min(left, mostExtraWords) +
+           (state.ordered ? 0 : orderDetail) +
+           fillerDetail * std::min<std::uint32_t>(fillers_ - std::min(state.fillers, fillers_), mostFillers);
+  }
+
+  // What a doc costs whose words stand in several of its phrases.
+  std::uint32_t spreadCost(const DocState& state) const {
+    const auto worst = static_cast<WordMatch>(std::max(state.worst, state.current));
+    const std::uint32_t missing =
+        fillerDetail * std::min<std::uint32_t>(fillers_ - std::min(state.fillers, fillers_), mostFillers);
+    switch (worst) {
+      case WordMatch::whole:
+        return wholeSpreadBase + missing;
+      case WordMatch::variant:
+        return wholeSpreadBase + variantExtra + missing;
+      case WordMatch::prefix:
+        return prefixSpreadBase + missing;
+      case WordMatch::group:
+        return groupBase + missing;
+      case WordMatch::note:
+        return noteBase + missing;
+      case WordMatch::typo:
+        return typoBase + spreadTypo + missing;
+      case WordMatch::typoPrefix:
+        break;
+    }
+    return typoPrefixBase + spreadTypo + missing;
+  }
+
+  std::vector<Match> result() const {
+    std::vector<Match> matches;
+    for (const std::uint32_t doc : scratch_.touched) {
+      const DocState& state = scratch_.docs[doc];
+      if (state.count != needed_) continue;
+      const std::uint32_t spread = spreadCost(state);
+      const bool together = state.best < spread;
+      const std::uint32_t unnamed = state.named ? 0 : unnamedDetail;
+      matches.push_back({(together ? state.best : spread) + unnamed + index_.docPrior[doc], doc,
+                         together || needed_ == 1 ? state.phrase : noPhrase});
+    }
+    return matches;
+  }
+
+  const Index& index_;
+  const MatchFilter& filter_;
+  Scratch& scratch_;
+  const std::uint32_t epoch_;
+  std::uint8_t needed_ = 0;
+  std::uint8_t fillers_ = 0;
+};
+
+}  // namespace
+
+std::vector<Match> matchWords(const Index& index, const std::vector<QueryWord>& words,
+                              const MatchFilter& filter) {
+  thread_local Scratch scratch;
+  scratch.begin(index);
+  return Matcher(index, filter, scratch).match(words);
+}
+
+}  // namespace glyph::search

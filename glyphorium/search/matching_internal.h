@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "glyphorium/search/index_internal.h"
+#include "glyphorium/search/search.h"
+
+namespace glyph::search {
+
+/// How a word of the query matches a word of the dictionary; the earlier the better.
+enum class WordMatch : std::uint8_t {
+  whole,
+  variant,  ///< a plural for a singular, a synonym
+  prefix,
+  group,  ///< the word stands in the name of the character's group
+  note,
+  typo,        ///< one letter differs
+  typoPrefix,  ///< likewise, and letters are missing at the end
+};
+
+/// Words of the dictionary that a word of the query may stand for.
+struct Alternative {
+  WordRange words;
+  WordMatch match;
+};
+
+struct QueryWord {
+  std::string text;                       ///< folded
+  std::vector<Alternative> alternatives;  ///< best first
+  bool filler = false;                    ///< need not match
+};
+
+/// A character found, and by which of its phrases; noPhrase where by its group or by several ones.
+struct Match {
+  std::uint32_t cost;
+  std::uint32_t doc;
+  std::uint32_t phrase;
+};
+inline constexpr std::uint32_t noPhrase = 0xFFFFFFFF;
+
+struct MatchFilter {
+  std::uint32_t languages = ~0u;            ///< by bit
+  const std::vector<char>* docs = nullptr;  ///< those that count, by doc; nullptr: all
+};
+
+/// What costs less, the character's prior included, is called what the query says, and no more.
+inline constexpr std::uint32_t wholeBase = 200;
+
+// Costs that other interpretations of a query are put between: better than every match of words, behind those
+// that match the query exactly, and last.
+inline constexpr std::uint32_t firstCost = 0;
+inline constexpr std::uint32_t behindExactCost = 195;
+inline constexpr std::uint32_t lastCost = 4000;
+
+/// All characters that match all words (fillers excepted), in no order.
+std::vector<Match> matchWords(const Index& index, const std::vector<QueryWord>& words,
+                              const MatchFilter& filter);
+
+/// Fills in the alternatives of a word: itself, its singular, its synonyms, and, if asked for, words that
+/// begin with it.
+void addDictionaryWords(const Index& index, QueryWord& word, bool prefixes);
+
+/// Adds the words of the dictionary that differ from the word by one letter left out, put in, replaced or
+/// exchanged with its neighbour. Nothing for words under four letters and numbers: everything is near them.
+void addMistypedWords(const Index& index, QueryWord& word);
+
+/// Other spellings of the words, the likeliest first: umlauts written "ae", joined words split, split words
+/// joined.
+std::vector<std::vector<std::string>> respellings(const Index& index, const std::vector<std::string>& words);
+
+/// What of the name the words match.
+std::vector<SearchRange> nameRanges(const Index& index, const std::vector<QueryWord>& words,
+                                    std::string_view name);
+
+}  // namespace glyph::search

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+
+#include "glyphorium/search/matching_internal.h"
+
+namespace glyph::search {
+namespace {
+
+// Walks the sorted dictionary as the tree of its words' letters: all words in a range share `depth` bytes.
+// One edit is spent somewhere on the way down; what is left of the query's word must then follow as it is.
+// That looks at some hundred ranges, where comparing every word would take a thousand times as many steps.
+class MistypedWords {
+ public:
+  MistypedWords(const Index& index, QueryWord& word) : index_(index), word_(word), text_(word.text) {}
+
+  void find() {
+    WordRange range{0, index_.wordCount()};
+    std::string prefix;
+    for (std::size_t depth = 0;; ++depth) {
+      editAt(depth, prefix, range);
+      if (depth == text_.size()) break;
+      prefix += text_[depth];
+      range = index_.withPrefix(prefix, range);
+      if (range.empty()) break;
+    }
+    const auto byMatch = [](const Alternative& a, const Alternative& b) { return a.match < b.match; };
+    std::stable_sort(word_.alternatives.begin(), word_.alternatives.end(), byMatch);
+  }
+
+ private:
+  // All words of the range begin with `prefix`, the first `depth` letters of the text; the edit comes here.
+  void editAt(std::size_t depth, const std::string& prefix, WordRange range) {
+    const std::string_view rest = text_.substr(depth);
+    if (!rest.empty()) accept(prefix, rest.substr(1), range);  // one letter too many
+    if (rest.size() >= 2 && rest[0] != rest[1])
+      accept(prefix + rest[1] + rest[0], rest.substr(2), range);  // two letters exchanged
+    // Every letter that may follow: in place of the text's, or missing in it.
+    for (std::uint32_t first = range.first; first < range.last;) {
+      const std::string_view word = index_.word(first);
+      if (word.size() == depth) {
+        ++first;
+        continue;
+      }
+      const std::string longer = prefix + word[depth];
+      const WordRange below = index_.withPrefix(longer, {first, range.last});
+      if (!rest.empty() && word[depth] != rest[0]) accept(longer, rest.substr(1), below);
+      if (rest.empty() || word[depth] != rest[0]) accept(longer, rest, below);
+      first = below.last;
+    }
+  }
+
+  void accept(const std::string& prefix, std::string_view rest, WordRange within) {
+    std::string wanted = prefix;
+    wanted += rest;
+    WordRange range = index_.withPrefix(wanted, within);
+    if (range.empty() || wanted == text_) return;
+    if (index_.word(range.first) == wanted) {
+      word_.alternatives.push_back({{range.first, range.first + 1}, WordMatch::typo});
+      ++range.first;
+    }
+    if (!range.empty() && wanted.size() >= leastPrefix)
+      word_.alternatives.push_back({range, WordMatch::typoPrefix});
+  }
+
+  static constexpr std::size_t leastPrefix = 4;  // shorter ones begin half of the dictionary
+
+  const Index& index_;
+  QueryWord& word_;
+  std::string_view text_;
+};
+
+constexpr std::size_t leastLetters = 4;
+
+}  // namespace
+
+void addMistypedWords(const Index& index, QueryWord& word) {
+  const bool number =
+      std::all_of(word.text.begin(), word.text.end(), [](char c) { return c >= '0' && c <= '9'; });
+  if (word.text.size() < leastLetters || number) return;
+  MistypedWords(index, word).find();
+}
+
+}  // namespace glyph::search

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/search/query_parsing_internal.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "glyphorium/platform/unicode_text.h"
+#include "glyphorium/search/words_internal.h"
+
+namespace glyph::search {
+namespace {
+
+// Beyond what anybody types; bounds what a pasted file costs.
+constexpr std::size_t longestText = 1000;
+constexpr std::size_t longestWord = 64;
+constexpr std::size_t mostWords = 32;
+
+bool isBlank(char c) {
+  return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+std::string_view trimmed(std::string_view text) {
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+std::string_view shortened(std::string_view text) {
+  if (text.size() <= longestText) return text;
+  std::size_t size = longestText;
+  while (size > 0 && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80) --size;
+  return text.substr(0, size);
+}
+
+// Takes every group:NAME and group:"NAME WITH BLANKS" out of the text.
+std::string withoutGroups(std::string_view text, std::vector<std::string>& groups) {
+  constexpr std::string_view label = "group:";
+  std::string rest;
+  for (std::size_t i = 0; i < text.size();) {
+    const bool begins = (i == 0 || isBlank(text[i - 1])) && lowercased(text.substr(i, label.size())) == label;
+    if (!begins) {
+      rest += text[i++];
+      continue;
+    }
+    i += label.size();
+    const bool quoted = i < text.size() && text[i] == '"';
+    if (quoted) ++i;
+    std::size_t end = i;
+    while (end < text.size() && (quoted ? text[end] != '"' : !isBlank(text[end]))) ++end;
+    groups.emplace_back(text.substr(i, end - i));
+    i = std::min(end + (quoted ? 1 : 0), text.size());
+  }
+  return rest;
+}
+
+void addBareNumbers(std::string_view text, ParsedQuery& query) {
+  const auto all = [&](auto is) { return std::all_of(text.begin(), text.end(), is); };
+  const auto isDecimal = [](char c) { return c >= '0' && c <= '9'; };
+  const auto isHex = [&](char c) { return isDecimal(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); };
+  if (text.size() < 2 || text.size() > 8 || !all(isHex)) return;
+  // Four digits and more are a code point, for which nobody types fewer; fewer are rather a decimal one.
+  const bool likely = text.size() >= 4 && std::any_of(text.begin(), text.end(), isDecimal);
+  std::vector<std::uint32_t>& numbers = likely ? query.likelyNumbers : query.otherNumbers;
+  std::uint32_t value = 0;
+  const auto parse = [&](int base) { std::from_chars(text.data(), text.data() + text.size(), value, base); };
+  parse(16);
+  numbers.push_back(value);
+  if (!all(isDecimal)) return;
+  parse(10);
+  numbers.insert(likely ? numbers.end() : numbers.begin(), value);
+}
+
+// A cluster's precomposed character, if there is one, and its parts.
+void addParts(std::string_view cluster, std::vector<std::uint32_t>& characters) {
+  const auto add = [&](char32_t point) {
+    const auto value = static_cast<std::uint32_t>(point);
+    if (std::find(characters.begin(), characters.end(), value) == characters.end())
+      characters.push_back(value);
+  };
+  const std::u32string parts = codePoints(cluster);
+  for (const char32_t point : codePoints(composed(cluster))) {
+    if (parts.find(point) == std::u32string::npos) add(point);
+  }
+  for (const char32_t point : parts) {
+    // Joiners and variation selectors only say how the others are shown.
+    const bool joins = point == 0x200D || point == 0xFE0E || point == 0xFE0F;
+    if (!joins || parts.size() == 1) add(point);
+  }
+}
+
+void addCharacters(std::string_view text, ParsedQuery& query) {
+  const std::vector<std::string_view> clusters = graphemeClusters(text);
+  if (clusters.size() == 1) {
+    addParts(text, query.characters);
+    // The other case of a letter is the next thing that may be meant.
+    const char c = text.front();
+    if (text.size() == 1 && ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z')))
+      query.characters.push_back(static_cast<std::uint32_t>(c ^ 0x20));
+    return;
+  }
+  for (const std::string_view cluster : clusters) {
+    if (cluster.size() == 1 && isBlank(cluster.front())) continue;
+    WordReader reader(cluster);
+    const bool latin = reader.next() && static_cast<unsigned char>(reader.word().front()) < 0x80;
+    const bool ascii = cluster.size() == 1;
+    if (latin && ascii) continue;
+    addParts(cluster, latin || ascii ? query.otherCharacters : query.characters);
+  }
+}
+
+}  // namespace
+
+std::optional<ParsedQuery> parseQuery(std::string_view text) {
+  ParsedQuery query;
+  const std::string withBlanks = withoutGroups(shortened(text), query.groups);
+  const std::string_view rest = trimmed(withBlanks);
+  if (rest.empty()) {
+    // Blanks alone are looked for themselves.
+    if (query.groups.empty()) {
+      if (withBlanks.empty()) return std::nullopt;
+      query.characters.push_back(static_cast<std::uint32_t>(static_cast<unsigned char>(withBlanks.front())));
+    }
+    return query;
+  }
+  query.codes = parseCodes(rest);
+  addBareNumbers(rest, query);
+  addCharacters(rest, query);
+  query.bareText = rest;
+  query.signs = signKey(rest);
+  WordReader reader(rest);
+  while (query.words.size() < mostWords && reader.next()) {
+    query.words.emplace_back(reader.word().substr(0, longestWord));
+  }
+  return query;
+}
+
+}  // namespace glyph::search

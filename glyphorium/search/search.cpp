@@ -1,0 +1,307 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/search/search.h"
+
+#include <algorithm>
+#include <iterator>
+#include <new>
+#include <utility>
+
+#include "glyphorium/platform/preferred_languages.h"
+#include "glyphorium/search/index_internal.h"
+#include "glyphorium/search/matching_internal.h"
+#include "glyphorium/search/query_parsing_internal.h"
+#include "glyphorium/search/words_internal.h"
+
+namespace glyph {
+namespace search {
+namespace {
+
+constexpr std::size_t mostRespellings = 16;
+constexpr std::uint32_t nothing = 0xFFFFFFFF;
+
+SearchField fieldOf(PhraseKind kind) {
+  switch (kind) {
+    case PhraseKind::name:
+    case PhraseKind::replacedName:
+      break;
+    case PhraseKind::alias:
+      return SearchField::alias;
+    case PhraseKind::htmlName:
+      return SearchField::htmlName;
+    case PhraseKind::searchTerm:
+    case PhraseKind::everydayName:
+      return SearchField::searchTerm;
+    case PhraseKind::spokenName:
+    case PhraseKind::keyword:
+      return SearchField::annotation;
+    case PhraseKind::note:
+      return SearchField::note;
+  }
+  return SearchField::name;
+}
+
+// One query: collects what its interpretations find, each character once, and ranks it.
+class Run {
+ public:
+  Run(const Index& index, const SearchOptions& options, ParsedQuery query)
+      : index_(index), options_(options), query_(std::move(query)) {}
+
+  SearchResults results() {
+    chooseLanguages();
+    chooseGroups();
+    if (query_.words.empty() && query_.codes.empty() && query_.characters.empty() &&
+        query_.otherCharacters.empty()) {
+      if (query_.groups.empty()) return {};
+      wholeGroups();
+    } else {
+      interpret();
+    }
+    return ranked();
+  }
+
+ private:
+  struct Hit {
+    std::uint64_t order;  // cost << 32 | doc
+    std::uint32_t doc;
+    SearchField field;
+  };
+
+  // Parts of a respelled word prove something only where they stand in one text.
+  enum class Demand { any, together, exact };
+
+  void chooseLanguages() {
+    filter_.languages = 1u | 1u << 1;  // what is of no language, and English
+    for (const std::string& wanted : options_.languages ? *options_.languages : preferredLanguages()) {
+      for (std::size_t i = 1; i < index_.languages.size(); ++i) {
+        const std::string& language = index_.languages[i];
+        const bool regional = wanted.starts_with(language) && wanted.substr(language.size(), 1) == "-";
+        if (wanted == language || regional) filter_.languages |= 1u << i;
+      }
+    }
+  }
+
+  void chooseGroups() {
+    if (query_.groups.empty() && options_.groups.empty()) return;
+    allowed_.assign(index_.docCount(), 1);
+    if (!options_.groups.empty()) {
+      keepOnly([&](const Group& group) {
+        return std::find(options_.groups.begin(), options_.groups.end(), group.name) != options_.groups.end();
+      });
+    }
+    for (const std::string& typed : query_.groups) {
+      std::vector<std::string> words;
+      for (WordReader reader(typed); reader.next();) words.emplace_back(reader.word());
+      const bool isName = std::any_of(index_.groups.begin(), index_.groups.end(),
+                                      [&](const Group& g) { return g.words == words; });
+      keepOnly([&](const Group& group) {
+        if (isName) return group.words == words;
+        return !words.empty() && std::all_of(words.begin(), words.end(), [&](const std::string& word) {
+          return std::any_of(group.words.begin(), group.words.end(),
+                             [&](const std::string& groupWord) { return groupWord.starts_with(word); });
+        });
+      });
+    }
+    filter_.docs = &allowed_;
+  }
+
+  template <typename Predicate>
+  void keepOnly(Predicate isWanted) {
+    std::vector<char> members(index_.docCount(), 0);
+    for (const Group& group : index_.groups) {
+      if (!isWanted(group)) continue;
+      for (const std::uint32_t doc : group.docs) members[doc] = 1;
+    }
+    for (std::size_t doc = 0; doc < members.size(); ++doc) allowed_[doc] = allowed_[doc] && members[doc];
+  }
+
+  // In the order of the list.
+  void wholeGroups() {
+    for (std::uint32_t doc = 0; doc < index_.docCount(); ++doc) {
+      if (allowed_[doc]) hits_.push_back({index_.docEntity[doc], doc, SearchField::group});
+    }
+  }
+
+  void interpret() {
+    // What cannot be anything else comes first, in the order of the query.
+    std::uint32_t place = firstCost;
+    for (const CodeItem& item : query_.codes) {
+      if (item.htmlName.empty())
+        addDirect(index_.docOfCodePoint(item.codePoint), place++, SearchField::code);
+      else
+        addDirect(index_.docOfHtmlName(item.htmlName), place++, SearchField::htmlName);
+    }
+    for (const std::uint32_t number : query_.likelyNumbers)
+      addDirect(index_.docOfCodePoint(number), place++, SearchField::code);
+    for (const std::uint32_t character : query_.characters)
+      addDirect(index_.docOfCodePoint(character), place++, SearchField::character);
+    offset_ = place;
+    addSignPhrases();
+    for (const std::uint32_t number : query_.otherNumbers)
+      addDirect(index_.docOfCodePoint(number), offset_ + behindExactCost, SearchField::code);
+    const std::uint32_t bareName = index_.docOfHtmlName(query_.bareText);
+    const bool direct = !hits_.empty() || bareName != Index::noDoc;
+    addWords(!direct);
+    if (bareName != Index::noDoc)
+      addDirect(bareName, offset_ + index_.docPrior[bareName], SearchField::htmlName);
+    for (const std::uint32_t character : query_.otherCharacters) {
+      // The letters of words that were found need no identifying.
+      if (hits_.empty() || query_.words.empty() || !wordsFound_)
+        addDirect(index_.docOfCodePoint(character), offset_ + lastCost + place++, SearchField::character);
+    }
+  }
+
+  void addDirect(std::uint32_t doc, std::uint32_t cost, SearchField field) {
+    if (doc == Index::noDoc || (filter_.docs && !allowed_[doc])) return;
+    hits_.push_back({std::uint64_t{cost} << 32 | doc, doc, field});
+  }
+
+  void addSignPhrases() {
+    if (query_.signs.empty()) return;
+    auto phrase = std::lower_bound(index_.signPhrases.begin(), index_.signPhrases.end(),
+                                   std::pair{query_.signs, std::uint32_t{0}});
+    for (; phrase != index_.signPhrases.end() && phrase->first.starts_with(query_.signs); ++phrase) {
+      const Phrase& found = index_.phrases[phrase->second];
+      if ((filter_.languages >> found.language & 1) == 0) continue;
+      const bool whole = phrase->first.size() == query_.signs.size();
+      const std::uint32_t cost = offset_ + (whole ? 0 : behindExactCost) + index_.docPrior[found.doc];
+      addDirect(found.doc, cost, fieldOf(found.kind));
+    }
+  }
+
+  // The words; where they match nothing and nothing else did, other readings of them one after the other, the
+  // least surprising first.
+  void addWords(bool persistently) {
+    if (query_.words.empty()) return;
+    const std::vector<std::string>& words = query_.words;
+    const std::uint32_t best = match(dictionaryWords(words, true), filter_);
+    // A reading of the words as they stand that is not an exact one may be the lesser one: "thumbsup".
+    const bool found = best != nothing;
+    if (best < wholeBase || (!found && !persistently)) return;
+    auto others = respellings(index_, words);
+    others.resize(std::min(others.size(), mostRespellings));
+    const auto matchRespelled = [&](bool prefixes, Demand demand) {
+      return std::any_of(others.begin(), others.end(), [&](const std::vector<std::string>& respelled) {
+        return match(dictionaryWords(respelled, prefixes), filter_, demand) != nothing;
+      });
+    };
+    if (found) {
+      matchRespelled(false, Demand::exact);
+      return;
+    }
+    MatchFilter anyLanguage = filter_;
+    anyLanguage.languages = ~0u;
+    if (match(dictionaryWords(words, false), anyLanguage) != nothing) return;
+    approximate_ = true;
+    if (matchRespelled(false, Demand::together)) return;
+    if (match(mistypedWords(words, false), filter_) != nothing) return;
+    if (words.size() > 1 && match(mistypedWords(words, true), filter_) != nothing) return;
+    if (matchRespelled(true, Demand::together)) return;
+    if (match(dictionaryWords(words, true), anyLanguage) != nothing) return;
+    if (match(mistypedWords(words, false), anyLanguage) != nothing) return;
+    approximate_ = false;
+  }
+
+  std::vector<QueryWord> dictionaryWords(const std::vector<std::string>& words, bool prefixes) const {
+    std::vector<QueryWord> result;
+    for (const std::string& text : words) {
+      QueryWord& word = result.emplace_back(QueryWord{text, {}, isFiller(text)});
+      // One letter alone begins a tenth of all words and says nothing; behind other words it is the next one.
+      addDictionaryWords(index_, word, prefixes && (text.size() > 1 || result.size() > 1));
+    }
+    return result;
+  }
+
+  std::vector<QueryWord> mistypedWords(const std::vector<std::string>& words, bool all) const {
+    std::vector<QueryWord> result = dictionaryWords(words, true);
+    for (QueryWord& word : result) {
+      if (all || word.alternatives.empty()) addMistypedWords(index_, word);
+    }
+    return result;
+  }
+
+  // Adds what meets the demand; the cost of the best.
+  std::uint32_t match(std::vector<QueryWord> words, const MatchFilter& filter, Demand demand = Demand::any) {
+    std::vector<Match> matches = matchWords(index_, words, filter);
+    std::erase_if(matches, [&](const Match& match) {
+      return (demand != Demand::any && match.phrase == noPhrase) ||
+             (demand == Demand::exact && match.cost >= wholeBase);
+    });
+    std::uint32_t best = nothing;
+    hits_.reserve(hits_.size() + matches.size());
+    for (const Match& match : matches) {
+      const bool byName = match.phrase == noPhrase;
+      addDirect(match.doc, offset_ + match.cost,
+                byName ? SearchField::name : fieldOf(index_.phrases[match.phrase].kind));
+      best = std::min(best, match.cost);
+    }
+    if (best != nothing) {
+      words_.insert(words_.end(), std::make_move_iterator(words.begin()),
+                    std::make_move_iterator(words.end()));
+      wordsFound_ = true;
+    }
+    return best;
+  }
+
+  SearchResults ranked() {
+    SearchResults results;
+    results.approximate = approximate_;
+    // Each doc counts once, by its best hit.
+    std::vector<char> seen(index_.docCount(), 0);
+    for (const Hit& hit : hits_) results.total += std::exchange(seen[hit.doc], 1) == 0;
+    // Only what will be shown is sorted, with a reserve for the docs that were hit twice.
+    const auto isBefore = [](const Hit& a, const Hit& b) { return a.order < b.order; };
+    if (options_.limit < results.total) {
+      const std::size_t twice = hits_.size() - results.total;
+      const auto end = hits_.begin() + static_cast<std::ptrdiff_t>(options_.limit + twice);
+      std::nth_element(hits_.begin(), end, hits_.end(), isBefore);
+      hits_.erase(end, hits_.end());
+    }
+    std::sort(hits_.begin(), hits_.end(), isBefore);
+    for (const Hit& hit : hits_) {
+      if (results.results.size() == options_.limit) break;
+      if (std::exchange(seen[hit.doc], 0) == 0) continue;
+      results.results.push_back(
+          {index_.docEntity[hit.doc], hit.field, nameRanges(index_, words_, index_.name(hit.doc))});
+    }
+    return results;
+  }
+
+  const Index& index_;
+  const SearchOptions& options_;
+  ParsedQuery query_;
+  MatchFilter filter_;
+  std::vector<char> allowed_;
+  std::vector<Hit> hits_;
+  std::vector<QueryWord> words_;  // as they matched
+  std::uint32_t offset_ = 0;
+  bool wordsFound_ = false;
+  bool approximate_ = false;
+};
+
+}  // namespace
+}  // namespace search
+
+Search::Search(std::span<const Entity> entities) {
+  try {
+    index_ = std::make_shared<const search::Index>(search::buildIndex(entities));
+  } catch (const std::bad_alloc&) {
+    // Finds nothing.
+  }
+}
+
+SearchResults Search::query(std::string_view text, const SearchOptions& options) const {
+  if (!index_) return {};
+  try {
+    auto parsed = search::parseQuery(text);
+    if (!parsed) return {};
+    return search::Run(*index_, options, std::move(*parsed)).results();
+  } catch (const std::bad_alloc&) {
+    return {};
+  }
+}
+
+std::size_t Search::byteCount() const noexcept {
+  return index_ ? index_->byteCount() : 0;
+}
+
+}  // namespace glyph

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "glyphorium/catalog/entity/records.h"
+#include "glyphorium/platform/export.h"
+
+namespace glyph {
+
+namespace search {
+struct Index;
+}
+
+/// What of an entity a query matched best.
+enum class SearchField : std::uint8_t {
+  character,   ///< the character itself stands in the query
+  code,        ///< its code point does
+  name,        ///< Entity::name(), or the table's name that a better name replaced
+  alias,       ///< a formal alias or abbreviation of the Unicode Character Database
+  htmlName,    ///< a name of the HTML Standard
+  searchTerm,  ///< a search term or an everyday name
+  annotation,  ///< a spoken name or keyword of CLDR
+  group,
+  note,  ///< a word of a usage note
+};
+
+/// Bytes of Entity::name(), from begin up to end.
+struct SearchRange {
+  std::size_t begin;
+  std::size_t end;
+  bool operator==(const SearchRange&) const = default;
+};
+
+struct SearchResult {
+  std::size_t index;  ///< of the entity in the list that the Search was built from
+  SearchField field;
+  std::vector<SearchRange>
+      nameRanges;  ///< what the query's words match of the name, ascending, for highlighting
+};
+
+struct SearchResults {
+  std::vector<SearchResult> results;  ///< the best ones, best first
+  std::size_t total = 0;              ///< how many entities match, the ones beyond the limit included
+  bool approximate =
+      false;  ///< nothing matches the query as it stands: its words were respelled to find these
+};
+
+struct SearchOptions {
+  std::size_t limit = 100;
+  /// Languages whose words are looked at first ("de", "pt-BR"); nullopt: preferredLanguages(). English always
+  /// is. Words of the other languages that the catalog knows are found where these give nothing.
+  std::optional<std::vector<std::string>> languages;
+  /// Only entities of these groups, by their exact names; empty: of all.
+  std::vector<std::string> groups;
+};
+
+/// The interactive search over a list of entities. Immutable: any number of threads may query one object, and
+/// copies share their data. It keeps nothing of the list and does not notice its changes; build a new one for
+/// a new list. Building costs about as much as decoding the tables did, so do it when it is first needed.
+class GLYPHORIUM_EXPORT Search {
+ public:
+  /// Several entities of one hex code (a curated group and its home block) are one result, of which the first
+  /// one's index is reported; all their groups count.
+  explicit Search(std::span<const Entity> entities);
+
+  /// A query is one or more words in any order, which must all match; letter case, hyphens, underscores and
+  /// the diacritics of Latin letters do not count, and the last letters of a word may still be missing. Or it
+  /// is
+  /// - a code point: "U+2192", "u2192", "0x2192", "2192", "\u2192", "\u{1f600}", "8594", also several;
+  /// - a reference or its bare name: "&rarr;", "&rarr", "rarr", "&#8594;", "&#x2192;";
+  /// - characters: each is identified; of a sequence (combining marks, joiners, skin tones) its parts are,
+  /// after
+  ///   the precomposed character where there is one;
+  /// - signs typed for a character: "->", "(c)", "1/2".
+  /// What is several of these at once gives all of them, the likeliest first. "group:arrows" before, between
+  /// or behind words keeps to the groups of that name or, where none is called so, with these words in their
+  /// names (group:"misc symbols" with blanks); alone it gives the whole groups in the order of the list.
+  /// Where nothing matches, words are split, joined and corrected by one letter. Only the first 1,000 bytes
+  /// and 32 words count. No results for an empty text, for ill-formed UTF-8 beside nothing else, and when
+  /// memory runs out.
+  SearchResults query(std::string_view text, const SearchOptions& options = {}) const;
+
+  /// The memory that the object and its copies share.
+  std::size_t byteCount() const noexcept;
+
+ private:
+  std::shared_ptr<const search::Index> index_;
+};
+
+}  // namespace glyph

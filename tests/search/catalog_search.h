@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <algorithm>
+#include <charconv>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/platform/diagnostics.h"
+#include "glyphorium/search/search.h"
+
+namespace glyph::testing {
+
+/// The whole catalog and its search, made once.
+struct CatalogSearch {
+  std::vector<Entity> entities;
+  Search search;
+
+  static const CatalogSearch& instance() {
+    static const CatalogSearch made;
+    return made;
+  }
+
+  /// The hex codes of the results, best first.
+  std::vector<std::string> hexes(std::string_view query,
+                                 const SearchOptions& options = {100, {{"en"}}, {}}) const {
+    std::vector<std::string> result;
+    for (const SearchResult& found : search.query(query, options).results) {
+      result.push_back(entities[found.index].computed.hex);
+    }
+    return result;
+  }
+
+ private:
+  CatalogSearch() : entities(catalogEntities()), search(entities) {}
+
+  static std::vector<Entity> catalogEntities() {
+    Glyphorium catalog;
+    catalog.configure();
+    return catalog.buildInEntities();
+  }
+};
+
+}  // namespace glyph::testing
