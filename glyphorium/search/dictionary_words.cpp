@@ -20,6 +20,12 @@ void addSingulars(const Index& index, QueryWord& word) {
   if (text.ends_with("es")) addVariant(index, word, text.substr(0, text.size() - 2));
   if (text.ends_with("en") || text.ends_with("er")) addVariant(index, word, text.substr(0, text.size() - 2));
   if (text.ends_with("e") || text.ends_with("n")) addVariant(index, word, text.substr(0, text.size() - 1));
+  if (text.ends_with("e") || text.ends_with("i")) {
+    const std::string stem(text.substr(0, text.size() - 1));
+    for (const char* const ending : {"a", "e", "o", "ia"}) {
+      if (!text.ends_with(ending)) addVariant(index, word, stem + ending);
+    }
+  }
   if (text.ends_with("ies")) addVariant(index, word, std::string(text.substr(0, text.size() - 3)) + "y");
 }
 

@@ -17,7 +17,7 @@ namespace {
 // - A group says little of a character, a word within a usage note less.
 // - Mistyped words only come with queries that match nothing as they stand.
 constexpr std::uint32_t exactBase = 0;
-constexpr std::uint32_t exactVariantBase = 140;
+constexpr std::uint32_t exactVariantBase = 16;  // less than what tells a common character from a rare one
 constexpr std::uint32_t wholeSpreadBase = 400;
 constexpr std::uint32_t prefixBase = 600;
 constexpr std::uint32_t prefixSpreadBase = 800;

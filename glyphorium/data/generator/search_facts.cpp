@@ -99,8 +99,8 @@ std::string readSynonyms(const std::filesystem::path& file) {
     previous = line.columns[0];
     requireDistinctTexts(line, 0, false);
     for (std::size_t i = 0; i < line.columns.size(); ++i) {
-      if (line.columns[i].find_first_not_of("abcdefghijklmnopqrstuvwxyz") != std::string::npos)
-        line.fail("holds what is no word of lower-case letters");
+      if (line.columns[i].find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789") != std::string::npos)
+        line.fail("holds what is no word of lower-case letters and digits");
       text += (i ? "\t" : "") + line.columns[i];
     }
     text += '\n';
