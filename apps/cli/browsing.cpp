@@ -67,7 +67,7 @@ int showCharacters(Output& output, const std::vector<std::string>& arguments, bo
   for (const std::string& argument : arguments) {
     std::vector<Entity> entities = resolve(argument);
     if (entities.empty()) {
-      complain("no character is '" + argument + "'");
+      complain(unknownCharacter(argument));
       exitCode = nothingFound;
     }
     std::map<std::string, bool> shown;  // an argument that repeats a character shows it again, once

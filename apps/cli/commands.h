@@ -14,6 +14,17 @@ int listGroups(Output& output, bool json);
 int listEntities(Output& output, const std::vector<std::string>& groups, bool all, bool json);
 int showCharacters(Output& output, const std::vector<std::string>& arguments, bool json);
 
+// Searching.
+struct SearchRequest {
+  std::vector<std::string> words;
+  std::vector<std::string> groups;  // only in these; none: in all
+  int limit = 20;
+  bool displayed = false;  // only what the user displays, not the whole catalog
+  bool copy = false;       // the first result
+};
+int searchCatalog(Output& output, const SearchRequest& request, bool json);
+int identifyText(Output& output, const std::vector<std::string>& texts, bool json);
+
 // The user's choices.
 enum class Choice { show, add, remove, set };
 int displayGroups(Output& output, Choice choice, const std::vector<std::string>& groups, bool json);

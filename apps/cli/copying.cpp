@@ -54,7 +54,7 @@ int copyCharacter(Output& output, const std::string& argument, const std::string
   glyph::glyphorium().configure();
   const std::vector<Entity> entities = resolve(argument);
   if (entities.empty()) {
-    complain("no character is '" + argument + "'; 'glyphorium search' finds one by other words");
+    complain(unknownCharacter(argument));
     return nothingFound;
   }
   const Entity& entity = entities.front();

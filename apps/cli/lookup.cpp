@@ -7,6 +7,7 @@
 
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/platform/unicode_text.h"
+#include "glyphorium/search/search.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace cli {
@@ -102,6 +103,15 @@ std::vector<Entity> resolve(std::string_view argument) {
     return glyph::lowercased(entity.computed.fallbackName) == lower ||
            glyph::lowercased(entity.name()) == lower;
   });
+}
+
+std::string unknownCharacter(const std::string& argument) {
+  const std::vector<Entity>& entities = glyph::glyphorium().buildInEntities();
+  const auto found = glyph::Search(entities).query(argument, {1, std::nullopt, {}}).results;
+  std::string message = "no character is '" + argument + "'";
+  if (found.empty()) return message;
+  const Entity& nearestOne = entities[found.front().index];
+  return message + "; did you mean " + nearestOne.computed.hex + " (" + nearestOne.name() + ")?";
 }
 
 std::optional<std::string> groupNamed(std::string_view name) {

@@ -23,6 +23,9 @@ std::vector<glyph::Entity> entitiesOf(char32_t codePoint);
 /// Empty where nothing matches.
 std::vector<glyph::Entity> resolve(std::string_view argument);
 
+/// A sentence that offers what a search finds for an argument that is no character's exact name.
+std::string unknownCharacter(const std::string& argument);
+
 /// The group's name as the catalog spells it, letter case aside.
 std::optional<std::string> groupNamed(std::string_view name);
 

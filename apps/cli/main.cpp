@@ -17,6 +17,7 @@ struct Options {
   bool all = false;
   std::vector<std::string> words;
   std::string word;
+  cli::SearchRequest search;
   std::string form = "character";
   int limit = 20;
 };
@@ -51,6 +52,35 @@ void addBrowsing(CLI::App& app, Options& options, Run& run) {
   addJson(*show, options);
   show->callback([&] {
     run = [&](cli::Output& output) { return cli::showCharacters(output, options.words, options.json); };
+  });
+}
+
+void addSearching(CLI::App& app, Options& options, Run& run) {
+  CLI::App* const search =
+      app.add_subcommand("search", "Find characters by name, meaning, code, HTML name ...");
+  search
+      ->add_option("WORDS", options.search.words,
+                   "Words in any order, a code, an HTML reference, a character")
+      ->required();
+  search->add_flag("--displayed", options.search.displayed, "Only in the displayed groups");
+  search->add_option("--limit", options.search.limit, "At most so many")
+      ->capture_default_str()
+      ->check(CLI::PositiveNumber);
+  search->add_option("--group", options.search.groups, "Only in this group; may be repeated")
+      ->type_name("GROUP")
+      ->expected(1)
+      ->take_all();
+  search->add_flag("--copy", options.search.copy, "Copy the first one to the clipboard");
+  addJson(*search, options);
+  search->callback([&] {
+    run = [&](cli::Output& output) { return cli::searchCatalog(output, options.search, options.json); };
+  });
+
+  CLI::App* const identify = app.add_subcommand("identify", "Name each character of a text");
+  identify->add_option("TEXT", options.words, "The text, or - for standard input")->required();
+  addJson(*identify, options);
+  identify->callback([&] {
+    run = [&](cli::Output& output) { return cli::identifyText(output, options.words, options.json); };
   });
 }
 
@@ -207,6 +237,7 @@ int main(int argc, char** argv) {
   app.require_subcommand(1);
   app.fallthrough();
   addBrowsing(app, options, run);
+  addSearching(app, options, run);
   addChoices(app, options, run);
   addCopying(app, options, run);
   addIndexing(app, options, run);

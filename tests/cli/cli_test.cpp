@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <nlohmann/json.hpp>
+#include <sstream>
 
 #include "glyphorium/data/embedded_texts.h"
 #include "tests/support/program.h"
@@ -41,7 +42,8 @@ TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
       {"show 0301", 0, "◌\u0301"},
       {"show U+4E01", 0, "not in the Unicode 13.0 name table"},
       {"show U+D800", 1, "no character is 'U+D800'"},
-      {"show 'no such name'", 1, "no character is"},
+      {"show nbsp", 1, "no character is 'nbsp'; did you mean 00a0 (Non-Breaking Space)?"},
+      {"show 'qqqq qqqq'", 1, "no character is 'qqqq qqqq'\n"},
       {"show", 2, "required"},
       {"list ARROWS", 0, "2192\tRightwards Arrow\t&rarr;"},
       {"list arows", 2, "did you mean 'arrows'"},
@@ -53,6 +55,18 @@ TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
       {"table latinBasic", 2, "latinBasicJson"},
       {"table", 0, "sfSymbolsJson\tSF Symbols\t1083\t187853"},
       {"groups", 0, "custom\t0\ndigital typography (latin)\t254\n"},
+      {"search arrow --limit 1", 0, "→\t2192\tRightwards Arrow\tarrows\n"},
+      {"search '&rarr;' --json", 0, "\"name\":\"Rightwards Arrow\""},
+      {"search LETTER --group 'LATIN basic' --limit 1", 0, "latin basic\n"},
+      {"search letter --group latn", 2, "did you mean"},
+      {"search qqqqqq", 1, "nothing found for 'qqqqqq'"},
+      {"search qqqqqq --json 2>/dev/null", 1, "[]\n"},
+      {"search arrow --displayed", 1, "nothing found"},
+      {"search", 2, "WORDS"},
+      {"identify 'é e\u0301'", 0,
+       "é\t00e9\tLatin Small Letter E With Acute\n␣\t0020\tSpace\ne\u0301\t2 code points"},
+      {"identify - </dev/null", 1, ""},
+      {"identify '\U0001F44D\U0001F3FD' --json", 0, "\"cluster\":\"\U0001F44D\U0001F3FD\""},
       {"frobnicate", 2, "there is no command 'frobnicate'"},
       {"", 2, "--help"},
       {"--version", 0, "glyphorium 1."},
@@ -145,6 +159,43 @@ TEST(CommandLine, KeepsTheUsersChoices) {
   const ProgramResult unsaved = run("2>&1 display add emoji", own + " XDG_CONFIG_HOME=/dev/null");
   EXPECT_EQ(unsaved.exitCode, 3);
   EXPECT_THAT(unsaved.output, HasSubstr("cannot be saved"));
+}
+
+// Every command stands in the manual page and in the completions of each shell, and those that complete names
+// offer the catalog's.
+TEST(CommandLine, IsDocumentedAndCompletedWhole) {
+  const std::string folder = CLI_SOURCES;
+  const std::string manual = fileContent(folder + "/glyphorium.1");
+  std::string help = run("--help").output;
+  help.erase(0, help.find("Subcommands:"));
+  std::istringstream lines(help);
+  std::size_t commands = 0;
+  for (std::string line; std::getline(lines, line);) {
+    if (line.size() < 3 || line.substr(0, 2) != "  " || line[2] == ' ') continue;
+    const std::string command = line.substr(2, line.find(' ', 2) - 2);
+    ++commands;
+    EXPECT_THAT(manual, HasSubstr(command));
+    for (const char* const completion : {"glyphorium.bash", "_glyphorium", "glyphorium.fish"}) {
+      EXPECT_THAT(fileContent(folder + "/completions/" + completion), HasSubstr(command)) << completion;
+    }
+  }
+  EXPECT_EQ(commands, 13u);
+
+  const auto completed = [&](const std::string& words) {
+    return runProgram("bash -c 'glyphorium() { " PROGRAM " \"$@\"; }; . " + folder +
+                      "/completions/glyphorium.bash; " + "COMP_WORDS=(glyphorium " + words +
+                      "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _glyphorium; " +
+                      "printf \"%s\\n\" \"${COMPREPLY[@]}\"'")
+        .output;
+  };
+  EXPECT_EQ(completed("sea"), "search\n");
+  EXPECT_EQ(completed("list ARR"), "arrows\n");
+  EXPECT_EQ(completed("list digital"), "digital\\ typography\\ \\(latin\\)\n");
+  EXPECT_EQ(completed("display a"), "add\n");
+  EXPECT_EQ(completed("display add emo"), "emoji\n");
+  EXPECT_EQ(completed("table latinB"), "latinBasicJson\n");
+  EXPECT_EQ(completed("copy a --as html-h"), "html-hex\n");
+  EXPECT_EQ(completed("index st"), "status\n");
 }
 
 TEST(CommandLine, SpeaksTheUsersLanguage) {
