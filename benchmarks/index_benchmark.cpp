@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+// The desktop's search index: the whole catalog indexed, replaced, queried and deleted, beside writing the
+// same texts plainly into one SQLite table.
+#include <benchmark/benchmark.h>
+#include <sqlite3.h>
+
+#include <filesystem>
+#include <unordered_set>
+
+#include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/platform/diagnostics.h"
+#include "glyphorium/platform/memory_settings_store.h"
+#include "glyphorium/platform/searchable_index_reader.h"
+#include "glyphorium/platform/sqlite_searchable_index.h"
+#include "glyphorium/toolkit/entity_tool_kit.h"
+
+namespace {
+
+using namespace glyph;
+namespace fs = std::filesystem;
+
+const fs::path folder = fs::temp_directory_path() / "glyphorium-index-benchmark";
+
+const std::vector<SearchableItem>& wholeCatalog() {
+  static const std::vector<SearchableItem> items = [] {
+    setDiagnosticsSink([](std::string_view) {});
+    setSettingsStore(std::make_shared<MemorySettingsStore>());
+    glyphorium().configure();
+    std::vector<SearchableItem> all;
+    std::unordered_set<std::string> seen;
+    for (const Entity& entity : glyphorium().buildInEntities()) {
+      if (seen.insert(entity.computed.hex).second) all.push_back(toolKit().searchableItem(entity));
+    }
+    return all;
+  }();
+  return items;
+}
+
+void makeItems(benchmark::State& state) {
+  wholeCatalog();
+  for (auto _ : state) {
+    for (const Entity& entity : glyphorium().buildInEntities()) {
+      benchmark::DoNotOptimize(toolKit().searchableItem(entity));
+    }
+  }
+}
+BENCHMARK(makeItems)->Unit(benchmark::kMillisecond);
+
+constexpr auto patience = std::chrono::minutes(1);
+
+void indexAll(benchmark::State& state) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    fs::remove_all(folder);
+    auto items = wholeCatalog();
+    SqliteSearchableIndex index(folder / "index.sqlite");
+    state.ResumeTiming();
+    index.indexItems(std::move(items), {});
+    index.waitUntilIdle(patience);
+  }
+}
+BENCHMARK(indexAll)->Unit(benchmark::kMillisecond);
+
+// An index that holds the whole catalog, made once.
+SqliteSearchableIndex& filledIndex() {
+  static SqliteSearchableIndex index(folder / "index.sqlite");
+  if (SearchableIndexReader(folder / "index.sqlite").count() != wholeCatalog().size()) {
+    index.indexItems(wholeCatalog(), {});
+    index.waitUntilIdle(patience);
+  }
+  return index;
+}
+
+void replaceAll(benchmark::State& state) {
+  filledIndex();
+  for (auto _ : state) {
+    filledIndex().indexItems(wholeCatalog(), {});
+    filledIndex().waitUntilIdle(patience);
+  }
+}
+BENCHMARK(replaceAll)->Unit(benchmark::kMillisecond);
+
+void replaceOne(benchmark::State& state) {
+  filledIndex();
+  for (auto _ : state) {
+    filledIndex().indexItems({wholeCatalog()[4000]}, {});
+    filledIndex().waitUntilIdle(patience);
+  }
+}
+BENCHMARK(replaceOne)->Unit(benchmark::kMillisecond);
+
+void query(benchmark::State& state, const char* words) {
+  filledIndex();
+  SearchableIndexReader reader(folder / "index.sqlite");
+  for (auto _ : state) benchmark::DoNotOptimize(reader.search(words, 20));
+}
+BENCHMARK_CAPTURE(query, symbol, "→")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(query, word, "arrow")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(query, twoWords, "double arrow")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(query, everything, "qv:")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(query, nothing, "qqqqqq")->Unit(benchmark::kMicrosecond);
+
+void deleteAllByIdentifier(benchmark::State& state) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    filledIndex();
+    std::vector<std::string> identifiers;
+    for (const SearchableItem& item : wholeCatalog()) identifiers.push_back(item.uniqueIdentifier);
+    state.ResumeTiming();
+    filledIndex().deleteItems(std::move(identifiers), {});
+    filledIndex().waitUntilIdle(patience);
+  }
+}
+BENCHMARK(deleteAllByIdentifier)->Unit(benchmark::kMillisecond);
+
+void clear(benchmark::State& state) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    filledIndex();
+    state.ResumeTiming();
+    filledIndex().deleteAllItems({});
+    filledIndex().waitUntilIdle(patience);
+  }
+}
+BENCHMARK(clear)->Unit(benchmark::kMillisecond);
+
+// The raw limit: the same titles and keywords as rows of a table, without words to find them by.
+void plainTable(benchmark::State& state) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    fs::remove_all(folder / "plain");
+    fs::create_directories(folder / "plain");
+    sqlite3* database = nullptr;
+    sqlite3_open((folder / "plain/plain.sqlite").c_str(), &database);
+    sqlite3_exec(database,
+                 "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL; CREATE TABLE t(uid, title, words)",
+                 nullptr, nullptr, nullptr);
+    state.ResumeTiming();
+    sqlite3_exec(database, "BEGIN", nullptr, nullptr, nullptr);
+    sqlite3_stmt* insert = nullptr;
+    sqlite3_prepare_v2(database, "INSERT INTO t VALUES(?,?,?)", -1, &insert, nullptr);
+    for (const SearchableItem& item : wholeCatalog()) {
+      std::string words;
+      for (const std::string& keyword : item.keywords) (words += keyword) += ' ';
+      const std::string* const texts[] = {&item.uniqueIdentifier, &item.title, &words};
+      for (int i = 0; i < 3; ++i) {
+        sqlite3_bind_text(insert, i + 1, texts[i]->data(), static_cast<int>(texts[i]->size()), SQLITE_STATIC);
+      }
+      sqlite3_step(insert);
+      sqlite3_reset(insert);
+    }
+    sqlite3_finalize(insert);
+    sqlite3_exec(database, "COMMIT", nullptr, nullptr, nullptr);
+    state.PauseTiming();
+    sqlite3_close(database);
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(plainTable)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  fs::remove_all(folder);
+  return 0;
+}
