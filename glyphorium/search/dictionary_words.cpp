@@ -49,7 +49,8 @@ void addDictionaryWords(const Index& index, QueryWord& word, bool prefixes) {
     word.alternatives.push_back({{range.first, range.first + 1}, WordMatch::whole});
     ++range.first;
   }
-  addSingulars(index, word);
+  // What begins words but is none is rather incomplete than a plural: "rocke" is no "rock".
+  if (!word.alternatives.empty() || range.empty()) addSingulars(index, word);
   addSynonyms(index, word);
   if (prefixes && !range.empty()) word.alternatives.push_back({range, WordMatch::prefix});
 }

@@ -17,7 +17,9 @@ namespace {
 // - A group says little of a character, a word within a usage note less.
 // - Mistyped words only come with queries that match nothing as they stand.
 constexpr std::uint32_t exactBase = 0;
-constexpr std::uint32_t exactVariantBase = 16;  // less than what tells a common character from a rare one
+constexpr std::uint32_t looselyExactBase = 50;  // the same words in another order, or without fillers
+constexpr std::uint32_t looselyExactWordBase = 8;
+constexpr std::uint32_t exactVariantExtra = 12;  // less than what tells a common character from a rare one
 constexpr std::uint32_t wholeSpreadBase = 400;
 constexpr std::uint32_t prefixBase = 600;
 constexpr std::uint32_t prefixSpreadBase = 800;
@@ -29,10 +31,20 @@ constexpr std::uint32_t typoPrefixBase = 1800;
 constexpr std::uint32_t spreadTypo = 400;
 constexpr std::uint32_t variantExtra = 60;
 
-// A keyword names a trait that many characters share. An HTML name is often an abbreviation that happens to
-// be a word ("die", "image"); one that is spelled exactly as asked for is not penalised (see search.cpp).
+// The name itself says a little more than what else a character is called; a keyword names a trait that many
+// share.
 std::uint32_t kindDetail(PhraseKind kind) {
-  return kind == PhraseKind::keyword ? 8 : kind == PhraseKind::htmlName ? 4 : 0;
+  switch (kind) {
+    case PhraseKind::name:
+    case PhraseKind::replacedName:
+      return 0;
+    case PhraseKind::htmlName:
+      return htmlNameDetail;
+    case PhraseKind::keyword:
+      return 9;
+    default:
+      return 3;
+  }
 }
 constexpr std::uint32_t extraWordDetail = 4;  // for each word of the phrase that nobody asked for
 constexpr std::uint32_t mostExtraWords = 8;
@@ -45,9 +57,8 @@ struct PhraseState {
   std::uint32_t epoch = 0;
   std::uint8_t count = 0;    // of the query's words, from the first on, that it matches
   std::uint8_t fillers = 0;  // likewise of the fillers
-  std::uint8_t lastPosition = 0;
-  std::uint8_t worst : 7 = 0;  // WordMatch
-  std::uint8_t ordered : 1 = 1;
+  std::uint8_t aligned = 0;  // words that stand at the same place in the query
+  std::uint8_t worst = 0;    // WordMatch
 };
 
 struct DocState {
@@ -58,7 +69,8 @@ struct DocState {
   std::uint8_t worst = 0;
   std::uint8_t current = 0;  // the best WordMatch of the word at hand
   std::uint8_t fillers = 0;
-  bool named = false;  // all words are in its name
+  std::uint8_t bestWorst = 0;    // the worst WordMatch of its best phrase
+  std::uint8_t nameWorst = 255;  // likewise of its name, if all words are in it
 };
 
 constexpr std::uint32_t noCost = 0xFFFFFFFF;
@@ -89,14 +101,15 @@ class Matcher {
       : index_(index), filter_(filter), scratch_(scratch), epoch_(scratch.epoch) {}
 
   std::vector<Match> match(const std::vector<QueryWord>& words) {
-    std::vector<const QueryWord*> needed;
-    std::vector<const QueryWord*> fillers;
-    for (const QueryWord& word : words) (word.filler ? fillers : needed).push_back(&word);
+    std::vector<std::uint8_t> needed;
+    std::vector<std::uint8_t> fillers;
+    for (std::uint8_t place = 0; place < words.size(); ++place)
+      (words[place].filler ? fillers : needed).push_back(place);
     if (needed.empty()) needed.swap(fillers);  // "sign" alone is what is looked for
     needed_ = static_cast<std::uint8_t>(needed.size());
     fillers_ = static_cast<std::uint8_t>(fillers.size());
-    for (std::size_t i = 0; i < needed.size(); ++i) matchNeeded(*needed[i], static_cast<std::uint8_t>(i));
-    for (std::size_t i = 0; i < fillers.size(); ++i) matchFiller(*fillers[i], static_cast<std::uint8_t>(i));
+    for (std::uint8_t i = 0; i < needed_; ++i) matchNeeded(words[needed[i]], i, needed[i]);
+    for (std::uint8_t i = 0; i < fillers_; ++i) matchFiller(words[fillers[i]], i, fillers[i]);
     return result();
   }
 
@@ -106,7 +119,8 @@ class Matcher {
     return (filter_.languages >> phrase.language & 1) != 0 && (!filter_.docs || (*filter_.docs)[phrase.doc]);
   }
 
-  void matchNeeded(const QueryWord& word, std::uint8_t i) {
+  // The i-th of the words that must match, which stands at that place of the query.
+  void matchNeeded(const QueryWord& word, std::uint8_t i, std::uint8_t place) {
     for (const Alternative& alternative : word.alternatives) {
       for (const std::uint32_t posting : index_.postingsOf(alternative.words)) {
         const std::uint32_t number = posting >> 8;
@@ -117,7 +131,7 @@ class Matcher {
         const auto match = phrase.kind == PhraseKind::note ? std::max(alternative.match, WordMatch::note)
                                                            : alternative.match;
         noteDoc(phrase.doc, i, match, number);
-        notePhrase(number, phrase, i, match, static_cast<std::uint8_t>(posting));
+        notePhrase(number, phrase, i, match, static_cast<std::uint8_t>(posting) == place);
       }
     }
     if (word.text.size() >= 3) matchGroups(word, i);
@@ -128,7 +142,12 @@ class Matcher {
     const auto quality = static_cast<std::uint8_t>(match);
     if (state.epoch != epoch_) {
       if (i > 0) return;
-      state = {epoch_, phrase, noCost, 1, 0, quality, 0, false};
+      state = {};
+      state.epoch = epoch_;
+      state.phrase = phrase;
+      state.best = noCost;
+      state.count = 1;
+      state.current = quality;
       scratch_.touched.push_back(doc);
     } else if (state.count == i) {
       state.worst = std::max(state.worst, state.current);
@@ -140,18 +159,22 @@ class Matcher {
   }
 
   void notePhrase(std::uint32_t number, const Phrase& phrase, std::uint8_t i, WordMatch match,
-                  std::uint8_t position) {
+                  bool isAligned) {
     PhraseState& state = scratch_.phrases[number];
     if (state.epoch != epoch_) {
       state = {};
       state.epoch = epoch_;
     }
-    if (state.count != i) return;  // lacks a word, or has this one already, by a better match
-    state.ordered = state.ordered && (i == 0 || position > state.lastPosition);
-    state.lastPosition = position;
-    state.count = static_cast<std::uint8_t>(i + 1);
-    const auto quality = static_cast<std::uint8_t>(match);
-    if (quality > state.worst) state.worst = quality & 0x7F;
+    // A word may stand in the phrase several times: its first posting counts, the aligned one may come later.
+    const bool isNew = state.count == i;
+    const bool alignsNow = isAligned && (match == WordMatch::whole || match == WordMatch::prefix) &&
+                           (isNew || state.count == i + 1);
+    if (!isNew && !alignsNow) return;  // lacks a word, or has this one already, by a better match
+    if (isNew) {
+      state.count = static_cast<std::uint8_t>(i + 1);
+      state.worst = std::max(state.worst, static_cast<std::uint8_t>(match));
+    }
+    if (alignsNow) ++state.aligned;
     if (state.count == needed_) offer(number, phrase, state);
   }
 
@@ -167,7 +190,7 @@ class Matcher {
     }
   }
 
-  void matchFiller(const QueryWord& word, std::uint8_t i) {
+  void matchFiller(const QueryWord& word, std::uint8_t i, std::uint8_t place) {
     for (const Alternative& alternative : word.alternatives) {
       if (alternative.match != WordMatch::whole) continue;
       for (const std::uint32_t posting : index_.postingsOf(alternative.words)) {
@@ -177,8 +200,13 @@ class Matcher {
         if (doc.epoch != epoch_ || doc.count != needed_ || !counts(phrase)) continue;
         if (doc.fillers == i) ++doc.fillers;
         PhraseState& state = scratch_.phrases[number];
-        if (state.epoch != epoch_ || state.count != needed_ || state.fillers != i) continue;
-        ++state.fillers;
+        if (state.epoch != epoch_ || state.count != needed_) continue;
+        const bool isAligned = static_cast<std::uint8_t>(posting) == place;
+        if (state.fillers == i)
+          ++state.fillers;
+        else if (state.fillers != i + 1 || !isAligned)
+          continue;
+        if (isAligned) ++state.aligned;
         offer(number, phrase, state);
       }
     }
@@ -188,23 +216,30 @@ class Matcher {
   void offer(std::uint32_t number, const Phrase& phrase, const PhraseState& state) {
     const std::uint32_t cost = costOf(phrase, state);
     DocState& doc = scratch_.docs[phrase.doc];
-    if (phrase.kind == PhraseKind::name || phrase.kind == PhraseKind::replacedName) doc.named = true;
+    if (phrase.kind == PhraseKind::name || phrase.kind == PhraseKind::replacedName)
+      doc.nameWorst = std::min(doc.nameWorst, state.worst);
     if (cost >= doc.best) return;
     doc.best = cost;
+    doc.bestWorst = state.worst;
     doc.phrase = number;
   }
 
   std::uint32_t costOf(const Phrase& phrase, const PhraseState& state) const {
     const unsigned matched = state.count + state.fillers;
     const bool all = matched >= phrase.words || state.count >= phrase.coreWords;
+    const bool aligned = state.aligned == needed_ + fillers_;
+    const bool exact = aligned && phrase.words == needed_ + fillers_;
+    // A sign is called by its name without "sign"; of several words the order should be right as well.
+    const std::uint32_t looseBase = needed_ + fillers_ > 1 ? looselyExactBase : looselyExactWordBase;
     const unsigned left = phrase.words > matched ? phrase.words - matched : 0;
     std::uint32_t base = 0;
     switch (static_cast<WordMatch>(state.worst)) {
       case WordMatch::whole:
-        base = all ? exactBase : wholeBase;
+        base = exact ? exactBase : all ? looseBase : wholeBase;
         break;
       case WordMatch::variant:
-        base = all ? exactVariantBase : wholeBase + variantExtra;
+        base = all ? exactVariantExtra + (needed_ + fillers_ > 1 ? looselyExactBase : 0)
+                   : wholeBase + variantExtra;
         break;
       case WordMatch::prefix:
         base = prefixBase;
@@ -221,7 +256,7 @@ class Matcher {
         break;
     }
     return base + kindDetail(phrase.kind) + extraWordDetail * std::min(left, mostExtraWords) +
-           (state.ordered ? 0 : orderDetail) +
+           (aligned ? 0 : orderDetail) +
            fillerDetail * std::min<std::uint32_t>(fillers_ - std::min(state.fillers, fillers_), mostFillers);
   }
 
@@ -256,7 +291,7 @@ class Matcher {
       if (state.count != needed_) continue;
       const std::uint32_t spread = spreadCost(state);
       const bool together = state.best < spread;
-      const std::uint32_t unnamed = state.named ? 0 : unnamedDetail;
+      const std::uint32_t unnamed = state.nameWorst <= state.bestWorst ? 0 : unnamedDetail;
       matches.push_back({(together ? state.best : spread) + unnamed + index_.docPrior[doc], doc,
                          together || needed_ == 1 ? state.phrase : noPhrase});
     }

@@ -47,6 +47,9 @@ struct MatchFilter {
   const std::vector<char>* docs = nullptr;  ///< those that count, by doc; nullptr: all
 };
 
+/// Added for an HTML name, which is often an abbreviation that happens to be a word ("die", "image").
+inline constexpr std::uint32_t htmlNameDetail = 5;
+
 /// What costs less, the character's prior included, is called what the query says, and no more.
 inline constexpr std::uint32_t wholeBase = 200;
 

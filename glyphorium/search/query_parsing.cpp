@@ -98,14 +98,20 @@ void addCharacters(std::string_view text, ParsedQuery& query) {
       query.characters.push_back(static_cast<std::uint32_t>(c ^ 0x20));
     return;
   }
+  bool hasLatin = false;
   for (const std::string_view cluster : clusters) {
     if (cluster.size() == 1 && isBlank(cluster.front())) continue;
     WordReader reader(cluster);
     const bool latin = reader.next() && static_cast<unsigned char>(reader.word().front()) < 0x80;
     const bool ascii = cluster.size() == 1;
-    if (latin && ascii) continue;
-    addParts(cluster, latin || ascii ? query.otherCharacters : query.characters);
+    if (latin && ascii) {
+      hasLatin = true;
+      continue;
+    }
+    addParts(cluster, latin || ascii ? query.otherCharacters : query.besideWords);
+    hasLatin = hasLatin || latin;
   }
+  if (!hasLatin) query.characters.swap(query.besideWords);
 }
 
 }  // namespace

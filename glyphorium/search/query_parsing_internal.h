@@ -24,6 +24,7 @@ struct ParsedQuery {
   std::vector<std::uint32_t> otherNumbers;   ///< likewise, but it may as well be a word: "face", "100"
 
   std::vector<std::uint32_t> characters;       ///< pasted, hence meant
+  std::vector<std::uint32_t> besideWords;      ///< signs that are not on the keyboard, among words
   std::vector<std::uint32_t> otherCharacters;  ///< signs and letters that are more likely parts of a term
 
   std::string bareText;            ///< the text where it may be a bare HTML name

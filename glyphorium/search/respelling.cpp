@@ -30,7 +30,8 @@ class Splitter {
   explicit Splitter(const Index& index) : index_(index) {}
 
   std::vector<Words> split(std::string_view word) {
-    if (word.size() <= longestSplit) step(word);
+    const bool number = word.find_first_of("0123456789") != std::string_view::npos;
+    if (word.size() <= longestSplit && !number) step(word);
     std::stable_sort(ways_.begin(), ways_.end(),
                      [](const Words& a, const Words& b) { return a.size() < b.size(); });
     if (ways_.size() > mostSplits) ways_.resize(mostSplits);

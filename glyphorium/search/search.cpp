@@ -50,7 +50,7 @@ class Run {
     chooseLanguages();
     chooseGroups();
     if (query_.words.empty() && query_.codes.empty() && query_.characters.empty() &&
-        query_.otherCharacters.empty()) {
+        query_.besideWords.empty() && query_.otherCharacters.empty()) {
       if (query_.groups.empty()) return {};
       wholeGroups();
     } else {
@@ -138,11 +138,13 @@ class Run {
     addSignPhrases();
     for (const std::uint32_t number : query_.otherNumbers)
       addDirect(index_.docOfCodePoint(number), offset_ + behindExactCost, SearchField::code);
+    for (const std::uint32_t character : query_.besideWords)
+      addDirect(index_.docOfCodePoint(character), offset_ + behindExactCost, SearchField::character);
     const std::uint32_t bareName = index_.docOfHtmlName(query_.bareText);
     const bool direct = !hits_.empty() || bareName != Index::noDoc;
     addWords(!direct);
     if (bareName != Index::noDoc)
-      addDirect(bareName, offset_ + index_.docPrior[bareName], SearchField::htmlName);
+      addDirect(bareName, offset_ + htmlNameDetail + index_.docPrior[bareName], SearchField::htmlName);
     for (const std::uint32_t character : query_.otherCharacters) {
       // The letters of words that were found need no identifying.
       if (hits_.empty() || query_.words.empty() || !wordsFound_)

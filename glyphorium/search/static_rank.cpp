@@ -17,6 +17,7 @@ namespace {
 
 constexpr std::uint32_t notWanted = 0xFFFF;
 constexpr unsigned mostWantedPrior = 6;
+constexpr unsigned keyboardPrior = 5;
 
 // The cost of a group. What is not listed is another script (its letters are found by its name anyway).
 constexpr unsigned commonSigns = 0;
@@ -127,7 +128,7 @@ std::string_view shownName(const Entity& entity) {
 unsigned priorOf(const Candidate& candidate, std::string_view name, std::uint32_t place) {
   if (place != notWanted) return std::min(place / 60, mostWantedPrior);
   // Who has the sign on the keyboard seldom looks for it; still it is what its words mean first.
-  if (candidate.codePoint < 0x80) return mostWantedPrior;
+  if (candidate.codePoint < 0x80) return keyboardPrior;
   const unsigned group = candidate.group == curated ? otherSigns : candidate.group;
   const auto blanks = static_cast<unsigned>(std::count(name.begin(), name.end(), ' '));
   const unsigned capital = name.find(" Capital ") != std::string_view::npos ? 1 : 0;

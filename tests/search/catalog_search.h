@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/platform/diagnostics.h"
+#include "glyphorium/platform/unicode_text.h"
 #include "glyphorium/search/search.h"
 
 namespace glyph::testing {

@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: MIT
+// The interactive search over the whole catalog: what building and a query cost, beside other ways to look up
+// the same words. Compare only within one run: machines that run this are shared and noisy.
+#include <benchmark/benchmark.h>
+#include <malloc.h>
+#include <sqlite3.h>
+#include <unicode/uchar.h>
+
+#ifdef HAVE_UNISTRING
+#include <uniname.h>
+#endif
+
+#include <algorithm>
+#include <chrono>
+#include <cstring>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/data/embedded_texts.h"
+#include "glyphorium/platform/diagnostics.h"
+#include "glyphorium/search/search.h"
+
+namespace {
+
+using namespace glyph;
+
+std::vector<Entity> decodeAndJoin() {
+  Glyphorium catalog;
+  std::vector<ComputedEntity> records;
+  for (const EmbeddedText& table : embeddedTexts()) {
+    if (!table.configured) continue;
+    auto rows = catalog.getComputedEntitiesFrom(table.text);
+    if (!rows) continue;
+    records.insert(records.end(), std::make_move_iterator(rows->begin()),
+                   std::make_move_iterator(rows->end()));
+  }
+  return catalog.getEntitiesByEnriching(std::move(records), catalog.getAdditionalDataFrom(additionalJson));
+}
+
+const std::vector<Entity>& entities() {
+  static const std::vector<Entity> all = decodeAndJoin();
+  return all;
+}
+
+const Search& search() {
+  static const Search made(entities());
+  return made;
+}
+
+struct ListedQuery {
+  std::string text;
+  SearchOptions options;
+};
+
+// The list of everyday queries; typed: every beginning of each.
+std::vector<ListedQuery> listedQueries(bool typed) {
+  std::vector<ListedQuery> queries;
+  std::ifstream file(SEARCH_QUERY_LIST);
+  for (std::string line; std::getline(file, line);) {
+    if (line.starts_with("#")) continue;
+    const std::string text = line.substr(0, line.find('\t'));
+    const SearchOptions options{100, {{line.substr(line.rfind('\t') + 1)}}, {}};
+    for (std::size_t size = typed ? 1 : text.size(); size <= text.size(); ++size) {
+      const bool cutsCharacter = size < text.size() && (text[size] & 0xC0) == 0x80;
+      if (!cutsCharacter) queries.push_back({text.substr(0, size), options});
+    }
+  }
+  return queries;
+}
+
+void decodingAndJoining(benchmark::State& state) {
+  for (auto _ : state) benchmark::DoNotOptimize(decodeAndJoin());
+}
+BENCHMARK(decodingAndJoining)->Unit(benchmark::kMillisecond);
+
+void buildingSearch(benchmark::State& state) {
+  const auto& all = entities();
+  for (auto _ : state) benchmark::DoNotOptimize(Search(all));
+  state.counters["bytes"] = static_cast<double>(search().byteCount());
+}
+BENCHMARK(buildingSearch)->Unit(benchmark::kMillisecond);
+
+// Each query timed by itself: what a user waits for is not the mean. Of each query the median of its runs
+// counts, so that a moment that another process took is not charged to it.
+void measureQueries(benchmark::State& state, bool typed) {
+  using Clock = std::chrono::steady_clock;
+  const std::vector<ListedQuery> queries = listedQueries(typed);
+  std::vector<std::vector<double>> times(queries.size());
+  for (auto _ : state) {
+    for (std::size_t i = 0; i < queries.size(); ++i) {
+      const auto begin = Clock::now();
+      benchmark::DoNotOptimize(search().query(queries[i].text, queries[i].options));
+      times[i].push_back(std::chrono::duration<double, std::micro>(Clock::now() - begin).count());
+    }
+  }
+  std::vector<double> medians;
+  std::vector<double> all;
+  for (auto& runs : times) {
+    all.insert(all.end(), runs.begin(), runs.end());
+    std::nth_element(runs.begin(), runs.begin() + static_cast<std::ptrdiff_t>(runs.size() / 2), runs.end());
+    medians.push_back(runs[runs.size() / 2]);
+  }
+  const auto quantile = [](std::vector<double>& values, double share) {
+    std::sort(values.begin(), values.end());
+    return values[static_cast<std::size_t>(share * static_cast<double>(values.size() - 1))];
+  };
+  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(queries.size()));
+  state.counters["p50_us"] = quantile(medians, 0.5);
+  state.counters["p99_us"] = quantile(medians, 0.99);
+  state.counters["max_us"] = quantile(medians, 1);
+  state.counters["p99_all_us"] = quantile(all, 0.99);
+}
+BENCHMARK_CAPTURE(measureQueries, wholeQueries, false)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(measureQueries, typedLetterByLetter, true)->Unit(benchmark::kMillisecond);
+
+void oneWord(benchmark::State& state) {
+  for (auto _ : state) benchmark::DoNotOptimize(search().query("arrow", {100, {{"en"}}, {}}));
+}
+BENCHMARK(oneWord)->Unit(benchmark::kMicrosecond);
+
+// The others find "arrow" in the names and rank nothing.
+
+UBool countArrow(void* count, UChar32, UCharNameChoice, const char* name, int32_t) {
+  *static_cast<int*>(count) += std::strstr(name, "ARROW") != nullptr;
+  return true;
+}
+
+void icuNameScan(benchmark::State& state) {
+  for (auto _ : state) {
+    int count = 0;
+    UErrorCode status = U_ZERO_ERROR;
+    u_enumCharNames(0, 0x110000, countArrow, &count, U_UNICODE_CHAR_NAME, &status);
+    benchmark::DoNotOptimize(count);
+  }
+}
+BENCHMARK(icuNameScan)->Unit(benchmark::kMicrosecond);
+
+#ifdef HAVE_UNISTRING
+void unistringNameScan(benchmark::State& state) {
+  char name[UNINAME_MAX];
+  for (auto _ : state) {
+    int count = 0;
+    for (ucs4_t c = 0; c < 0x20000; ++c) {
+      if (unicode_character_name(c, name)) count += std::strstr(name, "ARROW") != nullptr;
+    }
+    benchmark::DoNotOptimize(count);
+  }
+}
+BENCHMARK(unistringNameScan)->Unit(benchmark::kMicrosecond);
+#endif
+
+void memmemOverNames(benchmark::State& state) {
+  std::string names;
+  for (const Entity& entity : entities()) names += entity.name() + '\n';
+  for (auto _ : state) {
+    int count = 0;
+    const char* at = names.data();
+    const char* const end = at + names.size();
+    while (const void* const found = memmem(at, static_cast<std::size_t>(end - at), "Arrow", 5)) {
+      ++count;
+      at = static_cast<const char*>(found) + 5;
+    }
+    benchmark::DoNotOptimize(count);
+  }
+}
+BENCHMARK(memmemOverNames)->Unit(benchmark::kMicrosecond);
+
+// An FTS5 table of the names, in memory; the query of a user who types, best hundred.
+class FullTextTable {
+ public:
+  FullTextTable() {
+    sqlite3_open(":memory:", &database_);
+    run("create virtual table names using fts5(name, prefix='1 2 3')");
+    run("begin");
+    sqlite3_stmt* insert = nullptr;
+    sqlite3_prepare_v2(database_, "insert into names(rowid, name) values (?, ?)", -1, &insert, nullptr);
+    for (std::size_t i = 0; i < entities().size(); ++i) {
+      const std::string name = entities()[i].name();
+      sqlite3_bind_int64(insert, 1, static_cast<sqlite3_int64>(i));
+      sqlite3_bind_text(insert, 2, name.data(), static_cast<int>(name.size()), SQLITE_TRANSIENT);
+      sqlite3_step(insert);
+      sqlite3_reset(insert);
+    }
+    sqlite3_finalize(insert);
+    run("commit");
+    sqlite3_prepare_v2(database_, "select rowid from names(?) order by rank limit 100", -1, &select_,
+                       nullptr);
+  }
+  FullTextTable(const FullTextTable&) = delete;
+  FullTextTable& operator=(const FullTextTable&) = delete;
+  ~FullTextTable() {
+    sqlite3_finalize(select_);
+    sqlite3_close(database_);
+  }
+
+  int count(const char* match) {
+    int rows = 0;
+    sqlite3_bind_text(select_, 1, match, -1, SQLITE_STATIC);
+    while (sqlite3_step(select_) == SQLITE_ROW) ++rows;
+    sqlite3_reset(select_);
+    return rows;
+  }
+
+ private:
+  void run(const char* sql) { sqlite3_exec(database_, sql, nullptr, nullptr, nullptr); }
+
+  sqlite3* database_ = nullptr;
+  sqlite3_stmt* select_ = nullptr;
+};
+
+void fullTextBuilding(benchmark::State& state) {
+  for (auto _ : state) benchmark::DoNotOptimize(std::make_unique<FullTextTable>());
+}
+BENCHMARK(fullTextBuilding)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+void fullTextQuery(benchmark::State& state, const char* match) {
+  FullTextTable table;
+  for (auto _ : state) benchmark::DoNotOptimize(table.count(match));
+}
+BENCHMARK_CAPTURE(fullTextQuery, arrow, "arrow*")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(fullTextQuery, let, "let*")->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  setDiagnosticsSink([](std::string_view) {});
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include "tests/search/catalog_search.h"
+
+namespace glyph {
+namespace {
+
+using testing::CatalogSearch;
+
+struct FormCase {
+  const char* query;
+  std::vector<std::string> first;  // the first results
+  SearchField field;               // of the first one
+};
+
+TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
+  const FormCase cases[] = {
+      // code points
+      {"U+2192", {"2192"}, SearchField::code},
+      {" u+2192 ", {"2192"}, SearchField::code},
+      {"U2192", {"2192"}, SearchField::code},
+      {"0x2192", {"2192"}, SearchField::code},
+      {"2192", {"2192"}, SearchField::code},
+      {"8594", {"2192"}, SearchField::code},
+      {"U+41", {"0041"}, SearchField::code},
+      {"\\u2192", {"2192"}, SearchField::code},
+      {"\\u{1F600}", {"1f600"}, SearchField::code},
+      {"\\x{20ac}", {"20ac"}, SearchField::code},
+      {"\\U0001F600", {"1f600"}, SearchField::code},
+      {"\\2192", {"2192"}, SearchField::code},
+      {"\\uD83D\\uDE00", {"1f600"}, SearchField::code},
+      {"U+2192, U+2190", {"2192", "2190"}, SearchField::code},
+      {"2665", {"2665"}, SearchField::code},          // not U+0A69, which is 2665 too
+      {"0169", {"0169", "00a9"}, SearchField::code},  // both readings
+      {"169", {"00a9", "0169"}, SearchField::code},
+      // references
+      {"&rarr;", {"2192"}, SearchField::htmlName},
+      {"&rarr", {"2192"}, SearchField::htmlName},
+      {"&rarr;&larr;", {"2192", "2190"}, SearchField::htmlName},
+      {"&#8594;", {"2192"}, SearchField::code},
+      {"&#x2192", {"2192"}, SearchField::code},
+      {"&rArr;", {"21d2"}, SearchField::htmlName},  // letter case counts in references
+      {"&Rarr;", {"21a0"}, SearchField::htmlName},
+      {"rightarrow", {"2192"}, SearchField::htmlName},
+      {"RightArrow", {"2192"}, SearchField::htmlName},
+      {"rpar", {"0029"}, SearchField::htmlName},  // not the reference chosen for it
+      // the characters themselves
+      {"→", {"2192"}, SearchField::character},
+      {"→←", {"2192", "2190"}, SearchField::character},
+      {"a", {"0061", "0041"}, SearchField::character},
+      {" ", {"0020"}, SearchField::character},
+      {"\u00a0", {"00a0"}, SearchField::character},
+      {"é", {"00e9"}, SearchField::character},
+      {"e\u0301", {"00e9", "0065", "0301"}, SearchField::character},
+      {"❤\uFE0F", {"2764"}, SearchField::character},
+      {"👍🏽", {"1f44d", "1f3fd"}, SearchField::character},
+      {"👨\u200D👩\u200D👧", {"1f468", "1f469", "1f467"}, SearchField::character},
+      {"\u200D", {"200d"}, SearchField::character},
+      {"жук", {"0436", "0443", "043a"}, SearchField::character},
+      // signs typed for a character, and the signs themselves behind it
+      {"->", {"2192", "002d", "003e"}, SearchField::searchTerm},
+      {"(C)", {"00a9"}, SearchField::searchTerm},
+      {"1/2", {"00bd"}, SearchField::searchTerm},
+      {"!=", {"2260", "0021", "003d"}, SearchField::searchTerm},
+      {"...", {"2026"}, SearchField::searchTerm},
+      // names, however they are written
+      {"square.and.arrow.up", {"100202"}, SearchField::name},
+      {"NO-BREAK_space", {"00a0"}, SearchField::name},
+      {"arrow rightwards", {"2192"}, SearchField::name},
+      {"zerowidthjoiner", {"200d"}, SearchField::name},
+      {"thumbsup", {"1f44d"}, SearchField::annotation},
+      {"lambda", {"03bb"}, SearchField::htmlName},
+      {"latin capital letter gha", {"01a2"}, SearchField::alias},  // a corrected name
+      {"sqrt", {"221a"}, SearchField::searchTerm},
+      // words that are codes as well come as words first
+      {"face", {"263a"}, SearchField::annotation},
+  };
+  for (const FormCase& form : cases) {
+    const SearchResults found = CatalogSearch::instance().search.query(form.query, {100, {{"en"}}, {}});
+    std::vector<std::string> hexes = CatalogSearch::instance().hexes(form.query);
+    hexes.resize(std::min(hexes.size(), form.first.size()));
+    EXPECT_EQ(hexes, form.first) << form.query;
+    if (!found.results.empty()) EXPECT_EQ(found.results.front().field, form.field) << form.query;
+  }
+}
+
+TEST(SearchQueryForms, WordsOfTheUsersLanguagesFindCharacters) {
+  const struct {
+    const char* query;
+    const char* language;
+    const char* wanted;
+  } cases[] = {
+      {"fleche", "fr", "2192"},   {"FLÈCHE", "fr", "2192"},   {"fle\u0300che", "fr", "2192"},
+      {"haekchen", "de", "2713"}, {"pfeile", "de", "2192"},   {"groesser gleich", "de", "2265"},
+      {"pound", "de", "00a3"},    {"pound", "pt-BR", "00a3"}, {"herz", "de-AT", "2764"},
+      {"corazón", "en", "2764"},  // nothing English is called so
+  };
+  for (const auto& test : cases) {
+    const auto hexes = CatalogSearch::instance().hexes(test.query, {100, {{test.language}}, {}});
+    EXPECT_FALSE(hexes.empty()) << test.query;
+    if (!hexes.empty()) EXPECT_EQ(hexes.front(), test.wanted) << test.query << " " << test.language;
+  }
+}
+
+TEST(SearchQueryForms, GroupsKeepTheirOwn) {
+  const CatalogSearch& catalog = CatalogSearch::instance();
+  const auto inGroup = [&](std::string_view group) {
+    return static_cast<std::size_t>(
+        std::count_if(catalog.entities.begin(), catalog.entities.end(),
+                      [&](const Entity& e) { return e.computed.group == group; }));
+  };
+  const struct {
+    const char* query;
+    std::vector<std::string> groups;  // in the options
+    std::size_t total;
+    const char* first;
+  } cases[] = {
+      {"group:arrows", {}, inGroup("arrows"), "2190"},  // that group alone; in the order of the list
+      {"group:Currency", {}, inGroup("currency symbols"), "20a0"},
+      {"group:\"math operators\"", {}, inGroup("math operators"), "2200"},
+      {"group:emoji cat", {}, catalog.search.query("cat", {0, {{"en"}}, {"emoji"}}).total, "1f408"},
+      {"cat group:emoji", {}, catalog.search.query("cat", {0, {{"en"}}, {"emoji"}}).total, "1f408"},
+      {"euro", {"currency symbols"}, 2, "20ac"},
+      {"→", {"emoji"}, 0, nullptr},
+      {"group:nonsense arrow", {}, 0, nullptr},
+  };
+  for (const auto& test : cases) {
+    const SearchResults found = catalog.search.query(test.query, {100, {{"en"}}, test.groups});
+    EXPECT_EQ(found.total, test.total) << test.query;
+    if (test.first && !found.results.empty())
+      EXPECT_EQ(catalog.entities[found.results.front().index].computed.hex, test.first) << test.query;
+  }
+}
+
+}  // namespace
+}  // namespace glyph

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "tests/search/catalog_search.h"
+
+namespace glyph {
+namespace {
+
+using testing::CatalogSearch;
+
+const SearchOptions english{100, {{"en"}}, {}};
+
+TEST(SearchRanking, TypingOnKeepsTheBestResult) {
+  for (const auto& [word, hex, least] : {std::tuple{"arrow", "2192", 3},
+                                         {"ellipsis", "2026", 4},
+                                         {"rocket", "1f680", 5},
+                                         {"euro", "20ac", 3},
+                                         {"snowflake", "2744", 5}}) {
+    const std::string_view text = word;
+    for (std::size_t size = static_cast<std::size_t>(least); size <= text.size(); ++size) {
+      const auto hexes = CatalogSearch::instance().hexes(text.substr(0, size));
+      EXPECT_EQ(hexes.empty() ? "" : hexes.front(), hex) << text.substr(0, size);
+    }
+  }
+}
+
+TEST(SearchRanking, TyposAreCorrectedOnlyWhereNothingElseMatches) {
+  const struct {
+    const char* query;
+    const char* first;  // nullptr: nothing is found
+    bool approximate;
+  } cases[] = {
+      {"arow", "2192", true},    // left out
+      {"arrrow", "2192", true},  // put in
+      {"orrow", "2192", true},   // replaced, at the front
+      {"arrwo", "2192", true},   // exchanged
+      {"rokcet", "1f680", true},    {"black haert", "2665", true},
+      {"elipsi", "2026", true},  // and not yet complete
+      {"arrow", "2192", false},     {"dagger", "2020", false},
+      {"arrrrow", nullptr, false},   // two slips
+      {"xqz", nullptr, false},       // too short to be near anything
+      {"99999999", nullptr, false},  // numbers are not mistyped words
+  };
+  for (const auto& test : cases) {
+    const SearchResults found = CatalogSearch::instance().search.query(test.query, english);
+    const auto hexes = CatalogSearch::instance().hexes(test.query);
+    EXPECT_EQ(hexes.empty() ? "" : hexes.front(), test.first ? test.first : "") << test.query;
+    EXPECT_EQ(found.approximate, test.approximate) << test.query;
+  }
+}
+
+TEST(SearchRanking, UnicodeComesBeforeSFSymbolsOfEqualMatch) {
+  for (const char* const query : {"heart", "star", "trash", "pencil", "scissors", "bell", "envelope"}) {
+    const auto hexes = CatalogSearch::instance().hexes(query);
+    ASSERT_FALSE(hexes.empty()) << query;
+    EXPECT_FALSE(hexes.front().size() == 6 && hexes.front().starts_with("10"))
+        << query << " " << hexes.front();
+  }
+}
+
+TEST(SearchRanking, HighlightsWhatMatchesOfTheName) {
+  const struct {
+    const char* query;
+    const char* name;  // with the ranges in brackets
+  } cases[] = {
+      {"rightwards arrow", "[Rightwards] [Arrow]"},
+      {"right arr", "[Right]wards [Arr]ow"},
+      {"2192", "Rightwards Arrow"},
+      {"next", "Rightwards Arrow"},
+      {"rightwrads arrow", "[Rightwards] [Arrow]"},
+      {"square.and.arrow.up", "[Square].[And].[Arrow].[Up]"},
+  };
+  for (const auto& test : cases) {
+    const SearchResults found = CatalogSearch::instance().search.query(test.query, english);
+    ASSERT_FALSE(found.results.empty()) << test.query;
+    std::string name = CatalogSearch::instance().entities[found.results.front().index].name();
+    for (auto range = found.results.front().nameRanges.rbegin();
+         range != found.results.front().nameRanges.rend(); ++range) {
+      ASSERT_LT(range->begin, range->end);
+      ASSERT_LE(range->end, name.size());
+      name.insert(range->end, "]").insert(range->begin, "[");
+    }
+    EXPECT_EQ(name, test.name) << test.query;
+  }
+}
+
+TEST(SearchRanking, ReportsEachCharacterOnceAndAllInTheTotal) {
+  const CatalogSearch& catalog = CatalogSearch::instance();
+  for (const char* const query : {"a", "letter", "arrow", "→ arrow", "group:emoji", "2192", "rarr"}) {
+    const SearchResults all = catalog.search.query(query, {100000, {{"en"}}, {}});
+    std::set<std::string> distinct;
+    for (const SearchResult& result : all.results) {
+      const Entity& entity = catalog.entities[result.index];
+      EXPECT_TRUE(distinct.insert(entity.computed.hex).second) << query << " " << entity.computed.hex;
+      const auto firstOfHex = std::find(catalog.entities.begin(), catalog.entities.end(), entity);
+      EXPECT_EQ(firstOfHex - catalog.entities.begin(), static_cast<std::ptrdiff_t>(result.index)) << query;
+    }
+    EXPECT_EQ(all.results.size(), all.total) << query;
+    const SearchResults few = catalog.search.query(query, {3, {{"en"}}, {}});
+    EXPECT_EQ(few.total, all.total) << query;
+    ASSERT_EQ(few.results.size(), std::min<std::size_t>(3, all.total)) << query;
+    for (std::size_t i = 0; i < few.results.size(); ++i)
+      EXPECT_EQ(few.results[i].index, all.results[i].index);
+  }
+}
+
+// No other name comes before the one that was asked for; what else is called so (an annotation, a term) may.
+TEST(SearchRanking, EveryNameFindsItsCharacter) {
+  const CatalogSearch& catalog = CatalogSearch::instance();
+  const auto loose = [](std::string name) {
+    std::erase_if(name, [](char c) { return c == ' ' || c == '-' || c == '.'; });
+    return lowercased(name);
+  };
+  std::set<std::string> done;
+  std::size_t notFirst = 0;
+  for (const Entity& entity : catalog.entities) {
+    if (!done.insert(entity.computed.hex).second) continue;
+    const std::string name = entity.name();
+    const SearchResults found = catalog.search.query(name, {30, {{"en"}}, {}});
+    bool reached = false;
+    for (const SearchResult& result : found.results) {
+      const Entity& other = catalog.entities[result.index];
+      reached = other == entity;
+      if (reached) break;
+      const bool calledSo = result.field != SearchField::name || loose(other.name()) == loose(name);
+      // SF Symbols stand behind Unicode: "Bell" behind "Bell Symbol".
+      EXPECT_TRUE(calledSo || entity.computed.isSFSymbol.value_or(false))
+          << entity.computed.hex << " " << name << ": " << other.name();
+    }
+    EXPECT_TRUE(reached) << entity.computed.hex << " " << name;
+    notFirst += reached && !(catalog.entities[found.results.front().index] == entity);
+  }
+  EXPECT_LT(notFirst, done.size() / 50);
+}
+
+}  // namespace
+}  // namespace glyph
