@@ -81,7 +81,9 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
     std::vector<std::string> hexes = CatalogSearch::instance().hexes(form.query);
     hexes.resize(std::min(hexes.size(), form.first.size()));
     EXPECT_EQ(hexes, form.first) << form.query;
-    if (!found.results.empty()) EXPECT_EQ(found.results.front().field, form.field) << form.query;
+    if (!found.results.empty()) {
+      EXPECT_EQ(found.results.front().field, form.field) << form.query;
+    }
   }
 }
 
@@ -99,7 +101,9 @@ TEST(SearchQueryForms, WordsOfTheUsersLanguagesFindCharacters) {
   for (const auto& test : cases) {
     const auto hexes = CatalogSearch::instance().hexes(test.query, {100, {{test.language}}, {}});
     EXPECT_FALSE(hexes.empty()) << test.query;
-    if (!hexes.empty()) EXPECT_EQ(hexes.front(), test.wanted) << test.query << " " << test.language;
+    if (!hexes.empty()) {
+      EXPECT_EQ(hexes.front(), test.wanted) << test.query << " " << test.language;
+    }
   }
 }
 
@@ -128,8 +132,9 @@ TEST(SearchQueryForms, GroupsKeepTheirOwn) {
   for (const auto& test : cases) {
     const SearchResults found = catalog.search.query(test.query, {100, {{"en"}}, test.groups});
     EXPECT_EQ(found.total, test.total) << test.query;
-    if (test.first && !found.results.empty())
+    if (test.first && !found.results.empty()) {
       EXPECT_EQ(catalog.entities[found.results.front().index].computed.hex, test.first) << test.query;
+    }
   }
 }
 
