@@ -1,57 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
+#include "glyphorium/search/match_costs_internal.h"
 #include "glyphorium/search/matching_internal.h"
 
 namespace glyph::search {
 namespace {
-
-// The ranking. A match costs the base of its tier, some detail within the tier, and the character's prior
-// (static_rank.cpp). Bases are so far apart that nothing within a tier reaches the next one:
-//
-// - Who types a whole name, alias, HTML name, term or annotation means what is called so. A name is no better
-//   than the others here: "lightning" is rather the sign of high voltage than the astrological one that
-//   Unicode calls so, which the prior knows and the names do not.
-// - Then all words as whole words of one text, in which they belong together; then of several texts.
-// - Then words still being typed, in the same order.
-// - A group says little of a character, a word within a usage note less.
-// - Mistyped words only come with queries that match nothing as they stand.
-constexpr std::uint32_t exactBase = 0;
-constexpr std::uint32_t looselyExactBase = 50;  // the same words in another order, or without fillers
-constexpr std::uint32_t looselyExactWordBase = 8;
-constexpr std::uint32_t exactVariantExtra = 12;  // less than what tells a common character from a rare one
-constexpr std::uint32_t wholeSpreadBase = 400;
-constexpr std::uint32_t prefixBase = 600;
-constexpr std::uint32_t prefixSpreadBase = 800;
-constexpr std::uint32_t groupBase = 1000;
-constexpr std::uint32_t noteBase = 1200;
-constexpr std::uint32_t exactTypoBase = 1400;
-constexpr std::uint32_t typoBase = 1600;
-constexpr std::uint32_t typoPrefixBase = 1800;
-constexpr std::uint32_t spreadTypo = 400;
-constexpr std::uint32_t variantExtra = 60;
-
-// The name itself says a little more than what else a character is called; a keyword names a trait that many
-// share.
-std::uint32_t kindDetail(PhraseKind kind) {
-  switch (kind) {
-    case PhraseKind::name:
-    case PhraseKind::replacedName:
-      return 0;
-    case PhraseKind::htmlName:
-      return htmlNameDetail;
-    case PhraseKind::keyword:
-      return 9;
-    default:
-      return 3;
-  }
-}
-constexpr std::uint32_t extraWordDetail = 4;  // for each word of the phrase that nobody asked for
-constexpr std::uint32_t mostExtraWords = 8;
-constexpr std::uint32_t orderDetail = 3;    // the words stand in another order
-constexpr std::uint32_t unnamedDetail = 6;  // the words are not in the name: "star" is rather ★ than *
-constexpr std::uint32_t fillerDetail = 10;  // for each filler of the query that is missing
-constexpr std::uint32_t mostFillers = 3;
 
 struct PhraseState {
   std::uint32_t epoch = 0;
@@ -214,7 +168,8 @@ class Matcher {
 
   // A phrase that matches all words: it counts for its doc if it is the best one.
   void offer(std::uint32_t number, const Phrase& phrase, const PhraseState& state) {
-    const std::uint32_t cost = costOf(phrase, state);
+    const std::uint32_t cost = phraseCost(phrase, {static_cast<WordMatch>(state.worst), state.count,
+                                                   state.fillers, state.aligned, needed_, fillers_});
     DocState& doc = scratch_.docs[phrase.doc];
     if (phrase.kind == PhraseKind::name || phrase.kind == PhraseKind::replacedName)
       doc.nameWorst = std::min(doc.nameWorst, state.worst);
@@ -224,72 +179,13 @@ class Matcher {
     doc.phrase = number;
   }
 
-  std::uint32_t costOf(const Phrase& phrase, const PhraseState& state) const {
-    const unsigned matched = state.count + state.fillers;
-    const bool all = matched >= phrase.words || state.count >= phrase.coreWords;
-    const bool aligned = state.aligned == needed_ + fillers_;
-    const bool exact = aligned && phrase.words == needed_ + fillers_;
-    // A sign is called by its name without "sign"; of several words the order should be right as well.
-    const std::uint32_t looseBase = needed_ + fillers_ > 1 ? looselyExactBase : looselyExactWordBase;
-    const unsigned left = phrase.words > matched ? phrase.words - matched : 0;
-    std::uint32_t base = 0;
-    switch (static_cast<WordMatch>(state.worst)) {
-      case WordMatch::whole:
-        base = exact ? exactBase : all ? looseBase : wholeBase;
-        break;
-      case WordMatch::variant:
-        base = all ? exactVariantExtra + (needed_ + fillers_ > 1 ? looselyExactBase : 0)
-                   : wholeBase + variantExtra;
-        break;
-      case WordMatch::prefix:
-        base = prefixBase;
-        break;
-      case WordMatch::group:
-      case WordMatch::note:
-        base = noteBase;
-        break;
-      case WordMatch::typo:
-        base = all ? exactTypoBase : typoBase;
-        break;
-      case WordMatch::typoPrefix:
-        base = typoPrefixBase;
-        break;
-    }
-    return base + kindDetail(phrase.kind) + extraWordDetail * std::min(left, mostExtraWords) +
-           (aligned ? 0 : orderDetail) +
-           fillerDetail * std::min<std::uint32_t>(fillers_ - std::min(state.fillers, fillers_), mostFillers);
-  }
-
-  // What a doc costs whose words stand in several of its phrases.
-  std::uint32_t spreadCost(const DocState& state) const {
-    const auto worst = static_cast<WordMatch>(std::max(state.worst, state.current));
-    const std::uint32_t missing =
-        fillerDetail * std::min<std::uint32_t>(fillers_ - std::min(state.fillers, fillers_), mostFillers);
-    switch (worst) {
-      case WordMatch::whole:
-        return wholeSpreadBase + missing;
-      case WordMatch::variant:
-        return wholeSpreadBase + variantExtra + missing;
-      case WordMatch::prefix:
-        return prefixSpreadBase + missing;
-      case WordMatch::group:
-        return groupBase + missing;
-      case WordMatch::note:
-        return noteBase + missing;
-      case WordMatch::typo:
-        return typoBase + spreadTypo + missing;
-      case WordMatch::typoPrefix:
-        break;
-    }
-    return typoPrefixBase + spreadTypo + missing;
-  }
-
   std::vector<Match> result() const {
     std::vector<Match> matches;
     for (const std::uint32_t doc : scratch_.touched) {
       const DocState& state = scratch_.docs[doc];
       if (state.count != needed_) continue;
-      const std::uint32_t spread = spreadCost(state);
+      const auto worst = static_cast<WordMatch>(std::max(state.worst, state.current));
+      const std::uint32_t spread = spreadCost(worst, missingFillers(state.fillers, fillers_));
       const bool together = state.best < spread;
       const std::uint32_t unnamed = state.nameWorst <= state.bestWorst ? 0 : unnamedDetail;
       matches.push_back({(together ? state.best : spread) + unnamed + index_.docPrior[doc], doc,

@@ -64,7 +64,17 @@ struct SearchOptions {
 
 /// The interactive search over a list of entities. Immutable: any number of threads may query one object, and
 /// copies share their data. It keeps nothing of the list and does not notice its changes; build a new one for
-/// a new list. Building costs about as much as decoding the tables did, so do it when it is first needed.
+/// a new list. Building costs somewhat more than decoding the tables did, so do it when it is first needed.
+///
+/// A host that shows what the user's words match of the displayed characters:
+///
+///     const Search search(selectedEntities());   // once, and again after "contentHasChanged"
+///     ...
+///     std::vector<Entity> found;
+///     for (const SearchResult& result : search.query(text).results)
+///       found.push_back(selectedEntities()[result.index]);
+///     filteredEntities() = std::move(found);
+///     NotificationCenter::defaultCenter().post({notificationName::filteredContentHasChanged});
 class GLYPHORIUM_EXPORT Search {
  public:
   /// Several entities of one hex code (a curated group and its home block) are one result, of which the first
@@ -88,7 +98,8 @@ class GLYPHORIUM_EXPORT Search {
   /// memory runs out.
   SearchResults query(std::string_view text, const SearchOptions& options = {}) const;
 
-  /// The memory that the object and its copies share.
+  /// The memory that the object and its copies share. Every thread that queries keeps about a third of it
+  /// more to work with, until it ends.
   std::size_t byteCount() const noexcept;
 
  private:

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "glyphorium/data/search_facts_internal.h"
+#include "glyphorium/search/matching_internal.h"
+#include "tests/search/catalog_search.h"
+
+namespace glyph::search {
+namespace {
+
+// Whether one edit makes `a` of `b`: a letter left out, put in, replaced, or two neighbours exchanged.
+bool isOneEdit(std::string_view a, std::string_view b) {
+  if (a.size() > b.size()) std::swap(a, b);
+  std::size_t head = 0;
+  while (head < a.size() && a[head] == b[head]) ++head;
+  const std::string_view restA = a.substr(head);
+  const std::string_view restB = b.substr(head);
+  if (restA.size() + 1 == restB.size()) return restA == restB.substr(1);
+  if (restA.size() != restB.size() || restA.empty()) return false;
+  if (restA.substr(1) == restB.substr(1)) return true;
+  return restA.size() > 1 && restA[0] == restB[1] && restA[1] == restB[0] &&
+         restA.substr(2) == restB.substr(2);
+}
+
+// The walk through the dictionary finds just the words that comparing with each of them does.
+TEST(MistypedWords, AreThoseAtOneEdit) {
+  const Index index = buildIndex(testing::CatalogSearch::instance().entities);
+  for (const char* const text : {"arow", "arrow", "aarrow", "elipsis", "xarrow", "rokcet", "letterx", "sqare",
+                                 "quostion", "teh1", "circel", "starr", "zzzz", "heart"}) {
+    QueryWord word{text, {}, false};
+    addMistypedWords(index, word);
+    std::set<std::string> found;
+    for (const Alternative& alternative : word.alternatives) {
+      if (alternative.match != WordMatch::typo) continue;
+      for (std::uint32_t id = alternative.words.first; id < alternative.words.last; ++id)
+        found.emplace(index.word(id));
+    }
+    std::set<std::string> wanted;
+    for (std::uint32_t id = 0; id < index.wordCount(); ++id) {
+      if (isOneEdit(text, index.word(id))) wanted.emplace(index.word(id));
+    }
+    EXPECT_EQ(found, wanted) << text;
+  }
+}
+
+TEST(SearchFacts, EveryHtmlNameFindsItsCharacterFirst) {
+  std::size_t names = 0;
+  for (std::size_t list = 0; list < searchFactCount; ++list) {
+    const SearchFacts& facts = searchFactList[list];
+    if (facts.kind != SearchFactKind::htmlName) continue;
+    for (std::size_t i = 0; i < facts.size(); ++i) {
+      char hex[16];
+      std::snprintf(hex, sizeof hex, "%04x", facts[i].codePoint);
+      const auto& entities = testing::CatalogSearch::instance().entities;
+      if (std::none_of(entities.begin(), entities.end(),
+                       [&](const Entity& e) { return e.computed.hex == hex; }))
+        continue;
+      for (std::string_view rest = facts[i].texts; !rest.empty();) {
+        const std::string name(rest.substr(0, rest.find('\n')));
+        rest.remove_prefix(std::min(name.size() + 1, rest.size()));
+        const auto found = testing::CatalogSearch::instance().hexes(std::string(1, '&').append(name).append(";"));
+        EXPECT_EQ(found.empty() ? "" : found.front(), hex) << name;
+        ++names;
+      }
+    }
+  }
+  EXPECT_GT(names, 2000u);
+}
+
+}  // namespace
+}  // namespace glyph::search
