@@ -92,7 +92,7 @@ struct Index {
 
   /// The words that begin with `prefix`; the first of them is the word itself, if it is one.
   WordRange withPrefix(std::string_view prefix) const;
-  /// Likewise within a range whose words share the first `depth` bytes with the prefix.
+  /// Likewise, where a range is known that they are in.
   WordRange withPrefix(std::string_view prefix, WordRange within) const;
   /// The word itself; empty where it is none.
   WordRange exactly(std::string_view word) const;
