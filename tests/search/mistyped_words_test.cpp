@@ -60,7 +60,8 @@ TEST(SearchFacts, EveryHtmlNameFindsItsCharacterFirst) {
       for (std::string_view rest = facts[i].texts; !rest.empty();) {
         const std::string name(rest.substr(0, rest.find('\n')));
         rest.remove_prefix(std::min(name.size() + 1, rest.size()));
-        const auto found = testing::CatalogSearch::instance().hexes(std::string(1, '&').append(name).append(";"));
+        const auto found =
+            testing::CatalogSearch::instance().hexes(std::string(1, '&').append(name).append(";"));
         EXPECT_EQ(found.empty() ? "" : found.front(), hex) << name;
         ++names;
       }
