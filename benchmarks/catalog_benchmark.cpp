@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Decoding and joining the catalog beside the parser's bare parse of the same bytes.
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 #include <simdjson.h>
 
 #include "glyphorium/catalog/decoding_and_joining_internal.h"
@@ -123,4 +124,12 @@ BENCHMARK(decodeNameTable)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+  // Keep freed memory, as the parser keeps its own: whether the kernel has to give pages anew would otherwise decide
+  // the comparison. (A first run in a new process pays for them once, about 1 ms for 4 MB.)
+  mallopt(M_TRIM_THRESHOLD, 1 << 30);
+  mallopt(M_MMAP_THRESHOLD, 1 << 30);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <bitset>
+#include <cstdint>
+#include <cstring>
 #include <unordered_map>
 
 #include "glyphorium/catalog/decoding_and_joining_internal.h"
@@ -27,8 +30,19 @@ std::string replaced(std::string_view text, std::string_view what, std::string_v
 void enrich(std::vector<Entity>& entities, const std::vector<AdditionalData>& with) {
   std::unordered_map<std::string_view, const AdditionalData*> firstOfHex;
   firstOfHex.reserve(with.size());
-  for (const AdditionalData& enrichment : with) firstOfHex.try_emplace(enrichment.hex, &enrichment);
+  // Most entities have no enrichment. A bit for each hex that has any spares them the look-up.
+  std::bitset<8192> enriched;
+  const auto bitOf = [&](std::string_view hex) {
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, hex.data(), std::min(hex.size(), sizeof bytes));
+    return static_cast<std::size_t>((bytes * 0x9E3779B97F4A7C15u) >> 51);
+  };
+  for (const AdditionalData& enrichment : with) {
+    firstOfHex.try_emplace(enrichment.hex, &enrichment);
+    enriched.set(bitOf(enrichment.hex));
+  }
   for (Entity& entity : entities) {
+    if (!enriched.test(bitOf(entity.computed.hex))) continue;
     const auto enrichment = firstOfHex.find(entity.computed.hex);
     if (enrichment != firstOfHex.end()) entity.additional = *enrichment->second;
   }

@@ -10,6 +10,7 @@
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/platform/unicode_text.h"
 #include "glyphorium/search/search.h"
+#include "tests/support/recorded_diagnostics.h"
 
 namespace glyph::testing {
 
@@ -37,6 +38,7 @@ struct CatalogSearch {
   CatalogSearch() : entities(catalogEntities()), search(entities) {}
 
   static std::vector<Entity> catalogEntities() {
+    const RecordedDiagnostics quiet;
     Glyphorium catalog;
     catalog.configure();
     return catalog.buildInEntities();
