@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include <getopt.h>
+
+#include <charconv>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <optional>
+#include <system_error>
+
+#include "glyphorium/platform/diagnostics.h"
+#include "glyphorium/version.h"
+#include "service.h"
+
+namespace {
+
+using std::chrono::microseconds;
+
+constexpr int failed = 1, wrongUse = 2;
+
+void complain(std::string_view text) {
+  std::fprintf(stderr, "glyphorium-search-provider: %.*s\n", static_cast<int>(text.size()), text.data());
+}
+
+// Seconds, as a decimal number, of a year at most.
+std::optional<microseconds> duration(const char* text) {
+  double seconds = 0;
+  const char* const end = text + std::strlen(text);
+  const auto [rest, error] = std::from_chars(text, end, seconds);
+  if (error != std::errc() || rest != end || !(seconds >= 0 && seconds <= 31'536'000)) return std::nullopt;
+  return std::chrono::duration_cast<microseconds>(std::chrono::duration<double>(seconds));
+}
+
+int printHelp() {
+  std::printf(
+      "Usage: glyphorium-search-provider [OPTION]\n"
+      "Answers the desktop's own search with the characters that are in Glyphorium's index. The session bus\n"
+      "starts it when the desktop asks, as %s:\n"
+      "  %s  org.gnome.Shell.SearchProvider2\n"
+      "  /runner  org.kde.krunner1\n\n"
+      "      --idle-seconds=SECONDS  leave that long after the last question; 0: never (default 30)\n"
+      "  -h, --help                  print this\n"
+      "      --version               print the version\n",
+      provider::busName().c_str(), provider::objectPath().c_str());
+  return 0;
+}
+
+int serve(microseconds idleLimit) try {
+  provider::Service(idleLimit).run();
+  return 0;
+} catch (const provider::CallError& error) {
+  complain(error.text);
+  return failed;
+} catch (const std::exception& error) {
+  complain(std::string("no service on the session bus: ") + error.what());
+  return failed;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  enum { help = 'h', version = 256, idleSeconds };
+  const option options[] = {{"help", no_argument, nullptr, help},
+                            {"version", no_argument, nullptr, version},
+                            {"idle-seconds", required_argument, nullptr, idleSeconds},
+                            {}};
+  microseconds idleLimit = std::chrono::seconds(30);
+  for (int found; (found = getopt_long(argc, argv, "h", options, nullptr)) != -1;) {
+    if (found == help) return printHelp();
+    if (found == version) return std::printf("glyphorium-search-provider %s\n", GlyphoriumVersionString) < 0;
+    if (found != idleSeconds) return wrongUse;  // getopt has said why
+    const auto wanted = duration(optarg);
+    if (!wanted) {
+      complain(std::string("--idle-seconds takes a number of seconds, not '") + optarg + "'");
+      return wrongUse;
+    }
+    idleLimit = *wanted;
+  }
+  if (optind < argc) {
+    complain(std::string("unexpected argument '") + argv[optind] + "'");
+    return wrongUse;
+  }
+
+  // To the journal, with what the bus itself has to say about its services.
+  glyph::setDiagnosticsSink(complain);
+  std::signal(SIGPIPE, SIG_IGN);
+  return serve(idleLimit);
+}

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "service.h"
+
+#include <signal.h>
+
+#include <algorithm>
+#include <cerrno>
+
+#include "character_text.h"
+#include "glyphorium/platform/application.h"
+#include "glyphorium/toolkit/entity_tool_kit.h"
+#include "runner_interface.h"
+#include "shell_interface.h"
+
+namespace provider {
+namespace {
+
+using namespace std::chrono_literals;
+
+// Long enough for clients to hear that the name has no owner any more: until then they call the connection
+// that had it, and calls to a closed one are lost.
+constexpr std::chrono::microseconds farewell = 1s;
+
+std::string applicationPath() {
+  std::string path = "/" + glyph::applicationIdentifier();
+  std::replace(path.begin(), path.end(), '.', '/');
+  return path;
+}
+
+// Delivered through the event loop, so that a call is never cut in the middle.
+void catchSignals() {
+  sigset_t signals;
+  sigemptyset(&signals);
+  for (const int one : {SIGTERM, SIGINT, SIGHUP}) sigaddset(&signals, one);
+  pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+}
+
+}  // namespace
+
+std::string busName() {
+  return glyph::applicationIdentifier() + ".SearchProvider";
+}
+
+std::string objectPath() {
+  return applicationPath() + "/SearchProvider";
+}
+
+void Service::run() {
+  catchSignals();
+  sd_event* loop = nullptr;
+  check(sd_event_new(&loop));
+  loop_.reset(loop);
+  for (const int one : {SIGTERM, SIGINT, SIGHUP}) {
+    check(sd_event_add_signal(loop, nullptr, one, &Service::onSignal, this));
+  }
+  sd_event_source* quiet = nullptr;
+  check(sd_event_add_time_relative(loop, &quiet, CLOCK_MONOTONIC, 0, 1000, &Service::onQuiet, this));
+  quiet_.reset(quiet);
+  // After everything that waits on the bus.
+  check(sd_event_source_set_priority(quiet, SD_EVENT_PRIORITY_IDLE));
+  check(sd_event_source_set_enabled(quiet, SD_EVENT_OFF));
+
+  sd_bus* bus = nullptr;
+  check(sd_bus_open_user(&bus));
+  bus_.reset(bus);
+  check(sd_bus_set_exit_on_disconnect(bus, true));
+  ShellInterface shell(*this);
+  RunnerInterface runner(*this);
+  shell.addTo(bus);
+  runner.addTo(bus);
+  // The name comes last: the bus holds back the call that started the program until it is taken.
+  const int taken = sd_bus_request_name(bus, busName().c_str(), 0);
+  if (taken == -EEXIST) throw CallError{SD_BUS_ERROR_FAILED, busName() + " runs already"};
+  check(taken);
+  check(sd_bus_attach_event(bus, loop, SD_EVENT_PRIORITY_NORMAL));
+  patience_ = idleLimit_;
+  noteCall();
+  check(sd_event_loop(loop));  // its result tells only which way it ended
+  openSearches_.clear();       // each holds the bus
+  quiet_.reset();
+  bus_.reset();
+}
+
+void Service::noteCall() {
+  if (!leaving_ && patience_ == 0s) return;
+  check(sd_event_source_set_time_relative(quiet_.get(), static_cast<std::uint64_t>(patience_.count())));
+  check(sd_event_source_set_enabled(quiet_.get(), SD_EVENT_ONESHOT));
+}
+
+// The name goes back first, so that the bus starts the program anew for whoever calls it from now on, and
+// what the bus had sent here before is still answered.
+void Service::giveNameBack() {
+  if (!leaving_) check(sd_bus_release_name(bus_.get(), busName().c_str()));
+  leaving_ = true;
+}
+
+int Service::onQuiet(sd_event_source*, std::uint64_t, void* self) noexcept try {
+  Service& service = *static_cast<Service*>(self);
+  if (service.leaving_) return sd_event_exit(service.loop_.get(), 0);
+  if (service.openSearches_.empty()) {
+    service.giveNameBack();
+    service.patience_ = farewell;
+  }
+  service.noteCall();
+  return 0;
+} catch (...) {
+  return -EIO;  // ends the loop
+}
+
+int Service::onSignal(sd_event_source*, const signalfd_siginfo*, void* self) noexcept try {
+  Service& service = *static_cast<Service*>(self);
+  service.giveNameBack();
+  service.patience_ = 0s;
+  service.noteCall();
+  return 0;
+} catch (...) {
+  return -EIO;
+}
+
+void Service::copy(const std::string& identifier, std::string (*form)(const glyph::SearchableItem&)) {
+  const auto item = characters_.item(identifier);
+  if (!item) throw CallError{SD_BUS_ERROR_INVALID_ARGS, "No character is indexed as '" + identifier + "'"};
+  if (!glyph::toolKit().writeToPasteboard(form(*item), symbolOf(*item))) {
+    throw CallError{SD_BUS_ERROR_FAILED, "The clipboard did not take the text"};
+  }
+}
+
+// By the interface that applications of the desktop offer (Desktop Entry Specification, D-Bus activation).
+// The bus starts the application where it is installed, which takes a while: others are answered meanwhile.
+void Service::openSearch(sd_bus_message* call, const std::string& query) {
+  const auto search = openSearches_.insert(openSearches_.end(), {*this, Message(sd_bus_message_ref(call))});
+  check(sd_bus_call_method_async(bus_.get(), nullptr, glyph::applicationIdentifier().c_str(),
+                                 applicationPath().c_str(), "org.freedesktop.Application", "ActivateAction",
+                                 &Service::onSearchOpened, &*search, "sava{sv}", "search", 1, "s",
+                                 query.c_str(), 0));
+}
+
+int Service::onSearchOpened(sd_bus_message* answer, void* self, sd_bus_error*) noexcept {
+  OpenSearch& search = *static_cast<OpenSearch*>(self);
+  const sd_bus_error* const error = sd_bus_message_get_error(answer);
+  // Not heard by whoever asked and has gone since.
+  const int sent = error ? sd_bus_reply_method_error(search.call.get(), error)
+                         : sd_bus_reply_method_return(search.call.get(), nullptr);
+  search.service.openSearches_.remove_if([&](const OpenSearch& one) { return &one == &search; });
+  return sent;
+}
+
+}  // namespace provider

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <systemd/sd-event.h>
+
+#include <chrono>
+#include <list>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "bus.h"
+#include "character_search.h"
+
+namespace provider {
+
+/// Bus name and object path of the application's search provider, made of the application identifier.
+std::string busName();
+std::string objectPath();
+
+using EventLoop = std::unique_ptr<sd_event, Releaser<sd_event, sd_event_unref>>;
+using EventSource =
+    std::unique_ptr<sd_event_source, Releaser<sd_event_source, sd_event_source_disable_unref>>;
+
+/// The program's place on the session bus: it takes the name there, answers, and leaves when nobody has
+/// called for a while, when it is told to, or when the bus ends. The bus starts it again at the next call.
+class Service {
+ public:
+  /// Zero: it stays until it is told to leave.
+  explicit Service(std::chrono::microseconds idleLimit) : idleLimit_(idleLimit) {}
+
+  /// Returns when the program is to end. Throws std::system_error, or CallError where the name is taken.
+  void run();
+
+  CharacterSearch& characters() { return characters_; }
+
+  /// Every method calls it first: the program stays for some time after the last.
+  void noteCall();
+
+  /// Copies a form of the item to the clipboard. Throws CallError where there is no such item, and where the
+  /// clipboard does not take the text.
+  void copy(const std::string& identifier, std::string (*form)(const glyph::SearchableItem&));
+
+  /// Asks the application to show its own search for the query, and answers `call` with what that said.
+  void openSearch(sd_bus_message* call, const std::string& query);
+
+ private:
+  struct OpenSearch {
+    Service& service;
+    Message call;
+  };
+
+  static int onQuiet(sd_event_source*, std::uint64_t, void* service) noexcept;
+  static int onSignal(sd_event_source*, const signalfd_siginfo*, void* service) noexcept;
+  static int onSearchOpened(sd_bus_message* answer, void* search, sd_bus_error*) noexcept;
+  void giveNameBack();
+
+  const std::chrono::microseconds idleLimit_;
+  CharacterSearch characters_;
+  EventLoop loop_;
+  Bus bus_;
+  EventSource quiet_;                     // fires when nobody has called for `patience_`
+  std::chrono::microseconds patience_{};  // zero: for ever while it serves, not at all while it is leaving
+  bool leaving_ = false;
+  std::list<OpenSearch> openSearches_;  // not answered yet
+};
+
+}  // namespace provider
