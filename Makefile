@@ -30,11 +30,11 @@ bench:
 	cmake --build --preset bench -j $(JOBS)
 	@for b in build/bench/benchmarks/*_benchmark; do "$$b" $(ARGS) || exit 1; done
 
-# The desktop finds the installed program, its manual page and completions here.
+# The desktop finds the installed programs, their manual page and completions, and its search provider here.
 PREFIX ?= /usr/local
 install:
-	@scripts/bootstrap run
-	cmake --preset release -DCMAKE_INSTALL_PREFIX=$(PREFIX)
+	@scripts/bootstrap install
+	cmake --preset release -DCMAKE_INSTALL_PREFIX=$(PREFIX) -DGLYPHORIUM_BUILD_SEARCH_PROVIDER=ON
 	cmake --build --preset release -j $(JOBS)
 	cmake --install build/release
 

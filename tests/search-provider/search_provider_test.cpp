@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <sqlite3.h>
+
+#include "session.h"
+
+namespace glyph {
+namespace {
+
+using test::fileContent;
+using test::isInstalled;
+using test::Session;
+using test::writeFile;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+class SearchProvider : public testing::Test {
+ protected:
+  void SetUp() override {
+    for (const char* tool : {"dbus-run-session", "gdbus"}) {
+      if (!isInstalled(tool)) GTEST_SKIP() << tool << " is not installed";
+    }
+  }
+};
+
+TEST_F(SearchProvider, AnswersTheShell) {
+  Session session;
+  session.index();
+  std::string manyResults = "['2192'";
+  for (int i = 0; i < 99; ++i) manyResults += ", 'gone" + std::to_string(i) + "'";
+  manyResults += "]";
+  const struct {
+    std::string call, answer;
+  } cases[] = {
+      {"GetInitialResultSet \"['→']\"", "(['2192'],)\n"},
+      {"GetInitialResultSet \"['rightwards', 'ARROW']\"", "(['2192', '21d2', '27f9'],)\n"},
+      {"GetInitialResultSet \"['21D2']\"", "(['21d2'],)\n"},
+      {"GetInitialResultSet \"['u+3c']\"", "(['003c'],)\n"},
+      {"GetInitialResultSet \"['\\\\\\\\u{2192}']\"", "(['2192'],)\n"},
+      {"GetInitialResultSet \"['U+110000000000000']\"", "(@as [],)\n"},
+      {"GetInitialResultSet \"['a']\"",
+       "(['0061', '0041,030a', '2192', '05d0', '0301', '21d2', '27f9'],)\n"},
+      {"GetInitialResultSet \"['lt']\"", "(['003c'],)\n"},
+      {"GetInitialResultSet \"['&rArr;']\"", "(['2192', '21d2'],)\n"},
+      {"GetInitialResultSet \"['qv:double']\"", "(['21d2', '27f9'],)\n"},
+      {"GetInitialResultSet \"['❤\uFE0F']\"", "(['2764'],)\n"},
+      {"GetInitialResultSet \"['arrow OR sign', 'NEAR(', '*', '\\\"']\"", "(@as [],)\n"},
+      {"GetInitialResultSet \"['', ' ']\"", "(@as [],)\n"},
+      {"GetInitialResultSet \"@as []\"", "(@as [],)\n"},
+      {"GetSubsearchResultSet \"['2192', '27f9']\" \"['arrow', 'double']\"", "(['27f9'],)\n"},
+      {"GetSubsearchResultSet \"@as []\" \"['arrow']\"", "(@as [],)\n"},
+      // Results that may have been cut short do not bound what people narrow them down to.
+      {"GetSubsearchResultSet \"" + manyResults + "\" \"['long']\"", "(['27f9'],)\n"},
+      {"GetResultMetas \"['2192', 'zzzz', '', '0041,030a']\"",
+       "([{'id': <'2192'>, 'name': <'→ Rightwards Arrow'>, 'description': <'arrows · U+2192'>, "
+       "'gicon': <'org.glyphorium.Glyphorium'>, 'clipboardText': <'→'>}, "
+       "{'id': <'0041,030a'>, 'name': <'A\u030A A With Ring'>, 'description': <'custom · U+0041 U+030A'>, "
+       "'gicon': <'org.glyphorium.Glyphorium'>, 'clipboardText': <'A\u030A'>}],)\n"},
+      {"GetResultMetas \"['zzzz']\"", "(@aa{sv} [],)\n"},
+      {"ActivateResult 2192 \"['arrow']\" 0", "()\n"},
+  };
+  for (const auto& [call, answer] : cases) EXPECT_EQ(session.shell(call), answer) << call;
+
+  const struct {
+    std::string call, part;
+  } parts[] = {
+      {"GetResultMetas \"['0301']\"", "'name': <'◌\u0301 Combining Acute Accent'>"},
+      {"GetResultMetas \"['05d0']\"", "'name': <'\\u200eא Hebrew Letter Alef'>"},
+      {"GetResultMetas \"['2028']\"", "'name': <'Line Separator'>"},
+      {"GetInitialResultSet \"['$(head -c 100000 /dev/zero | tr '\\0' a)']\"", "(@as [],)"},
+      {"GetInitialResultSet \"['a']\" \"['b']\"", "InvalidArgs"},
+      {"ActivateResult zzzz \"['arrow']\" 0", "InvalidArgs"},
+      {"LaunchSearch \"['arrow']\" 0", "ServiceUnknown"},  // no application with a window is installed
+  };
+  for (const auto& [call, part] : parts) EXPECT_THAT(session.shell(call), HasSubstr(part)) << call;
+  EXPECT_EQ(fileContent(session / "clipboard"), "→");
+  EXPECT_EQ(session.starts(), 1u) << session.log();
+}
+
+TEST_F(SearchProvider, AnswersTheRunner) {
+  Session session;
+  session.index();
+  const std::string actions = "'actions': <['character', 'html', 'code-point']>}";
+  const struct {
+    std::string call, answer;
+  } cases[] = {
+      {"Match →",
+       "([('2192', '→ Rightwards Arrow', 'org.glyphorium.Glyphorium', 100, 1.0, {'category': "
+       "<'Characters'>, 'subtext': <'arrows · U+2192'>, " +
+           actions + ")],)\n"},
+      {"Match 'no such thing'", "(@a(sssida{sv}) [],)\n"},
+      {"Match ''", "(@a(sssida{sv}) [],)\n"},
+      {"Match l", "(@a(sssida{sv}) [],)\n"},  // one letter finds only itself
+      {"Actions",
+       "([('character', 'Copy Character', 'edit-copy'), ('html', 'Copy HTML Reference', 'text-html'), "
+       "('code-point', 'Copy Code Point', 'accessories-character-map')],)\n"},
+      {"Teardown", "()\n"},
+  };
+  for (const auto& [call, answer] : cases) EXPECT_EQ(session.runner(call), answer) << call;
+
+  const struct {
+    std::string query, first;  // with its category relevance
+  } matches[] = {{"a", "('0061', 'a Latin Small Letter A', 'org.glyphorium.Glyphorium', 100"},
+                 {"'less-than sign'", "('003c', '< Less-Than Sign', 'org.glyphorium.Glyphorium', 70"},
+                 {"double", "('21d2', '⇒ Rightwards Double Arrow', 'org.glyphorium.Glyphorium', 30"},
+                 {"'QV: double'", "('21d2', '⇒ Rightwards Double Arrow', 'org.glyphorium.Glyphorium', 70"}};
+  for (const auto& [query, first] : matches) {
+    EXPECT_THAT(session.runner("Match " + query), StartsWith("([" + first));
+  }
+
+  const struct {
+    std::string arguments, answer, copied;
+  } runs[] = {{"2192 ''", "()\n", "→"},
+              {"0041,030a html", "()\n", "&#x41;&#x30a;"},
+              {"0041,030a code-point", "()\n", "U+0041 U+030A"},
+              {"05d0 character", "()\n", "א"},
+              {"2192 shout", "InvalidArgs", "א"},
+              {"zzzz html", "InvalidArgs", "א"}};
+  for (const auto& [arguments, answer, copied] : runs) {
+    EXPECT_THAT(session.runner("Run " + arguments), HasSubstr(answer)) << arguments;
+    EXPECT_EQ(fileContent(session / "clipboard"), copied) << arguments;
+  }
+
+  if (isInstalled("busctl")) {
+    const std::string call =
+        "busctl --address=\"$DBUS_SESSION_BUS_ADDRESS\" call org.glyphorium.Glyphorium.SearchProvider "
+        "/runner org.kde.krunner1 Match ";
+    EXPECT_THAT(runProgram(call + "s → 2>&1").output, StartsWith("a(sssida{sv}) 1 \"2192\""));
+    EXPECT_THAT(runProgram(call + "u 5 2>&1").output, HasSubstr("Invalid arguments"));
+  }
+  EXPECT_EQ(session.starts(), 1u) << session.log();
+}
+
+// Holds the index as another program might.
+class Holder {
+ public:
+  Holder(const std::filesystem::path& file, const char* commands) {
+    EXPECT_EQ(sqlite3_open(file.c_str(), &database_), SQLITE_OK);
+    sqlite3_busy_timeout(database_, 10'000);
+    EXPECT_EQ(sqlite3_exec(database_, commands, nullptr, nullptr, nullptr), SQLITE_OK);
+  }
+  ~Holder() { sqlite3_close(database_); }
+
+ private:
+  sqlite3* database_ = nullptr;
+};
+
+TEST_F(SearchProvider, AnswersWhateverBecomesOfTheIndex) {
+  Session session;
+  const std::string none = "(@as [],)\n", found = "(['2192'],)\n";
+  const auto search = [&] { return session.shell("GetInitialResultSet \"['→']\""); };
+  EXPECT_EQ(search(), none);
+  session.index();
+  EXPECT_EQ(search(), found);
+  {
+    const Holder writer(session.indexFile(), "BEGIN IMMEDIATE; DELETE FROM item");
+    EXPECT_EQ(search(), found);
+  }
+  std::filesystem::remove(session.indexFile());
+  EXPECT_EQ(search(), none);
+  session.index();
+  EXPECT_EQ(search(), found);
+  std::filesystem::remove_all(session.indexFile().parent_path());
+  session.index();
+  {
+    const Holder all(session.indexFile(),
+                     "PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE; DELETE FROM item");
+    EXPECT_EQ(search(), none);
+    EXPECT_EQ(session.runner("Run 2192 ''").find("InvalidArgs") != std::string::npos, true);
+  }
+  EXPECT_TRUE(Session::eventually([&] { return search() == found; }));
+  writeFile(session.indexFile(), std::string(10'000, '?'));
+  EXPECT_EQ(search(), none);
+  EXPECT_EQ(session.starts(), 1u) << session.log();
+}
+
+TEST_F(SearchProvider, AnswersManyAtOnceWhileOthersVanish) {
+  Session session;
+  session.index();
+  const std::string search = session.shellCommand("GetInitialResultSet \"['double']\"");
+  const std::string result = runProgram("for i in $(seq 50); do " + search + " & " + search +
+                                        " >/dev/null 2>&1 & kill -9 $!; done 2>/dev/null; wait")
+                                 .output;
+  std::size_t answers = 0;
+  for (std::size_t at = 0; (at = result.find("(['21d2', '27f9'],)\n", at)) != std::string::npos; ++at)
+    ++answers;
+  EXPECT_EQ(answers, 50u) << result;
+  EXPECT_EQ(session.starts(), 1u) << session.log();
+}
+
+TEST_F(SearchProvider, LeavesWhenIdleWithoutLosingACall) {
+  Session session("0.02");
+  session.index();
+  // Pauses around the idle time, so that many calls meet the program on its way out.
+  const std::string result = runProgram("for client in 1 2; do for pause in $(seq 10 35); do " +
+                                        session.shellCommand("GetInitialResultSet \"['→']\"") +
+                                        " 2>&1; sleep 0.0$pause; done & done; wait")
+                                 .output;
+  std::string expected;
+  for (int i = 0; i < 52; ++i) expected += "(['2192'],)\n";
+  EXPECT_EQ(result, expected);
+  EXPECT_GT(session.starts(), 2u);
+  EXPECT_TRUE(Session::eventually([&] { return session.ends() == session.starts(); })) << session.log();
+  EXPECT_THAT(fileContent(session / "ends"), Not(testing::ContainsRegex("[^0\n]"))) << session.log();
+}
+
+TEST_F(SearchProvider, EndsWhenToldTo) {
+  Session session("0");
+  session.index();
+  for (const std::string signal : {"TERM", "INT", "HUP"}) {
+    EXPECT_THAT(session.shell("GetInitialResultSet \"['→']\""), HasSubstr("2192"));
+    const std::size_t before = session.ends();
+    runProgram(
+        "gdbus call --session -d org.freedesktop.DBus -o / -m "
+        "org.freedesktop.DBus.GetConnectionUnixProcessID org.glyphorium.Glyphorium.SearchProvider | "
+        "tr -dc '0-9 ' | { read type process; kill -" +
+        signal + " $process; }");
+    EXPECT_TRUE(Session::eventually([&] { return session.ends() > before; })) << signal;
+  }
+  EXPECT_EQ(fileContent(session / "ends"), "0\n0\n0\n") << session.log();
+}
+
+TEST(SearchProviderProgram, ExplainsItself) {
+  const struct {
+    std::string arguments;
+    int exitCode;
+    std::string output;
+  } cases[] = {{"--help", 0, "--idle-seconds"},          {"--version", 0, "glyphorium-search-provider 1."},
+               {"--idle-seconds=soon", 2, "not 'soon'"}, {"--idle-seconds=-1", 2, "not '-1'"},
+               {"--idle-seconds=nan", 2, "not 'nan'"},   {"--frobnicate", 2, "frobnicate"},
+               {"now", 2, "unexpected argument 'now'"},  {"", 1, "no service on the session bus"}};
+  for (const auto& [arguments, exitCode, output] : cases) {
+    const ProgramResult result = runProgram(
+        "DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent " SEARCH_PROVIDER " " + arguments + " 2>&1");
+    EXPECT_EQ(result.exitCode, exitCode) << arguments;
+    EXPECT_THAT(result.output, HasSubstr(output)) << arguments;
+  }
+}
+
+}  // namespace
+}  // namespace glyph

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <string>
+#include <thread>
+
+#include "glyphorium/platform/application.h"
+#include "glyphorium/platform/sqlite_searchable_index.h"
+#include "glyphorium/toolkit/entity_tool_kit.h"
+#include "tests/platform/sandbox.h"
+#include "tests/support/program.h"
+
+namespace glyph::test {
+
+inline bool isInstalled(const std::string& program) {
+  return runProgram("command -v " + program).exitCode == 0;
+}
+
+/// The value of a key in a file of "key=value" lines.
+inline std::string valueIn(const std::string& content, const std::string& key) {
+  const auto at = ("\n" + content).find("\n" + key + "=");
+  if (at == std::string::npos) return {};
+  const auto from = at + key.size() + 1;
+  return content.substr(from, content.find('\n', from) - from);
+}
+
+/// A desktop session of its own: a bus that starts the program from its service file, an empty data home, and
+/// a clipboard that is a file. What the program is called by is read from the files that the desktops read.
+class Session {
+ public:
+  explicit Session(const std::string& idleSeconds = "30") {
+    std::filesystem::create_directories(directory_ / "share/dbus-1/services");
+    std::filesystem::create_directories(directory_ / "bin");
+    // Writes down each start and end, so that tests see how the program ended.
+    script("program", "echo started >>" + path("starts") + "\n" SEARCH_PROVIDER " --idle-seconds=" +
+                          idleSeconds + "\necho $? >>" + path("ends") + "\n");
+    script("bin/xclip", "exec cat >" + path("clipboard") + "\n");
+    std::string service =
+        fileContent(INSTALLED_SHARE "/dbus-1/services/org.glyphorium.Glyphorium.SearchProvider.service");
+    service.replace(service.find("Exec="), std::string::npos, "Exec=" + path("program") + "\n");
+    writeFile(directory_ / "share/dbus-1/services/provider.service", service);
+
+    // The bus ends with the pipe's other end.
+    bus_ = popen(("exec dbus-run-session -- sh -c 'echo $DBUS_SESSION_BUS_ADDRESS >" + path("new") + "; mv " +
+                  path("new") + " " + path("address") + "; exec cat' >" + path("log") + " 2>&1")
+                     .c_str(),
+                 "w");
+    if (!eventually([&] { return std::filesystem::exists(directory_ / "address"); })) return;
+    std::string address = fileContent(directory_ / "address");
+    address.pop_back();
+    setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
+
+    const std::string ini = fileContent(
+        INSTALLED_SHARE "/gnome-shell/search-providers/org.glyphorium.Glyphorium.search-provider.ini");
+    const std::string runner =
+        fileContent(INSTALLED_SHARE "/krunner/dbusplugins/org.glyphorium.Glyphorium.desktop");
+    shell_ = "gdbus call --session -d " + valueIn(ini, "BusName") + " -o " + valueIn(ini, "ObjectPath") +
+             " -m org.gnome.Shell.SearchProvider2.";
+    runner_ = "gdbus call --session -d " + valueIn(runner, "X-Plasma-DBusRunner-Service") + " -o " +
+              valueIn(runner, "X-Plasma-DBusRunner-Path") + " -m org.kde.krunner1.";
+  }
+  ~Session() {
+    if (bus_) pclose(bus_);
+  }
+
+  std::string shellCommand(const std::string& call) const { return shell_ + call; }
+  std::string runnerCommand(const std::string& call) const { return runner_ + call; }
+  std::string shell(const std::string& call) const { return answer(shell_ + call); }
+  std::string runner(const std::string& call) const { return answer(runner_ + call); }
+
+  std::filesystem::path operator/(const std::string& name) const { return directory_ / name; }
+  std::filesystem::path indexFile() const {
+    return directory_ / ("data/" + std::string(defaultApplicationIdentifier) + "/index.sqlite");
+  }
+  std::size_t starts() const { return lines("starts"); }
+  std::size_t ends() const { return lines("ends"); }
+  std::string log() const { return fileContent(directory_ / "log"); }
+
+  /// Puts a few characters into the index, as the application does.
+  void index() {
+    const struct {
+      std::string hex, name, group, html;
+    } characters[] = {{"2192", "Rightwards Arrow", "arrows", "&rarr;"},
+                      {"21d2", "Rightwards Double Arrow", "arrows", "&rArr;"},
+                      {"27f9", "Long Rightwards Double Arrow", "arrows", ""},
+                      {"003c", "Less-Than Sign", "latin basic", "&lt;"},
+                      {"0061", "Latin Small Letter A", "latin basic", ""},
+                      {"0301", "Combining Acute Accent", "accents", ""},
+                      {"05d0", "Hebrew Letter Alef", "hebrew", ""},
+                      {"2028", "Line Separator", "spaces", ""},
+                      {"0041,030a", "A With Ring", "custom", ""},
+                      {"2764", "Heavy Black Heart", "dingbats", ""}};
+    std::vector<Entity> entities;
+    for (const auto& one : characters) {
+      Entity entity = Unicode(one.hex).computedEntity().generateEntity();
+      entity.computed.fallbackName = one.name;
+      entity.computed.group = one.group;
+      if (!one.html.empty()) {
+        AdditionalData additional;
+        additional.hex = one.hex;
+        additional.htmlNamed = one.html;
+        entity.additional = additional;
+      }
+      entities.push_back(entity);
+    }
+    setSearchableIndex(std::make_shared<SqliteSearchableIndex>(indexFile()));
+    toolKit().addToSpotlight(entities);
+    EXPECT_TRUE(searchableIndex()->waitUntilIdle(std::chrono::seconds(60)));
+    setSearchableIndex(nullptr);
+  }
+
+  /// Waits as long as it takes for what must come true, up to a time that only a hanging program needs.
+  static bool eventually(const std::function<bool()>& condition) {
+    for (const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+         std::chrono::steady_clock::now() < end;) {
+      if (condition()) return true;
+      std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    return false;
+  }
+
+ private:
+  std::string path(const std::string& name) const { return "'" + (directory_ / name).string() + "'"; }
+  void script(const std::string& name, const std::string& commands) const {
+    writeFile(directory_ / name, "#!/bin/sh\n" + commands);
+    chmod((directory_ / name).c_str(), 0700);
+  }
+  static std::string answer(const std::string& command) { return runProgram(command + " 2>&1").output; }
+  std::size_t lines(const std::string& name) const {
+    const std::string content = fileContent(directory_ / name);
+    return static_cast<std::size_t>(std::count(content.begin(), content.end(), '\n'));
+  }
+
+  TemporaryDirectory directory_;
+  ScopedVariable dataHome_{"XDG_DATA_HOME", (directory_ / "data").string()};
+  ScopedVariable dataDirectories_{"XDG_DATA_DIRS", (directory_ / "share").string()};
+  ScopedVariable programs_{"PATH", (directory_ / "bin").string() + ":" + getenv("PATH")};
+  ScopedVariable x11_{"DISPLAY", ":none"}, wayland_{"WAYLAND_DISPLAY", std::nullopt};
+  ScopedVariable address_{"DBUS_SESSION_BUS_ADDRESS", std::nullopt};
+  FILE* bus_ = nullptr;
+  std::string shell_, runner_;
+};
+
+}  // namespace glyph::test
