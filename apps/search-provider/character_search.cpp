@@ -108,8 +108,9 @@ std::vector<Found> CharacterSearch::find(std::string_view query, std::size_t lim
     }
   }
   for (SearchableItem& one : search(query, limit)) {
-    const bool code = symbolOf(one) == wanted || one.uniqueIdentifier == lowered;
-    const bool name = glyph::lowercased(nameOf(one)) == lowered;
+    const bool asked = !wanted.empty();  // for more than all there is
+    const bool code = asked && (symbolOf(one) == wanted || one.uniqueIdentifier == lowered);
+    const bool name = asked && glyph::lowercased(nameOf(one)) == lowered;
     add(std::move(one), code ? Exactness::code : name ? Exactness::name : Exactness::part);
   }
   if (found.empty()) {

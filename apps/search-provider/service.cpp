@@ -89,32 +89,24 @@ void Service::noteCall() {
 
 // The name goes back first, so that the bus starts the program anew for whoever calls it from now on, and
 // what the bus had sent here before is still answered.
-void Service::giveNameBack() {
+int Service::leave(std::chrono::microseconds patience) noexcept try {
   if (!leaving_) check(sd_bus_release_name(bus_.get(), busName().c_str()));
   leaving_ = true;
+  patience_ = patience;
+  noteCall();
+  return 0;
+} catch (...) {  // the bus is gone
+  return sd_event_exit(loop_.get(), 0);
 }
 
-int Service::onQuiet(sd_event_source*, std::uint64_t, void* self) noexcept try {
+int Service::onQuiet(sd_event_source*, std::uint64_t, void* self) noexcept {
   Service& service = *static_cast<Service*>(self);
-  if (service.leaving_) return sd_event_exit(service.loop_.get(), 0);
-  if (service.openSearches_.empty()) {
-    service.giveNameBack();
-    service.patience_ = farewell;
-  }
-  service.noteCall();
-  return 0;
-} catch (...) {
-  return -EIO;  // ends the loop
+  const bool waits = !service.openSearches_.empty() && service.patience_ > 0s;
+  return service.leaving_ && !waits ? sd_event_exit(service.loop_.get(), 0) : service.leave(farewell);
 }
 
-int Service::onSignal(sd_event_source*, const signalfd_siginfo*, void* self) noexcept try {
-  Service& service = *static_cast<Service*>(self);
-  service.giveNameBack();
-  service.patience_ = 0s;
-  service.noteCall();
-  return 0;
-} catch (...) {
-  return -EIO;
+int Service::onSignal(sd_event_source*, const signalfd_siginfo*, void* self) noexcept {
+  return static_cast<Service*>(self)->leave(0s);
 }
 
 void Service::copy(const std::string& identifier, std::string (*form)(const glyph::SearchableItem&)) {

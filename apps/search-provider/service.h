@@ -53,7 +53,7 @@ class Service {
   static int onQuiet(sd_event_source*, std::uint64_t, void* service) noexcept;
   static int onSignal(sd_event_source*, const signalfd_siginfo*, void* service) noexcept;
   static int onSearchOpened(sd_bus_message* answer, void* search, sd_bus_error*) noexcept;
-  void giveNameBack();
+  int leave(std::chrono::microseconds patience) noexcept;
 
   const std::chrono::microseconds idleLimit_;
   CharacterSearch characters_;

@@ -39,8 +39,7 @@ TEST_F(SearchProvider, AnswersTheShell) {
       {"GetInitialResultSet \"['u+3c']\"", "(['003c'],)\n"},
       {"GetInitialResultSet \"['\\\\\\\\u{2192}']\"", "(['2192'],)\n"},
       {"GetInitialResultSet \"['U+110000000000000']\"", "(@as [],)\n"},
-      {"GetInitialResultSet \"['a']\"",
-       "(['0061', '0041,030a', '2192', '05d0', '0301', '21d2', '27f9'],)\n"},
+      {"GetInitialResultSet \"['a']\"", "(['0061', '0041,030a', '2192', '05d0', '0301', '21d2', '27f9'],)\n"},
       {"GetInitialResultSet \"['lt']\"", "(['003c'],)\n"},
       {"GetInitialResultSet \"['&rArr;']\"", "(['2192', '21d2'],)\n"},
       {"GetInitialResultSet \"['qv:double']\"", "(['21d2', '27f9'],)\n"},
@@ -167,7 +166,7 @@ TEST_F(SearchProvider, AnswersWhateverBecomesOfTheIndex) {
     const Holder all(session.indexFile(),
                      "PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE; DELETE FROM item");
     EXPECT_EQ(search(), none);
-    EXPECT_EQ(session.runner("Run 2192 ''").find("InvalidArgs") != std::string::npos, true);
+    EXPECT_THAT(session.runner("Run 2192 ''"), HasSubstr("InvalidArgs"));
   }
   EXPECT_TRUE(Session::eventually([&] { return search() == found; }));
   writeFile(session.indexFile(), std::string(10'000, '?'));
@@ -218,7 +217,10 @@ TEST_F(SearchProvider, EndsWhenToldTo) {
         signal + " $process; }");
     EXPECT_TRUE(Session::eventually([&] { return session.ends() > before; })) << signal;
   }
-  EXPECT_EQ(fileContent(session / "ends"), "0\n0\n0\n") << session.log();
+  EXPECT_THAT(session.shell("GetInitialResultSet \"['→']\""), HasSubstr("2192"));
+  session.endBus();
+  EXPECT_TRUE(Session::eventually([&] { return session.ends() == 4; }));
+  EXPECT_EQ(fileContent(session / "ends"), "0\n0\n0\n0\n") << session.log();
 }
 
 TEST(SearchProviderProgram, ExplainsItself) {

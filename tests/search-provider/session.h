@@ -65,8 +65,10 @@ class Session {
     runner_ = "gdbus call --session -d " + valueIn(runner, "X-Plasma-DBusRunner-Service") + " -o " +
               valueIn(runner, "X-Plasma-DBusRunner-Path") + " -m org.kde.krunner1.";
   }
-  ~Session() {
-    if (bus_) pclose(bus_);
+  ~Session() { endBus(); }
+
+  void endBus() {
+    if (FILE* const bus = std::exchange(bus_, nullptr)) pclose(bus);
   }
 
   std::string shellCommand(const std::string& call) const { return shell_ + call; }
