@@ -121,10 +121,12 @@ void Service::copy(const std::string& identifier, std::string (*form)(const glyp
 // The bus starts the application where it is installed, which takes a while: others are answered meanwhile.
 void Service::openSearch(sd_bus_message* call, const std::string& query) {
   const auto search = openSearches_.insert(openSearches_.end(), {*this, Message(sd_bus_message_ref(call))});
-  check(sd_bus_call_method_async(bus_.get(), nullptr, glyph::applicationIdentifier().c_str(),
-                                 applicationPath().c_str(), "org.freedesktop.Application", "ActivateAction",
-                                 &Service::onSearchOpened, &*search, "sava{sv}", "search", 1, "s",
-                                 query.c_str(), 0));
+  const int asked = sd_bus_call_method_async(bus_.get(), nullptr, glyph::applicationIdentifier().c_str(),
+                                             applicationPath().c_str(), "org.freedesktop.Application",
+                                             "ActivateAction", &Service::onSearchOpened, &*search, "sava{sv}",
+                                             "search", 1, "s", query.c_str(), 0);
+  if (asked < 0) openSearches_.erase(search);
+  check(asked);
 }
 
 int Service::onSearchOpened(sd_bus_message* answer, void* self, sd_bus_error*) noexcept {
