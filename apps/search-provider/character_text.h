@@ -11,8 +11,8 @@ namespace provider {
 std::string symbolOf(const glyph::SearchableItem& item);  ///< empty where the title has none
 std::string nameOf(const glyph::SearchableItem& item);
 
-/// Symbol and name, such as "→ Rightwards Arrow": without the symbol where it shows nothing, and so that it
-/// turns neither the direction of the line nor sits on what stands before it.
+/// Symbol and name, such as "→ Rightwards Arrow": the name alone where the symbol shows nothing, and written
+/// so that the symbol neither turns the direction of the line nor sits on what stands before it.
 std::string label(const glyph::SearchableItem& item);
 
 /// Group and code, such as "arrows · U+2192".
