@@ -164,7 +164,7 @@ void addIndexing(CLI::App& app, Options& options, Run& run) {
   CLI::App* const reset = index->add_subcommand("reset", "Take everything out of the index");
   reset->callback([&] { run = [&](cli::Output& output) { return cli::removeFromIndex(output, {}, true); }; });
 
-  CLI::App* const search = index->add_subcommand("search", "What the desktop's search would find");
+  CLI::App* const search = index->add_subcommand("search", "Search among the indexed characters alone");
   search->add_option("WORDS", options.words, "Words, a code or a character")->required();
   search->add_option("--limit", options.limit, "At most so many")
       ->capture_default_str()

@@ -3,9 +3,12 @@
 
 #include <algorithm>
 #include <climits>
+#include <iterator>
 #include <unordered_set>
 
 #include "character_text.h"
+#include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/platform/unicode_text.h"
 
 namespace provider {
@@ -27,33 +30,31 @@ std::string_view trimmed(std::string_view text) {
   return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-bool isWord(std::string_view text) {
-  return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) {
-    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-  });
+// Of the catalog's ranked characters so many are looked up in the index, which may hold but a few of them.
+constexpr std::size_t mostLookUps = 200;
+constexpr std::size_t mostMisses = 60;
+
+std::vector<glyph::Entity> catalogEntities() {
+  const glyph::Glyphorium catalog;
+  std::vector<glyph::ComputedEntity> records;
+  for (const glyph::EmbeddedText& text : glyph::embeddedTexts()) {
+    if (!text.configured) continue;
+    auto rows = catalog.getComputedEntitiesFrom(text.text);
+    if (rows) std::move(rows->begin(), rows->end(), std::back_inserter(records));
+  }
+  return catalog.getEntitiesByEnriching(std::move(records),
+                                        catalog.getAdditionalDataFrom(glyph::additionalJson));
 }
 
-// The identifier of the character whose code is written with a mark of one; empty for other texts.
-std::string markedCode(std::string_view lowered) {
-  std::string_view digits;
-  for (const std::string_view mark : {"u+", "0x", "\\u", "\\x"}) {
-    if (lowered.starts_with(mark)) digits = lowered.substr(mark.size());
-  }
-  if (digits.starts_with('{') && digits.ends_with('}')) digits = digits.substr(1, digits.size() - 2);
-  digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
-  if (digits.empty() || digits.size() > 6) return {};
-  if (digits.find_first_not_of("0123456789abcdef") != std::string_view::npos) return {};
-  return std::string(digits.size() < 4 ? 4 - digits.size() : 0, '0') + std::string(digits);
-}
-
-// The text without the selectors that ask for a character's emoji or text form: pickers append them, the
-// catalog's symbols have none.
-std::string withoutVariation(std::string_view text) {
-  std::string result;
-  for (const char32_t c : glyph::codePoints(text)) {
-    if (c != 0xFE0E && c != 0xFE0F) result += glyph::utf8(c);
-  }
-  return result;
+Exactness exactnessOf(const SearchableItem& item, std::string_view lowered) {
+  if (lowered.empty()) return Exactness::part;
+  if (glyph::lowercased(symbolOf(item)) == lowered || item.uniqueIdentifier == lowered)
+    return Exactness::code;
+  // The index keeps the keywords in lower case, names in HTML among them.
+  const std::string reference = "&" + std::string(lowered) + ";";
+  const bool named = glyph::lowercased(nameOf(item)) == lowered ||
+                     std::count(item.keywords.begin(), item.keywords.end(), reference) > 0;
+  return named ? Exactness::name : Exactness::part;
 }
 
 }  // namespace
@@ -78,6 +79,18 @@ std::optional<SearchableItem> CharacterSearch::item(std::string_view identifier)
   return ask<std::optional<SearchableItem>>([&] { return reader_.item(identifier); });
 }
 
+CharacterSearch::Ranking::Ranking() : search({}) {
+  const std::vector<glyph::Entity> entities = catalogEntities();
+  identifiers.reserve(entities.size());
+  for (const glyph::Entity& entity : entities) identifiers.push_back(entity.computed.hex);
+  search = glyph::Search(entities);
+}
+
+const CharacterSearch::Ranking& CharacterSearch::ranking() {
+  if (!ranking_) ranking_ = std::make_unique<const Ranking>();
+  return *ranking_;
+}
+
 std::vector<Found> CharacterSearch::find(std::string_view query, std::size_t limit) {
   if (query.size() > longestQuery) return {};
   std::string_view wanted = trimmed(query);
@@ -86,37 +99,26 @@ std::vector<Found> CharacterSearch::find(std::string_view query, std::size_t lim
 
   std::vector<Found> found;
   std::unordered_set<std::string> seen;
-  const auto add = [&](SearchableItem item, Exactness exactness) {
-    if (seen.insert(item.uniqueIdentifier).second) found.push_back({std::move(item), exactness});
+  const auto add = [&](SearchableItem one, Exactness exactness) {
+    if (seen.insert(one.uniqueIdentifier).second) found.push_back({std::move(one), exactness});
   };
-  const auto search = [&](std::string_view text, std::size_t most) {
-    const int number = static_cast<int>(std::min<std::size_t>(most, INT_MAX));
-    return ask<std::vector<SearchableItem>>([&] { return reader_.search(text, number); });
-  };
-
-  if (const std::string code = markedCode(lowered); !code.empty()) {
-    if (auto one = item(code)) add(*std::move(one), Exactness::code);
-  }
-  // The index keeps names in HTML in lower case, so that "&rarr;" stands for several.
-  if (isWord(lowered)) {
-    const std::string reference = "&" + lowered + ";";
-    for (SearchableItem& one : search(reference, 10)) {
-      const bool named = std::count(one.keywords.begin(), one.keywords.end(), reference) > 0;
-      if (named && symbolOf(one) != wanted && one.uniqueIdentifier != lowered) {
-        add(std::move(one), Exactness::name);
-      }
+  std::size_t misses = 0;
+  for (const glyph::SearchResult& result :
+       ranking().search.query(wanted, {mostLookUps, std::nullopt, {}}).results) {
+    if (found.size() == limit || misses == mostMisses) break;
+    auto one = item(ranking().identifiers[result.index]);
+    if (!one) {
+      ++misses;
+      continue;
     }
+    const bool direct =
+        result.field == glyph::SearchField::code || result.field == glyph::SearchField::character;
+    const Exactness exactness = exactnessOf(*one, lowered);
+    add(*std::move(one), direct ? Exactness::code : exactness);
   }
-  for (SearchableItem& one : search(query, limit)) {
-    const bool asked = !wanted.empty();  // for more than all there is
-    const bool code = asked && (symbolOf(one) == wanted || one.uniqueIdentifier == lowered);
-    const bool name = asked && glyph::lowercased(nameOf(one)) == lowered;
-    add(std::move(one), code ? Exactness::code : name ? Exactness::name : Exactness::part);
-  }
-  if (found.empty()) {
-    const std::string plain = withoutVariation(query);
-    if (plain.size() < query.size()) return find(plain, limit);
-  }
+  const int most = static_cast<int>(std::min<std::size_t>(limit, INT_MAX));
+  const auto indexed = ask<std::vector<SearchableItem>>([&] { return reader_.search(query, most); });
+  for (const SearchableItem& one : indexed) add(one, exactnessOf(one, lowered));
   std::stable_sort(found.begin(), found.end(),
                    [](const Found& a, const Found& b) { return a.exactness < b.exactness; });
   if (found.size() > limit) found.resize(limit);

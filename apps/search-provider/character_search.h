@@ -3,12 +3,14 @@
 
 #include <chrono>
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "glyphorium/platform/searchable_index_reader.h"
+#include "glyphorium/search/search.h"
 
 namespace provider {
 
@@ -28,8 +30,9 @@ struct Found {
 /// an index that cannot be read is empty.
 class CharacterSearch {
  public:
-  /// The best `limit` items, at most, that hold every word of the query: by exactness, then as the index
-  /// ranks them. A code may be written as "U+2192", "0x2192", "\u2192" or "\u{2192}".
+  /// The best `limit` items, at most: by exactness, then as the library's search ranks the characters of the
+  /// catalog, in the user's language and with its tolerance of typos; then what only the index finds, such as
+  /// characters that the user added beyond the catalog.
   std::vector<Found> find(std::string_view query, std::size_t limit);
 
   std::optional<glyph::SearchableItem> item(std::string_view identifier);
@@ -38,7 +41,16 @@ class CharacterSearch {
   template <class Answer, class Question>
   Answer ask(Question question);
 
+  // The ranking of the whole catalog, made for the first query.
+  struct Ranking {
+    Ranking();
+    std::vector<std::string> identifiers;  // of the entities that `search` was built from
+    glyph::Search search;
+  };
+  const Ranking& ranking();
+
   glyph::SearchableIndexReader reader_;
+  std::unique_ptr<const Ranking> ranking_;
   std::chrono::steady_clock::time_point closedUntil_{};
 };
 

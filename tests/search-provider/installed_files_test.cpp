@@ -6,7 +6,7 @@ namespace {
 
 // By the tools of those who read the files.
 void judge(const std::string& tool, const std::string& options, const std::string& files) {
-  if (!test::isInstalled(tool)) GTEST_SKIP() << tool << " is not installed";
+  if (!isInstalled(tool)) GTEST_SKIP() << tool << " is not installed";
   const ProgramResult result =
       runProgram("cd " INSTALLED_SHARE " && " + tool + " " + options + " " + files + " 2>&1");
   EXPECT_EQ(result.exitCode, 0) << result.output;

@@ -7,10 +7,6 @@
 namespace glyph {
 namespace {
 
-using test::fileContent;
-using test::isInstalled;
-using test::Session;
-using test::writeFile;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -41,7 +37,8 @@ TEST_F(SearchProvider, AnswersTheShell) {
       {"GetInitialResultSet \"['U+110000000000000']\"", "(@as [],)\n"},
       {"GetInitialResultSet \"['a']\"", "(['0061', '0041,030a', '2192', '05d0', '0301', '21d2', '27f9'],)\n"},
       {"GetInitialResultSet \"['lt']\"", "(['003c'],)\n"},
-      {"GetInitialResultSet \"['&rArr;']\"", "(['2192', '21d2'],)\n"},
+      {"GetInitialResultSet \"['&rArr;']\"", "(['21d2', '2192'],)\n"},
+      {"GetInitialResultSet \"['rihgtwards', 'arrow']\"", "(['2192', '21d2', '27f9'],)\n"},
       {"GetInitialResultSet \"['qv:double']\"", "(['21d2', '27f9'],)\n"},
       {"GetInitialResultSet \"['❤\uFE0F']\"", "(['2764'],)\n"},
       {"GetInitialResultSet \"['arrow OR sign', 'NEAR(', '*', '\\\"']\"", "(@as [],)\n"},

@@ -13,10 +13,10 @@
 #include "glyphorium/platform/application.h"
 #include "glyphorium/platform/sqlite_searchable_index.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
-#include "tests/platform/sandbox.h"
 #include "tests/support/program.h"
+#include "tests/support/sandbox.h"
 
-namespace glyph::test {
+namespace glyph {
 
 inline bool isInstalled(const std::string& program) {
   return runProgram("command -v " + program).exitCode == 0;
@@ -149,4 +149,4 @@ class Session {
   std::string shell_, runner_;
 };
 
-}  // namespace glyph::test
+}  // namespace glyph
