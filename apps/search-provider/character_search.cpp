@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "character_search.h"
 
+#include <malloc.h>
+
 #include <algorithm>
 #include <climits>
 #include <iterator>
@@ -87,7 +89,10 @@ CharacterSearch::Ranking::Ranking() : search({}) {
 }
 
 const CharacterSearch::Ranking& CharacterSearch::ranking() {
-  if (!ranking_) ranking_ = std::make_unique<const Ranking>();
+  if (!ranking_) {
+    ranking_ = std::make_unique<const Ranking>();
+    malloc_trim(0);  // most of what it was made of is free again
+  }
   return *ranking_;
 }
 
