@@ -55,9 +55,11 @@ bool needsRepair(std::string_view json) {
     const std::size_t end = std::min(begin + block, json.size() - 2);
     unsigned char found = 0;
     for (std::size_t i = begin; i < end; ++i) {
-      const char middle = json[i + 1];
-      found |= static_cast<unsigned char>((json[i] == '"') & (json[i + 2] == '"') &
-                                          ((middle == '"') | (middle == '\\')));
+      const int before = json[i] == '"';
+      const int after = json[i + 2] == '"';
+      const int quotationMark = json[i + 1] == '"';
+      const int reverseSolidus = json[i + 1] == '\\';
+      found |= static_cast<unsigned char>(before & after & (quotationMark | reverseSolidus));
     }
     if (found) return true;
   }

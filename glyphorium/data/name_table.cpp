@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/data/name_table.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <cstring>
-#include <ranges>
 
 #include "glyphorium/catalog/entity/codec.h"
 #include "glyphorium/data/embedded_image_internal.h"
@@ -53,11 +51,18 @@ void loadStructuredUnicodes() {
 std::optional<NameTableEntry> findName(std::string_view hex) noexcept {
   const auto codePoint = canonicalCodePoint(hex);
   if (!codePoint) return std::nullopt;
-  const auto positions = std::views::iota(std::size_t{0}, nameIndexImage.size() / sizeof(IndexEntry));
-  const auto found = std::ranges::lower_bound(
-      positions, *codePoint, {}, [](std::size_t position) { return indexEntry(position).codePoint; });
-  if (found == positions.end() || indexEntry(*found).codePoint != *codePoint) return std::nullopt;
-  const std::string_view rest = structuredUnicodeJSON().substr(indexEntry(*found).nameOffset);
+  const std::size_t size = nameIndexImage.size() / sizeof(IndexEntry);
+  std::size_t begin = 0;
+  for (std::size_t end = size; begin < end;) {
+    const std::size_t middle = begin + (end - begin) / 2;
+    if (indexEntry(middle).codePoint < *codePoint) {
+      begin = middle + 1;
+    } else {
+      end = middle;
+    }
+  }
+  if (begin == size || indexEntry(begin).codePoint != *codePoint) return std::nullopt;
+  const std::string_view rest = structuredUnicodeJSON().substr(indexEntry(begin).nameOffset);
   const std::size_t end = rest.find('"');
   // What follows the name is `","isSFSymbol":true` or `…false`.
   return NameTableEntry{rest.substr(0, end), rest.substr(end).starts_with("\",\"isSFSymbol\":t")};

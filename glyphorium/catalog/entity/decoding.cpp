@@ -72,6 +72,8 @@ struct Field {
   std::string_view key;
   T Record::*member;
 };
+template <class Record, class T>
+Field(std::string_view, T Record::*) -> Field<Record, T>;  // Clang deduces no aggregates before version 17
 
 template <class Record>
 constexpr auto fieldsOf();
