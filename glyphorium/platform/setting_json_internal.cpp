@@ -9,9 +9,18 @@ namespace glyph {
 
 using nlohmann::json;
 
+namespace {
+
+// A NUL byte is nowhere in JSON, but the parser would take it for the end of the text.
+bool holdsNul(std::string_view text) {
+  return text.find('\0') != std::string_view::npos;
+}
+
+}  // namespace
+
 std::optional<std::string> settingToJson(const SettingValue& value) {
   if (const auto* const raw = std::get_if<RawJson>(&value)) {
-    return json::accept(raw->text) ? std::optional(raw->text) : std::nullopt;
+    return !holdsNul(raw->text) && json::accept(raw->text) ? std::optional(raw->text) : std::nullopt;
   }
   return std::visit(
       [](const auto& plain) -> std::string {
@@ -25,6 +34,7 @@ std::optional<std::string> settingToJson(const SettingValue& value) {
 }
 
 SettingValue settingFromJson(std::string_view text) {
+  if (holdsNul(text)) return RawJson{std::string(text)};
   const json value = json::parse(text, nullptr, /*allow_exceptions=*/false);
   switch (value.type()) {
     case json::value_t::boolean:

@@ -133,6 +133,7 @@ TEST_F(SettingsStoreTest, GivesBackEveryTypeAsItWasSet) {
   sqlite.set("number", std::nan(""));
   EXPECT_EQ(stored("number"), SettingValue(RawJson{"null"}));
   sqlite.set("bytes", RawJson{"{]"});
+  sqlite.set("bytes", RawJson{std::string("[1]\0", 4)});
   EXPECT_EQ(stored("bytes"), SettingValue(List{"a\uFFFDz", "b"}));
   EXPECT_THAT(lines, ElementsAre(HasSubstr("'bytes'")));
 }
@@ -143,6 +144,7 @@ TEST_F(SettingsStoreTest, LeavesAloneWhatOthersHaveStored) {
       {"{\"a\":1,\"a\":2}", RawJson{"{\"a\":1,\"a\":2}"}},
       {"not json", RawJson{"not json"}},
       {"1e999", RawJson{"1e999"}},
+      {"true' || char(0) || 'x", RawJson{std::string("true\0x", 6)}},  // as SQL puts a NUL byte into a text
       {" [\"a\"] ", List{"a"}},
       {std::string(100000, '['), RawJson{std::string(100000, '[')}},
       {std::string(100000, '[') + std::string(100000, ']'),
