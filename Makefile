@@ -4,7 +4,7 @@
 JOBS ?= $(shell nproc)
 ARGS ?=
 
-.PHONY: run test asan tsan bench install clean
+.PHONY: run test asan tsan fuzz bench install clean
 
 run: build/release/.configured-run
 	@cmake --build build/release -j $(JOBS) --target glyphorium-cli >build/release/build.log 2>&1 \
@@ -23,6 +23,13 @@ asan tsan:
 	cmake --preset $@
 	cmake --build --preset $@ -j $(JOBS)
 	ctest --preset $@ -j $(JOBS)
+
+# The fuzzers, a few seconds each.
+fuzz:
+	@scripts/bootstrap fuzz
+	cmake --preset fuzz
+	cmake --build --preset fuzz -j $(JOBS)
+	ctest --preset fuzz
 
 bench:
 	@scripts/bootstrap test
