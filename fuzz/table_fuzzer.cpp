@@ -10,6 +10,7 @@
 
 #include "fuzz/fuzzing.h"
 #include "glyphorium/catalog/entity/codec.h"
+#include "glyphorium/catalog/entity/decoding_internal.h"
 #include "glyphorium/catalog/glyphorium.h"
 
 namespace {

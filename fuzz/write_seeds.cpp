@@ -5,7 +5,6 @@
 #include <fstream>
 #include <iostream>
 
-#include "glyphorium/catalog/entity/codec.h"
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/embedded_texts.h"
 

@@ -6,7 +6,7 @@
 #include <unordered_map>
 
 #include "glyphorium/catalog/decoding_and_joining_internal.h"
-#include "glyphorium/catalog/entity/codec.h"
+#include "glyphorium/catalog/entity/decoding_internal.h"
 #include "glyphorium/catalog/glyphorium.h"
 
 namespace glyph {

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "glyphorium/catalog/entity/codec.h"
+#include "glyphorium/catalog/entity/decoding_internal.h"
 #include "glyphorium/data/embedded_image_internal.h"
 
 namespace glyph {

@@ -28,8 +28,4 @@ GLYPHORIUM_EXPORT void setApplicationIdentifier(std::string_view identifier);
 GLYPHORIUM_EXPORT std::optional<std::filesystem::path> applicationConfigDirectory();
 GLYPHORIUM_EXPORT std::optional<std::filesystem::path> applicationDataDirectory();
 
-/// Creates the directory and its missing parents, private to the user (mode 0700). Existing ones keep their
-/// mode. False, with errno set, where it cannot be created.
-bool createPrivateDirectory(const std::filesystem::path& directory);
-
 }  // namespace glyph

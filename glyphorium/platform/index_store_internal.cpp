@@ -16,6 +16,7 @@
 #include "glyphorium/platform/application.h"
 #include "glyphorium/platform/diagnostics.h"
 #include "glyphorium/platform/index_tokens_internal.h"
+#include "glyphorium/platform/private_directory_internal.h"
 #include "glyphorium/platform/unicode_text.h"
 
 namespace glyph {

@@ -12,6 +12,7 @@
 #include <system_error>
 
 #include "glyphorium/platform/application.h"
+#include "glyphorium/platform/private_directory_internal.h"
 
 namespace glyph {
 namespace {

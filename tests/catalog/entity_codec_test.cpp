@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 #include <unordered_set>
 
+#include "glyphorium/catalog/entity/decoding_internal.h"
 #include "glyphorium/catalog/glyphorium.h"
 #include "tests/support/recorded_diagnostics.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/catalog/decoding_and_joining_internal.h"
-#include "glyphorium/catalog/entity/codec.h"
+#include "glyphorium/catalog/entity/decoding_internal.h"
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/platform/diagnostics.h"

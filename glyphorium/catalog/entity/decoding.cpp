@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "glyphorium/catalog/entity/codec.h"
+#include "glyphorium/catalog/entity/decoding_internal.h"
 #include "glyphorium/data/embedded_image_internal.h"
 #include "glyphorium/data/text_padding.h"
 #include "glyphorium/platform/diagnostics.h"
