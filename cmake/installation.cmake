@@ -1,0 +1,32 @@
+# What is installed of the library, and how other projects find it: by find_package(Glyphorium) or by pkg-config
+# as glyphorium. The component "runtime" is for those who run programs, "development" for those who build them.
+include(CMakePackageConfigHelpers)
+
+install(TARGETS glyphorium EXPORT GlyphoriumTargets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development)
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/LICENSES DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
+
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/glyphorium ${PROJECT_BINARY_DIR}/generated/glyphorium
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
+        FILES_MATCHING PATTERN "*.h"
+        PATTERN "configure" EXCLUDE
+        PATTERN "generator" EXCLUDE
+        PATTERN "sources" EXCLUDE
+        PATTERN "*_internal.h" EXCLUDE)
+
+set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/Glyphorium)
+install(EXPORT GlyphoriumTargets NAMESPACE Glyphorium:: DESTINATION ${package_directory} COMPONENT development)
+configure_package_config_file(
+  ${CMAKE_CURRENT_LIST_DIR}/GlyphoriumConfig.cmake.in ${PROJECT_BINARY_DIR}/GlyphoriumConfig.cmake
+  INSTALL_DESTINATION ${package_directory} NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(
+  ${PROJECT_BINARY_DIR}/GlyphoriumConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/GlyphoriumConfig.cmake ${PROJECT_BINARY_DIR}/GlyphoriumConfigVersion.cmake
+        DESTINATION ${package_directory} COMPONENT development)
+
+# Relative to the file itself, so that the installed folder may be moved, or named only when installing.
+set(pkgconfig_directory ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH pkgconfig_prefix ${CMAKE_INSTALL_PREFIX}/${pkgconfig_directory} ${CMAKE_INSTALL_PREFIX})
+configure_file(${CMAKE_CURRENT_LIST_DIR}/glyphorium.pc.in ${PROJECT_BINARY_DIR}/glyphorium.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/glyphorium.pc DESTINATION ${pkgconfig_directory} COMPONENT development)
