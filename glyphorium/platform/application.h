@@ -22,7 +22,7 @@ GLYPHORIUM_EXPORT std::string applicationIdentifier();
 GLYPHORIUM_EXPORT void setApplicationIdentifier(std::string_view identifier);
 
 /// The application's own directory below $XDG_CONFIG_HOME (else ~/.config) and $XDG_DATA_HOME (else
-/// ~/.local/share), by the XDG Base Directory Specification of freedesktop.org: a relative path in those
+/// ~/.local/share), by the XDG base directory rules of freedesktop.org: a relative path in those
 /// variables is ignored. With HOME unset the home directory is that of the user database. Nothing is created;
 /// nullopt where no home directory is known.
 GLYPHORIUM_EXPORT std::optional<std::filesystem::path> applicationConfigDirectory();
