@@ -35,7 +35,7 @@ bench:
 	@scripts/bootstrap test
 	cmake --preset bench
 	cmake --build --preset bench -j $(JOBS)
-	@for b in build/bench/benchmarks/*_benchmark; do "$$b" $(ARGS) || exit 1; done
+	@for b in build/bench/benchmarks/*_benchmark; do dbus-run-session -- "$$b" $(ARGS) || exit 1; done
 
 # The desktop finds the installed programs, their manual page and completions, and its search provider here.
 PREFIX ?= /usr/local
