@@ -42,13 +42,14 @@ Glyphorium::Glyphorium()
 }
 
 Glyphorium& Glyphorium::operator=(const Glyphorium& other) {
-  forbiddenUnicodes = other.forbiddenUnicodes;
-  allCustomEntities.assignSilently(other.allCustomEntities);
-  allEntityGroupNamesWithCount.assignSilently(other.allEntityGroupNamesWithCount);
-  selectedGroupsHadChanged.assignSilently(other.selectedGroupsHadChanged);
-  entityData_ = other.entityData_;
-  notDisplayableUnicodes_ = other.notDisplayableUnicodes_;
-  allBuildInEntities_.assignSilently(other.allBuildInEntities_);
+  Glyphorium copy(other);  // all that can fail, before anything changes
+  forbiddenUnicodes.swap(copy.forbiddenUnicodes);
+  allCustomEntities.assignSilently(std::move(copy.allCustomEntities));
+  allEntityGroupNamesWithCount.assignSilently(std::move(copy.allEntityGroupNamesWithCount));
+  selectedGroupsHadChanged.assignSilently(std::move(copy.selectedGroupsHadChanged));
+  entityData_.swap(copy.entityData_);
+  notDisplayableUnicodes_.swap(copy.notDisplayableUnicodes_);
+  allBuildInEntities_.assignSilently(std::move(copy.allBuildInEntities_));
   return *this;
 }
 

@@ -27,6 +27,11 @@ GLYPHORIUM_EXPORT void selectedGroupsHadChangedDidSet(const bool& value);
 /// The character catalog: a value, of which glyphorium() is the shared instance. No operation throws or
 /// reports an error; bad input gives the neutral value named with the operation, and what went wrong is a
 /// diagnostic line. A catalog and the module's globals must not be used from two threads at once.
+///
+/// The one exception, here and in the rest of the library, is std::bad_alloc: a neutral value in the place of
+/// what there is no memory for would be a lie. It may come from everything that is not noexcept. Each list of
+/// the catalog and each stored choice is then as before or complete, nothing is lost, and the operation can
+/// be repeated. What says otherwise at its declaration, as Search::query() does, throws nothing.
 struct GLYPHORIUM_EXPORT Glyphorium {
   using ComputedEntity = glyph::ComputedEntity;
   using AdditionalData = glyph::AdditionalData;

@@ -32,7 +32,7 @@ class Observed {
   }
 
   /// Takes over another field's value without calling `didSet`: for the copy of a whole structure.
-  void assignSilently(const Observed& other) { value_ = other.value_; }
+  void assignSilently(Observed&& other) noexcept { value_ = std::move(other.value_); }
 
   const T& get() const { return value_; }
   operator const T&() const { return value_; }  // NOLINT: reads like a const T

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/platform/setting_json_internal.h"
 
-#include <algorithm>
 #include <limits>
 #include <nlohmann/json.hpp>
+
+#include "glyphorium/platform/json_text_internal.h"
 
 namespace glyph {
 
@@ -16,6 +17,50 @@ bool holdsNul(std::string_view text) {
   return text.find('\0') != std::string_view::npos;
 }
 
+// Takes over a value that has a type of its own, and stops the parser at any other.
+class Reader : public nlohmann::json_sax<json> {
+ public:
+  std::optional<SettingValue> value;
+
+  bool boolean(bool read) override { return take(read); }
+  bool number_integer(std::int64_t read) override { return take(read); }
+  bool number_unsigned(std::uint64_t read) override {
+    return read <= std::numeric_limits<std::int64_t>::max() && take(static_cast<std::int64_t>(read));
+  }
+  bool number_float(double read, const std::string& digits) override {
+    // A whole number beyond 64 bits comes here too, rounded.
+    return digits.find_first_of(".eE") != std::string::npos && take(read);
+  }
+  bool string(std::string& read) override {
+    if (!list_) return take(std::move(read));
+    list_->push_back(std::move(read));
+    return true;
+  }
+  bool start_array(std::size_t) override {
+    if (list_) return false;
+    list_.emplace();
+    return true;
+  }
+  bool end_array() override {
+    value = *std::exchange(list_, std::nullopt);
+    return true;
+  }
+  bool null() override { return false; }
+  bool start_object(std::size_t) override { return false; }
+  bool end_object() override { return false; }
+  bool key(std::string&) override { return false; }
+  bool binary(json::binary_t&) override { return false; }
+  bool parse_error(std::size_t, const std::string&, const json::exception&) override { return false; }
+
+ private:
+  bool take(SettingValue read) {
+    if (list_) return false;
+    value = std::move(read);
+    return true;
+  }
+  std::optional<std::vector<std::string>> list_;
+};
+
 }  // namespace
 
 std::optional<std::string> settingToJson(const SettingValue& value) {
@@ -24,36 +69,21 @@ std::optional<std::string> settingToJson(const SettingValue& value) {
   }
   return std::visit(
       [](const auto& plain) -> std::string {
-        if constexpr (std::is_same_v<std::decay_t<decltype(plain)>, RawJson>) {
+        using Type = std::decay_t<decltype(plain)>;
+        if constexpr (std::is_same_v<Type, RawJson>) {
           return {};  // returned above
+        } else if constexpr (std::is_arithmetic_v<Type>) {
+          return json(plain).dump();
         } else {
-          return json(plain).dump(-1, ' ', false, json::error_handler_t::replace);
+          return jsonText(plain);
         }
       },
       value);
 }
 
 SettingValue settingFromJson(std::string_view text) {
-  if (holdsNul(text)) return RawJson{std::string(text)};
-  const json value = json::parse(text, nullptr, /*allow_exceptions=*/false);
-  switch (value.type()) {
-    case json::value_t::boolean:
-      return value.get<bool>();
-    case json::value_t::number_integer:
-      return value.get<std::int64_t>();
-    case json::value_t::number_unsigned:
-      if (value.get<std::uint64_t>() > std::numeric_limits<std::int64_t>::max()) break;
-      return value.get<std::int64_t>();
-    case json::value_t::number_float:
-      return value.get<double>();
-    case json::value_t::string:
-      return value.get<std::string>();
-    case json::value_t::array:
-      if (!std::all_of(value.begin(), value.end(), [](const json& item) { return item.is_string(); })) break;
-      return value.get<std::vector<std::string>>();
-    default:
-      break;
-  }
+  Reader reader;
+  if (!holdsNul(text) && json::sax_parse(text, &reader) && reader.value) return *std::move(reader.value);
   return RawJson{std::string(text)};
 }
 

@@ -24,6 +24,10 @@ struct Finalize {
 };
 using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
 
+struct Close {
+  void operator()(sqlite3* connection) const { sqlite3_close(connection); }
+};
+
 Statement prepare(sqlite3* connection, const char* sql) {
   sqlite3_stmt* statement = nullptr;
   sqlite3_prepare_v2(connection, sql, -1, &statement, nullptr);
@@ -205,13 +209,12 @@ Outcome SettingsDatabase::readAlone(const std::string& key, std::string& json) {
   for (const char c : file_.native()) {
     uri += c == '%' ? "%25" : c == '?' ? "%3f" : c == '#' ? "%23" : std::string(1, c);
   }
-  sqlite3* connection = nullptr;
-  const bool opened =
-      sqlite3_open_v2((uri + "?immutable=1").c_str(), &connection,
-                      SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX, nullptr) == SQLITE_OK;
-  const Outcome result = opened ? select(connection, key, json) : outcome(connection);
-  sqlite3_close(connection);
-  return result;
+  uri += "?immutable=1";
+  sqlite3* opening = nullptr;
+  const int flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX;
+  const bool opened = sqlite3_open_v2(uri.c_str(), &opening, flags, nullptr) == SQLITE_OK;
+  const std::unique_ptr<sqlite3, Close> connection(opening);
+  return opened ? select(connection.get(), key, json) : outcome(connection.get());
 }
 
 Outcome SettingsDatabase::begin() {

@@ -30,7 +30,8 @@ struct SqliteSettingsStore::Impl {
     bool blind;
   };
 
-  // Holds the lock. What there is to tell is told after it: the sink is the host's code.
+  // Holds the lock. What there is to tell is told after it: the sink is the host's code. The outermost one,
+  // which an exception may end, leaves no transaction open that others would have to wait for.
   class Session {
    public:
     explicit Session(Impl& impl) : impl_(impl) {
@@ -39,7 +40,11 @@ struct SqliteSettingsStore::Impl {
     }
     ~Session() {
       std::vector<std::string> untold;
-      if (--impl_.sessions == 0) untold.swap(impl_.lines);
+      if (--impl_.sessions == 0) {
+        untold.swap(impl_.lines);
+        impl_.updating = false;
+        impl_.database.rollback();
+      }
       impl_.mutex.unlock();
       for (const std::string& line : untold) printDiagnostic(line);
     }
@@ -188,27 +193,16 @@ void SqliteSettingsStore::update(std::string_view key, const Change& change) {
   const Impl::Session session(*impl_);
   const std::string name(key);
   const bool outermost = !std::exchange(impl_->updating, true);
-  const bool begun = outermost && impl_->begin();
-  const auto unsavedBefore = impl_->unsaved;
+  auto unsavedBefore = impl_->unsaved;
   try {
+    const bool begun = outermost && impl_->begin();
     const auto [json, blind] = impl_->present(name);
     auto changed = change(json ? std::optional(settingFromJson(*json)) : std::nullopt);
     if (changed) impl_->put(name, *changed, blind);
+    if (begun && !impl_->unsaved.empty()) impl_->save();
   } catch (...) {
-    impl_->unsaved = unsavedBefore;
-    if (outermost) {
-      impl_->database.rollback();
-      impl_->updating = false;
-    }
+    impl_->unsaved.swap(unsavedBefore);
     throw;
-  }
-  if (!outermost) return;
-  impl_->updating = false;
-  if (!begun) return;
-  if (impl_->unsaved.empty()) {
-    impl_->database.rollback();
-  } else {
-    impl_->save();
   }
 }
 

@@ -43,6 +43,26 @@ icu::BreakIterator* characterIterator() {
   return iterator.get();
 }
 
+// Has the iterator walk the text, until the end of the scope: it must not keep pointing at the caller's text.
+class IteratedText {
+ public:
+  IteratedText(icu::BreakIterator& iterator, std::string_view text, UErrorCode& status)
+      : iterator_(iterator),
+        text_(utext_openUTF8(nullptr, text.data(), static_cast<std::int64_t>(text.size()), &status)) {
+    iterator_.setText(text_, status);
+  }
+  ~IteratedText() {
+    iterator_.setText(icu::UnicodeString());
+    utext_close(text_);
+  }
+  IteratedText(const IteratedText&) = delete;
+  IteratedText& operator=(const IteratedText&) = delete;
+
+ private:
+  icu::BreakIterator& iterator_;
+  UText* const text_;
+};
+
 }  // namespace
 
 std::string lowercased(std::string_view text) {
@@ -75,10 +95,8 @@ std::vector<std::string_view> graphemeClusters(std::string_view text) {
     return clusters;
   }
   UErrorCode status = U_ZERO_ERROR;
-  UText* const utext = utext_openUTF8(nullptr, text.data(), static_cast<std::int64_t>(text.size()), &status);
-  iterator->setText(utext, status);
+  const IteratedText iterated(*iterator, text, status);
   if (U_FAILURE(status)) {
-    utext_close(utext);
     asciiClusters();
     return clusters;
   }
@@ -87,9 +105,6 @@ std::vector<std::string_view> graphemeClusters(std::string_view text) {
        begin = end, end = iterator->next()) {
     clusters.push_back(text.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin)));
   }
-  // The iterator must not keep pointing at the caller's text.
-  iterator->setText(icu::UnicodeString());
-  utext_close(utext);
   return clusters;
 }
 

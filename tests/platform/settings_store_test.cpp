@@ -107,7 +107,8 @@ const SettingValue values[] = {true,
                                RawJson{"null"},
                                RawJson{R"({"a": [1, {"b": 1.50}]})"},
                                RawJson{"[\"a\", 1]"},
-                               RawJson{"9223372036854775808"}};
+                               RawJson{"9223372036854775808"},
+                               RawJson{"99999999999999999999"}};
 
 TEST_F(SettingsStoreTest, GivesBackEveryTypeAsItWasSet) {
   constexpr std::string_view key("key\0é", 6);

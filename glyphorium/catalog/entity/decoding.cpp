@@ -2,6 +2,7 @@
 #include <simdjson.h>
 
 #include <array>
+#include <new>
 
 #include "glyphorium/catalog/entity/decoding_internal.h"
 #include "glyphorium/data/embedded_image_internal.h"
@@ -175,6 +176,7 @@ std::string TableDecoder::append(std::string_view json, std::vector<Record>& rec
   dom::array rows;
   const bool copy = !isEmbedded(json);
   const auto error = parser_->parser.parse(json.data(), json.size(), copy).get(rows);
+  if (error == simdjson::MEMALLOC) throw std::bad_alloc();  // that is no fault of the text
   if (error == simdjson::INCORRECT_TYPE) return "is no JSON array";
   if (error != simdjson::SUCCESS) return std::string("is no valid JSON: ") + simdjson::error_message(error);
   const std::size_t before = records.size();

@@ -1,55 +1,81 @@
 // SPDX-License-Identifier: MIT
-#include <nlohmann/json.hpp>
-
 #include "glyphorium/catalog/entity/codec.h"
+#include "glyphorium/platform/json_text_internal.h"
 
 namespace glyph {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-template <class T>
-void put(Json& object, const char* key, const std::optional<T>& field) {
-  if (field) object[key] = *field;
+std::string valueText(const std::string& text) {
+  return jsonText(text);
+}
+std::string valueText(const std::vector<std::string>& list) {
+  return jsonText(list);
+}
+std::string valueText(std::int64_t number) {
+  return std::to_string(number);
+}
+std::string valueText(bool value) {
+  return value ? "true" : "false";
+}
+std::string valueText(const std::vector<AdditionalDataAdvice>& notes) {
+  std::string text = "[";
+  for (const AdditionalDataAdvice& note : notes) text += (text.size() > 1 ? "," : "") + encode(note);
+  return text + "]";
 }
 
-Json object(const AdditionalDataAdvice& note) {
-  return {{"lang", note.lang}, {"text", note.text}};
-}
+class Object {
+ public:
+  template <class T>
+  Object& put(const char* key, const T& field) {
+    text_ += text_.empty() ? "{\"" : ",\"";
+    text_ += key;
+    text_ += "\":";
+    text_ += valueText(field);
+    return *this;
+  }
+  template <class T>
+  Object& put(const char* key, const std::optional<T>& field) {
+    return field ? put(key, *field) : *this;
+  }
+  std::string text() const { return text_ + "}"; }
 
-std::string text(const Json& json) {
-  return json.dump(-1, ' ', false, Json::error_handler_t::replace);
-}
+ private:
+  std::string text_;
+};
 
 }  // namespace
 
 std::string encode(const ComputedEntity& record) {
-  Json json = {{"hex", record.hex},         {"decimal", record.decimal},
-               {"htmlHex", record.htmlHex}, {"htmlDecimal", record.htmlDecimal},
-               {"symbol", record.symbol},   {"fallbackName", record.fallbackName},
-               {"group", record.group}};
-  put(json, "isSFSymbol", record.isSFSymbol);
-  return text(json);
+  return Object()
+      .put("hex", record.hex)
+      .put("decimal", record.decimal)
+      .put("htmlHex", record.htmlHex)
+      .put("htmlDecimal", record.htmlDecimal)
+      .put("symbol", record.symbol)
+      .put("fallbackName", record.fallbackName)
+      .put("group", record.group)
+      .put("isSFSymbol", record.isSFSymbol)
+      .text();
 }
 
 std::string encode(const AdditionalData& record) {
-  Json json = {{"hex", record.hex}};
-  put(json, "betterName", record.betterName);
-  put(json, "htmlNamed", record.htmlNamed);
-  put(json, "imageName", record.imageName);
-  put(json, "searchTerms", record.searchTerms);
-  put(json, "needsSerifs", record.needsSerifs);
-  Json& advice = json["advice"] = Json::array();
-  for (const AdditionalDataAdvice& note : record.advice) advice.push_back(object(note));
-  return text(json);
+  return Object()
+      .put("hex", record.hex)
+      .put("betterName", record.betterName)
+      .put("htmlNamed", record.htmlNamed)
+      .put("imageName", record.imageName)
+      .put("searchTerms", record.searchTerms)
+      .put("needsSerifs", record.needsSerifs)
+      .put("advice", record.advice)
+      .text();
 }
 
 std::string encode(const AdditionalDataAdvice& record) {
-  return text(object(record));
+  return Object().put("lang", record.lang).put("text", record.text).text();
 }
 
 std::string encode(const RawUnicodeEntity& record) {
-  return text({{"hex", record.hex}, {"name", record.name}, {"isSFSymbol", record.isSFSymbol}});
+  return Object().put("hex", record.hex).put("name", record.name).put("isSFSymbol", record.isSFSymbol).text();
 }
 
 }  // namespace glyph
