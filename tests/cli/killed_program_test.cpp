@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <signal.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <random>
 #include <set>
@@ -61,13 +62,17 @@ TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
                  {{"display", "set", "arrows"}, {{"arrows"}, {"2603"}}},
                  {{"remove", "2603"}, {{"arrows"}, {}}}};
   State before{{"arrows"}, {}};
+  // How long an undisturbed run takes here and now, so that the kills fall before and after its change.
+  const auto begin = std::chrono::steady_clock::now();
   ASSERT_EQ(runProgram(PROGRAM " display set arrows").exitCode, 0);
+  const std::chrono::duration<double, std::micro> usual = std::chrono::steady_clock::now() - begin;
+  std::uniform_real_distribution<> moment(0, 2 * usual.count());
   std::size_t changed = 0;
   for (int round = 0; round < rounds; ++round) {
     const auto& [arguments, after] = changes[changed % std::size(changes)];
     const pid_t child = start(arguments);
     ASSERT_GT(child, 0);
-    usleep(std::uniform_int_distribution<useconds_t>(0, 30000)(random));
+    usleep(static_cast<useconds_t>(moment(random)));
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     const State now = stored(config);
