@@ -228,11 +228,15 @@ int main(int argc, char** argv) {
   Run run;
   app.set_version_flag("--version", std::string("glyphorium ") + GlyphoriumVersionString);
   app.add_flag("--verbose", options.verbose, "Print the library's diagnostic lines on standard error");
-  app.add_option("--color", options.style, "When to colour and align: auto, always or never")
-      ->transform(CLI::CheckedTransformer(std::map<std::string, cli::Style>{{"auto", cli::Style::automatic},
-                                                                            {"always", cli::Style::terminal},
-                                                                            {"never", cli::Style::plain}},
-                                          CLI::ignore_case))
+  app.add_option_function<std::string>(
+         "--color",
+         [&options](const std::string& when) {
+           options.style = when == "always"  ? cli::Style::terminal
+                           : when == "never" ? cli::Style::plain
+                                             : cli::Style::automatic;
+         },
+         "When to colour and align")
+      ->check(CLI::IsMember({"auto", "always", "never"}))
       ->type_name("WHEN");
   app.require_subcommand(1);
   app.fallthrough();
