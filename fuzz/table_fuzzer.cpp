@@ -2,6 +2,7 @@
 // The decoding of tables beside a second reading of the same text, by another JSON library and a plain
 // repair.
 #include <algorithm>
+#include <cmath>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
@@ -23,45 +24,16 @@ using nlohmann::json;
 
 // What the two libraries take differently by design, and ours is free to refuse: whole numbers beyond 64 bits
 // (the other rounds them), more than 1,000 levels of nesting, and a byte order mark (the other skips it).
-class Differences : public nlohmann::json_sax<json> {
- public:
-  bool found = false;
-
-  bool null() override { return true; }
-  bool boolean(bool) override { return true; }
-  bool number_integer(std::int64_t) override { return true; }
-  bool number_unsigned(std::uint64_t) override { return true; }
-  bool number_float(double, const std::string& digits) override {
-    found |= digits.find_first_of(".eE") == std::string::npos;
-    return true;
-  }
-  bool string(std::string&) override { return true; }
-  bool binary(json::binary_t&) override { return true; }
-  bool key(std::string&) override { return true; }
-  bool start_object(std::size_t) override { return enter(); }
-  bool end_object() override { return leave(); }
-  bool start_array(std::size_t) override { return enter(); }
-  bool end_array() override { return leave(); }
-  bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) override {
-    return false;
-  }
-
- private:
-  bool enter() {
-    found |= ++depth_ > 1000;
-    return true;
-  }
-  bool leave() {
-    --depth_;
-    return true;
-  }
-  int depth_ = 0;
-};
-
 bool differsByDesign(std::string_view text) {
-  Differences differences;
-  json::sax_parse(text, &differences);
-  return differences.found || text.starts_with("\xEF\xBB\xBF");
+  bool found = text.starts_with("\xEF\xBB\xBF");
+  const auto look = [&](int depth, json::parse_event_t event, json& value) {
+    using Event = json::parse_event_t;
+    if (event == Event::object_start || event == Event::array_start) found |= depth >= 1000;
+    if (event == Event::value && value.is_number_float()) found |= std::abs(value.get<double>()) >= 0x1p63;
+    return true;
+  };
+  static_cast<void>(json::parse(text, look, /*allow_exceptions=*/false));
+  return found;
 }
 
 // The text's value. Ours takes the first of duplicate keys, the other the last: here the later ones are left
@@ -89,18 +61,16 @@ std::optional<json> strictlyRead(std::string_view text) {
 
 struct WrongRow {};
 
-void read(const json& value, std::string& field) {
-  if (!value.is_string()) throw WrongRow();
-  field = value.get<std::string>();
-}
-void read(const json& value, bool& field) {
-  if (!value.is_boolean()) throw WrongRow();
-  field = value.get<bool>();
-}
-void read(const json& value, std::int64_t& field) {
-  if (!value.is_number_integer()) throw WrongRow();
-  if (value.is_number_unsigned() && value.get<std::uint64_t>() > INT64_MAX) throw WrongRow();
-  field = value.get<std::int64_t>();
+template <class T>
+void read(const json& value, T& field) {
+  bool typed = false;
+  if constexpr (std::is_same_v<T, std::string>) typed = value.is_string();
+  if constexpr (std::is_same_v<T, bool>) typed = value.is_boolean();
+  if constexpr (std::is_same_v<T, std::int64_t>) {
+    typed = value.is_number_integer() && (!value.is_number_unsigned() || value <= INT64_MAX);
+  }
+  if (!typed) throw WrongRow();
+  value.get_to(field);
 }
 void read(const json& row, AdditionalDataAdvice& note);
 void read(const json& row, ComputedEntity& record);
@@ -158,27 +128,28 @@ std::optional<std::vector<Record>> strictlyDecoded(std::string_view text) {
 }
 
 // Records compare by their hex codes alone; here all counts.
-bool same(const ComputedEntity& a, const ComputedEntity& b) {
-  const auto all = [](const ComputedEntity& r) {
-    return std::tie(r.hex, r.decimal, r.htmlHex, r.htmlDecimal, r.symbol, r.fallbackName, r.group,
-                    r.isSFSymbol);
-  };
-  return all(a) == all(b);
+auto all(const AdditionalDataAdvice& r) {
+  return std::tie(r.lang, r.text);
 }
-bool same(const AdditionalData& a, const AdditionalData& b) {
-  const auto all = [](const AdditionalData& r) {
-    return std::tie(r.hex, r.betterName, r.htmlNamed, r.imageName, r.searchTerms, r.needsSerifs);
-  };
-  return all(a) == all(b) && std::equal(a.advice.begin(), a.advice.end(), b.advice.begin(), b.advice.end(),
-                                        [](const AdditionalDataAdvice& x, const AdditionalDataAdvice& y) {
-                                          return x.lang == y.lang && x.text == y.text;
-                                        });
+auto all(const ComputedEntity& r) {
+  return std::tie(r.hex, r.decimal, r.htmlHex, r.htmlDecimal, r.symbol, r.fallbackName, r.group,
+                  r.isSFSymbol);
+}
+auto all(const AdditionalData& r) {
+  return std::tie(r.hex, r.betterName, r.htmlNamed, r.imageName, r.searchTerms, r.needsSerifs);
+}
+template <class Record>
+bool same(const std::vector<Record>& a, const std::vector<Record>& b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const Record& x, const Record& y) {
+    if constexpr (std::is_same_v<Record, AdditionalData>) {
+      if (!same(x.advice, y.advice)) return false;
+    }
+    return all(x) == all(y);
+  });
 }
 template <class Record>
 bool same(const std::optional<std::vector<Record>>& a, const std::optional<std::vector<Record>>& b) {
-  if (!a || !b) return a.has_value() == b.has_value();
-  return std::equal(a->begin(), a->end(), b->begin(), b->end(),
-                    [](const Record& x, const Record& y) { return same(x, y); });
+  return a && b ? same(*a, *b) : a.has_value() == b.has_value();
 }
 
 template <class Record>
