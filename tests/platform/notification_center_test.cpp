@@ -9,7 +9,7 @@
 #include <thread>
 #include <vector>
 
-#include "glyphorium/platform/diagnostics.h"
+#include "tests/support/recorded_diagnostics.h"
 
 namespace glyph {
 namespace {
@@ -70,14 +70,13 @@ TEST_F(NotificationCenterTest, LetsObserversAddRemoveAndPost) {
 }
 
 TEST_F(NotificationCenterTest, KeepsWhatAnObserverThrowsFromTheOthersAndThePoster) {
-  std::vector<std::string> lines;
-  setDiagnosticsSink([&](std::string_view line) { lines.emplace_back(line); });
+  RecordedDiagnostics diagnostics;
   const auto first = observe("first", [] { throw std::runtime_error("broken"); });
   const auto second = observe("second", [] { throw 1; });
   const auto third = observe("third");
   EXPECT_THAT(post(), ElementsAre("first", "second", "third"));
-  setDiagnosticsSink(nullptr);
-  EXPECT_THAT(lines, ElementsAre(HasSubstr("'name' failed: broken"), HasSubstr("'name' failed: unknown")));
+  EXPECT_THAT(diagnostics.take(),
+              ElementsAre(HasSubstr("'name' failed: broken"), HasSubstr("'name' failed: unknown")));
 }
 
 TEST(NotificationToken, MayOutliveItsCenterAndEndWithinIt) {
@@ -101,17 +100,16 @@ TEST(NotificationToken, MayOutliveItsCenterAndEndWithinIt) {
 }
 
 TEST(NotificationCenterThreads, PostWhileOthersRegister) {
+  // The first use of the default center, by all at once.
+  const auto center = []() -> NotificationCenter& { return NotificationCenter::defaultCenter(); };
   std::atomic<int> always{0}, sometimes{0};
   std::vector<std::thread> threads;
-  // The first use of the default center, by all at once.
   for (int i = 0; i < 4; ++i) {
     threads.emplace_back([&] {
-      const auto lasting =
-          NotificationCenter::defaultCenter().addObserver("threads", [&](const Notification&) { ++always; });
+      const auto lasting = center().addObserver("threads", [&](auto&) { ++always; });
       for (int round = 0; round < 500; ++round) {
-        auto passing = NotificationCenter::defaultCenter().addObserver(
-            "threads", [&](const Notification&) { ++sometimes; });
-        NotificationCenter::defaultCenter().post({"threads", std::nullopt});
+        const auto passing = center().addObserver("threads", [&](auto&) { ++sometimes; });
+        center().post({"threads", std::nullopt});
       }
     });
   }
@@ -119,7 +117,7 @@ TEST(NotificationCenterThreads, PostWhileOthersRegister) {
   EXPECT_GE(always, 4 * 500);
   EXPECT_GE(sometimes, 4 * 500);
   const int before = always;
-  NotificationCenter::defaultCenter().post({"threads", std::nullopt});
+  center().post({"threads", std::nullopt});
   EXPECT_EQ(always, before);
 }
 

@@ -3,85 +3,60 @@
 
 #include <gmock/gmock.h>
 
-#include <cstdlib>
-#include <map>
+#include "tests/support/sandbox.h"
 
 namespace glyph {
 namespace {
 
-using Environment = std::map<std::string, std::string>;
 using Languages = std::vector<std::string>;
 
-constexpr const char* variables[] = {"LC_ALL", "LC_MESSAGES", "LANG", "LANGUAGE"};
-
-class PreferredLanguages : public testing::Test {
- protected:
-  PreferredLanguages() {
-    for (const char* const name : variables) {
-      if (const char* const value = std::getenv(name)) saved_[name] = value;
-    }
-  }
-  ~PreferredLanguages() override {
-    use(saved_);
-    setPreferredLanguages(std::nullopt);
-  }
-  static void use(const Environment& environment) {
-    for (const char* const name : variables) unsetenv(name);
-    for (const auto& [name, value] : environment) setenv(name.c_str(), value.c_str(), 1);
-  }
-
- private:
-  Environment saved_;
-};
-
-TEST_F(PreferredLanguages, AreThoseOfGettextWithoutRegions) {
+TEST(PreferredLanguages, AreThoseOfGettextWithoutRegions) {
   const struct {
-    Environment environment;
     Languages languages;
+    std::optional<std::string> lang = {}, language = {}, messages = {}, all = {};
   } cases[] = {
-      {{}, {"en"}},
+      {{"en"}},
       // Which variable counts.
-      {{{"LANG", "de_AT.UTF-8"}}, {"de"}},
-      {{{"LANG", "de_DE"}, {"LC_MESSAGES", "fr_FR"}}, {"fr"}},
-      {{{"LANG", "de_DE"}, {"LC_MESSAGES", "fr_FR"}, {"LC_ALL", "it_IT"}}, {"it"}},
-      {{{"LANG", "de_DE"}, {"LC_ALL", ""}}, {"de"}},
+      {{"de"}, "de_AT.UTF-8"},
+      {{"fr"}, "de_DE", {}, "fr_FR"},
+      {{"it"}, "de_DE", {}, "fr_FR", "it_IT"},
+      {{"de"}, "de_DE", {}, {}, ""},
       // LANGUAGE: instead of the locale, except in the bare C locale.
-      {{{"LANG", "de_DE"}, {"LANGUAGE", "pt_BR:pt:fr"}}, {"pt", "fr"}},
-      {{{"LANG", "de_DE"}, {"LANGUAGE", ""}}, {"de"}},
-      {{{"LANG", "de_DE"}, {"LANGUAGE", "::sv:C:fr"}}, {"sv"}},
-      {{{"LANG", "de_DE"}, {"LANGUAGE", "C"}}, {"en"}},
-      {{{"LANG", "C"}, {"LANGUAGE", "fr"}}, {"en"}},
-      {{{"LANG", "de_DE"}, {"LC_ALL", "POSIX"}, {"LANGUAGE", "fr"}}, {"en"}},
-      {{{"LANGUAGE", "fr"}}, {"en"}},
-      {{{"LANG", "C.UTF-8"}, {"LANGUAGE", "fr"}}, {"fr"}},
-      {{{"LANG", "C.UTF-8"}}, {"en"}},
+      {{"pt", "fr"}, "de_DE", "pt_BR:pt:fr"},
+      {{"de"}, "de_DE", ""},
+      {{"sv"}, "de_DE", "::sv:C:fr"},
+      {{"en"}, "de_DE", "C"},
+      {{"en"}, "C", "fr"},
+      {{"en"}, "de_DE", "fr", {}, "POSIX"},
+      {{"en"}, {}, "fr"},
+      {{"fr"}, "C.UTF-8", "fr"},
+      {{"en"}, "C.UTF-8"},
       // Forms of a locale name.
-      {{{"LANG", "sr_RS@latin"}}, {"sr-Latn"}},
-      {{{"LANG", "sr_RS.UTF-8@latin"}}, {"sr-Latn"}},
-      {{{"LANG", "sr_RS@latin.UTF-8"}}, {"sr-Latn"}},
-      {{{"LANG", "de_DE@euro"}}, {"de"}},
-      {{{"LANG", "ca_ES@valencia"}}, {"ca"}},
-      {{{"LANG", "zh_Hant_TW"}}, {"zh-Hant"}},
-      {{{"LANG", "ZH-hANT"}}, {"zh-Hant"}},
-      {{{"LANG", "es_419"}}, {"es"}},
-      {{{"LANG", "x"}, {"LANGUAGE", "iw:in:ji:no_NO:nn"}}, {"he", "id", "yi", "nb", "nn"}},
+      {{"sr-Latn"}, "sr_RS.UTF-8@latin"},
+      {{"sr-Latn"}, "sr_RS@latin.UTF-8"},
+      {{"ca"}, "ca_ES@valencia"},
+      {{"zh-Hant"}, "ZH-hANT"},
+      {{"es"}, "es_419"},
+      {{"he", "id", "yi", "nb", "nn"}, "x", "iw:in:ji:no_NO:nn"},
       // No locale names.
-      {{{"LANG", "../../x"}}, {"en"}},
-      {{{"LANG", "german"}}, {"en"}},
-      {{{"LANG", "x"}, {"LANGUAGE", "d:de_:_de:fr_:de_DE1:dé:@latin:.UTF-8:it_IT_x"}}, {"de", "fr"}},
+      {{"en"}, "../../x"},
+      {{"en"}, "german"},
+      {{"de", "fr"}, "x", "d:de_:_de:fr_:de_DE1:dé:@latin:.UTF-8:it_IT_x"},
   };
-  for (const auto& [environment, languages] : cases) {
-    use(environment);
-    EXPECT_EQ(preferredLanguages(), languages) << testing::PrintToString(environment);
+  for (const auto& row : cases) {
+    const ScopedVariable variables[] = {
+        {"LANG", row.lang}, {"LANGUAGE", row.language}, {"LC_MESSAGES", row.messages}, {"LC_ALL", row.all}};
+    EXPECT_EQ(preferredLanguages(), row.languages) << row.lang.value_or("no LANG");
   }
 }
 
-TEST_F(PreferredLanguages, AreTheHostsOwnOnceSet) {
-  use({{"LANG", "de_DE"}});
-  setPreferredLanguages(Languages{"pt-BR", "whatever it is"});
-  EXPECT_EQ(preferredLanguages(), (Languages{"pt-BR", "whatever it is"}));
-  setPreferredLanguages(Languages{});
-  EXPECT_EQ(preferredLanguages(), Languages{});
+TEST(PreferredLanguages, AreTheHostsOwnOnceSet) {
+  const ScopedVariable variables[] = {
+      {"LANG", "de_DE"}, {"LANGUAGE", {}}, {"LC_MESSAGES", {}}, {"LC_ALL", {}}};
+  for (const Languages& own : {Languages{"pt-BR", "whatever it is"}, Languages{}}) {
+    setPreferredLanguages(own);
+    EXPECT_EQ(preferredLanguages(), own);
+  }
   setPreferredLanguages(std::nullopt);
   EXPECT_EQ(preferredLanguages(), Languages{"de"});
 }

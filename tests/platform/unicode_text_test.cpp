@@ -14,12 +14,9 @@ TEST(UnicodeText, LowerCasesWithTheFullMapping) {
   } cases[] = {{"", ""},
                {"Latin BASIC & [Z]@`{", "latin basic & [z]@`{"},
                {"É", "é"},
-               {"İ", "i̇"},        // one code point becomes two
-               {"ΟΔΟΣ", "οδος"},  // final sigma
-               {"A\xFF"
-                "B\xC3",
-                "a\xFF"
-                "b\xC3"}};  // ill-formed bytes survive
+               {"İ", "i̇"},                     // one code point becomes two
+               {"ΟΔΟΣ", "οδος"},               // final sigma
+               {"Z\xFFZ\xC3", "z\xFFz\xC3"}};  // ill-formed bytes survive
   for (const auto& [text, lower] : cases) EXPECT_EQ(lowercased(text), lower);
 }
 
@@ -27,14 +24,9 @@ TEST(UnicodeText, SplitsIntoUserPerceivedCharacters) {
   EXPECT_THAT(graphemeClusters("1\r\n2"), ElementsAre("1", "\r\n", "2"));
   EXPECT_THAT(graphemeClusters("e\u0301👨\u200D👩\u200D👧🇩🇪🇫🇷"),
               ElementsAre("e\u0301", "👨\u200D👩\u200D👧", "🇩🇪", "🇫🇷"));
-  EXPECT_THAT(graphemeClusters("é\r\n"), ElementsAre("é", "\r\n"));
   std::string rejoined;
-  for (const auto cluster : graphemeClusters("a\xF0\x9F"
-                                             "b\xC3"))
-    rejoined += cluster;
-  EXPECT_EQ(rejoined,
-            "a\xF0\x9F"
-            "b\xC3");
+  for (const auto cluster : graphemeClusters("a\xF0\x9Fz\xC3")) rejoined += cluster;
+  EXPECT_EQ(rejoined, "a\xF0\x9Fz\xC3");
 }
 
 TEST(UnicodeText, MeasuresTerminalColumns) {

@@ -18,18 +18,6 @@
 
 namespace glyph {
 
-inline bool isInstalled(const std::string& program) {
-  return runProgram("command -v " + program).exitCode == 0;
-}
-
-/// The value of a key in a file of "key=value" lines.
-inline std::string valueIn(const std::string& content, const std::string& key) {
-  const auto at = ("\n" + content).find("\n" + key + "=");
-  if (at == std::string::npos) return {};
-  const auto from = at + key.size() + 1;
-  return content.substr(from, content.find('\n', from) - from);
-}
-
 /// A desktop session of its own: a bus that starts the program from its service file, an empty data home, and
 /// a clipboard that is a file. What the program is called by is read from the files that the desktops read.
 class Session {
@@ -56,14 +44,10 @@ class Session {
     address.pop_back();
     setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
 
-    const std::string ini = fileContent(
-        INSTALLED_SHARE "/gnome-shell/search-providers/org.glyphorium.Glyphorium.search-provider.ini");
-    const std::string runner =
-        fileContent(INSTALLED_SHARE "/krunner/dbusplugins/org.glyphorium.Glyphorium.desktop");
-    shell_ = "gdbus call --session -d " + valueIn(ini, "BusName") + " -o " + valueIn(ini, "ObjectPath") +
-             " -m org.gnome.Shell.SearchProvider2.";
-    runner_ = "gdbus call --session -d " + valueIn(runner, "X-Plasma-DBusRunner-Service") + " -o " +
-              valueIn(runner, "X-Plasma-DBusRunner-Path") + " -m org.kde.krunner1.";
+    shell_ = call("gnome-shell/search-providers/org.glyphorium.Glyphorium.search-provider.ini", "BusName",
+                  "ObjectPath", "org.gnome.Shell.SearchProvider2");
+    runner_ = call("krunner/dbusplugins/org.glyphorium.Glyphorium.desktop", "X-Plasma-DBusRunner-Service",
+                   "X-Plasma-DBusRunner-Path", "org.kde.krunner1");
   }
   ~Session() { endBus(); }
 
@@ -72,7 +56,6 @@ class Session {
   }
 
   std::string shellCommand(const std::string& call) const { return shell_ + call; }
-  std::string runnerCommand(const std::string& call) const { return runner_ + call; }
   std::string shell(const std::string& call) const { return answer(shell_ + call); }
   std::string runner(const std::string& call) const { return answer(runner_ + call); }
 
@@ -99,17 +82,14 @@ class Session {
                       {"0041,030a", "A With Ring", "custom", ""},
                       {"2764", "Heavy Black Heart", "dingbats", ""}};
     std::vector<Entity> entities;
-    for (const auto& one : characters) {
-      Entity entity = Unicode(one.hex).computedEntity().generateEntity();
-      entity.computed.fallbackName = one.name;
-      entity.computed.group = one.group;
-      if (!one.html.empty()) {
-        AdditionalData additional;
-        additional.hex = one.hex;
-        additional.htmlNamed = one.html;
-        entity.additional = additional;
+    for (const auto& [hex, name, group, html] : characters) {
+      Entity& entity = entities.emplace_back(Unicode(hex).computedEntity().generateEntity());
+      entity.computed.fallbackName = name;
+      entity.computed.group = group;
+      if (!html.empty()) {
+        entity.additional.emplace().hex = hex;
+        entity.additional->htmlNamed = html;
       }
-      entities.push_back(entity);
     }
     setSearchableIndex(std::make_shared<SqliteSearchableIndex>(indexFile()));
     toolKit().addToSpotlight(entities);
@@ -128,6 +108,17 @@ class Session {
   }
 
  private:
+  // Calls as one desktop does, which reads the bus name and the path from a file of "key=value" lines.
+  static std::string call(const std::string& file, const std::string& busName, const std::string& objectPath,
+                          const std::string& interface) {
+    const std::string content = fileContent(INSTALLED_SHARE "/" + file);
+    const auto value = [&](const std::string& key) {
+      const auto from = content.find("\n" + key + "=") + key.size() + 2;
+      return content.substr(from, content.find('\n', from) - from);
+    };
+    return "gdbus call --session -d " + value(busName) + " -o " + value(objectPath) + " -m " + interface +
+           ".";
+  }
   std::string path(const std::string& name) const { return "'" + (directory_ / name).string() + "'"; }
   void script(const std::string& name, const std::string& commands) const {
     writeFile(directory_ / name, "#!/bin/sh\n" + commands);

@@ -26,4 +26,8 @@ inline ProgramResult runProgram(const std::string& command) {
   return result;
 }
 
+inline bool isInstalled(const std::string& program) {
+  return runProgram("command -v " + program).exitCode == 0;
+}
+
 }  // namespace glyph
