@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <stdlib.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <random>
+
+namespace glyph {
+
+/// How often to kill a writer: as usual, or as GLYPHORIUM_KILL_ROUNDS asks.
+inline int killRounds(int usual) {
+  const char* const asked = getenv("GLYPHORIUM_KILL_ROUNDS");
+  return asked ? std::atoi(asked) : usual;
+}
+
+/// Kills a process that runs `write(descriptor)` after up to `most`, while this one goes on calling
+/// `meanwhile`. The writer tells each of its writes by a byte; this returns their number. With `begun` the
+/// time runs from the first write, else from the start.
+template <class Write, class Meanwhile>
+std::size_t writesUntilKilled(bool begun, std::chrono::microseconds most, Write write, Meanwhile meanwhile) {
+  static std::minstd_rand random(std::random_device{}());
+  int ends[2];
+  EXPECT_EQ(pipe(ends), 0);
+  const pid_t writer = fork();
+  if (writer == 0) {
+    write(ends[1]);
+    _exit(1);
+  }
+  close(ends[1]);
+  char bytes[4096];
+  ssize_t size = 0;
+  std::size_t writes = 0;
+  if (begun) writes += static_cast<std::size_t>(read(ends[0], bytes, 1) == 1);
+  const auto end = std::chrono::steady_clock::now() + most * (random() % 1000) / 1000;
+  do {
+    meanwhile();
+  } while (std::chrono::steady_clock::now() < end);
+  kill(writer, SIGKILL);
+  int status = 0;
+  waitpid(writer, &status, 0);
+  EXPECT_TRUE(WIFSIGNALED(status)) << "the writer failed";
+  while ((size = read(ends[0], bytes, sizeof bytes)) > 0) writes += static_cast<std::size_t>(size);
+  close(ends[0]);
+  return writes;
+}
+
+}  // namespace glyph
