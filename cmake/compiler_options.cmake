@@ -6,13 +6,16 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
-add_library(glyphorium_options INTERFACE)
-target_compile_options(glyphorium_options INTERFACE
+add_library(glyphorium_warnings INTERFACE)
+target_compile_options(glyphorium_warnings INTERFACE
   $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow>)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # GCC 12 sees overlapping copies inside its own std::string (GCC bug 105651).
-  target_compile_options(glyphorium_options INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)
+  target_compile_options(glyphorium_warnings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)
 endif()
+
+add_library(glyphorium_options INTERFACE)
+target_link_libraries(glyphorium_options INTERFACE glyphorium_warnings)
 if(GLYPHORIUM_SANITIZE)
   target_compile_options(glyphorium_options INTERFACE -fsanitize=${GLYPHORIUM_SANITIZE} -fno-omit-frame-pointer
                          -fno-sanitize-recover=undefined)
