@@ -42,7 +42,8 @@ class Reader : public nlohmann::json_sax<json> {
     return true;
   }
   bool end_array() override {
-    value = *std::exchange(list_, std::nullopt);
+    value.emplace(std::move(*list_));
+    list_.reset();
     return true;
   }
   bool null() override { return false; }
@@ -53,9 +54,10 @@ class Reader : public nlohmann::json_sax<json> {
   bool parse_error(std::size_t, const std::string&, const json::exception&) override { return false; }
 
  private:
-  bool take(SettingValue read) {
+  template <class T>
+  bool take(T&& read) {
     if (list_) return false;
-    value = std::move(read);
+    value.emplace(std::forward<T>(read));
     return true;
   }
   std::optional<std::vector<std::string>> list_;
