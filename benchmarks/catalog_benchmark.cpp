@@ -125,8 +125,8 @@ BENCHMARK(decodeNameTable)->Unit(benchmark::kMicrosecond);
 }  // namespace
 
 int main(int argc, char** argv) {
-  // Keep freed memory, as the parser keeps its own: whether the kernel has to give pages anew would otherwise decide
-  // the comparison. (A first run in a new process pays for them once, about 1 ms for 4 MB.)
+  // Keep freed memory, as the parser keeps its own: whether the kernel has to give pages anew would otherwise
+  // decide the comparison. (A first run in a new process pays for them once, about 1 ms for 4 MB.)
   mallopt(M_TRIM_THRESHOLD, 1 << 30);
   mallopt(M_MMAP_THRESHOLD, 1 << 30);
   benchmark::Initialize(&argc, argv);

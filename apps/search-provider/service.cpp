@@ -117,8 +117,9 @@ void Service::copy(const std::string& identifier, std::string (*form)(const glyp
   }
 }
 
-// By the interface that applications of the desktop offer (desktop entries of freedesktop.org, D-Bus activation).
-// The bus starts the application where it is installed, which takes a while: others are answered meanwhile.
+// By the interface that applications of the desktop offer (desktop entries of freedesktop.org, D-Bus
+// activation). The bus starts the application where it is installed, which takes a while: others are answered
+// meanwhile.
 void Service::openSearch(sd_bus_message* call, const std::string& query) {
   const auto search = openSearches_.insert(openSearches_.end(), {*this, Message(sd_bus_message_ref(call))});
   const int asked = sd_bus_call_method_async(bus_.get(), nullptr, glyph::applicationIdentifier().c_str(),
