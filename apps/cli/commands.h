@@ -34,7 +34,7 @@ int listAdded(Output& output, bool json);
 
 // The clipboard. The forms are names of copyForms().
 const std::vector<std::string>& copyForms();
-int copyCharacter(Output& output, const std::string& argument, const std::string& form);
+int copyCharacter(Output& output, const std::string& argument, const std::string& form, bool throughTerminal);
 
 // The desktop's search index.
 int showIndexStatus(Output& output, bool json);

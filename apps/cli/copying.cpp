@@ -3,6 +3,7 @@
 #include "commands.h"
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/name_table.h"
+#include "glyphorium/platform/terminal_pasteboard.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 #include "lookup.h"
 
@@ -50,8 +51,10 @@ const std::vector<std::string>& copyForms() {
   return names;
 }
 
-int copyCharacter(Output& output, const std::string& argument, const std::string& formName) {
+int copyCharacter(Output& output, const std::string& argument, const std::string& formName,
+                  bool throughTerminal) {
   glyph::glyphorium().configure();
+  if (throughTerminal) glyph::setPasteboard(std::make_shared<glyph::TerminalPasteboard>());
   const std::vector<Entity> entities = resolve(argument);
   if (entities.empty()) {
     complain(unknownCharacter(argument));

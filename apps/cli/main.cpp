@@ -15,6 +15,7 @@ struct Options {
   bool verbose = false;
   bool json = false;
   bool all = false;
+  bool terminal = false;
   std::vector<std::string> words;
   std::string word;
   cli::SearchRequest search;
@@ -133,8 +134,12 @@ void addCopying(CLI::App& app, Options& options, Run& run) {
       ->capture_default_str()
       ->check(CLI::IsMember(cli::copyForms()))
       ->type_name("FORM");
+  copy->add_flag("--terminal", options.terminal,
+                 "Copy through the terminal (OSC 52), as in a remote session");
   copy->callback([&] {
-    run = [&](cli::Output& output) { return cli::copyCharacter(output, options.word, options.form); };
+    run = [&](cli::Output& output) {
+      return cli::copyCharacter(output, options.word, options.form, options.terminal);
+    };
   });
 }
 

@@ -99,8 +99,8 @@ int searchCatalog(Output& output, const SearchRequest& request, bool json) {
                                   std::to_string(found.total) + "; --limit shows more"));
   }
   if (!request.copy) return cli::found;
-  return copyCharacter(output, "U+" + entities[found.results.front().index].computed.hex,
-                       copyForms().front());
+  return copyCharacter(output, "U+" + entities[found.results.front().index].computed.hex, copyForms().front(),
+                       false);
 }
 
 int identifyText(Output& output, const std::vector<std::string>& texts, bool json) {

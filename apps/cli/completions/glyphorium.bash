@@ -35,7 +35,7 @@ _glyphorium() {
       groups|show|display|added|names|table|identify) options+=' --json' ;;
       list) options+=' --all --json' ;;
       search) options+=' --displayed --limit --group --copy --json' ;;
-      copy) options+=' --as' ;;
+      copy) options+=' --as --terminal' ;;
       index) case $part in add) options+=' --all' ;; search) options+=' --limit --json' ;; status) options+=' --json' ;; esac ;;
     esac
     COMPREPLY=($(compgen -W "$options" -- "$current"))

@@ -44,6 +44,7 @@ complete -c glyphorium -n '__fish_seen_subcommand_from search' -l copy -d 'Copy 
 complete -c glyphorium -n '__fish_seen_subcommand_from search' -l limit -x -d 'At most so many'
 complete -c glyphorium -n '__fish_seen_subcommand_from search' -l group -x -a '(__glyphorium_column 1 groups)' -d 'Only in this group'
 complete -c glyphorium -n '__fish_seen_subcommand_from copy' -l as -x -a 'character hex decimal html html-hex html-decimal swift swiftui uikit' -d 'The form to copy'
+complete -c glyphorium -n '__fish_seen_subcommand_from copy' -l terminal -d 'Copy through the terminal'
 complete -c glyphorium -n '__fish_seen_subcommand_from table' -a '(__glyphorium_column 1 table)'
 complete -c glyphorium -n '__glyphorium_bare display' -a 'add remove set'
 complete -c glyphorium -n '__glyphorium_part display add set' -a '(__glyphorium_column 1 groups)'
