@@ -15,12 +15,6 @@ namespace {
 using glyph::ComputedEntity;
 using glyph::Entity;
 
-std::string joined(const std::vector<std::string>& texts) {
-  std::string result;
-  for (const std::string& text : texts) result += (result.empty() ? "" : ", ") + text;
-  return result;
-}
-
 void printForms(Output& output, const Entity& entity, const std::vector<std::string>& groups) {
   const ComputedEntity& record = entity.computed;
   const auto print = [&](std::string_view label, std::string_view value) {
@@ -42,9 +36,9 @@ void printForms(Output& output, const Entity& entity, const std::vector<std::str
       print("UIKit", glyph::toolKit().getSFSymbolUIKitCode(entry->name));
     }
   }
-  print(groups.size() > 1 ? "Groups" : "Group", joined(groups));
+  print(groups.size() > 1 ? "Groups" : "Group", joined(groups, ", "));
   if (entity.additional && entity.additional->searchTerms) {
-    print("Found by", joined(*entity.additional->searchTerms));
+    print("Found by", joined(*entity.additional->searchTerms, ", "));
   }
 }
 

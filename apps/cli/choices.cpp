@@ -53,12 +53,17 @@ std::string nearestCodes(char32_t codePoint) {
   return "; the nearest that do are " + near.front() + (near.size() > 1 ? " and " + near.back() : "");
 }
 
+// The code point of a code, or of the one character that the argument is.
+std::optional<char32_t> codeOrCharacter(const std::string& argument) {
+  const std::u32string points = glyph::codePoints(argument);
+  return points.size() == 1 ? std::optional(points.front()) : codePointOf(argument);
+}
+
 // The codes of the arguments as the catalog stores them. False, after a complaint, where one names no
 // character.
 bool readCodes(const Names& arguments, Names& codes) {
   for (const std::string& argument : arguments) {
-    const std::u32string points = glyph::codePoints(argument);
-    const auto codePoint = points.size() == 1 ? std::optional(points.front()) : codePointOf(argument);
+    const auto codePoint = codeOrCharacter(argument);
     if (!codePoint) {
       complain("'" + argument +
                "' is no code of a character; right would be 21d0, U+21D0 or the character itself");
@@ -124,8 +129,7 @@ int removeCharacters(Output& output, const Names& arguments) {
     const Names added = catalog.customAddedEntityUnicodes();
     // What is stored may be removed as it is spelled, whatever it is.
     const bool asStored = std::find(added.begin(), added.end(), glyph::lowercased(argument)) != added.end();
-    const std::u32string points = glyph::codePoints(argument);
-    const auto codePoint = points.size() == 1 ? std::optional(points.front()) : codePointOf(argument);
+    const auto codePoint = codeOrCharacter(argument);
     const std::string code = asStored || !codePoint ? argument : glyph::toolKit().getHex(*codePoint);
     if (std::find(added.begin(), added.end(), glyph::lowercased(code)) == added.end()) {
       const Names near = nearest(code, added);

@@ -165,9 +165,7 @@ int removeFromIndex(Output& output, const std::vector<std::string>& arguments, b
 }
 
 int searchIndex(Output& output, const std::vector<std::string>& words, int limit, bool json) {
-  std::string query;
-  for (const std::string& word : words) query += (query.empty() ? "" : " ") + word;
-  const auto items = glyph::SearchableIndexReader().search(query, limit);
+  const auto items = glyph::SearchableIndexReader().search(joined(words, " "), limit);
   std::vector<std::string> objects;
   std::vector<std::vector<std::string>> rows;
   for (const glyph::SearchableItem& item : items) {

@@ -52,6 +52,9 @@ void keepDiagnostics(bool verbose);
 /// Complains with the kept lines that speak of a failure, or with `otherwise` where there are none.
 void complainOfFailure(std::string_view otherwise);
 
+/// The texts with the separator between them.
+std::string joined(const std::vector<std::string>& texts, std::string_view separator);
+
 /// The columns of the terminal behind standard output, 80 where it does not say.
 int terminalWidth();
 

@@ -77,8 +77,7 @@ int searchCatalog(Output& output, const SearchRequest& request, bool json) {
     }
     options.groups.push_back(*group);
   }
-  std::string query;
-  for (const std::string& word : request.words) query += (query.empty() ? "" : " ") + word;
+  const std::string query = joined(request.words, " ");
 
   const glyph::SearchResults found = glyph::Search(entities).query(query, options);
   std::vector<std::string> objects;

@@ -13,10 +13,6 @@ namespace glyph {
 /// Gives each entity the first enrichment record of its hex code.
 void enrich(std::vector<Entity>& entities, const std::vector<AdditionalData>& with);
 
-/// Whether the table holds one of the two sequences that the repair replaces. Looks at every byte, at memory
-/// speed: quotation marks are too frequent in JSON for a search that stops at each of them.
-bool needsRepair(std::string_view json);
-
 /// The table with the bare symbols of U+0022 and U+005C escaped: every `"\"` becomes `"\\"`, then every `"""`
 /// becomes `"\""`. nullopt for a table that needs none of it, so that it can be parsed where it lies.
 std::optional<std::string> repairedTable(std::string_view json);

@@ -7,12 +7,6 @@
 namespace glyph::generator {
 namespace {
 
-std::string upperHexText(char32_t codePoint) {
-  std::string text = hexText(codePoint);
-  for (char& c : text) c = c >= 'a' && c <= 'f' ? static_cast<char>(c - ('a' - 'A')) : c;
-  return text;
-}
-
 void requireCharacters(const SourceLine& line, const std::string& name, std::string_view allowed) {
   if (name.empty()) line.fail("has no name");
   for (const char c : name) {

@@ -55,10 +55,7 @@ char32_t SourceLine::codePoint(std::size_t column, bool upperCase) const {
   if (error != std::errc() || end != text.data() + text.size() || value > 0x10FFFF) {
     fail("'" + text + "' is no code point in hexadecimal digits");
   }
-  std::string canonical = hexText(value);
-  if (upperCase) {
-    for (char& c : canonical) c = c >= 'a' && c <= 'f' ? static_cast<char>(c - ('a' - 'A')) : c;
-  }
+  const std::string canonical = upperCase ? upperHexText(value) : hexText(value);
   if (text != canonical) fail("'" + text + "' must be written '" + canonical + "'");
   return value;
 }
@@ -111,6 +108,12 @@ std::string hexText(char32_t codePoint) {
   char buffer[16];
   std::snprintf(buffer, sizeof buffer, "%04x", static_cast<unsigned>(codePoint));
   return buffer;
+}
+
+std::string upperHexText(char32_t codePoint) {
+  std::string text = hexText(codePoint);
+  for (char& c : text) c = c >= 'a' && c <= 'f' ? static_cast<char>(c - ('a' - 'A')) : c;
+  return text;
 }
 
 std::string utf8Text(char32_t c) {

@@ -48,6 +48,9 @@ std::vector<std::string> readLines(const std::filesystem::path& file);
 /// "0041" or "1f600": lower-case hexadecimal, padded to four digits.
 std::string hexText(char32_t codePoint);
 
+/// The same in upper case: "1F600".
+std::string upperHexText(char32_t codePoint);
+
 /// The code point in UTF-8; surrogates and others that are no scalar values are a programming error here.
 std::string utf8Text(char32_t codePoint);
 
