@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -136,6 +137,11 @@ struct GLYPHORIUM_EXPORT Glyphorium {
 
 /// The shared catalog, created with its fixed lists on first use; that is safe from several threads at once.
 GLYPHORIUM_EXPORT Glyphorium& glyphorium();
+
+/// The entity that configure() puts at that place of buildInEntities(), decoded by itself: for programs that
+/// show a few characters, the results of Search::ofCatalog() for example, and can do without the list.
+/// nullopt behind the last place. Needs no catalog; any thread may call it.
+GLYPHORIUM_EXPORT std::optional<Entity> buildInEntity(std::size_t place);
 
 /// The group names in display order: "custom", the three curated groups, then the others ascending. Empty
 /// until configure() fills it.

@@ -2,11 +2,14 @@
 #include "glyphorium/data/embedded_texts.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <cstring>
 
 #include "glyphorium/data/embedded_image_internal.h"
 
 namespace glyph {
-
 std::span<const EmbeddedText> embeddedTexts() noexcept {
   return {embeddedTextList, embeddedTextCount};
 }
@@ -16,6 +19,25 @@ const EmbeddedText* embeddedText(std::string_view constant) noexcept {
   const auto found =
       std::find_if(all.begin(), all.end(), [&](auto& text) { return text.constant == constant; });
   return found == all.end() ? nullptr : &*found;
+}
+
+std::string_view configuredRow(std::size_t place) noexcept {
+  std::array<std::uint32_t, 2> offsets{};  // this row's and the next one's; the last one is the end
+  if (place >= configuredRowOffsets.size() / sizeof offsets[0] - 1) return {};
+  std::memcpy(offsets.data(), configuredRowOffsets.data() + place * sizeof offsets[0], sizeof offsets);
+  const std::string_view row = embeddedImage.substr(offsets[0], offsets[1] - offsets[0]);
+  return row.substr(0, row.rfind('}') + 1);  // a comma, a bracket and padding may follow
+}
+
+std::string_view enrichmentRow(std::string_view hex) noexcept {
+  std::uint32_t codePoint = 0;
+  const auto [end, error] = std::from_chars(hex.data(), hex.data() + hex.size(), codePoint, 16);
+  if (error != std::errc() || end != hex.data() + hex.size()) return {};
+  const auto position = enrichmentIndex.find(codePoint);
+  if (!position) return {};
+  constexpr std::string_view rowEnd = "\n  }";  // what is inside of a row is set in further
+  const std::string_view row = additionalJson.substr(enrichmentIndex[*position].offset);
+  return row.substr(0, row.find(rowEnd) + rowEnd.size());
 }
 
 }  // namespace glyph

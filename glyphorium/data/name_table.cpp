@@ -3,24 +3,12 @@
 
 #include <charconv>
 #include <cstdint>
-#include <cstring>
 
 #include "glyphorium/catalog/entity/decoding_internal.h"
 #include "glyphorium/data/embedded_image_internal.h"
 
 namespace glyph {
 namespace {
-
-struct IndexEntry {
-  std::uint32_t codePoint;
-  std::uint32_t nameOffset;
-};
-
-IndexEntry indexEntry(std::size_t position) noexcept {
-  IndexEntry entry;
-  std::memcpy(&entry, nameIndexImage.data() + position * sizeof entry, sizeof entry);
-  return entry;
-}
 
 // The number of a hex code spelled as the table spells it.
 std::optional<std::uint32_t> canonicalCodePoint(std::string_view hex) noexcept {
@@ -51,18 +39,9 @@ void loadStructuredUnicodes() {
 std::optional<NameTableEntry> findName(std::string_view hex) noexcept {
   const auto codePoint = canonicalCodePoint(hex);
   if (!codePoint) return std::nullopt;
-  const std::size_t size = nameIndexImage.size() / sizeof(IndexEntry);
-  std::size_t begin = 0;
-  for (std::size_t end = size; begin < end;) {
-    const std::size_t middle = begin + (end - begin) / 2;
-    if (indexEntry(middle).codePoint < *codePoint) {
-      begin = middle + 1;
-    } else {
-      end = middle;
-    }
-  }
-  if (begin == size || indexEntry(begin).codePoint != *codePoint) return std::nullopt;
-  const std::string_view rest = structuredUnicodeJSON().substr(indexEntry(begin).nameOffset);
+  const auto position = nameIndex.find(*codePoint);
+  if (!position) return std::nullopt;
+  const std::string_view rest = structuredUnicodeJSON().substr(nameIndex[*position].offset);
   const std::size_t end = rest.find('"');
   // What follows the name is `","isSFSymbol":true` or `…false`.
   return NameTableEntry{rest.substr(0, end), rest.substr(end).starts_with("\",\"isSFSymbol\":t")};

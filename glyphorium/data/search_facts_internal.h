@@ -3,8 +3,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
+
+#include "glyphorium/data/code_point_index_internal.h"
 
 namespace glyph {
 
@@ -20,20 +21,16 @@ enum class SearchFactKind : std::uint8_t {
 struct SearchFacts {
   SearchFactKind kind;
   std::string_view language;  ///< empty where the texts are of no language
-  std::string_view index;     ///< pairs of 32-bit integers, ascending: code point, offset in `texts`
-  std::string_view texts;     ///< those of a code point separated by line feeds, up to the next one's offset
+  CodePointIndex index;       ///< in `texts`
+  std::string_view texts;     ///< those of a code point are separated by line feeds
 
   struct Entry {
     std::uint32_t codePoint;
     std::string_view texts;
   };
-  std::size_t size() const { return index.size() / 8; }
+  std::size_t size() const { return index.size(); }
   Entry operator[](std::size_t position) const {
-    std::uint32_t pair[2];
-    std::memcpy(pair, index.data() + position * 8, sizeof pair);
-    std::uint32_t end = static_cast<std::uint32_t>(texts.size());
-    if (position + 1 < size()) std::memcpy(&end, index.data() + position * 8 + 12, sizeof end);
-    return {pair[0], texts.substr(pair[1], end - pair[1])};
+    return {index[position].codePoint, index.slice(texts, position)};
   }
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/data/generator/embedded_image.h"
 
+#include <algorithm>
 #include <cstring>
 #include <fstream>
 #include <iterator>
@@ -24,11 +25,15 @@ void writeFile(const std::filesystem::path& file, const std::string& content) {
   if (!stream) Place{file, 0}.fail("cannot be written");
 }
 
-std::string indexBytes(const std::vector<std::pair<char32_t, std::uint32_t>>& index) {
+void append(std::string& bytes, std::uint32_t number) {
+  bytes.append(reinterpret_cast<const char*>(&number), sizeof number);
+}
+
+std::string indexBytes(const EmbeddedImage::Index& index) {
   std::string bytes;
   for (const auto& [codePoint, offset] : index) {
-    const std::uint32_t pair[] = {static_cast<std::uint32_t>(codePoint), offset};
-    bytes.append(reinterpret_cast<const char*>(pair), sizeof pair);
+    append(bytes, static_cast<std::uint32_t>(codePoint));
+    append(bytes, offset);
   }
   return bytes;
 }
@@ -53,13 +58,25 @@ void EmbeddedImage::addPart(const std::string& constant, std::size_t entries, st
   texts_.push_back({constant, constant, "", entries, false, lastOffset_ + offset, size});
 }
 
-void EmbeddedImage::addNameIndex(const std::vector<std::pair<char32_t, std::uint32_t>>& index) {
+void EmbeddedImage::addConfiguredRows(const std::vector<std::size_t>& offsets) {
+  for (const std::size_t offset : offsets)
+    append(configuredRows_, static_cast<std::uint32_t>(lastOffset_ + offset));
+  configuredEnd_ = lastOffset_ + texts_.back().size;
+}
+
+void EmbeddedImage::addNameIndex(const Index& index) {
   nameIndex_ = add(indexBytes(index));
+}
+
+void EmbeddedImage::addEnrichmentIndex(const Index& index) {
+  Index ascending = index;  // the table is ordered by the texts of the hex codes
+  std::sort(ascending.begin(), ascending.end());
+  enrichmentIndex_ = add(indexBytes(ascending));
 }
 
 void EmbeddedImage::addSearchFacts(std::string kind, std::string language,
                                    const std::map<char32_t, std::vector<std::string>>& facts) {
-  std::vector<std::pair<char32_t, std::uint32_t>> index;
+  Index index;
   std::string texts;
   for (const auto& [codePoint, all] : facts) {
     index.emplace_back(codePoint, static_cast<std::uint32_t>(texts.size()));
@@ -81,21 +98,27 @@ EmbeddedImage::Piece EmbeddedImage::add(std::string_view bytes) {
 }
 
 std::string EmbeddedImage::view(Piece piece) {
-  return "{glyphoriumEmbeddedImage + " + std::to_string(piece.offset) + ", " + std::to_string(piece.size) +
-         "}";
+  return "std::string_view{glyphoriumEmbeddedImage + " + std::to_string(piece.offset) + ", " +
+         std::to_string(piece.size) + "}";
+}
+
+std::string EmbeddedImage::definition(std::string_view type, std::string_view constant, Piece piece) {
+  return "constinit const " + std::string(type) + " " + std::string(constant) + "{" + view(piece) + "};\n";
 }
 
 std::string EmbeddedImage::searchFactDefinitions() const {
   std::string text = "\nconstinit const SearchFacts searchFactList[] = {\n";
   for (const SearchFacts& facts : searchFacts_) {
-    text += "    {SearchFactKind::" + facts.kind + ", \"" + facts.language + "\", " + view(facts.index) +
-            ", " + view(facts.texts) + "},\n";
+    text += "    {SearchFactKind::" + facts.kind + ", \"" + facts.language + "\", CodePointIndex{" +
+            view(facts.index) + "}, " + view(facts.texts) + "},\n";
   }
   return text + "};\nconstinit const std::size_t searchFactCount = " + std::to_string(searchFacts_.size()) +
-         ";\nconstinit const std::string_view searchSynonyms" + view(synonyms_) + ";\n";
+         ";\n" + definition("std::string_view", "searchSynonyms", synonyms_);
 }
 
-void EmbeddedImage::write(const std::filesystem::path& folder) const {
+void EmbeddedImage::write(const std::filesystem::path& folder) {
+  append(configuredRows_, static_cast<std::uint32_t>(configuredEnd_));
+  const Piece configuredRows = add(configuredRows_);
   std::string header =
       "// SPDX-License-Identifier: MIT\n" + std::string(banner) +
       "#pragma once\n\n#include <string_view>\n\n#include \"glyphorium/platform/export.h\"\n\n"
@@ -115,18 +138,18 @@ void EmbeddedImage::write(const std::filesystem::path& folder) const {
   for (const Text& text : texts_) {
     if (!text.group.empty())
       header += "GLYPHORIUM_EXPORT extern const std::string_view " + text.variable + ";\n";
-    definitions += "constinit const std::string_view " + text.variable + "{glyphoriumEmbeddedImage + " +
-                   std::to_string(text.offset) + ", " + std::to_string(text.size) + "};\n";
-    list += "    {\"" + text.constant + "\", \"" + text.group + "\", {glyphoriumEmbeddedImage + " +
-            std::to_string(text.offset) + ", " + std::to_string(text.size) + "}, " +
-            std::to_string(text.entries) + ", " + (text.configured ? "true" : "false") + "},\n";
+    definitions += definition("std::string_view", text.variable, {text.offset, text.size});
+    list += "    {\"" + text.constant + "\", \"" + text.group + "\", " + view({text.offset, text.size}) +
+            ", " + std::to_string(text.entries) + ", " + (text.configured ? "true" : "false") + "},\n";
   }
   header += "\n}  // namespace glyph\n";
   definitions += "\n" + list +
                  "};\nconstinit const std::size_t embeddedTextCount = " + std::to_string(texts_.size()) +
-                 ";\n\nconstinit const std::string_view embeddedImage{glyphoriumEmbeddedImage, " +
-                 std::to_string(blob_.size()) + "};\nconstinit const std::string_view nameIndexImage" +
-                 view(nameIndex_) + ";\n" + searchFactDefinitions() + "\n}  // namespace glyph\n";
+                 ";\n\n" + definition("std::string_view", "embeddedImage", {0, blob_.size()}) +
+                 definition("CodePointIndex", "nameIndex", nameIndex_) +
+                 definition("CodePointIndex", "enrichmentIndex", enrichmentIndex_) +
+                 definition("std::string_view", "configuredRowOffsets", configuredRows) +
+                 searchFactDefinitions() + "\n}  // namespace glyph\n";
 
   const std::filesystem::path binary = folder / "embedded.bin";
   writeFile(binary, blob_);

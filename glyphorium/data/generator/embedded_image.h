@@ -22,8 +22,13 @@ class EmbeddedImage {
   /// A text constant that is a part of the text added last.
   void addPart(const std::string& constant, std::size_t entries, std::size_t offset, std::size_t size);
 
-  /// The name index: pairs of code point and offset, ascending by code point.
-  void addNameIndex(const std::vector<std::pair<char32_t, std::uint32_t>>& index);
+  /// Where the rows of the text added last begin in it; they are a part of the catalog.
+  void addConfiguredRows(const std::vector<std::size_t>& offsets);
+
+  /// Pairs of code point and offset, in the name table ascending by code point, or in the enrichment table.
+  using Index = std::vector<std::pair<char32_t, std::uint32_t>>;
+  void addNameIndex(const Index& index);
+  void addEnrichmentIndex(const Index& index);
 
   /// Facts of the search: texts by code point, of a kind (an enumerator of SearchFactKind) and a language.
   void addSearchFacts(std::string kind, std::string language,
@@ -31,7 +36,7 @@ class EmbeddedImage {
   void addSynonyms(std::string_view lines);
 
   /// Writes embedded.bin, embedded.S, embedded_image.cpp and glyphorium/data/group_tables.h below the folder.
-  void write(const std::filesystem::path& folder) const;
+  void write(const std::filesystem::path& folder);
 
  private:
   struct Text {
@@ -56,13 +61,17 @@ class EmbeddedImage {
   };
 
   static std::string view(Piece piece);
+  static std::string definition(std::string_view type, std::string_view constant, Piece piece);
   Piece add(std::string_view bytes);
   std::string searchFactDefinitions() const;
 
   std::string blob_;
   std::vector<Text> texts_;
   std::size_t lastOffset_ = 0;
+  std::size_t configuredEnd_ = 0;
+  std::string configuredRows_;
   Piece nameIndex_{};
+  Piece enrichmentIndex_{};
   std::vector<SearchFacts> searchFacts_;
   Piece synonyms_{};
 };

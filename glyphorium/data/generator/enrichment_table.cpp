@@ -215,10 +215,12 @@ EnrichmentTable makeEnrichmentTable(const std::filesystem::path& sources, const 
   }
   noteFigures(rows, names, configured, figures);
 
-  EnrichmentTable table{"[\n", 0};
+  EnrichmentTable table{"[\n", 0, {}};
   for (const auto& [hex, all] : rows) {  // std::map holds them in the order of the hex text
     for (const Row& row : all) {
       if (table.rows++ > 0) table.json += ",\n";
+      if (&row == &all.front())
+        table.index.emplace_back(std::stoul(hex, nullptr, 16), static_cast<std::uint32_t>(table.json.size()));
       table.json += rowJson(hex, row);
     }
   }

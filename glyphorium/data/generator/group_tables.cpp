@@ -63,7 +63,7 @@ std::string rowJson(char32_t codePoint, const std::string& name, const std::stri
 
 GroupTable makeTable(const SourceLine& line, const std::filesystem::path& sources, const NameTable& names) {
   GroupTable table{
-      line.columns[constant], line.columns[group], choose(line, use, "configured", "text"), {}, "["};
+      line.columns[constant], line.columns[group], choose(line, use, "configured", "text"), {}, "[", {}};
   const bool isSymbols = table.constant == "sfSymbolsJson";
   const bool oneRowALine = choose(line, layout, "lines", "compact");
   table.members = choose(line, membership, "selection", "block")
@@ -86,6 +86,7 @@ GroupTable makeTable(const SourceLine& line, const std::filesystem::path& source
     if (isSymbols && !names.isSymbol(codePoint))
       line.fail("member " + hexText(codePoint) + " is no SF Symbol");
     if (table.json.size() > 1) table.json += oneRowALine ? ",\n" : ",";
+    table.rowOffsets.push_back(table.json.size());
     table.json += rowJson(codePoint, entry->name, table.group, isSymbols);
   }
   table.json += ']';

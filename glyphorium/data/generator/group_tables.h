@@ -16,6 +16,7 @@ struct GroupTable {
   bool configured;  // decoded into the catalog
   std::vector<char32_t> members;
   std::string json;
+  std::vector<std::size_t> rowOffsets;  // where each member's object begins in `json`
 };
 
 /// All tables in the order of groups.tsv.

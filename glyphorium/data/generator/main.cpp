@@ -23,6 +23,7 @@ void addGroupTables(const std::vector<GroupTable>& tables, EmbeddedImage& image,
   std::size_t configuredRows = 0;
   for (const GroupTable& table : tables) {
     image.addText(table.constant, table.group, table.members.size(), table.configured, table.json);
+    if (table.configured) image.addConfiguredRows(table.rowOffsets);
     rows += table.members.size();
     bytes += table.json.size();
     configuredTables += table.configured ? 1 : 0;
@@ -66,6 +67,7 @@ void generate(const std::filesystem::path& sources, const std::filesystem::path&
   }
   const EnrichmentTable enrichment = makeEnrichmentTable(sources, names, configured, figures);
   image.addText("additionalJson", "", enrichment.rows, false, enrichment.json);
+  image.addEnrichmentIndex(enrichment.index);
   figures.reached("bytes of additionalJson", enrichment.json.size());
 
   addNameTable(names, image, figures);

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <optional>
+#include <string_view>
+
+namespace glyph {
+
+/// Where texts of code points begin: pairs of 32-bit integers in the library's read-only image, a code point
+/// and an offset in some text, ascending by code point.
+class CodePointIndex {
+ public:
+  struct Entry {
+    std::uint32_t codePoint;
+    std::uint32_t offset;
+  };
+
+  explicit constexpr CodePointIndex(std::string_view pairs) : pairs_(pairs) {}
+
+  std::size_t size() const noexcept { return pairs_.size() / sizeof(Entry); }
+
+  Entry operator[](std::size_t position) const noexcept {
+    Entry entry;
+    std::memcpy(&entry, pairs_.data() + position * sizeof entry, sizeof entry);
+    return entry;
+  }
+
+  /// The part of `text` from the offset of the entry at that position up to the next one's, where offsets
+  /// ascend too.
+  std::string_view slice(std::string_view text, std::size_t position) const noexcept {
+    const std::size_t begin = (*this)[position].offset;
+    const std::size_t end = position + 1 < size() ? (*this)[position + 1].offset : text.size();
+    return text.substr(begin, end - begin);
+  }
+
+  /// The position of the code point.
+  std::optional<std::size_t> find(std::uint32_t codePoint) const noexcept {
+    std::size_t begin = 0;
+    for (std::size_t end = size(); begin < end;) {
+      const std::size_t middle = begin + (end - begin) / 2;
+      if ((*this)[middle].codePoint < codePoint) {
+        begin = middle + 1;
+      } else {
+        end = middle;
+      }
+    }
+    if (begin == size() || (*this)[begin].codePoint != codePoint) return std::nullopt;
+    return begin;
+  }
+
+ private:
+  std::string_view pairs_;
+};
+
+}  // namespace glyph
