@@ -58,6 +58,15 @@ std::size_t editDistance(std::string_view a, std::string_view b) {
   return row[b.size()];
 }
 
+// All of them, known without a configured catalog.
+std::vector<std::string> groupNames() {
+  std::vector<std::string> names{std::string(glyph::customGroup)};
+  for (const glyph::EmbeddedText& text : glyph::embeddedTexts()) {
+    if (text.configured) names.emplace_back(text.group);
+  }
+  return names;
+}
+
 }  // namespace
 
 std::optional<char32_t> codePointOf(std::string_view text) {
@@ -106,17 +115,16 @@ std::vector<Entity> resolve(std::string_view argument) {
 }
 
 std::string unknownCharacter(const std::string& argument) {
-  const std::vector<Entity>& entities = glyph::glyphorium().buildInEntities();
-  const auto found = glyph::Search(entities).query(argument, {1, std::nullopt, {}}).results;
+  const auto found = glyph::Search::ofCatalog().query(argument, {1, std::nullopt, {}}).results;
   std::string message = "no character is '" + argument + "'";
   if (found.empty()) return message;
-  const Entity& nearestOne = entities[found.front().index];
+  const Entity nearestOne = *glyph::buildInEntity(found.front().index);
   return message + "; did you mean " + nearestOne.computed.hex + " (" + nearestOne.name() + ")?";
 }
 
 std::optional<std::string> groupNamed(std::string_view name) {
   const std::string lower = glyph::lowercased(name);
-  for (const std::string& group : glyph::allBuildInEntityGroups()) {
+  for (const std::string& group : groupNames()) {
     if (glyph::lowercased(group) == lower) return group;
   }
   return std::nullopt;
@@ -142,7 +150,7 @@ std::vector<std::string> nearest(std::string_view text, const std::vector<std::s
 
 std::string unknownGroup(std::string_view name) {
   std::string message = "there is no group '" + std::string(name) + "'";
-  const std::vector<std::string> names = nearest(name, glyph::allBuildInEntityGroups());
+  const std::vector<std::string> names = nearest(name, groupNames());
   for (const std::string& candidate : names)
     message += (&candidate == &names.front() ? "; did you mean '" : "' or '") + candidate;
   return message + (names.empty() ? "; 'glyphorium groups' lists them" : "'?");

@@ -33,40 +33,45 @@ std::string highlighted(const Output& output, const std::string& name, const gly
   return text + name.substr(at);
 }
 
-// The catalog's name of every code point that it holds; the name table knows the others.
-class Names {
+// The catalog's name of a code point that it holds; the name table knows the others.
+std::string nameOf(const std::string& hex) {
+  const auto found = glyph::Search::ofCatalog().query("U+" + hex, {1, {{"en"}}, {}}).results;
+  if (!found.empty() && found.front().field == glyph::SearchField::code)
+    return glyph::buildInEntity(found.front().index)->name();
+  const auto entry = glyph::findName(hex);
+  return entry ? glyph::capitalizedName(entry->name) : "(not in the Unicode 13.0 name table)";
+}
+
+// What is searched. Nothing is decoded but the results where it is the catalog as it comes; configuring it
+// and making a search of it would take ten times as long as all the rest of the command.
+class SearchedEntities {
  public:
-  Names() {
-    glyph::glyphorium().configure();
-    for (const Entity& entity : glyph::glyphorium().buildInEntities())
-      names_.try_emplace(entity.computed.hex, entity.name());
-  }
-  std::string of(const std::string& hex) const {
-    if (const auto found = names_.find(hex); found != names_.end()) return found->second;
-    const auto entry = glyph::findName(hex);
-    return entry ? glyph::capitalizedName(entry->name) : "(not in the Unicode 13.0 name table)";
+  explicit SearchedEntities(bool displayedOnly) {
+    glyph::Glyphorium& catalog = glyph::glyphorium();
+    if (!displayedOnly && catalog.customAddedEntityUnicodes().empty()) return;
+    catalog.configure();
+    if (displayedOnly) {
+      list_ = glyph::selectedEntities();
+    } else {
+      list_ = catalog.allCustomEntities;
+      list_->insert(list_->end(), catalog.buildInEntities().begin(), catalog.buildInEntities().end());
+    }
+    search = glyph::Search(*list_);
   }
 
+  Entity operator[](std::size_t place) const {
+    return list_ ? (*list_)[place] : *glyph::buildInEntity(place);
+  }
+
+  glyph::Search search = glyph::Search::ofCatalog();
+
  private:
-  std::unordered_map<std::string, std::string> names_;
+  std::optional<std::vector<Entity>> list_;
 };
 
 }  // namespace
 
 int searchCatalog(Output& output, const SearchRequest& request, bool json) {
-  glyph::Glyphorium& catalog = glyph::glyphorium();
-  catalog.configure();
-  const std::vector<Entity>& displayed = glyph::selectedEntities();
-  const std::vector<Entity>& custom = catalog.allCustomEntities;
-  std::vector<Entity>
-      whole;  // only where the user has added characters: copying the catalog costs a tenth of it all
-  if (!request.displayed && !custom.empty()) {
-    whole = custom;
-    whole.insert(whole.end(), catalog.buildInEntities().begin(), catalog.buildInEntities().end());
-  }
-  const std::vector<Entity>& entities = request.displayed ? displayed
-                                        : custom.empty()  ? catalog.buildInEntities()
-                                                          : whole;
   glyph::SearchOptions options;
   options.limit = static_cast<std::size_t>(request.limit);
   for (const std::string& name : request.groups) {
@@ -79,11 +84,12 @@ int searchCatalog(Output& output, const SearchRequest& request, bool json) {
   }
   const std::string query = joined(request.words, " ");
 
-  const glyph::SearchResults found = glyph::Search(entities).query(query, options);
+  const SearchedEntities entities(request.displayed);
+  const glyph::SearchResults found = entities.search.query(query, options);
   std::vector<std::string> objects;
   std::vector<std::vector<std::string>> rows;
   for (const glyph::SearchResult& result : found.results) {
-    const Entity& entity = entities[result.index];
+    const Entity entity = entities[result.index];
     if (json) {
       objects.push_back(entityJson(entity));
       continue;
@@ -116,7 +122,7 @@ int identifyText(Output& output, const std::vector<std::string>& texts, bool jso
     complain("the text is not UTF-8; 'iconv' converts other encodings");
     return wrongUse;
   }
-  const Names names;
+  std::unordered_map<std::string, std::string> names;  // of the characters met
   std::vector<std::string> objects;
   std::vector<std::vector<std::string>> rows;
   for (const std::string_view cluster : glyph::graphemeClusters(text)) {
@@ -128,7 +134,9 @@ int identifyText(Output& output, const std::vector<std::string>& texts, bool jso
     }
     for (const char32_t point : points) {
       const glyph::ComputedEntity record = glyph::Unicode(glyph::toolKit().getHex(point)).computedEntity();
-      const std::string name = names.of(record.hex);
+      const auto [known, isNew] = names.try_emplace(record.hex);
+      std::string& name = known->second;
+      if (isNew) name = nameOf(record.hex);
       if (json) {
         objects.push_back(nlohmann::ordered_json{
             {"hex", record.hex}, {"symbol", record.symbol}, {"name", name}, {"cluster", std::string(cluster)}}

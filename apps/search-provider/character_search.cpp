@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "character_search.h"
 
-#include <malloc.h>
-
 #include <algorithm>
 #include <climits>
-#include <iterator>
 #include <unordered_set>
 
 #include "character_text.h"
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/platform/unicode_text.h"
+#include "glyphorium/search/search.h"
 
 namespace provider {
 namespace {
@@ -35,18 +32,6 @@ std::string_view trimmed(std::string_view text) {
 // Of the catalog's ranked characters so many are looked up in the index, which may hold but a few of them.
 constexpr std::size_t mostLookUps = 200;
 constexpr std::size_t mostMisses = 60;
-
-std::vector<glyph::Entity> catalogEntities() {
-  const glyph::Glyphorium catalog;
-  std::vector<glyph::ComputedEntity> records;
-  for (const glyph::EmbeddedText& text : glyph::embeddedTexts()) {
-    if (!text.configured) continue;
-    auto rows = catalog.getComputedEntitiesFrom(text.text);
-    if (rows) std::move(rows->begin(), rows->end(), std::back_inserter(records));
-  }
-  return catalog.getEntitiesByEnriching(std::move(records),
-                                        catalog.getAdditionalDataFrom(glyph::additionalJson));
-}
 
 Exactness exactnessOf(const SearchableItem& item, std::string_view lowered) {
   if (lowered.empty()) return Exactness::part;
@@ -81,21 +66,6 @@ std::optional<SearchableItem> CharacterSearch::item(std::string_view identifier)
   return ask<std::optional<SearchableItem>>([&] { return reader_.item(identifier); });
 }
 
-CharacterSearch::Ranking::Ranking() : search({}) {
-  const std::vector<glyph::Entity> entities = catalogEntities();
-  identifiers.reserve(entities.size());
-  for (const glyph::Entity& entity : entities) identifiers.push_back(entity.computed.hex);
-  search = glyph::Search(entities);
-}
-
-const CharacterSearch::Ranking& CharacterSearch::ranking() {
-  if (!ranking_) {
-    ranking_ = std::make_unique<const Ranking>();
-    malloc_trim(0);  // most of what it was made of is free again
-  }
-  return *ranking_;
-}
-
 std::vector<Found> CharacterSearch::find(std::string_view query, std::size_t limit) {
   if (query.size() > longestQuery) return {};
   std::string_view wanted = trimmed(query);
@@ -109,9 +79,9 @@ std::vector<Found> CharacterSearch::find(std::string_view query, std::size_t lim
   };
   std::size_t misses = 0;
   for (const glyph::SearchResult& result :
-       ranking().search.query(wanted, {mostLookUps, std::nullopt, {}}).results) {
+       glyph::Search::ofCatalog().query(wanted, {mostLookUps, std::nullopt, {}}).results) {
     if (found.size() == limit || misses == mostMisses) break;
-    auto one = item(ranking().identifiers[result.index]);
+    auto one = item(glyph::buildInEntity(result.index)->computed.hex);
     if (!one) {
       ++misses;
       continue;

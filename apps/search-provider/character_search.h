@@ -3,14 +3,12 @@
 
 #include <chrono>
 #include <cstddef>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "glyphorium/platform/searchable_index_reader.h"
-#include "glyphorium/search/search.h"
 
 namespace provider {
 
@@ -41,16 +39,7 @@ class CharacterSearch {
   template <class Answer, class Question>
   Answer ask(Question question);
 
-  // The ranking of the whole catalog, made for the first query.
-  struct Ranking {
-    Ranking();
-    std::vector<std::string> identifiers;  // of the entities that `search` was built from
-    glyph::Search search;
-  };
-  const Ranking& ranking();
-
   glyph::SearchableIndexReader reader_;
-  std::unique_ptr<const Ranking> ranking_;
   std::chrono::steady_clock::time_point closedUntil_{};
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
+#include "glyphorium/data/search_facts_internal.h"
 #include "glyphorium/search/matching_internal.h"
 #include "glyphorium/search/words_internal.h"
 
@@ -8,7 +9,7 @@ namespace glyph::search {
 namespace {
 
 void addVariant(const Index& index, QueryWord& word, std::string_view variant) {
-  const WordRange range = index.exactly(variant);
+  const TextRange range = index.words.exactly(variant);
   if (!range.empty()) word.alternatives.push_back({range, WordMatch::variant});
 }
 
@@ -29,12 +30,23 @@ void addSingulars(const Index& index, QueryWord& word) {
   if (text.ends_with("ies")) addVariant(index, word, std::string(text.substr(0, text.size() - 3)) + "y");
 }
 
+// The words behind the word in its line of the synonyms, separated by tabs.
+std::string_view synonymsOf(std::string_view word) {
+  std::string_view lines = searchSynonyms;
+  while (!lines.empty()) {
+    const std::size_t begin =
+        lines.rfind('\n', lines.size() / 2) + 1;  // of the line in the middle; npos + 1 is 0
+    const std::string_view line = lines.substr(begin, lines.find('\n', begin) - begin);
+    const std::string_view head = line.substr(0, line.find('\t'));
+    if (head == word) return line.substr(head.size() + 1);
+    lines =
+        word < head ? lines.substr(0, begin) : lines.substr(std::min(begin + line.size() + 1, lines.size()));
+  }
+  return {};
+}
+
 void addSynonyms(const Index& index, QueryWord& word) {
-  const auto found =
-      std::lower_bound(index.synonyms.begin(), index.synonyms.end(), word.text,
-                       [](const auto& entry, const std::string& text) { return entry.first < text; });
-  if (found == index.synonyms.end() || found->first != word.text) return;
-  for (std::string_view rest = found->second; !rest.empty();) {
+  for (std::string_view rest = synonymsOf(word.text); !rest.empty();) {
     const std::string_view synonym = rest.substr(0, rest.find('\t'));
     addVariant(index, word, synonym);
     rest.remove_prefix(std::min(synonym.size() + 1, rest.size()));
@@ -44,8 +56,8 @@ void addSynonyms(const Index& index, QueryWord& word) {
 }  // namespace
 
 void addDictionaryWords(const Index& index, QueryWord& word, bool prefixes) {
-  WordRange range = index.withPrefix(word.text);
-  if (!range.empty() && index.word(range.first) == word.text) {
+  TextRange range = index.words.withPrefix(word.text);
+  if (!range.empty() && index.words[range.first] == word.text) {
     word.alternatives.push_back({{range.first, range.first + 1}, WordMatch::whole});
     ++range.first;
   }
@@ -63,8 +75,8 @@ std::vector<SearchRange> nameRanges(const Index& index, const std::vector<QueryW
     std::size_t size = 0;
     const auto cover = [&](const QueryWord& word, const Alternative& alternative) {
       // Every word of a name is in the dictionary, so it is in the range if it is between its ends.
-      if (reader.word() < index.word(alternative.words.first) ||
-          reader.word() > index.word(alternative.words.last - 1)) {
+      if (reader.word() < index.words[alternative.words.first] ||
+          reader.word() > index.words[alternative.words.last - 1]) {
         return;
       }
       const bool partly =

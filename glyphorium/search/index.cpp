@@ -5,16 +5,16 @@
 
 namespace glyph::search {
 
-WordRange Index::withPrefix(std::string_view prefix) const {
-  return withPrefix(prefix, {0, wordCount()});
+TextRange TextList::withPrefix(std::string_view prefix) const {
+  return withPrefix(prefix, {0, size()});
 }
 
-WordRange Index::withPrefix(std::string_view prefix, WordRange within) const {
-  // char_traits compare as unsigned bytes, which is the order the dictionary was sorted in.
+TextRange TextList::withPrefix(std::string_view prefix, TextRange within) const {
+  // char_traits compare as unsigned bytes, which is the order the texts were sorted in.
   const auto bound = [&](std::uint32_t low, std::uint32_t high, auto isBefore) {
     while (low < high) {
       const std::uint32_t middle = low + (high - low) / 2;
-      if (isBefore(word(middle)))
+      if (isBefore((*this)[middle]))
         low = middle + 1;
       else
         high = middle;
@@ -22,51 +22,35 @@ WordRange Index::withPrefix(std::string_view prefix, WordRange within) const {
     return low;
   };
   const std::uint32_t first =
-      bound(within.first, within.last, [&](std::string_view word) { return word < prefix; });
+      bound(within.first, within.last, [&](std::string_view text) { return text < prefix; });
   const std::uint32_t last = bound(
-      first, within.last, [&](std::string_view word) { return word.substr(0, prefix.size()) <= prefix; });
+      first, within.last, [&](std::string_view text) { return text.substr(0, prefix.size()) <= prefix; });
   return {first, last};
 }
 
-WordRange Index::exactly(std::string_view text) const {
-  WordRange range = withPrefix(text);
-  if (range.empty() || word(range.first) != text) return {};
+TextRange TextList::exactly(std::string_view text) const {
+  TextRange range = withPrefix(text);
+  if (range.empty() || (*this)[range.first] != text) return {};
   range.last = range.first + 1;
   return range;
 }
 
-namespace {
-
-template <typename Pairs, typename Key>
-std::uint32_t docOf(const Pairs& pairs, const Key& key) {
-  const auto found = std::lower_bound(pairs.begin(), pairs.end(), key,
-                                      [](const auto& pair, const Key& k) { return pair.first < k; });
-  return found == pairs.end() || found->first != key ? Index::noDoc : found->second;
-}
-
-}  // namespace
-
 std::uint32_t Index::docOfCodePoint(std::uint32_t codePoint) const {
-  return docOf(byCodePoint, codePoint);
+  const auto found = std::lower_bound(byCodePoint.begin(), byCodePoint.end(), codePoint,
+                                      [](const CodePointDoc& a, std::uint32_t b) { return a.codePoint < b; });
+  return found == byCodePoint.end() || found->codePoint != codePoint ? noDoc : found->doc;
 }
 
 std::uint32_t Index::docOfHtmlName(std::string_view name) const {
-  return docOf(htmlNames, name);
+  const TextRange found = htmlNames.exactly(name);
+  return found.empty() ? noDoc : htmlDocs[found.first];
 }
 
-std::size_t Index::byteCount() const {
-  const auto bytes = [](const auto& vector) { return vector.capacity() * sizeof vector[0]; };
-  std::size_t sum = sizeof *this + bytes(docEntity) + bytes(docCodePoint) + bytes(docPrior) +
-                    bytes(nameOffset) + names.capacity() + bytes(byCodePoint) + bytes(phrases) +
-                    words.capacity() + bytes(wordOffset) + bytes(postingStart) + bytes(postings) +
-                    bytes(signPhrases) + bytes(htmlNames) + bytes(synonyms) + bytes(groups) +
-                    bytes(languages);
-  for (const auto& [key, phrase] : signPhrases) sum += key.capacity();
-  for (const Group& group : groups) {
-    sum += group.name.capacity() + bytes(group.words) + bytes(group.docs);
-    for (const std::string& word : group.words) sum += word.capacity();
+bool Group::hasWordWithPrefix(std::string_view prefix) const {
+  for (std::size_t at = words.find(prefix); at != std::string_view::npos; at = words.find(prefix, at + 1)) {
+    if (at == 0 || words[at - 1] == ' ') return true;
   }
-  return sum;
+  return false;
 }
 
 }  // namespace glyph::search

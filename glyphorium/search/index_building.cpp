@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <string>
+#include <utility>
 
 #include "glyphorium/data/search_facts_internal.h"
 #include "glyphorium/search/index_internal.h"
@@ -68,20 +70,65 @@ class WordNumbers {
   std::string blob_;
 };
 
+// A text list in the making.
+struct Texts {
+  std::string bytes;
+  std::vector<std::uint32_t> begins{0};
+
+  void add(std::string_view text) {
+    bytes += text;
+    begins.push_back(static_cast<std::uint32_t>(bytes.size()));
+  }
+  TextList list() const { return {bytes, begins}; }
+};
+
+// Texts with a number each, ascending.
+template <class Text>
+struct NumberedTexts {
+  explicit NumberedTexts(std::vector<std::pair<Text, std::uint32_t>> pairs) {
+    std::sort(pairs.begin(), pairs.end());
+    for (const auto& [text, number] : pairs) {
+      texts.add(text);
+      numbers.push_back(number);
+    }
+  }
+  Texts texts;
+  std::vector<std::uint32_t> numbers;
+};
+
 class Builder {
  public:
   explicit Builder(std::span<const Entity> entities) : entities_(entities), ranked_(rankDocs(entities)) {}
 
-  Index build() && {
-    index_.languages = {"", "en"};
+  IndexImage build() && {
     addDocs();
     addFacts();
     addGroups();
-    addSynonyms();
     makeDictionary();
-    std::sort(index_.signPhrases.begin(), index_.signPhrases.end());
-    std::sort(index_.htmlNames.begin(), index_.htmlNames.end());
-    return std::move(index_);
+    const NumberedTexts signs(std::move(signPhrases_));
+    const NumberedTexts htmlNames(std::move(htmlNames_));
+    Texts languages;
+    for (const std::string_view language : languages_) languages.add(language);
+    return packed({
+        .docEntity = docEntity_,
+        .docCodePoint = docCodePoint_,
+        .docPrior = docPrior_,
+        .names = names_.list(),
+        .byCodePoint = byCodePoint_,
+        .phrases = phrases_,
+        .words = dictionary_.list(),
+        .postingStart = postingStart_,
+        .postings = postings_,
+        .signs = signs.texts.list(),
+        .signPhrases = signs.numbers,
+        .htmlNames = htmlNames.texts.list(),
+        .htmlDocs = htmlNames.numbers,
+        .groupNames = groupNames_.list(),
+        .groupWords = groupWords_.list(),
+        .groupDocStart = groupDocStart_,
+        .groupDocs = groupDocs_,
+        .languages = languages.list(),
+    });
   }
 
  private:
@@ -91,7 +138,7 @@ class Builder {
   };
 
   void addPhrase(std::uint32_t doc, PhraseKind kind, std::uint8_t language, std::string_view text) {
-    const auto number = static_cast<std::uint32_t>(index_.phrases.size());
+    const auto number = static_cast<std::uint32_t>(phrases_.size());
     if (number >= maxPhrases) return;
     Phrase phrase{doc, kind, language, 0, 0};
     reader_.restart(text);
@@ -106,27 +153,27 @@ class Builder {
     if (kind == PhraseKind::searchTerm || kind == PhraseKind::everydayName || kind == PhraseKind::keyword ||
         kind == PhraseKind::spokenName) {
       std::string key = signKey(text);
-      if (!key.empty()) index_.signPhrases.emplace_back(std::move(key), number);
+      if (!key.empty()) signPhrases_.emplace_back(std::move(key), number);
     }
-    index_.phrases.push_back(phrase);
+    phrases_.push_back(phrase);
   }
 
   void addDocs() {
-    index_.nameOffset.push_back(0);
     for (const RankedDoc& ranked : ranked_.docs) {
       const Entity& entity = entities_[ranked.entity];
-      const auto doc = static_cast<std::uint32_t>(index_.docEntity.size());
-      index_.docEntity.push_back(ranked.entity);
-      index_.docCodePoint.push_back(ranked.codePoint);
-      index_.docPrior.push_back(ranked.prior);
-      if (ranked.codePoint != Index::noCodePoint) index_.byCodePoint.emplace_back(ranked.codePoint, doc);
+      const auto doc = static_cast<std::uint32_t>(docEntity_.size());
+      docEntity_.push_back(ranked.entity);
+      docCodePoint_.push_back(ranked.codePoint);
+      docPrior_.push_back(ranked.prior);
+      if (ranked.codePoint != Index::noCodePoint) byCodePoint_.push_back({ranked.codePoint, doc});
       const std::string name = entity.name();
-      index_.names += name;
-      index_.nameOffset.push_back(static_cast<std::uint32_t>(index_.names.size()));
+      names_.add(name);
       addPhrase(doc, PhraseKind::name, 0, name);
       if (entity.additional) addEnrichment(doc, entity);
     }
-    std::sort(index_.byCodePoint.begin(), index_.byCodePoint.end());
+    std::sort(byCodePoint_.begin(), byCodePoint_.end(), [](const CodePointDoc& a, const CodePointDoc& b) {
+      return std::pair(a.codePoint, a.doc) < std::pair(b.codePoint, b.doc);
+    });
   }
 
   void addEnrichment(std::uint32_t doc, const Entity& entity) {
@@ -143,11 +190,11 @@ class Builder {
 
   // The number of a language; 0, which is always looked at, when there are too many of them.
   std::uint8_t language(std::string_view name) {
-    const auto found = std::find(index_.languages.begin(), index_.languages.end(), name);
-    if (found != index_.languages.end()) return static_cast<std::uint8_t>(found - index_.languages.begin());
-    if (index_.languages.size() == 32) return 0;
-    index_.languages.emplace_back(name);
-    return static_cast<std::uint8_t>(index_.languages.size() - 1);
+    const auto found = std::find(languages_.begin(), languages_.end(), name);
+    if (found != languages_.end()) return static_cast<std::uint8_t>(found - languages_.begin());
+    if (languages_.size() == 32) return 0;
+    languages_.push_back(name);
+    return static_cast<std::uint8_t>(languages_.size() - 1);
   }
 
   void addFacts() {
@@ -156,12 +203,12 @@ class Builder {
       if (facts.kind == SearchFactKind::mostWanted) continue;
       const std::uint8_t itsLanguage = facts.language.empty() ? std::uint8_t{0} : language(facts.language);
       // Both ascend by code point.
-      auto place = index_.byCodePoint.begin();
-      for (std::size_t i = 0; i < facts.size() && place != index_.byCodePoint.end(); ++i) {
+      auto place = byCodePoint_.begin();
+      for (std::size_t i = 0; i < facts.size() && place != byCodePoint_.end(); ++i) {
         const SearchFacts::Entry entry = facts[i];
-        while (place != index_.byCodePoint.end() && place->first < entry.codePoint) ++place;
-        if (place == index_.byCodePoint.end() || place->first != entry.codePoint) continue;
-        addTexts(place->second, facts.kind, itsLanguage, entry.texts);
+        while (place != byCodePoint_.end() && place->codePoint < entry.codePoint) ++place;
+        if (place == byCodePoint_.end() || place->codePoint != entry.codePoint) continue;
+        addTexts(place->doc, facts.kind, itsLanguage, entry.texts);
       }
     }
   }
@@ -170,7 +217,7 @@ class Builder {
     for (bool first = true;; first = false) {
       const std::size_t end = texts.find('\n');
       const std::string_view text = texts.substr(0, end);
-      if (kind == SearchFactKind::htmlName) index_.htmlNames.emplace_back(text, doc);
+      if (kind == SearchFactKind::htmlName) htmlNames_.emplace_back(text, doc);
       if (!text.empty()) addPhrase(doc, phraseKind(kind, first), itsLanguage, text);
       if (end == std::string_view::npos) return;
       texts.remove_prefix(end + 1);
@@ -194,23 +241,12 @@ class Builder {
 
   void addGroups() {
     std::vector<std::uint32_t> docOfEntity(entities_.size());
-    for (std::uint32_t doc = 0; doc < index_.docCount(); ++doc) docOfEntity[index_.docEntity[doc]] = doc;
+    for (std::uint32_t doc = 0; doc < docEntity_.size(); ++doc) docOfEntity[docEntity_[doc]] = doc;
     for (const GroupMembers& members : ranked_.groups) {
-      Group group{std::string(members.name), {}, {}};
-      reader_.restart(members.name);
-      while (reader_.next()) group.words.emplace_back(reader_.word());
-      group.docs.reserve(members.entities.size());
-      for (const std::uint32_t entity : members.entities) group.docs.push_back(docOfEntity[entity]);
-      index_.groups.push_back(std::move(group));
-    }
-  }
-
-  void addSynonyms() {
-    for (std::string_view rest = searchSynonyms; !rest.empty();) {
-      const std::string_view line = rest.substr(0, rest.find('\n'));
-      const std::size_t tab = line.find('\t');
-      index_.synonyms.emplace_back(line.substr(0, tab), line.substr(tab + 1));
-      rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+      groupNames_.add(members.name);
+      groupWords_.add(wordsOf(members.name));
+      for (const std::uint32_t entity : members.entities) groupDocs_.push_back(docOfEntity[entity]);
+      groupDocStart_.push_back(static_cast<std::uint32_t>(groupDocs_.size()));
     }
   }
 
@@ -230,41 +266,53 @@ class Builder {
     });
 
     std::vector<std::uint32_t> sortedPlace(words_.size());
-    index_.words.reserve(words_.blobSize());
-    index_.wordOffset.reserve(words_.size() + 1);
+    dictionary_.bytes.reserve(words_.blobSize());
+    dictionary_.begins.reserve(words_.size() + 1);
     for (std::uint32_t i = 0; i < order.size(); ++i) {
       sortedPlace[order[i].second] = i;
-      index_.wordOffset.push_back(static_cast<std::uint32_t>(index_.words.size()));
-      index_.words += words_.word(order[i].second);
+      dictionary_.add(words_.word(order[i].second));
     }
-    index_.wordOffset.push_back(static_cast<std::uint32_t>(index_.words.size()));
 
     // A counting sort; it is stable, so that the postings of a word ascend.
-    std::vector<std::uint32_t>& start = index_.postingStart;
-    start.assign(words_.size() + 1, 0);
+    postingStart_.assign(words_.size() + 1, 0);
     for (Token& token : tokens_) {
       token.word = sortedPlace[token.word];
-      ++start[token.word + 1];
+      ++postingStart_[token.word + 1];
     }
-    for (std::size_t i = 1; i < start.size(); ++i) start[i] += start[i - 1];
-    std::vector<std::uint32_t> next(start.begin(), start.end() - 1);
-    index_.postings.resize(tokens_.size());
-    for (const Token& token : tokens_) index_.postings[next[token.word]++] = token.posting;
-    index_.phrases.shrink_to_fit();
-    index_.names.shrink_to_fit();
+    for (std::size_t i = 1; i < postingStart_.size(); ++i) postingStart_[i] += postingStart_[i - 1];
+    std::vector<std::uint32_t> next(postingStart_.begin(), postingStart_.end() - 1);
+    postings_.resize(tokens_.size());
+    for (const Token& token : tokens_) postings_[next[token.word]++] = token.posting;
   }
 
   std::span<const Entity> entities_;
   RankedDocs ranked_;
-  Index index_;
   WordNumbers words_;
   WordReader reader_{{}};
   std::vector<Token> tokens_;
+
+  // The parts of the index.
+  std::vector<std::uint32_t> docEntity_;
+  std::vector<std::uint32_t> docCodePoint_;
+  std::vector<std::uint8_t> docPrior_;
+  Texts names_;
+  std::vector<CodePointDoc> byCodePoint_;
+  std::vector<Phrase> phrases_;
+  Texts dictionary_;
+  std::vector<std::uint32_t> postingStart_;
+  std::vector<std::uint32_t> postings_;
+  std::vector<std::pair<std::string, std::uint32_t>> signPhrases_;
+  std::vector<std::pair<std::string_view, std::uint32_t>> htmlNames_;
+  Texts groupNames_;
+  Texts groupWords_;
+  std::vector<std::uint32_t> groupDocStart_{0};
+  std::vector<std::uint32_t> groupDocs_;
+  std::vector<std::string_view> languages_{"", "en"};
 };
 
 }  // namespace
 
-Index buildIndex(std::span<const Entity> entities) {
+IndexImage buildIndex(std::span<const Entity> entities) {
   return Builder(entities).build();
 }
 

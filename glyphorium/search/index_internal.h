@@ -4,9 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
-#include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "glyphorium/catalog/entity/records.h"
@@ -35,75 +33,107 @@ struct Phrase {
   std::uint8_t coreWords;  ///< those that are no fillers
 };
 
-/// A range of the dictionary, [first, last).
-struct WordRange {
+/// A range of texts in a list, [first, last).
+struct TextRange {
   std::uint32_t first = 0;
   std::uint32_t last = 0;
   bool empty() const { return first == last; }
 };
 
-struct Group {
-  std::string name;
-  std::vector<std::string> words;  ///< of the name, folded
-  std::vector<std::uint32_t> docs;
+/// Texts, one behind the other.
+struct TextList {
+  std::span<const char> bytes;
+  std::span<const std::uint32_t> begins;  // one more than texts
+
+  std::uint32_t size() const { return static_cast<std::uint32_t>(begins.size() - 1); }
+  std::string_view operator[](std::uint32_t i) const {
+    return {bytes.data() + begins[i], begins[i + 1] - begins[i]};
+  }
+
+  // Of ascending texts:
+
+  /// Those that begin with `prefix`; the first of them is the prefix itself, if it is one of them.
+  TextRange withPrefix(std::string_view prefix) const;
+  /// Likewise, where a range is known that they are in.
+  TextRange withPrefix(std::string_view prefix, TextRange within) const;
+  /// The text itself; empty where it is none of them.
+  TextRange exactly(std::string_view text) const;
 };
 
-/// The inverted index. A character is a "doc"; docs are numbered by their static rank (see static_rank.cpp),
-/// so of two equal matches the one with the lower number is the better one.
+struct CodePointDoc {
+  std::uint32_t codePoint;
+  std::uint32_t doc;
+};
+
+struct Group {
+  std::string_view name;
+  std::string_view words;  ///< of the name, folded, with blanks between them
+  std::span<const std::uint32_t> docs;
+
+  bool hasWordWithPrefix(std::string_view prefix) const;
+};
+
+/// The inverted index, as views into one image (see index_image.cpp). A character is a "doc"; docs are
+/// numbered by their static rank (see static_rank.cpp), so of two equal matches the one with the lower number
+/// is the better one.
 struct Index {
   // by doc
-  std::vector<std::uint32_t> docEntity;     // index of its first entity in the list
-  std::vector<std::uint32_t> docCodePoint;  // noCodePoint where the hex code is none
-  std::vector<std::uint8_t> docPrior;       // cost in the ranking, see static_rank.cpp
-  std::vector<std::uint32_t> nameOffset;    // in `names`, one more than docs
-  std::string names;
+  std::span<const std::uint32_t> docEntity;     // place of its first entity in the list
+  std::span<const std::uint32_t> docCodePoint;  // noCodePoint where the hex code is none
+  std::span<const std::uint8_t> docPrior;       // cost in the ranking, see static_rank.cpp
+  TextList names;
 
-  std::vector<std::pair<std::uint32_t, std::uint32_t>> byCodePoint;  // code point, doc; ascending
+  std::span<const CodePointDoc> byCodePoint;  // ascending
 
-  std::vector<Phrase> phrases;
+  std::span<const Phrase> phrases;
 
-  // The dictionary: the folded words, ascending, without separators.
-  std::string words;
-  std::vector<std::uint32_t> wordOffset;  // one more than words
+  TextList words;  // the dictionary: folded, ascending
   // by word, one more: where its postings begin; a posting is a phrase << 8 | the word's position in it
-  std::vector<std::uint32_t> postingStart;
-  std::vector<std::uint32_t> postings;
+  std::span<const std::uint32_t> postingStart;
+  std::span<const std::uint32_t> postings;
 
-  std::vector<std::pair<std::string, std::uint32_t>> signPhrases;       // sign key, phrase; ascending
-  std::vector<std::pair<std::string_view, std::uint32_t>> htmlNames;    // spelled exactly, doc; ascending
-  std::vector<std::pair<std::string_view, std::string_view>> synonyms;  // word, others separated by tabs
-  std::vector<Group> groups;
-  std::vector<std::string> languages;  // [0] empty, [1] "en"
+  TextList signs;                              // sign keys, ascending
+  std::span<const std::uint32_t> signPhrases;  // by sign key: its phrase
+  TextList htmlNames;                          // spelled exactly, ascending
+  std::span<const std::uint32_t> htmlDocs;     // by HTML name
+
+  TextList groupNames;
+  TextList groupWords;                           // as Group has them
+  std::span<const std::uint32_t> groupDocStart;  // in groupDocs, one more than groups
+  std::span<const std::uint32_t> groupDocs;
+
+  TextList languages;  // [0] empty, [1] "en"
 
   static constexpr std::uint32_t noCodePoint = 0xFFFFFFFF;
   static constexpr std::uint32_t noDoc = 0xFFFFFFFF;
 
   std::size_t docCount() const { return docEntity.size(); }
-  std::string_view name(std::uint32_t doc) const {
-    return std::string_view(names).substr(nameOffset[doc], nameOffset[doc + 1] - nameOffset[doc]);
+  std::span<const std::uint32_t> postingsOf(TextRange range) const {
+    return postings.subspan(postingStart[range.first], postingStart[range.last] - postingStart[range.first]);
   }
-  std::uint32_t wordCount() const { return static_cast<std::uint32_t>(wordOffset.size() - 1); }
-  std::string_view word(std::uint32_t id) const {
-    return {words.data() + wordOffset[id], wordOffset[id + 1] - wordOffset[id]};
+  std::uint32_t groupCount() const { return groupNames.size(); }
+  Group group(std::uint32_t i) const {
+    return {groupNames[i], groupWords[i],
+            groupDocs.subspan(groupDocStart[i], groupDocStart[i + 1] - groupDocStart[i])};
   }
-  std::span<const std::uint32_t> postingsOf(WordRange range) const {
-    return {postings.data() + postingStart[range.first], postings.data() + postingStart[range.last]};
-  }
-
-  /// The words that begin with `prefix`; the first of them is the word itself, if it is one.
-  WordRange withPrefix(std::string_view prefix) const;
-  /// Likewise, where a range is known that they are in.
-  WordRange withPrefix(std::string_view prefix, WordRange within) const;
-  /// The word itself; empty where it is none.
-  WordRange exactly(std::string_view word) const;
 
   std::uint32_t docOfCodePoint(std::uint32_t codePoint) const;
   std::uint32_t docOfHtmlName(std::string_view name) const;
-
-  std::size_t byteCount() const;
 };
 
-Index buildIndex(std::span<const Entity> entities);
+/// An index in one piece, which can be used where it lies: the same on every machine of one byte order for
+/// the same entities. Aligned to eight bytes.
+using IndexImage = std::vector<std::byte>;
+
+IndexImage buildIndex(std::span<const Entity> entities);
+
+IndexImage packed(const Index& index);
+
+/// The index in an image, which must outlive it.
+Index openIndex(std::span<const std::byte> image);
+
+/// The image that the build made for the entities that configure() puts into buildInEntities().
+std::span<const std::byte> catalogIndexImage();
 
 /// The characters of a list, in the order of their static rank.
 struct RankedDoc {

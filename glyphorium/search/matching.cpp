@@ -133,11 +133,9 @@ class Matcher {
   }
 
   void matchGroups(const QueryWord& word, std::uint8_t i) {
-    for (const Group& group : index_.groups) {
-      const bool named =
-          std::any_of(group.words.begin(), group.words.end(),
-                      [&](const std::string& groupWord) { return groupWord.starts_with(word.text); });
-      if (!named) continue;
+    for (std::uint32_t number = 0; number < index_.groupCount(); ++number) {
+      const Group group = index_.group(number);
+      if (!group.hasWordWithPrefix(word.text)) continue;
       for (const std::uint32_t doc : group.docs) {
         if (!filter_.docs || (*filter_.docs)[doc]) noteDoc(doc, i, WordMatch::group, noPhrase);
       }

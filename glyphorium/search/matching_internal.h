@@ -24,7 +24,7 @@ enum class WordMatch : std::uint8_t {
 
 /// Words of the dictionary that a word of the query may stand for.
 struct Alternative {
-  WordRange words;
+  TextRange words;
   WordMatch match;
 };
 

@@ -14,13 +14,13 @@ class MistypedWords {
   MistypedWords(const Index& index, QueryWord& word) : index_(index), word_(word), text_(word.text) {}
 
   void find() {
-    WordRange range{0, index_.wordCount()};
+    TextRange range{0, index_.words.size()};
     std::string prefix;
     for (std::size_t depth = 0;; ++depth) {
       editAt(depth, prefix, range);
       if (depth == text_.size()) break;
       prefix += text_[depth];
-      range = index_.withPrefix(prefix, range);
+      range = index_.words.withPrefix(prefix, range);
       if (range.empty()) break;
     }
     const auto byMatch = [](const Alternative& a, const Alternative& b) { return a.match < b.match; };
@@ -29,32 +29,32 @@ class MistypedWords {
 
  private:
   // All words of the range begin with `prefix`, the first `depth` letters of the text; the edit comes here.
-  void editAt(std::size_t depth, const std::string& prefix, WordRange range) {
+  void editAt(std::size_t depth, const std::string& prefix, TextRange range) {
     const std::string_view rest = text_.substr(depth);
     if (!rest.empty()) accept(prefix, rest.substr(1), range);  // one letter too many
     if (rest.size() >= 2 && rest[0] != rest[1])
       accept(prefix + rest[1] + rest[0], rest.substr(2), range);  // two letters exchanged
     // Every letter that may follow: in place of the text's, or missing in it.
     for (std::uint32_t first = range.first; first < range.last;) {
-      const std::string_view word = index_.word(first);
+      const std::string_view word = index_.words[first];
       if (word.size() == depth) {
         ++first;
         continue;
       }
       const std::string longer = prefix + word[depth];
-      const WordRange below = index_.withPrefix(longer, {first, range.last});
+      const TextRange below = index_.words.withPrefix(longer, {first, range.last});
       if (!rest.empty() && word[depth] != rest[0]) accept(longer, rest.substr(1), below);
       if (rest.empty() || word[depth] != rest[0]) accept(longer, rest, below);
       first = below.last;
     }
   }
 
-  void accept(const std::string& prefix, std::string_view rest, WordRange within) {
+  void accept(const std::string& prefix, std::string_view rest, TextRange within) {
     std::string wanted = prefix;
     wanted += rest;
-    WordRange range = index_.withPrefix(wanted, within);
+    TextRange range = index_.words.withPrefix(wanted, within);
     if (range.empty() || wanted == text_) return;
-    if (index_.word(range.first) == wanted) {
+    if (index_.words[range.first] == wanted) {
       word_.alternatives.push_back({{range.first, range.first + 1}, WordMatch::typo});
       ++range.first;
     }

@@ -40,13 +40,13 @@ class Splitter {
 
  private:
   void step(std::string_view rest) {
-    if (!parts_.empty() && !index_.withPrefix(rest).empty()) {
+    if (!parts_.empty() && !index_.words.withPrefix(rest).empty()) {
       ways_.push_back(parts_);
       ways_.back().emplace_back(rest);
     }
     if (parts_.size() + 1 == mostParts) return;
     for (std::size_t size = leastPart; size + leastPart <= rest.size(); ++size) {
-      if (index_.exactly(rest.substr(0, size)).empty()) continue;
+      if (index_.words.exactly(rest.substr(0, size)).empty()) continue;
       parts_.emplace_back(rest.substr(0, size));
       step(rest.substr(size));
       parts_.pop_back();
@@ -74,7 +74,7 @@ std::vector<Words> respellings(const Index& index, const Words& words) {
     }
   }
   for (std::size_t i = 0; i + 1 < words.size(); ++i) {
-    if (index.withPrefix(words[i] + words[i + 1]).empty()) continue;
+    if (index.words.withPrefix(words[i] + words[i + 1]).empty()) continue;
     Words joined = words;
     joined[i] += joined[i + 1];
     joined.erase(joined.begin() + static_cast<std::ptrdiff_t>(i) + 1);

@@ -72,8 +72,8 @@ class Run {
   void chooseLanguages() {
     filter_.languages = 1u | 1u << 1;  // what is of no language, and English
     for (const std::string& wanted : options_.languages ? *options_.languages : preferredLanguages()) {
-      for (std::size_t i = 1; i < index_.languages.size(); ++i) {
-        const std::string& language = index_.languages[i];
+      for (std::uint32_t i = 1; i < index_.languages.size(); ++i) {
+        const std::string_view language = index_.languages[i];
         const bool regional = wanted.starts_with(language) && wanted.substr(language.size(), 1) == "-";
         if (wanted == language || regional) filter_.languages |= 1u << i;
       }
@@ -91,13 +91,13 @@ class Run {
     for (const std::string& typed : query_.groups) {
       std::vector<std::string> words;
       for (WordReader reader(typed); reader.next();) words.emplace_back(reader.word());
-      const bool isName = std::any_of(index_.groups.begin(), index_.groups.end(),
-                                      [&](const Group& g) { return g.words == words; });
+      const std::string name = wordsOf(typed);
+      bool isName = false;
+      for (std::uint32_t i = 0; i < index_.groupCount(); ++i) isName = isName || index_.groupWords[i] == name;
       keepOnly([&](const Group& group) {
-        if (isName) return group.words == words;
+        if (isName) return group.words == name;
         return !words.empty() && std::all_of(words.begin(), words.end(), [&](const std::string& word) {
-          return std::any_of(group.words.begin(), group.words.end(),
-                             [&](const std::string& groupWord) { return groupWord.starts_with(word); });
+          return group.hasWordWithPrefix(word);
         });
       });
     }
@@ -107,7 +107,8 @@ class Run {
   template <typename Predicate>
   void keepOnly(Predicate isWanted) {
     std::vector<char> members(index_.docCount(), 0);
-    for (const Group& group : index_.groups) {
+    for (std::uint32_t i = 0; i < index_.groupCount(); ++i) {
+      const Group group = index_.group(i);
       if (!isWanted(group)) continue;
       for (const std::uint32_t doc : group.docs) members[doc] = 1;
     }
@@ -159,12 +160,11 @@ class Run {
 
   void addSignPhrases() {
     if (query_.signs.empty()) return;
-    auto phrase = std::lower_bound(index_.signPhrases.begin(), index_.signPhrases.end(),
-                                   std::pair{query_.signs, std::uint32_t{0}});
-    for (; phrase != index_.signPhrases.end() && phrase->first.starts_with(query_.signs); ++phrase) {
-      const Phrase& found = index_.phrases[phrase->second];
+    const TextRange range = index_.signs.withPrefix(query_.signs);
+    for (std::uint32_t sign = range.first; sign < range.last; ++sign) {
+      const Phrase& found = index_.phrases[index_.signPhrases[sign]];
       if ((filter_.languages >> found.language & 1) == 0) continue;
-      const bool whole = phrase->first.size() == query_.signs.size();
+      const bool whole = index_.signs[sign].size() == query_.signs.size();
       const std::uint32_t cost = offset_ + (whole ? 0 : behindExactCost) + index_.docPrior[found.doc];
       addDirect(found.doc, cost, fieldOf(found.kind));
     }
@@ -263,7 +263,7 @@ class Run {
       if (results.results.size() == options_.limit) break;
       if (std::exchange(seen[hit.doc], 0) == 0) continue;
       results.results.push_back(
-          {index_.docEntity[hit.doc], hit.field, nameRanges(index_, words_, index_.name(hit.doc))});
+          {index_.docEntity[hit.doc], hit.field, nameRanges(index_, words_, index_.names[hit.doc])});
     }
     return results;
   }
@@ -283,12 +283,32 @@ class Run {
 }  // namespace
 }  // namespace search
 
+// An index and its views of it.
+struct Search::Own {
+  explicit Own(search::IndexImage built) : image(std::move(built)), index(search::openIndex(image)) {}
+  Own(const Own&) = delete;
+  Own& operator=(const Own&) = delete;
+
+  const search::IndexImage image;
+  const search::Index index;
+};
+
 Search::Search(std::span<const Entity> entities) {
   try {
-    index_ = std::make_shared<const search::Index>(search::buildIndex(entities));
+    auto own = std::make_shared<Own>(search::buildIndex(entities));
+    index_ = {own, &own->index};
+    byteCount_ = sizeof *own + own->image.size();
   } catch (const std::bad_alloc&) {
     // Finds nothing.
   }
+}
+
+Search::Search(std::shared_ptr<const search::Index> index, std::size_t byteCount)
+    : index_(std::move(index)), byteCount_(byteCount) {}
+
+Search Search::ofCatalog() {
+  static const search::Index index = search::openIndex(search::catalogIndexImage());
+  return {{std::shared_ptr<void>(), &index}, 0};
 }
 
 SearchResults Search::query(std::string_view text, const SearchOptions& options) const {
@@ -303,7 +323,7 @@ SearchResults Search::query(std::string_view text, const SearchOptions& options)
 }
 
 std::size_t Search::byteCount() const noexcept {
-  return index_ ? index_->byteCount() : 0;
+  return byteCount_;
 }
 
 }  // namespace glyph

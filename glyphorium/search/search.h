@@ -64,7 +64,8 @@ struct SearchOptions {
 
 /// The interactive search over a list of entities. Immutable: any number of threads may query one object, and
 /// copies share their data. It keeps nothing of the list and does not notice its changes; build a new one for
-/// a new list. Building costs somewhat more than decoding the tables did, so do it when it is first needed.
+/// a new list. Building costs somewhat more than decoding the tables did, so do it when it is first needed;
+/// for the unchanged catalog the build did it, see ofCatalog().
 ///
 /// A host that shows what the user's words match of the displayed characters:
 ///
@@ -80,6 +81,11 @@ class GLYPHORIUM_EXPORT Search {
   /// Several entities of one hex code (a curated group and its home block) are one result, of which the first
   /// one's index is reported; all their groups count.
   explicit Search(std::span<const Entity> entities);
+
+  /// The search over buildInEntities() as configure() fills it, with the same results as if it were built
+  /// from that list, made by the build: costs nothing to make, needs no configured catalog (buildInEntity()
+  /// gives the entities of its results), and is shared by all processes.
+  static Search ofCatalog();
 
   /// A query is one or more words in any order, which must all match; letter case, hyphens, underscores and
   /// the diacritics of Latin letters do not count, and the last letters of a word may still be missing. Or it
@@ -103,7 +109,11 @@ class GLYPHORIUM_EXPORT Search {
   std::size_t byteCount() const noexcept;
 
  private:
+  struct Own;
+  Search(std::shared_ptr<const search::Index> index, std::size_t byteCount);
+
   std::shared_ptr<const search::Index> index_;
+  std::size_t byteCount_ = 0;  // of what the index takes
 };
 
 }  // namespace glyph

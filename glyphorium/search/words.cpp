@@ -82,6 +82,15 @@ bool WordReader::next() {
   return !word_.empty();
 }
 
+std::string wordsOf(std::string_view text) {
+  std::string words;
+  for (WordReader reader(text); reader.next();) {
+    if (!words.empty()) words += ' ';
+    words += reader.word();
+  }
+  return words;
+}
+
 std::string signKey(std::string_view text) {
   std::string key;
   bool hasWord = false;

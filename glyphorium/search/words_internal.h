@@ -36,6 +36,9 @@ class WordReader {
   std::size_t end_ = 0;
 };
 
+/// The words of a text as WordReader finds them, with blanks between them.
+std::string wordsOf(std::string_view text);
+
 /// What a text of signs is compared by: lower case, without blanks. Empty for what consists of words only,
 /// hyphens, full stops and such between or behind them included: there the words say it all.
 std::string signKey(std::string_view text);

@@ -26,7 +26,7 @@ bool isOneEdit(std::string_view a, std::string_view b) {
 
 // The walk through the dictionary finds just the words that comparing with each of them does.
 TEST(MistypedWords, AreThoseAtOneEdit) {
-  const Index index = buildIndex(testing::CatalogSearch::instance().entities);
+  const Index index = openIndex(catalogIndexImage());
   for (const char* const text : {"arow", "arrow", "aarrow", "elipsis", "xarrow", "rokcet", "letterx", "sqare",
                                  "quostion", "teh1", "circel", "starr", "zzzz", "heart"}) {
     QueryWord word{text, {}, false};
@@ -35,11 +35,11 @@ TEST(MistypedWords, AreThoseAtOneEdit) {
     for (const Alternative& alternative : word.alternatives) {
       if (alternative.match != WordMatch::typo) continue;
       for (std::uint32_t id = alternative.words.first; id < alternative.words.last; ++id)
-        found.emplace(index.word(id));
+        found.emplace(index.words[id]);
     }
     std::set<std::string> wanted;
-    for (std::uint32_t id = 0; id < index.wordCount(); ++id) {
-      if (isOneEdit(text, index.word(id))) wanted.emplace(index.word(id));
+    for (std::uint32_t id = 0; id < index.words.size(); ++id) {
+      if (isOneEdit(text, index.words[id])) wanted.emplace(index.words[id]);
     }
     EXPECT_EQ(found, wanted) << text;
   }

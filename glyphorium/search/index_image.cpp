@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include <cstring>
+#include <type_traits>
+
+#include "glyphorium/search/index_internal.h"
+
+extern "C" {
+extern const std::byte glyphoriumSearchIndex[];
+extern const std::byte glyphoriumSearchIndexEnd[];
+}
+
+namespace glyph::search {
+namespace {
+
+constexpr std::size_t alignment = 8;
+
+std::size_t aligned(std::size_t size) {
+  return (size + alignment - 1) / alignment * alignment;
+}
+
+// The order of the parts in an image: their counts of elements first, as 64-bit integers, then each part,
+// aligned.
+template <class SomeIndex, class Visit>
+void forEachPart(SomeIndex& index, Visit visit) {
+  const auto visitTexts = [&](auto& texts) {
+    visit(texts.bytes);
+    visit(texts.begins);
+  };
+  visit(index.docEntity);
+  visit(index.docCodePoint);
+  visit(index.docPrior);
+  visitTexts(index.names);
+  visit(index.byCodePoint);
+  visit(index.phrases);
+  visitTexts(index.words);
+  visit(index.postingStart);
+  visit(index.postings);
+  visitTexts(index.signs);
+  visit(index.signPhrases);
+  visitTexts(index.htmlNames);
+  visit(index.htmlDocs);
+  visitTexts(index.groupNames);
+  visitTexts(index.groupWords);
+  visit(index.groupDocStart);
+  visit(index.groupDocs);
+  visitTexts(index.languages);
+}
+
+std::size_t partCount() {
+  std::size_t count = 0;
+  const Index none;
+  forEachPart(none, [&](const auto&) { ++count; });
+  return count;
+}
+
+}  // namespace
+
+IndexImage packed(const Index& index) {
+  std::size_t size = partCount() * sizeof(std::uint64_t);
+  forEachPart(index, [&](const auto& part) { size += aligned(part.size_bytes()); });
+  IndexImage image(size);
+  std::byte* count = image.data();
+  std::byte* place = count + partCount() * sizeof(std::uint64_t);
+  forEachPart(index, [&](const auto& part) {
+    const std::uint64_t elements = part.size();
+    std::memcpy(count, &elements, sizeof elements);
+    count += sizeof elements;
+    if (!part.empty()) std::memcpy(place, part.data(), part.size_bytes());
+    place += aligned(part.size_bytes());
+  });
+  return image;
+}
+
+Index openIndex(std::span<const std::byte> image) {
+  Index index;
+  const std::byte* count = image.data();
+  const std::byte* place = count + partCount() * sizeof(std::uint64_t);
+  forEachPart(index, [&](auto& part) {
+    using Element = typename std::remove_reference_t<decltype(part)>::element_type;
+    static_assert(std::is_trivially_copyable_v<Element> && alignof(Element) <= alignment);
+    std::uint64_t elements = 0;
+    std::memcpy(&elements, count, sizeof elements);
+    count += sizeof elements;
+    part = {reinterpret_cast<Element*>(place), elements};
+    place += aligned(part.size_bytes());
+  });
+  return index;
+}
+
+std::span<const std::byte> catalogIndexImage() {
+  return {glyphoriumSearchIndex, glyphoriumSearchIndexEnd};
+}
+
+}  // namespace glyph::search

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "glyphorium/catalog/entity/codec.h"
+#include "glyphorium/search/index_internal.h"
+#include "tests/search/catalog_search.h"
+
+namespace glyph {
+namespace {
+
+using testing::CatalogSearch;
+
+// What the build prepared is what a host would get that configures the catalog and builds a search of it.
+
+TEST(PreparedCatalog, EntitiesDecodedAloneAreThoseOfTheConfiguredCatalog) {
+  const std::vector<Entity>& entities = CatalogSearch::instance().entities;
+  std::size_t enriched = 0;
+  for (std::size_t place = 0; place < entities.size(); ++place) {
+    const std::optional<Entity> entity = buildInEntity(place);
+    ASSERT_TRUE(entity) << place;
+    EXPECT_EQ(encode(entity->computed), encode(entities[place].computed));
+    ASSERT_EQ(entity->additional.has_value(), entities[place].additional.has_value());
+    if (!entity->additional) continue;
+    EXPECT_EQ(encode(*entity->additional), encode(*entities[place].additional));
+    ++enriched;
+  }
+  EXPECT_GT(enriched, 1000u);
+  EXPECT_FALSE(buildInEntity(entities.size()));
+  EXPECT_FALSE(buildInEntity(SIZE_MAX));
+}
+
+TEST(PreparedCatalog, IndexIsTheOneThatBuildingMakes) {
+  const search::IndexImage built = search::buildIndex(CatalogSearch::instance().entities);
+  EXPECT_TRUE(std::ranges::equal(built, search::catalogIndexImage()));
+  const auto found = Search::ofCatalog().query("leftwards double arrow", {1, {{"en"}}, {}}).results;
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_EQ(buildInEntity(found.front().index)->computed.hex, "21d0");
+  EXPECT_EQ(Search::ofCatalog().byteCount(), 0u);
+}
+
+}  // namespace
+}  // namespace glyph
