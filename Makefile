@@ -32,7 +32,7 @@ fuzz:
 	ctest --preset fuzz
 
 bench:
-	@scripts/bootstrap test
+	@scripts/bootstrap bench
 	cmake --preset bench
 	cmake --build --preset bench -j $(JOBS)
 	@for b in build/bench/benchmarks/*_benchmark; do dbus-run-session -- "$$b" $(ARGS) || exit 1; done

@@ -2,9 +2,13 @@
 // The interactive search over the whole catalog: what building and a query cost, beside other ways to look up
 // the same words. Compare only within one run: machines that run this are shared and noisy.
 #include <benchmark/benchmark.h>
+#include <fcntl.h>
 #include <malloc.h>
+#include <spawn.h>
 #include <sqlite3.h>
+#include <sys/wait.h>
 #include <unicode/uchar.h>
+#include <unistd.h>
 
 #ifdef HAVE_UNISTRING
 #include <uniname.h>
@@ -222,6 +226,45 @@ void fullTextQuery(benchmark::State& state, const char* match) {
 }
 BENCHMARK_CAPTURE(fullTextQuery, arrow, "arrow*")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(fullTextQuery, let, "let*")->Unit(benchmark::kMicrosecond);
+
+// What a program does that shows results and needs nothing else of the catalog.
+void decodingTwentyResults(benchmark::State& state) {
+  const auto results = Search::ofCatalog().query("arrow", {20, {{"en"}}, {}}).results;
+  for (auto _ : state) {
+    for (const SearchResult& result : results) benchmark::DoNotOptimize(buildInEntity(result.index));
+  }
+}
+BENCHMARK(decodingTwentyResults)->Unit(benchmark::kMicrosecond);
+
+// Programs from their start to their end, as somebody without stored settings meets them.
+void wholeProcess(benchmark::State& state, std::vector<std::string> command) {
+  std::vector<char*> arguments;
+  for (std::string& argument : command) arguments.push_back(argument.data());
+  arguments.push_back(nullptr);
+  posix_spawn_file_actions_t redirections;
+  posix_spawn_file_actions_init(&redirections);
+  for (const int output : {STDOUT_FILENO, STDERR_FILENO})
+    posix_spawn_file_actions_addopen(&redirections, output, "/dev/null", O_WRONLY, 0);
+  setenv("XDG_CONFIG_HOME", "/nonexistent", 1);
+  for (auto _ : state) {
+    pid_t process = 0;
+    int status = -1;
+    const bool started =
+        posix_spawnp(&process, arguments[0], &redirections, nullptr, arguments.data(), environ) == 0;
+    if (started) waitpid(process, &status, 0);
+    if (status != 0) {
+      state.SkipWithError("is not installed, or fails");
+      break;
+    }
+  }
+  posix_spawn_file_actions_destroy(&redirections);
+}
+const std::vector<std::string> nothing{"true"};
+const std::vector<std::string> ourSearch{COMMAND_LINE, "search", "arrow"};
+const std::vector<std::string> peersSearch{"unicode", "arrow"};
+BENCHMARK_CAPTURE(wholeProcess, nothing, nothing)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK_CAPTURE(wholeProcess, glyphorium, ourSearch)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK_CAPTURE(wholeProcess, unicode, peersSearch)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
 
