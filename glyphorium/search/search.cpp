@@ -131,6 +131,7 @@ class Run {
       else
         addDirect(index_.docOfHtmlName(item.htmlName), place++, SearchField::htmlName);
     }
+    const bool isCode = !hits_.empty();
     for (const std::uint32_t number : query_.likelyNumbers)
       addDirect(index_.docOfCodePoint(number), place++, SearchField::code);
     for (const std::uint32_t character : query_.characters)
@@ -147,8 +148,8 @@ class Run {
     if (bareName != Index::noDoc)
       addDirect(bareName, offset_ + htmlNameDetail + index_.docPrior[bareName], SearchField::htmlName);
     for (const std::uint32_t character : query_.otherCharacters) {
-      // The letters of words that were found need no identifying.
-      if (hits_.empty() || query_.words.empty() || !wordsFound_)
+      // The signs of a code and the letters of words that were found need no identifying.
+      if (!isCode && (hits_.empty() || query_.words.empty() || !wordsFound_))
         addDirect(index_.docOfCodePoint(character), offset_ + lastCost + place++, SearchField::character);
     }
   }

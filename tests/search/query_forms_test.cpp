@@ -87,6 +87,13 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
   }
 }
 
+// Their signs are not meant.
+TEST(SearchQueryForms, CodesFindNothingBesides) {
+  for (const char* const code : {"U+2192", "\\u2192", "\\u{2192}", "&#8594;", "&#x2192;"})
+    EXPECT_EQ(CatalogSearch::instance().hexes(code), std::vector<std::string>{"2192"}) << code;
+  EXPECT_EQ(CatalogSearch::instance().hexes("&#"), (std::vector<std::string>{"0026", "0023"}));  // no code yet
+}
+
 TEST(SearchQueryForms, WordsOfTheUsersLanguagesFindCharacters) {
   const struct {
     const char* query;
