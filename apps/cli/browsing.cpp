@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
-#include <map>
 #include <nlohmann/json.hpp>
 
 #include "card.h"
@@ -61,23 +60,19 @@ int listEntities(Output& output, const std::vector<std::string>& groups, bool al
 
 int showCharacters(Output& output, const std::vector<std::string>& arguments, bool json) {
   glyph::glyphorium().configure();
-  std::vector<std::vector<Entity>> characters;  // the entities of each, in the order first met
-  std::map<std::string, std::size_t> places;
+  std::vector<Character> characters;
   int exitCode = found;
   for (const std::string& argument : arguments) {
-    std::vector<Entity> entities = resolve(argument);
-    if (entities.empty()) {
+    std::vector<Character> resolved = resolve(argument).characters;
+    if (resolved.empty()) {
       complain(unknownCharacter(argument));
       exitCode = nothingFound;
     }
-    std::map<std::string, bool> shown;  // an argument that repeats a character shows it again, once
-    for (Entity& entity : entities) {
-      if (!shown[entity.computed.hex]) {
-        shown[entity.computed.hex] = true;
-        places[entity.computed.hex] = characters.size();
-        characters.emplace_back();
-      }
-      characters[places[entity.computed.hex]].push_back(std::move(entity));
+    // An argument that repeats a character, as joined emoji do, shows it once.
+    for (auto one = resolved.begin(); one != resolved.end(); ++one) {
+      const bool isShown = std::any_of(
+          resolved.begin(), one, [&](const Character& earlier) { return earlier.front() == one->front(); });
+      if (!isShown) characters.push_back(*one);
     }
   }
   if (json) {

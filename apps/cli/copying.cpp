@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <iterator>
+
 #include "card.h"
 #include "commands.h"
 #include "glyphorium/catalog/glyphorium.h"
@@ -21,13 +24,14 @@ std::string snippet(const Entity& entity, std::string (glyph::CodeFormats::*form
 struct Form {
   const char* name;
   std::string (*make)(const Entity&);
-  const char* missing;  // what to say where a character has no such form
+  const char* missing;         // what to say where a character has no such form
+  const char* separator = "";  // between the forms of several characters
 };
 
 const Form forms[] = {
     {"character", [](const Entity& e) { return e.computed.symbol; }, ""},
-    {"hex", [](const Entity& e) { return e.computed.hex; }, ""},
-    {"decimal", [](const Entity& e) { return std::to_string(e.computed.decimal); }, ""},
+    {"hex", [](const Entity& e) { return e.computed.hex; }, "", " "},
+    {"decimal", [](const Entity& e) { return std::to_string(e.computed.decimal); }, "", " "},
     {"html",
      [](const Entity& e) { return e.additional ? e.additional->htmlNamed.value_or("") : std::string(); },
      "it has no HTML name; '--as html-hex' always works"},
@@ -35,9 +39,9 @@ const Form forms[] = {
     {"html-decimal", [](const Entity& e) { return e.computed.htmlDecimal; }, ""},
     {"swift", [](const Entity& e) { return e.swiftDecimal(); }, ""},
     {"swiftui", [](const Entity& e) { return snippet(e, &glyph::CodeFormats::getSFSymbolSwiftUICode); },
-     "only SF Symbols have a SwiftUI snippet"},
+     "only SF Symbols have a SwiftUI snippet", "\n"},
     {"uikit", [](const Entity& e) { return snippet(e, &glyph::CodeFormats::getSFSymbolUIKitCode); },
-     "only SF Symbols have a UIKit snippet"},
+     "only SF Symbols have a UIKit snippet", "\n"},
 };
 
 }  // namespace
@@ -55,29 +59,34 @@ int copyCharacter(Output& output, const std::string& argument, const std::string
                   bool throughTerminal) {
   glyph::glyphorium().configure();
   if (throughTerminal) glyph::setPasteboard(std::make_shared<glyph::TerminalPasteboard>());
-  const std::vector<Entity> entities = resolve(argument);
-  if (entities.empty()) {
+  Resolved resolved = resolve(argument);
+  if (resolved.characters.empty()) {
     complain(unknownCharacter(argument));
     return nothingFound;
   }
-  const Entity& entity = entities.front();
-  for (const Form& form : forms) {
-    if (formName != form.name) continue;
-    const std::string text = form.make(entity);
-    if (text.empty()) {
-      complain(entity.name() + ": " + form.missing);
+  if (resolved.alternatives) resolved.characters.resize(1);
+  const auto form =
+      std::find_if(std::begin(forms), std::end(forms), [&](const Form& one) { return formName == one.name; });
+  if (form == std::end(forms)) return wrongUse;  // the grammar lets none through
+  std::vector<std::string> texts, shown, names;
+  for (const Character& character : resolved.characters) {
+    const Entity& entity = character.front();
+    texts.push_back(form->make(entity));
+    if (texts.back().empty()) {
+      complain(entity.name() + ": " + form->missing);
       return nothingFound;
     }
-    if (!glyph::toolKit().writeToPasteboard(text)) {
-      complainOfFailure("the clipboard did not take the text");
-      return notWritten;
-    }
-    const bool isSymbol = formName == "character";
-    output.printLine("Copied " + output.strong(isSymbol ? visibleSymbol(entity.computed) : text) + " " +
-                     output.faint("(" + entity.name() + ", U+" + entity.computed.hex + ")"));
-    return found;
+    shown.push_back(visibleSymbol(entity.computed));
+    names.push_back(entity.name() + ", U+" + entity.computed.hex);
   }
-  return wrongUse;  // the grammar lets no other form through
+  const std::string text = joined(texts, form->separator);
+  if (!glyph::toolKit().writeToPasteboard(text)) {
+    complainOfFailure("the clipboard did not take the text");
+    return notWritten;
+  }
+  output.printLine("Copied " + output.strong(formName == "character" ? joined(shown, "") : text) + " " +
+                   output.faint("(" + joined(names, "; ") + ")"));
+  return found;
 }
 
 }  // namespace cli

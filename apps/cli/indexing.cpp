@@ -105,12 +105,14 @@ bool collect(const std::vector<std::string>& arguments, bool all, std::vector<En
       appendGroup(&*group);
       continue;
     }
-    const std::vector<Entity> characters = resolve(argument);
+    const std::vector<Character> characters = resolve(argument).characters;
     if (characters.empty()) {
       complain("'" + argument + "' is no character, and " + unknownGroup(argument));
       return false;
     }
-    for (const Entity& entity : characters) append(entity);
+    for (const Character& character : characters) {
+      for (const Entity& entity : character) append(entity);
+    }
   }
   return true;
 }

@@ -8,6 +8,7 @@
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/platform/unicode_text.h"
 #include "glyphorium/search/search.h"
+#include "glyphorium/toolkit/code_parsing.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace cli {
@@ -15,23 +16,12 @@ namespace {
 
 using glyph::Entity;
 
-std::optional<char32_t> number(std::string_view digits, int base) {
+// The codes that the text consists of; here a bare hexadecimal number of four digits is one, too.
+std::vector<glyph::ParsedCode> codesOf(std::string_view text) {
   std::uint32_t value = 0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, base);
-  const bool whole = error == std::errc() && end == digits.data() + digits.size();
-  if (!whole || glyph::utf8(value).empty()) return std::nullopt;
-  return value;
-}
-
-// The text between a prefix and a suffix, where it has both.
-std::optional<std::string_view> between(std::string_view text, std::string_view prefix,
-                                        std::string_view suffix) {
-  if (text.size() < prefix.size() + suffix.size() || !text.starts_with(prefix) || !text.ends_with(suffix)) {
-    return std::nullopt;
-  }
-  text.remove_prefix(prefix.size());
-  text.remove_suffix(suffix.size());
-  return text;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, 16);
+  const bool bare = text.size() >= 4 && error == std::errc() && end == text.data() + text.size();
+  return bare ? std::vector<glyph::ParsedCode>{{value, {}}} : glyph::parseCodes(text);
 }
 
 template <class Matches>
@@ -67,22 +57,9 @@ std::vector<std::string> groupNames() {
   return names;
 }
 
-}  // namespace
-
-std::optional<char32_t> codePointOf(std::string_view text) {
-  const std::string lower = glyph::lowercased(text);
-  if (const auto digits = between(lower, "&#x", ";")) return number(*digits, 16);
-  if (const auto digits = between(lower, "&#", ";")) return number(*digits, 10);
-  if (const auto digits = between(lower, "\\u{", "}")) return number(*digits, 16);
-  for (const std::string_view prefix : {"u+", "0x", "\\u", "u"}) {
-    if (const auto digits = between(lower, prefix, "")) return number(*digits, 16);
-  }
-  return text.size() >= 4 ? number(text, 16) : std::nullopt;
-}
-
-std::vector<Entity> entitiesOf(char32_t codePoint) {
+Character characterOf(char32_t codePoint) {
   const std::string hex = glyph::toolKit().getHex(codePoint);
-  std::vector<Entity> found = entitiesThat([&](const Entity& entity) { return entity.computed.hex == hex; });
+  Character found = entitiesThat([&](const Entity& entity) { return entity.computed.hex == hex; });
   if (!found.empty()) return found;
   const glyph::ComputedEntity record = glyph::Unicode(hex).computedEntity();
   std::vector<glyph::ComputedEntity> named = glyph::toolKit().addNames({record});
@@ -92,26 +69,54 @@ std::vector<Entity> entitiesOf(char32_t codePoint) {
                                         catalog.getAdditionalDataFrom(glyph::additionalJson));
 }
 
-std::vector<Entity> resolve(std::string_view argument) {
-  const auto clusters = glyph::graphemeClusters(argument);
-  if (clusters.size() == 1) {
-    std::vector<Entity> found;
-    for (const char32_t codePoint : glyph::codePoints(argument)) {
-      for (Entity& entity : entitiesOf(codePoint)) found.push_back(std::move(entity));
-    }
-    return found;
+// By any of its names there: the enrichment has one for each character.
+std::optional<Character> characterNamedInHtml(const std::string& name) {
+  const auto found = glyph::Search::ofCatalog().query("&" + name + ";", {1, {{"en"}}, {}}).results;
+  if (found.empty() || found.front().field != glyph::SearchField::htmlName) return std::nullopt;
+  const std::string hex = glyph::buildInEntity(found.front().index)->computed.hex;
+  return entitiesThat([&](const Entity& entity) { return entity.computed.hex == hex; });
+}
+
+std::optional<Character> characterOf(const glyph::ParsedCode& code) {
+  if (!code.htmlName.empty()) return characterNamedInHtml(code.htmlName);
+  if (glyph::utf8(code.codePoint).empty()) return std::nullopt;
+  return characterOf(code.codePoint);
+}
+
+}  // namespace
+
+std::optional<char32_t> codePointOf(std::string_view text) {
+  const std::vector<glyph::ParsedCode> codes = codesOf(text);
+  const bool one = codes.size() == 1 && codes.front().htmlName.empty();
+  if (!one || glyph::utf8(codes.front().codePoint).empty()) return std::nullopt;
+  return codes.front().codePoint;
+}
+
+Resolved resolve(std::string_view argument) {
+  Resolved resolved;
+  if (glyph::graphemeClusters(argument).size() == 1) {
+    for (const char32_t codePoint : glyph::codePoints(argument))
+      resolved.characters.push_back(characterOf(codePoint));
+    return resolved;
   }
-  if (const auto codePoint = codePointOf(argument)) return entitiesOf(*codePoint);
-  if (between(argument, "&", ";")) {
-    return entitiesThat([&](const Entity& entity) {
-      return entity.additional && entity.additional->htmlNamed && *entity.additional->htmlNamed == argument;
-    });
+  for (const glyph::ParsedCode& code : codesOf(argument)) {
+    auto character = characterOf(code);
+    if (!character) return {};
+    resolved.characters.push_back(*std::move(character));
   }
+  if (!resolved.characters.empty()) return resolved;
   const std::string lower = glyph::lowercased(argument);
-  return entitiesThat([&](const Entity& entity) {
-    return glyph::lowercased(entity.computed.fallbackName) == lower ||
-           glyph::lowercased(entity.name()) == lower;
-  });
+  resolved.alternatives = true;
+  for (Entity& entity : entitiesThat([&](const Entity& one) {
+         return glyph::lowercased(one.computed.fallbackName) == lower ||
+                glyph::lowercased(one.name()) == lower;
+       })) {
+    const auto known = std::find_if(resolved.characters.begin(), resolved.characters.end(),
+                                    [&](const Character& one) { return one.front() == entity; });
+    (known == resolved.characters.end() ? resolved.characters.emplace_back() : *known)
+        .push_back(std::move(entity));
+  }
+  return resolved;
 }
 
 std::string unknownCharacter(const std::string& argument) {

@@ -11,17 +11,22 @@
 /// From what a user types to entities and groups.
 namespace cli {
 
-/// The code point of U+2192, u2192, 0x2192, 2192, \u2192, \u{2192}, &#x2192; or &#8594;; nullopt for other
-/// texts and for what is no Unicode scalar value.
+/// The code point of a text that is 2192 or one form that glyph::parseCodes() reads; nullopt for other texts
+/// and for what is no Unicode scalar value.
 std::optional<char32_t> codePointOf(std::string_view text);
 
-/// All entities of the code point: those of the catalog, or one made for it and named by the name table where
-/// the catalog holds none (its name is empty where that has none either).
-std::vector<glyph::Entity> entitiesOf(char32_t codePoint);
+/// All entities of one character: those of the catalog, which differ in their groups only, or one made for it
+/// and named by the name table where the catalog holds none (its name is empty where that has none either).
+using Character = std::vector<glyph::Entity>;
 
-/// What the argument means: a pasted character or several that form one, a code, an HTML reference or a name.
-/// Empty where nothing matches.
-std::vector<glyph::Entity> resolve(std::string_view argument);
+/// What an argument means.
+struct Resolved {
+  std::vector<Character> characters;  // none where nothing matches
+  bool alternatives = false;          // one of them is meant: they share the name that the argument is
+};
+
+/// The argument is a pasted character or several that form one, codes, HTML references or a name.
+Resolved resolve(std::string_view argument);
 
 /// A sentence that offers what a search finds for an argument that is no character's exact name.
 std::string unknownCharacter(const std::string& argument);

@@ -7,19 +7,15 @@
 #include <string_view>
 #include <vector>
 
-namespace glyph::search {
+#include "glyphorium/toolkit/code_parsing.h"
 
-/// A code point or a named reference in a query.
-struct CodeItem {
-  std::uint32_t codePoint = 0;
-  std::string htmlName;  ///< where not empty, this instead
-};
+namespace glyph::search {
 
 /// All that a query may be.
 struct ParsedQuery {
   std::vector<std::string> groups;  ///< from "group:", as typed
 
-  std::vector<CodeItem> codes;               ///< the text is nothing but these forms
+  std::vector<ParsedCode> codes;             ///< the text is nothing but these forms
   std::vector<std::uint32_t> likelyNumbers;  ///< the text is a bare number, and hardly anything else
   std::vector<std::uint32_t> otherNumbers;   ///< likewise, but it may as well be a word: "face", "100"
 
@@ -34,8 +30,5 @@ struct ParsedQuery {
 
 /// nullopt where the text asks for nothing.
 std::optional<ParsedQuery> parseQuery(std::string_view text);
-
-/// The code points and named references that the text consists of; empty where it holds anything else.
-std::vector<CodeItem> parseCodes(std::string_view text);
 
 }  // namespace glyph::search

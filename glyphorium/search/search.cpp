@@ -125,7 +125,7 @@ class Run {
   void interpret() {
     // What cannot be anything else comes first, in the order of the query.
     std::uint32_t place = firstCost;
-    for (const CodeItem& item : query_.codes) {
+    for (const ParsedCode& item : query_.codes) {
       if (item.htmlName.empty())
         addDirect(index_.docOfCodePoint(item.codePoint), place++, SearchField::code);
       else

@@ -41,6 +41,7 @@ TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
       {"show 200b", 0, "⬚"},
       {"show 0301", 0, "◌\u0301"},
       {"show U+4E01", 0, "not in the Unicode 13.0 name table"},
+      {"show 'U+2192 &foo;'", 1, "no character is 'U+2192 &foo;'"},  // all of it or none
       {"show U+D800", 1, "no character is 'U+D800'"},
       {"show nbsp", 1, "no character is 'nbsp'; did you mean 00a0 (Non-Breaking Space)?"},
       {"show 'qqqq qqqq'", 1, "no character is 'qqqq qqqq'\n"},
@@ -196,6 +197,15 @@ TEST(CommandLine, IsDocumentedAndCompletedWhole) {
   EXPECT_EQ(completed("table latinB"), "latinBasicJson\n");
   EXPECT_EQ(completed("copy a --as html-h"), "html-hex\n");
   EXPECT_EQ(completed("index st"), "status\n");
+}
+
+TEST(CommandLine, CopiesEveryCharacterOfItsArgument) {
+  const auto copied = [](const std::string& arguments) {
+    return runProgram("script -qec \"" PROGRAM " copy " + arguments + " --terminal\" /dev/null").output;
+  };
+  EXPECT_THAT(copied("'U+2192, &leftarrow;'"), HasSubstr("\033]52;c;4oaS4oaQ\a"));          // →←
+  EXPECT_THAT(copied("e\u0301 --as html-hex"), HasSubstr("]52;c;JiN4NjU7JiN4MzAxOw==\a"));  // &#x65;&#x301;
+  EXPECT_THAT(copied("21,22"), HasSubstr("no character is"));
 }
 
 TEST(CommandLine, SpeaksTheUsersLanguage) {

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "glyphorium/toolkit/code_parsing.h"
+
 #include <charconv>
 #include <cstddef>
+#include <optional>
+#include <utility>
 
-#include "glyphorium/search/query_parsing_internal.h"
-
-namespace glyph::search {
+namespace glyph {
 namespace {
 
 bool isDigit(char c, int base) {
@@ -26,7 +28,7 @@ class CodeReader {
     return rest_.empty();
   }
 
-  std::optional<CodeItem> next() {
+  std::optional<ParsedCode> next() {
     if (rest_.front() == '&') return reference();
     if (rest_.front() == '\\') return escape();
     const std::string_view head = rest_.substr(0, 2);
@@ -56,19 +58,19 @@ class CodeReader {
     return there;
   }
 
-  static std::optional<CodeItem> item(std::optional<std::uint32_t> value) {
+  static std::optional<ParsedCode> item(std::optional<std::uint32_t> value) {
     if (!value) return std::nullopt;
-    return CodeItem{*value, {}};
+    return ParsedCode{*value, {}};
   }
 
   // A form that ends where its digits do.
-  std::optional<CodeItem> bare(std::size_t skipped, std::size_t least) {
+  std::optional<ParsedCode> bare(std::size_t skipped, std::size_t least) {
     const auto value = number(skipped, 16, least, 8);
     if (!rest_.empty() && isAlphanumeric(rest_.front())) return std::nullopt;
     return item(value);
   }
 
-  std::optional<CodeItem> reference() {
+  std::optional<ParsedCode> reference() {
     if (rest_.starts_with("&#")) {
       const bool hex = rest_.size() > 2 && (rest_[2] == 'x' || rest_[2] == 'X');
       const auto value = hex ? number(3, 16, 1, 8) : number(2, 10, 1, 10);
@@ -78,14 +80,14 @@ class CodeReader {
     std::size_t end = 1;
     while (end < rest_.size() && isAlphanumeric(rest_[end])) ++end;
     if (end == 1) return std::nullopt;
-    CodeItem named{0, std::string(rest_.substr(1, end - 1))};
+    ParsedCode named{0, std::string(rest_.substr(1, end - 1))};
     rest_.remove_prefix(end);
     take(';');
     return named;
   }
 
   // As string literals have it, \u2192, \u{2192}, \U00002192, \x{2192}, \xA9, and as style sheets do, \2192.
-  std::optional<CodeItem> escape() {
+  std::optional<ParsedCode> escape() {
     if (rest_.starts_with("\\u{") || rest_.starts_with("\\x{")) {
       const auto value = number(3, 16, 1, 8);
       return take('}') ? item(value) : std::nullopt;
@@ -97,7 +99,7 @@ class CodeReader {
     if (!value || *value < 0xD800 || *value > 0xDBFF || !rest_.starts_with("\\u")) return item(value);
     const auto low = number(2, 16, 4, 4);
     if (!low || *low < 0xDC00 || *low > 0xDFFF) return std::nullopt;
-    return CodeItem{0x10000 + ((*value - 0xD800) << 10) + (*low - 0xDC00), {}};
+    return ParsedCode{0x10000 + ((*value - 0xD800) << 10) + (*low - 0xDC00), {}};
   }
 
   std::string_view rest_;
@@ -105,8 +107,8 @@ class CodeReader {
 
 }  // namespace
 
-std::vector<CodeItem> parseCodes(std::string_view text) {
-  std::vector<CodeItem> items;
+std::vector<ParsedCode> parseCodes(std::string_view text) {
+  std::vector<ParsedCode> items;
   CodeReader reader(text);
   while (!reader.atEnd()) {
     auto item = reader.next();
@@ -116,4 +118,4 @@ std::vector<CodeItem> parseCodes(std::string_view text) {
   return items;
 }
 
-}  // namespace glyph::search
+}  // namespace glyph
