@@ -53,10 +53,44 @@ std::string withoutGroups(std::string_view text, std::vector<std::string>& group
   return rest;
 }
 
-void addBareNumbers(std::string_view text, ParsedQuery& query) {
+std::vector<std::string_view> splitAtBlanks(std::string_view text) {
+  std::vector<std::string_view> parts;
+  for (std::size_t i = 0; i < text.size();) {
+    std::size_t end = i;
+    while (end < text.size() && !isBlank(text[end])) ++end;
+    if (end > i) parts.push_back(text.substr(i, end - i));
+    i = end + 1;
+  }
+  return parts;
+}
+
+bool isDecimal(char c) {
+  return c >= '0' && c <= '9';
+}
+
+bool isHex(char c) {
+  return isDecimal(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
+}
+
+// Several numbers without a sign in front: code points, UTF-16 units or bytes of UTF-8, as dumps have them.
+void addBareNumbers(const std::vector<std::string_view>& numbers, ParsedQuery& query) {
+  std::string marked;
+  bool bytes = true, codePoints = true;
+  for (const std::string_view number : numbers) {
+    if (!std::all_of(number.begin(), number.end(), isHex)) return;
+    bytes = bytes && number.size() == 2;
+    codePoints = codePoints && number.size() >= 4 && std::any_of(number.begin(), number.end(), isDecimal);
+  }
+  if (!bytes && !codePoints) return;
+  for (const std::string_view number : numbers) marked.append(bytes ? "\\x" : "\\u").append(number);
+  const std::vector<ParsedCode> codes = parseCodes(marked);
+  // Bytes that are no UTF-8 are rather two-letter words and numbers.
+  if (bytes && codes.size() == numbers.size()) return;
+  for (const ParsedCode& code : codes) query.likelyNumbers.push_back(code.codePoint);
+}
+
+void addBareNumber(std::string_view text, ParsedQuery& query) {
   const auto all = [&](auto is) { return std::all_of(text.begin(), text.end(), is); };
-  const auto isDecimal = [](char c) { return c >= '0' && c <= '9'; };
-  const auto isHex = [&](char c) { return isDecimal(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); };
   if (text.size() < 2 || text.size() > 8 || !all(isHex)) return;
   // Four digits and more are a code point, for which nobody types fewer; fewer are rather a decimal one.
   const bool likely = text.size() >= 4 && std::any_of(text.begin(), text.end(), isDecimal);
@@ -68,6 +102,27 @@ void addBareNumbers(std::string_view text, ParsedQuery& query) {
   if (!all(isDecimal)) return;
   parse(10);
   numbers.insert(likely ? numbers.end() : numbers.begin(), value);
+}
+
+// Takes the codes out of a text of words that nothing else looks like: "U+2192 RIGHTWARDS ARROW", as programs
+// print it and people paste it.
+std::string takeMarkedCodes(std::string_view text, ParsedQuery& query) {
+  std::string words;
+  for (const std::string_view part : splitAtBlanks(text)) {
+    const bool marked = part.starts_with("U+") || part.starts_with("u+") || part.starts_with("0x") ||
+                        part.starts_with('\\') || (part.starts_with('&') && part.ends_with(';'));
+    const std::vector<ParsedCode> codes = marked ? parseCodes(part) : std::vector<ParsedCode>();
+    query.codes.insert(query.codes.end(), codes.begin(), codes.end());
+    if (codes.empty()) words.append(words.empty() ? "" : " ").append(part);
+  }
+  return query.codes.empty() ? std::string(text) : words;
+}
+
+// The name in a string literal's escape "\N{SNOWMAN}", else the text.
+std::string_view withoutName(std::string_view text) {
+  constexpr std::string_view begin = "\\N{";
+  if (!text.starts_with(begin) || !text.ends_with('}')) return text;
+  return text.substr(begin.size(), text.size() - begin.size() - 1);
 }
 
 // A cluster's precomposed character, if there is one, and its parts.
@@ -99,17 +154,22 @@ void addCharacters(std::string_view text, ParsedQuery& query) {
     return;
   }
   bool hasLatin = false;
-  for (const std::string_view cluster : clusters) {
-    if (cluster.size() == 1 && isBlank(cluster.front())) continue;
+  const auto isLatin = [](std::string_view cluster) {
     WordReader reader(cluster);
-    const bool latin = reader.next() && static_cast<unsigned char>(reader.word().front()) < 0x80;
-    const bool ascii = cluster.size() == 1;
-    if (latin && ascii) {
-      hasLatin = true;
-      continue;
+    return reader.next() && static_cast<unsigned char>(reader.word().front()) < 0x80;
+  };
+  for (const std::string_view part : splitAtBlanks(text)) {
+    const std::vector<std::string_view> inPart = graphemeClusters(part);
+    // The letters of a word and the signs beside them are a part of it.
+    const bool isWord = inPart.size() > 1 && std::any_of(inPart.begin(), inPart.end(), isLatin);
+    hasLatin = hasLatin || isWord;
+    for (const std::string_view cluster : inPart) {
+      const bool ascii = cluster.size() == 1;
+      const bool latin = isLatin(cluster);
+      hasLatin = hasLatin || latin;
+      if ((latin && ascii) || (isWord && (latin || ascii))) continue;
+      addParts(cluster, latin || ascii ? query.otherCharacters : query.besideWords);
     }
-    addParts(cluster, latin || ascii ? query.otherCharacters : query.besideWords);
-    hasLatin = hasLatin || latin;
   }
   if (!hasLatin) query.characters.swap(query.besideWords);
 }
@@ -119,7 +179,7 @@ void addCharacters(std::string_view text, ParsedQuery& query) {
 std::optional<ParsedQuery> parseQuery(std::string_view text) {
   ParsedQuery query;
   const std::string withBlanks = withoutGroups(shortened(text), query.groups);
-  const std::string_view rest = trimmed(withBlanks);
+  std::string_view rest = trimmed(withBlanks);
   if (rest.empty()) {
     // Blanks alone are looked for themselves.
     if (query.groups.empty()) {
@@ -129,7 +189,10 @@ std::optional<ParsedQuery> parseQuery(std::string_view text) {
     return query;
   }
   query.codes = parseCodes(rest);
-  addBareNumbers(rest, query);
+  const std::string withoutCodes = query.codes.empty() ? takeMarkedCodes(rest, query) : std::string(rest);
+  rest = withoutName(withoutCodes);
+  const std::vector<std::string_view> parts = splitAtBlanks(rest);
+  parts.size() > 1 ? addBareNumbers(parts, query) : addBareNumber(rest, query);
   addCharacters(rest, query);
   query.bareText = rest;
   query.signs = signKey(rest);

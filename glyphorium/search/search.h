@@ -90,7 +90,8 @@ class GLYPHORIUM_EXPORT Search {
   /// A query is one or more words in any order, which must all match; letter case, hyphens, underscores and
   /// the diacritics of Latin letters do not count, and the last letters of a word may still be missing. Or it
   /// is
-  /// - a code point: "U+2192", "u2192", "0x2192", "2192", "\u2192", "\u{1f600}", "8594", also several;
+  /// - a code point in any form that parseCodes() reads, also among words ("U+2192 RIGHTWARDS ARROW"), or a
+  ///   bare number of either base, also several, bytes of UTF-8 and units of UTF-16 as dumps have them;
   /// - a reference or its bare name: "&rarr;", "&rarr", "rarr", "&#8594;", "&#x2192;";
   /// - characters: each is identified; of a sequence (combining marks, joiners, skin tones) its parts are,
   /// after

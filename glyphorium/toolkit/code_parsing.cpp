@@ -6,6 +6,8 @@
 #include <optional>
 #include <utility>
 
+#include "glyphorium/platform/unicode_text.h"
+
 namespace glyph {
 namespace {
 
@@ -18,7 +20,8 @@ bool isAlphanumeric(char c) {
   return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-// Reads code forms from the front of a text.
+// Reads code forms from the front of a text. A form that is not read leaves what was taken of it taken: the
+// text as a whole is none then.
 class CodeReader {
  public:
   explicit CodeReader(std::string_view text) : rest_(text) {}
@@ -29,77 +32,127 @@ class CodeReader {
   }
 
   std::optional<ParsedCode> next() {
-    if (rest_.front() == '&') return reference();
-    if (rest_.front() == '\\') return escape();
-    const std::string_view head = rest_.substr(0, 2);
-    if (head == "U+" || head == "u+") return bare(2, 1);
-    if (head == "0x" || head == "0X") return bare(2, 1);
+    if (const auto arguments = callBegin()) return call(*arguments);
+    if (take("&")) return reference();
+    if (take("#")) return numericReference(4);  // as copied without the "&"; fewer digits are rather a tag
+    if (take("\\")) return escape();
+    if (take("%")) return bytes("%");
+    if (take("<U+")) return closed(number(16, 1, 8), ">");
+    if (take("U-") || take("u-")) return ended(number(16, 8, 8));
+    if (take("U+") || take("u+")) {
+      const std::size_t least = take(" ") ? 4 : 1;
+      return ended(number(16, least, 8));
+    }
+    if (take("0x") || take("0X")) return ended(number(16, 1, 8));
+    if (take("uni")) return ended(number(16, 4, 4));  // as fonts name glyphs
     // Without a sign in front it takes as many digits as a code point is written with, or it would be a word.
-    if (head.starts_with('u') || head.starts_with('U')) return bare(1, 4);
+    if (take("u") || take("U")) return ended(number(16, 4, 8));
     return std::nullopt;
   }
 
  private:
-  // The number of `least` to `most` digits behind `skipped` bytes; takes them all.
-  std::optional<std::uint32_t> number(std::size_t skipped, int base, std::size_t least, std::size_t most) {
-    std::size_t end = skipped;
+  bool take(std::string_view text) {
+    const bool there = rest_.starts_with(text);
+    if (there) rest_.remove_prefix(text.size());
+    return there;
+  }
+
+  // A number of `least` to `most` digits; takes them all.
+  std::optional<std::uint32_t> number(int base, std::size_t least, std::size_t most) {
+    std::size_t end = 0;
     while (end < rest_.size() && isDigit(rest_[end], base)) ++end;
     std::uint32_t value = 0;
-    if (end < skipped + least || end > skipped + most) return std::nullopt;
-    if (std::from_chars(rest_.data() + skipped, rest_.data() + end, value, base).ec != std::errc())
-      return std::nullopt;
+    if (end < least || end > most) return std::nullopt;
+    if (std::from_chars(rest_.data(), rest_.data() + end, value, base).ec != std::errc()) return std::nullopt;
     rest_.remove_prefix(end);
     return value;
   }
 
-  bool take(char c) {
-    const bool there = !rest_.empty() && rest_.front() == c;
-    if (there) rest_.remove_prefix(1);
-    return there;
-  }
-
-  static std::optional<ParsedCode> item(std::optional<std::uint32_t> value) {
+  static std::optional<ParsedCode> code(std::optional<std::uint32_t> value) {
     if (!value) return std::nullopt;
     return ParsedCode{*value, {}};
   }
 
   // A form that ends where its digits do.
-  std::optional<ParsedCode> bare(std::size_t skipped, std::size_t least) {
-    const auto value = number(skipped, 16, least, 8);
-    if (!rest_.empty() && isAlphanumeric(rest_.front())) return std::nullopt;
-    return item(value);
+  std::optional<ParsedCode> ended(std::optional<std::uint32_t> value) const {
+    return rest_.empty() || !isAlphanumeric(rest_.front()) ? code(value) : std::nullopt;
+  }
+
+  std::optional<ParsedCode> closed(std::optional<std::uint32_t> value, std::string_view end) {
+    return take(end) ? code(value) : std::nullopt;
+  }
+
+  std::optional<ParsedCode> numericReference(std::size_t leastDigits) {
+    const bool hex = take("x") || take("X");
+    const auto value = hex ? number(16, leastDigits, 8) : number(10, leastDigits, 10);
+    return take(";") ? code(value) : ended(value);
   }
 
   std::optional<ParsedCode> reference() {
-    if (rest_.starts_with("&#")) {
-      const bool hex = rest_.size() > 2 && (rest_[2] == 'x' || rest_[2] == 'X');
-      const auto value = hex ? number(3, 16, 1, 8) : number(2, 10, 1, 10);
-      take(';');
-      return item(value);
-    }
-    std::size_t end = 1;
+    if (take("#")) return numericReference(1);
+    std::size_t end = 0;
     while (end < rest_.size() && isAlphanumeric(rest_[end])) ++end;
-    if (end == 1) return std::nullopt;
-    ParsedCode named{0, std::string(rest_.substr(1, end - 1))};
+    if (end == 0) return std::nullopt;
+    ParsedCode named{0, std::string(rest_.substr(0, end))};
     rest_.remove_prefix(end);
-    take(';');
+    take(";");
     return named;
   }
 
-  // As string literals have it, \u2192, \u{2192}, \U00002192, \x{2192}, \xA9, and as style sheets do, \2192.
   std::optional<ParsedCode> escape() {
-    if (rest_.starts_with("\\u{") || rest_.starts_with("\\x{")) {
-      const auto value = number(3, 16, 1, 8);
-      return take('}') ? item(value) : std::nullopt;
+    if (take("u{") || take("x{")) return closed(number(16, 1, 8), "}");
+    if (take("N{U+")) return closed(number(16, 1, 8), "}");
+    if (take("U")) return code(number(16, 8, 8));
+    if (take("x")) {
+      std::size_t digits = 0;
+      while (digits < rest_.size() && isDigit(rest_[digits], 16)) ++digits;
+      return digits == 2 ? bytes("\\x") : code(number(16, 3, 8));
     }
-    if (rest_.starts_with("\\U")) return item(number(2, 16, 8, 8));
-    if (rest_.starts_with("\\x")) return item(number(2, 16, 2, 8));
-    if (!rest_.starts_with("\\u")) return item(number(1, 16, 1, 6));
-    const auto value = number(2, 16, 4, 6);
-    if (!value || *value < 0xD800 || *value > 0xDBFF || !rest_.starts_with("\\u")) return item(value);
-    const auto low = number(2, 16, 4, 4);
+    if (!take("u")) return code(number(16, 1, 6));
+    const auto value = number(16, 4, 6);
+    if (!value || *value < 0xD800 || *value > 0xDBFF || !take("\\u")) return code(value);
+    const auto low = number(16, 4, 4);
     if (!low || *low < 0xDC00 || *low > 0xDFFF) return std::nullopt;
     return ParsedCode{0x10000 + ((*value - 0xD800) << 10) + (*low - 0xDC00), {}};
+  }
+
+  // The two digits of a byte are next, and behind `introducer` those of others: a character in UTF-8, or the
+  // byte is a code point itself where no sequence begins.
+  std::optional<ParsedCode> bytes(std::string_view introducer) {
+    const auto byte = [&]() -> std::optional<char> {
+      if (rest_.size() < 2 || !isDigit(rest_[0], 16) || !isDigit(rest_[1], 16)) return std::nullopt;
+      unsigned value = 0;
+      std::from_chars(rest_.data(), rest_.data() + 2, value, 16);
+      rest_.remove_prefix(2);
+      return static_cast<char>(value);
+    };
+    const auto first = byte();
+    if (!first) return std::nullopt;
+    const std::string_view behindFirst = rest_;
+    std::string sequence(1, *first);
+    while (sequence.size() < 4 && !isWellFormedUtf8(sequence) && take(introducer)) {
+      const auto next = byte();
+      if (!next) break;
+      sequence += *next;
+    }
+    if (isWellFormedUtf8(sequence)) return code(static_cast<std::uint32_t>(codePoints(sequence).front()));
+    rest_ = behindFirst;
+    return code(static_cast<unsigned char>(*first));
+  }
+
+  // Where the argument begins of what programs and spreadsheets make a character of its number with.
+  std::optional<std::size_t> callBegin() const {
+    const std::size_t open = rest_.find('(');
+    if (open == std::string_view::npos) return std::nullopt;
+    std::string name = lowercased(rest_.substr(0, open));
+    if (name.starts_with('=')) name.erase(0, 1);
+    const bool known = name == "chr" || name == "char" || name == "unichar" || name == "chrw";
+    return known ? std::optional(open + 1) : std::nullopt;
+  }
+
+  std::optional<ParsedCode> call(std::size_t begin) {
+    rest_.remove_prefix(begin);
+    return closed(take("0x") ? number(16, 1, 8) : number(10, 1, 10), ")");
   }
 
   std::string_view rest_;

@@ -34,6 +34,21 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"2665", {"2665"}, SearchField::code},          // not U+0A69, which is 2665 too
       {"0169", {"0169", "00a9"}, SearchField::code},  // both readings
       {"169", {"00a9", "0169"}, SearchField::code},
+      {"U-0001F600", {"1f600"}, SearchField::code},
+      {"U+ 2713", {"2713"}, SearchField::code},
+      {"<U+200B>", {"200b"}, SearchField::code},
+      {"uni2192", {"2192"}, SearchField::code},
+      {"\\N{U+2014}", {"2014"}, SearchField::code},
+      {"=UNICHAR(955)", {"03bb"}, SearchField::code},
+      {"chr(0x3bb)", {"03bb"}, SearchField::code},
+      {"#8594;", {"2192"}, SearchField::code},
+      {"%E2%82%ac%20", {"20ac", "0020"}, SearchField::code},
+      {"\\xE2\\x82\\xAC \\xa9", {"20ac", "00a9"}, SearchField::code},  // UTF-8, else the byte itself
+      {"e2 82 ac", {"20ac"}, SearchField::code},
+      {"D83D DE02", {"1f602"}, SearchField::code},
+      {"2192 2190", {"2192", "2190"}, SearchField::code},
+      {"U+2192 RIGHTWARDS ARROW", {"2192"}, SearchField::code},
+      {"\\N{SNOWMAN}", {"2603"}, SearchField::name},
       // references
       {"&rarr;", {"2192"}, SearchField::htmlName},
       {"&rarr", {"2192"}, SearchField::htmlName},
@@ -91,7 +106,8 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
 TEST(SearchQueryForms, CodesFindNothingBesides) {
   for (const char* const code : {"U+2192", "\\u2192", "\\u{2192}", "&#8594;", "&#x2192;"})
     EXPECT_EQ(CatalogSearch::instance().hexes(code), std::vector<std::string>{"2192"}) << code;
-  EXPECT_EQ(CatalogSearch::instance().hexes("&#"), (std::vector<std::string>{"0026", "0023"}));  // no code yet
+  EXPECT_EQ(CatalogSearch::instance().hexes("&#"),
+            (std::vector<std::string>{"0026", "0023"}));  // no code yet
 }
 
 TEST(SearchQueryForms, WordsOfTheUsersLanguagesFindCharacters) {
