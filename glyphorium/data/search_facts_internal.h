@@ -37,8 +37,13 @@ struct SearchFacts {
 extern const SearchFacts searchFactList[];
 extern const std::size_t searchFactCount;
 
-/// Lines of words separated by tabs, ascending: a word as people type it, and words of the Unicode names that
-/// it may stand for.
-extern const std::string_view searchSynonyms;
+/// What the words of a language may stand for.
+struct SearchSynonyms {
+  std::string_view language;
+  std::string_view lines;  ///< ascending; a word, and words of Unicode names separated by tabs
+};
+
+extern const SearchSynonyms searchSynonymList[];
+extern const std::size_t searchSynonymCount;
 
 }  // namespace glyph

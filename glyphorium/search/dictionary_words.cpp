@@ -31,8 +31,7 @@ void addSingulars(const Index& index, QueryWord& word) {
 }
 
 // The words behind the word in its line of the synonyms, separated by tabs.
-std::string_view synonymsOf(std::string_view word) {
-  std::string_view lines = searchSynonyms;
+std::string_view synonymsOf(std::string_view word, std::string_view lines) {
   while (!lines.empty()) {
     const std::size_t begin =
         lines.rfind('\n', lines.size() / 2) + 1;  // of the line in the middle; npos + 1 is 0
@@ -45,17 +44,20 @@ std::string_view synonymsOf(std::string_view word) {
   return {};
 }
 
-void addSynonyms(const Index& index, QueryWord& word) {
-  for (std::string_view rest = synonymsOf(word.text); !rest.empty();) {
-    const std::string_view synonym = rest.substr(0, rest.find('\t'));
-    addVariant(index, word, synonym);
-    rest.remove_prefix(std::min(synonym.size() + 1, rest.size()));
+void addSynonyms(const Index& index, QueryWord& word, std::uint32_t languages) {
+  for (std::size_t list = 0; list < searchSynonymCount; ++list) {
+    if (!index.hasLanguage(searchSynonymList[list].language, languages)) continue;
+    for (std::string_view rest = synonymsOf(word.text, searchSynonymList[list].lines); !rest.empty();) {
+      const std::string_view synonym = rest.substr(0, rest.find('\t'));
+      addVariant(index, word, synonym);
+      rest.remove_prefix(std::min(synonym.size() + 1, rest.size()));
+    }
   }
 }
 
 }  // namespace
 
-void addDictionaryWords(const Index& index, QueryWord& word, bool prefixes) {
+void addDictionaryWords(const Index& index, QueryWord& word, std::uint32_t languages, bool prefixes) {
   TextRange range = index.words.withPrefix(word.text);
   if (!range.empty() && index.words[range.first] == word.text) {
     word.alternatives.push_back({{range.first, range.first + 1}, WordMatch::whole});
@@ -63,7 +65,7 @@ void addDictionaryWords(const Index& index, QueryWord& word, bool prefixes) {
   }
   // What begins words but is none is rather incomplete than a plural: "rocke" is no "rock".
   if (!word.alternatives.empty() || range.empty()) addSingulars(index, word);
-  addSynonyms(index, word);
+  addSynonyms(index, word, languages);
   if (prefixes && !range.empty()) word.alternatives.push_back({range, WordMatch::prefix});
 }
 

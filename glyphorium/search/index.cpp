@@ -46,6 +46,13 @@ std::uint32_t Index::docOfHtmlName(std::string_view name) const {
   return found.empty() ? noDoc : htmlDocs[found.first];
 }
 
+bool Index::hasLanguage(std::string_view language, std::uint32_t languageBits) const {
+  for (std::uint32_t i = 0; i < languages.size(); ++i) {
+    if ((languageBits >> i & 1) != 0 && languages[i] == language) return true;
+  }
+  return false;
+}
+
 bool Group::hasWordWithPrefix(std::string_view prefix) const {
   for (std::size_t at = words.find(prefix); at != std::string_view::npos; at = words.find(prefix, at + 1)) {
     if (at == 0 || words[at - 1] == ' ') return true;

@@ -111,6 +111,9 @@ struct Index {
   std::span<const std::uint32_t> postingsOf(TextRange range) const {
     return postings.subspan(postingStart[range.first], postingStart[range.last] - postingStart[range.first]);
   }
+  /// Whether a language is among those of which the bits are set.
+  bool hasLanguage(std::string_view language, std::uint32_t languageBits) const;
+
   std::uint32_t groupCount() const { return groupNames.size(); }
   Group group(std::uint32_t i) const {
     return {groupNames[i], groupWords[i],

@@ -63,9 +63,9 @@ inline constexpr std::uint32_t lastCost = 4000;
 std::vector<Match> matchWords(const Index& index, const std::vector<QueryWord>& words,
                               const MatchFilter& filter);
 
-/// Fills in the alternatives of a word: itself, its singular, its synonyms, and, if asked for, words that
-/// begin with it.
-void addDictionaryWords(const Index& index, QueryWord& word, bool prefixes);
+/// Fills in the alternatives of a word: itself, its singular, its synonyms in the languages (by bit), and, if
+/// asked for, words that begin with it.
+void addDictionaryWords(const Index& index, QueryWord& word, std::uint32_t languages, bool prefixes);
 
 /// Adds the words of the dictionary that differ from the word by one letter left out, put in, replaced or
 /// exchanged with its neighbour. Nothing for words under four letters and numbers: everything is near them.

@@ -176,7 +176,7 @@ class Run {
   void addWords(bool persistently) {
     if (query_.words.empty()) return;
     const std::vector<std::string>& words = query_.words;
-    const std::uint32_t best = match(dictionaryWords(words, true), filter_);
+    const std::uint32_t best = match(dictionaryWords(words, filter_, true), filter_);
     // A reading of the words as they stand that is not an exact one may be the lesser one: "thumbsup".
     const bool found = best != nothing;
     if (best < wholeBase || (!found && !persistently)) return;
@@ -184,7 +184,7 @@ class Run {
     others.resize(std::min(others.size(), mostRespellings));
     const auto matchRespelled = [&](bool prefixes, Demand demand) {
       return std::any_of(others.begin(), others.end(), [&](const std::vector<std::string>& respelled) {
-        return match(dictionaryWords(respelled, prefixes), filter_, demand) != nothing;
+        return match(dictionaryWords(respelled, filter_, prefixes), filter_, demand) != nothing;
       });
     };
     if (found) {
@@ -193,29 +193,31 @@ class Run {
     }
     MatchFilter anyLanguage = filter_;
     anyLanguage.languages = ~0u;
-    if (match(dictionaryWords(words, false), anyLanguage) != nothing) return;
+    if (match(dictionaryWords(words, anyLanguage, false), anyLanguage) != nothing) return;
     approximate_ = true;
     if (matchRespelled(false, Demand::together)) return;
-    if (match(mistypedWords(words, false), filter_) != nothing) return;
-    if (words.size() > 1 && match(mistypedWords(words, true), filter_) != nothing) return;
+    if (match(mistypedWords(words, filter_, false), filter_) != nothing) return;
+    if (words.size() > 1 && match(mistypedWords(words, filter_, true), filter_) != nothing) return;
     if (matchRespelled(true, Demand::together)) return;
-    if (match(dictionaryWords(words, true), anyLanguage) != nothing) return;
-    if (match(mistypedWords(words, false), anyLanguage) != nothing) return;
+    if (match(dictionaryWords(words, anyLanguage, true), anyLanguage) != nothing) return;
+    if (match(mistypedWords(words, anyLanguage, false), anyLanguage) != nothing) return;
     approximate_ = false;
   }
 
-  std::vector<QueryWord> dictionaryWords(const std::vector<std::string>& words, bool prefixes) const {
+  std::vector<QueryWord> dictionaryWords(const std::vector<std::string>& words, const MatchFilter& filter,
+                                         bool prefixes) const {
     std::vector<QueryWord> result;
     for (const std::string& text : words) {
       QueryWord& word = result.emplace_back(QueryWord{text, {}, isFiller(text)});
       // One letter alone begins a tenth of all words and says nothing; behind other words it is the next one.
-      addDictionaryWords(index_, word, prefixes && (text.size() > 1 || result.size() > 1));
+      addDictionaryWords(index_, word, filter.languages, prefixes && (text.size() > 1 || result.size() > 1));
     }
     return result;
   }
 
-  std::vector<QueryWord> mistypedWords(const std::vector<std::string>& words, bool all) const {
-    std::vector<QueryWord> result = dictionaryWords(words, true);
+  std::vector<QueryWord> mistypedWords(const std::vector<std::string>& words, const MatchFilter& filter,
+                                       bool all) const {
+    std::vector<QueryWord> result = dictionaryWords(words, filter, true);
     for (QueryWord& word : result) {
       if (all || word.alternatives.empty()) addMistypedWords(index_, word);
     }

@@ -86,8 +86,8 @@ void EmbeddedImage::addSearchFacts(std::string kind, std::string language,
   searchFacts_.push_back({std::move(kind), std::move(language), indexPiece, add(texts)});
 }
 
-void EmbeddedImage::addSynonyms(std::string_view lines) {
-  synonyms_ = add(lines);
+void EmbeddedImage::addSynonyms(std::string language, std::string_view lines) {
+  synonyms_.emplace_back(std::move(language), add(lines));
 }
 
 EmbeddedImage::Piece EmbeddedImage::add(std::string_view bytes) {
@@ -112,8 +112,12 @@ std::string EmbeddedImage::searchFactDefinitions() const {
     text += "    {SearchFactKind::" + facts.kind + ", \"" + facts.language + "\", CodePointIndex{" +
             view(facts.index) + "}, " + view(facts.texts) + "},\n";
   }
-  return text + "};\nconstinit const std::size_t searchFactCount = " + std::to_string(searchFacts_.size()) +
-         ";\n" + definition("std::string_view", "searchSynonyms", synonyms_);
+  text += "};\nconstinit const std::size_t searchFactCount = " + std::to_string(searchFacts_.size()) +
+          ";\nconstinit const SearchSynonyms searchSynonymList[] = {\n";
+  for (const auto& [language, lines] : synonyms_)
+    text += "    {\"" + language + "\", " + view(lines) + "},\n";
+  return text + "};\nconstinit const std::size_t searchSynonymCount = " + std::to_string(synonyms_.size()) +
+         ";\n";
 }
 
 void EmbeddedImage::write(const std::filesystem::path& folder) {

@@ -33,7 +33,7 @@ class EmbeddedImage {
   /// Facts of the search: texts by code point, of a kind (an enumerator of SearchFactKind) and a language.
   void addSearchFacts(std::string kind, std::string language,
                       const std::map<char32_t, std::vector<std::string>>& facts);
-  void addSynonyms(std::string_view lines);
+  void addSynonyms(std::string language, std::string_view lines);
 
   /// Writes embedded.bin, embedded.S, embedded_image.cpp and glyphorium/data/group_tables.h below the folder.
   void write(const std::filesystem::path& folder);
@@ -73,7 +73,7 @@ class EmbeddedImage {
   Piece nameIndex_{};
   Piece enrichmentIndex_{};
   std::vector<SearchFacts> searchFacts_;
-  Piece synonyms_{};
+  std::vector<std::pair<std::string, Piece>> synonyms_;  // by language
 };
 
 }  // namespace glyph::generator

@@ -137,7 +137,8 @@ void addSearchFacts(const std::filesystem::path& sources, const NameTable& names
                          readFacts(folder / ("everyday-names." + language + ".tsv"), names, false));
   }
   image.addSearchFacts("mostWanted", "", readMostWanted(folder / "most-wanted.tsv", names));
-  image.addSynonyms(readSynonyms(folder / "synonyms.tsv"));
+  for (const std::string language : languages)
+    image.addSynonyms(language, readSynonyms(folder / ("synonyms." + language + ".tsv")));
 }
 
 }  // namespace glyph::generator
