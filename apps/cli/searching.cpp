@@ -102,6 +102,8 @@ int searchCatalog(Output& output, const SearchRequest& request, bool json) {
     complain("nothing found for '" + query + "'");
     return nothingFound;
   }
+  if (output.onTerminal() && !json && found.approximate)
+    output.printLine(output.faint("nothing is called just that; these come near"));
   json ? printJsonArray(output, objects) : output.printTable(rows);
   if (output.onTerminal() && !json && found.total > found.results.size()) {
     output.printLine(output.faint(std::to_string(found.results.size()) + " of " +

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "glyphorium/search/index_internal.h"
+#include "glyphorium/search/words_internal.h"
 
 namespace glyph::search {
 
@@ -49,6 +50,13 @@ std::uint32_t Index::docOfHtmlName(std::string_view name) const {
 bool Index::hasLanguage(std::string_view language, std::uint32_t languageBits) const {
   for (std::uint32_t i = 0; i < languages.size(); ++i) {
     if ((languageBits >> i & 1) != 0 && languages[i] == language) return true;
+  }
+  return false;
+}
+
+bool Index::isFunctionWord(std::string_view word, std::uint32_t languageBits) const {
+  for (std::uint32_t i = 0; i < languages.size(); ++i) {
+    if ((languageBits >> i & 1) != 0 && search::isFunctionWord(word, languages[i])) return true;
   }
   return false;
 }

@@ -113,6 +113,8 @@ struct Index {
   }
   /// Whether a language is among those of which the bits are set.
   bool hasLanguage(std::string_view language, std::uint32_t languageBits) const;
+  /// Whether the word only joins others in one of these languages.
+  bool isFunctionWord(std::string_view word, std::uint32_t languageBits) const;
 
   std::uint32_t groupCount() const { return groupNames.size(); }
   Group group(std::uint32_t i) const {

@@ -57,7 +57,8 @@ inline constexpr std::uint32_t wholeBase = 200;
 // that match the query exactly, and last.
 inline constexpr std::uint32_t firstCost = 0;
 inline constexpr std::uint32_t behindExactCost = 195;
-inline constexpr std::uint32_t lastCost = 4000;
+inline constexpr std::uint32_t fewerWordsBase = 4000;
+inline constexpr std::uint32_t lastCost = 8000;
 
 /// All characters that match all words (fillers excepted), in no order.
 std::vector<Match> matchWords(const Index& index, const std::vector<QueryWord>& words,
@@ -71,9 +72,22 @@ void addDictionaryWords(const Index& index, QueryWord& word, std::uint32_t langu
 /// exchanged with its neighbour. Nothing for words under four letters and numbers: everything is near them.
 void addMistypedWords(const Index& index, QueryWord& word);
 
-/// Other spellings of the words, the likeliest first: umlauts written "ae", joined words split, split words
-/// joined.
-std::vector<std::vector<std::string>> respellings(const Index& index, const std::vector<std::string>& words);
+/// Other spellings of the words, the likeliest first: without the words that only join others in the
+/// languages (by bit), umlauts written "ae", joined words split, split words joined.
+std::vector<std::vector<std::string>> respellings(const Index& index, const std::vector<std::string>& words,
+                                                  std::uint32_t languages);
+
+/// What the words of a query find, a character perhaps several times.
+struct WordsFound {
+  std::vector<Match> matches;
+  std::vector<QueryWord> words;  ///< as they matched
+  bool approximate = false;      ///< not as they stand
+};
+
+/// The characters that match all words; where there are none, and only if asked to do so persistently, other
+/// readings of the words one after the other, the least surprising first.
+WordsFound findWords(const Index& index, const std::vector<std::string>& words, const MatchFilter& filter,
+                     bool persistently);
 
 /// What of the name the words match.
 std::vector<SearchRange> nameRanges(const Index& index, const std::vector<QueryWord>& words,

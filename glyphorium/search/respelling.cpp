@@ -27,7 +27,7 @@ std::string withoutUmlautSpelling(std::string_view word) {
 // The ways to split a word into words of the dictionary, of which the last may be incomplete.
 class Splitter {
  public:
-  explicit Splitter(const Index& index) : index_(index) {}
+  Splitter(const Index& index, bool isGerman) : index_(index), isGerman_(isGerman) {}
 
   std::vector<Words> split(std::string_view word) {
     const bool number = word.find_first_of("0123456789") != std::string_view::npos;
@@ -49,24 +49,36 @@ class Splitter {
       if (index_.words.exactly(rest.substr(0, size)).empty()) continue;
       parts_.emplace_back(rest.substr(0, size));
       step(rest.substr(size));
+      // Letters of no meaning may join them: "Geburtstagstorte".
+      for (const std::string_view joint : {"s", "n", "es", "en", "er"}) {
+        if (isGerman_ && rest.substr(size).starts_with(joint) &&
+            size + joint.size() + leastPart <= rest.size())
+          step(rest.substr(size + joint.size()));
+      }
       parts_.pop_back();
     }
   }
 
   const Index& index_;
+  const bool isGerman_;
   Words parts_;
   std::vector<Words> ways_;
 };
 
 }  // namespace
 
-std::vector<Words> respellings(const Index& index, const Words& words) {
+std::vector<Words> respellings(const Index& index, const Words& words, std::uint32_t languages) {
   std::vector<Words> result;
+  Words meaningful;
+  for (const std::string& word : words) {
+    if (!index.isFunctionWord(word, languages)) meaningful.push_back(word);
+  }
+  if (!meaningful.empty() && meaningful.size() < words.size()) result.push_back(std::move(meaningful));
   Words umlauts;
   for (const std::string& word : words) umlauts.push_back(withoutUmlautSpelling(word));
   if (umlauts != words) result.push_back(std::move(umlauts));
   for (std::size_t i = 0; i < words.size(); ++i) {
-    for (Words& parts : Splitter(index).split(words[i])) {
+    for (Words& parts : Splitter(index, index.hasLanguage("de", languages)).split(words[i])) {
       Words split = words;
       const auto place = split.erase(split.begin() + static_cast<std::ptrdiff_t>(i));
       split.insert(place, parts.begin(), parts.end());

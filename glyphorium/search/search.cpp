@@ -2,7 +2,6 @@
 #include "glyphorium/search/search.h"
 
 #include <algorithm>
-#include <iterator>
 #include <new>
 #include <utility>
 
@@ -15,9 +14,6 @@
 namespace glyph {
 namespace search {
 namespace {
-
-constexpr std::size_t mostRespellings = 16;
-constexpr std::uint32_t nothing = 0xFFFFFFFF;
 
 SearchField fieldOf(PhraseKind kind) {
   switch (kind) {
@@ -65,9 +61,6 @@ class Run {
     std::uint32_t doc;
     SearchField field;
   };
-
-  // Parts of a respelled word prove something only where they stand in one text.
-  enum class Demand { any, together, exact };
 
   void chooseLanguages() {
     filter_.languages = 1u | 1u << 1;  // what is of no language, and English
@@ -171,80 +164,17 @@ class Run {
     }
   }
 
-  // The words; where they match nothing and nothing else did, other readings of them one after the other, the
-  // least surprising first.
   void addWords(bool persistently) {
-    if (query_.words.empty()) return;
-    const std::vector<std::string>& words = query_.words;
-    const std::uint32_t best = match(dictionaryWords(words, filter_, true), filter_);
-    // A reading of the words as they stand that is not an exact one may be the lesser one: "thumbsup".
-    const bool found = best != nothing;
-    if (best < wholeBase || (!found && !persistently)) return;
-    auto others = respellings(index_, words);
-    others.resize(std::min(others.size(), mostRespellings));
-    const auto matchRespelled = [&](bool prefixes, Demand demand) {
-      return std::any_of(others.begin(), others.end(), [&](const std::vector<std::string>& respelled) {
-        return match(dictionaryWords(respelled, filter_, prefixes), filter_, demand) != nothing;
-      });
-    };
-    if (found) {
-      matchRespelled(false, Demand::exact);
-      return;
-    }
-    MatchFilter anyLanguage = filter_;
-    anyLanguage.languages = ~0u;
-    if (match(dictionaryWords(words, anyLanguage, false), anyLanguage) != nothing) return;
-    approximate_ = true;
-    if (matchRespelled(false, Demand::together)) return;
-    if (match(mistypedWords(words, filter_, false), filter_) != nothing) return;
-    if (words.size() > 1 && match(mistypedWords(words, filter_, true), filter_) != nothing) return;
-    if (matchRespelled(true, Demand::together)) return;
-    if (match(dictionaryWords(words, anyLanguage, true), anyLanguage) != nothing) return;
-    if (match(mistypedWords(words, anyLanguage, false), anyLanguage) != nothing) return;
-    approximate_ = false;
-  }
-
-  std::vector<QueryWord> dictionaryWords(const std::vector<std::string>& words, const MatchFilter& filter,
-                                         bool prefixes) const {
-    std::vector<QueryWord> result;
-    for (const std::string& text : words) {
-      QueryWord& word = result.emplace_back(QueryWord{text, {}, isFiller(text)});
-      // One letter alone begins a tenth of all words and says nothing; behind other words it is the next one.
-      addDictionaryWords(index_, word, filter.languages, prefixes && (text.size() > 1 || result.size() > 1));
-    }
-    return result;
-  }
-
-  std::vector<QueryWord> mistypedWords(const std::vector<std::string>& words, const MatchFilter& filter,
-                                       bool all) const {
-    std::vector<QueryWord> result = dictionaryWords(words, filter, true);
-    for (QueryWord& word : result) {
-      if (all || word.alternatives.empty()) addMistypedWords(index_, word);
-    }
-    return result;
-  }
-
-  // Adds what meets the demand; the cost of the best.
-  std::uint32_t match(std::vector<QueryWord> words, const MatchFilter& filter, Demand demand = Demand::any) {
-    std::vector<Match> matches = matchWords(index_, words, filter);
-    std::erase_if(matches, [&](const Match& match) {
-      return (demand != Demand::any && match.phrase == noPhrase) ||
-             (demand == Demand::exact && match.cost >= wholeBase);
-    });
-    std::uint32_t best = nothing;
-    hits_.reserve(hits_.size() + matches.size());
-    for (const Match& match : matches) {
+    WordsFound found = findWords(index_, query_.words, filter_, persistently);
+    hits_.reserve(hits_.size() + found.matches.size());
+    for (const Match& match : found.matches) {
       const bool byName = match.phrase == noPhrase;
       addDirect(match.doc, offset_ + match.cost,
                 byName ? SearchField::name : fieldOf(index_.phrases[match.phrase].kind));
-      best = std::min(best, match.cost);
     }
-    if (best != nothing) {
-      words_.insert(words_.end(), std::make_move_iterator(words.begin()),
-                    std::make_move_iterator(words.end()));
-      wordsFound_ = true;
-    }
-    return best;
+    wordsFound_ = !found.matches.empty();
+    approximate_ = found.approximate;
+    words_ = std::move(found.words);
   }
 
   SearchResults ranked() {

@@ -87,20 +87,20 @@ class GLYPHORIUM_EXPORT Search {
   /// gives the entities of its results), and is shared by all processes.
   static Search ofCatalog();
 
-  /// A query is one or more words in any order, which must all match; letter case, hyphens, underscores and
-  /// the diacritics of Latin letters do not count, and the last letters of a word may still be missing. Or it
-  /// is
+  /// A query is one or more words in any order, which must all match if any character does; letter case,
+  /// hyphens, underscores and the diacritics of Latin letters do not count, and the last letters of a word
+  /// may still be missing. Or it is
   /// - a code point in any form that parseCodes() reads, also among words ("U+2192 RIGHTWARDS ARROW"), or a
   ///   bare number of either base, also several, bytes of UTF-8 and units of UTF-16 as dumps have them;
   /// - a reference or its bare name: "&rarr;", "&rarr", "rarr", "&#8594;", "&#x2192;";
   /// - characters: each is identified; of a sequence (combining marks, joiners, skin tones) its parts are,
-  /// after
-  ///   the precomposed character where there is one;
+  ///   behind the precomposed character where there is one;
   /// - signs typed for a character: "->", "(c)", "1/2".
   /// What is several of these at once gives all of them, the likeliest first. "group:arrows" before, between
   /// or behind words keeps to the groups of that name or, where none is called so, with these words in their
   /// names (group:"misc symbols" with blanks); alone it gives the whole groups in the order of the list.
-  /// Where nothing matches, words are split, joined and corrected by one letter. Only the first 1,000 bytes
+  /// Where nothing matches, words are split, joined and corrected by one letter, then those are left out that
+  /// join others or match nothing together with the others. Only the first 1,000 bytes
   /// and 32 words count. No results for an empty text, for ill-formed UTF-8 beside nothing else, and when
   /// memory runs out.
   SearchResults query(std::string_view text, const SearchOptions& options = {}) const;

@@ -128,4 +128,28 @@ bool isFiller(std::string_view word) {
   return std::binary_search(fillers.begin(), fillers.end(), word);
 }
 
+bool isFunctionWord(std::string_view word, std::string_view language) {
+  // Single letters are none: as a word of a query they are rather the letter.
+  static constexpr struct {
+    std::string_view language;
+    std::string_view words;
+  } lists[] = {
+      {"en", " an and at by for from in into is it its of on or that the through to with "},
+      {"de",
+       " am an auf aus beim das dem den der des die durch ein eine einem einen einer eines fur im in ist mit "
+       "nach oder um und vom von zu zum zur "},
+      {"fr", " au aux avec dans de des du en est et la le les ou par pour sur un une "},
+      {"it",
+       " ai al alla allo che col con da dal dalla degli dei del della delle dello di gli il in la le lo nel "
+       "nella per sul sulla un una uno "},
+      {"es", " al con de del el en es la las los para por que un una "},
+  };
+  for (const auto& list : lists) {
+    if (list.language != language) continue;
+    const std::size_t at = list.words.find(word);
+    return at != std::string_view::npos && list.words[at - 1] == ' ' && list.words[at + word.size()] == ' ';
+  }
+  return false;
+}
+
 }  // namespace glyph::search

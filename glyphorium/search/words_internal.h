@@ -47,4 +47,7 @@ std::string signKey(std::string_view text);
 /// and their like in the other languages.
 bool isFiller(std::string_view word);
 
+/// Whether the word (folded) is one that joins others in that language: "with", "mit", "avec".
+bool isFunctionWord(std::string_view word, std::string_view language);
+
 }  // namespace glyph::search

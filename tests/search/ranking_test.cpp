@@ -51,6 +51,27 @@ TEST(SearchRanking, TyposAreCorrectedOnlyWhereNothingElseMatches) {
   }
 }
 
+TEST(SearchRanking, WordsAreLeftOutWhereNoCharacterMatchesAll) {
+  const struct {
+    const char* query;
+    const char* language;
+    const char* first;  // nullptr: nothing is found
+  } cases[] = {
+      {"face with tears and joy", "en", "1f602"},  // what only joins words
+      {"purple qzwxv snowman", "en", "2603"},      // what nothing is called
+      {"frozen snwman", "en", "2603"},             // also beside a typo
+      {"square anchor", "en", "2693"},             // what describes it
+      {"ancla cuadrada", "es", "2693"},            // which stands behind it in other languages
+      {"pfeil nach rechts", "de", "2192"},
+      {"Geburtstagstorte", "de", "1f382"},           // joined by letters of no meaning
+      {"qzwxv vxzwq zzqqv snowman", "en", nullptr},  // one word of four proves nothing
+  };
+  for (const auto& test : cases) {
+    const auto hexes = CatalogSearch::instance().hexes(test.query, {100, {{test.language}}, {}});
+    EXPECT_EQ(hexes.empty() ? "" : hexes.front(), test.first ? test.first : "") << test.query;
+  }
+}
+
 TEST(SearchRanking, UnicodeComesBeforeSFSymbolsOfEqualMatch) {
   for (const char* const query : {"heart", "star", "trash", "pencil", "scissors", "bell", "envelope"}) {
     const auto hexes = CatalogSearch::instance().hexes(query);

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <bit>
+#include <iterator>
+
+#include "glyphorium/search/matching_internal.h"
+#include "glyphorium/search/words_internal.h"
+
+namespace glyph::search {
+namespace {
+
+constexpr std::size_t mostRespellings = 16;
+constexpr std::size_t mostWordsLeftOut = 8;  // the number of choices doubles with each word
+constexpr std::uint32_t headWeight = 200;
+constexpr std::uint32_t nothing = 0xFFFFFFFF;
+
+// Parts of a respelled word prove something only where they stand in one text.
+enum class Demand { any, together, exact };
+
+class WordSearch {
+ public:
+  WordSearch(const Index& index, const std::vector<std::string>& words, const MatchFilter& filter)
+      : index_(index), words_(words), filter_(filter), anyLanguage_(filter) {
+    anyLanguage_.languages = ~0u;
+  }
+
+  WordsFound find(bool persistently) && {
+    const std::uint32_t best = match(dictionaryWords(words_, filter_, true), filter_);
+    // A reading of the words as they stand that is not an exact one may be the lesser one: "thumbsup".
+    if (best != nothing && best >= wholeBase) {
+      readRespellings();
+      matchRespelled(false, Demand::exact);
+    }
+    if (best == nothing && persistently) findOtherwise();
+    return std::move(found_);
+  }
+
+ private:
+  void findOtherwise() {
+    if (match(dictionaryWords(words_, anyLanguage_, false), anyLanguage_) != nothing) return;
+    found_.approximate = true;
+    readRespellings();
+    if (matchRespelled(false, Demand::together)) return;
+    if (match(mistypedWords(words_, filter_, false), filter_) != nothing) return;
+    if (words_.size() > 1 && match(mistypedWords(words_, filter_, true), filter_) != nothing) return;
+    if (matchRespelled(true, Demand::together)) return;
+    if (match(dictionaryWords(words_, anyLanguage_, true), anyLanguage_) != nothing) return;
+    if (match(mistypedWords(words_, anyLanguage_, false), anyLanguage_) != nothing) return;
+    if (matchRespelled(false, Demand::any)) return;
+    if (matchFewer(filter_) || matchFewer(anyLanguage_)) return;
+    found_.approximate = false;
+  }
+
+  void readRespellings() {
+    respelled_ = respellings(index_, words_, filter_.languages);
+    respelled_.resize(std::min(respelled_.size(), mostRespellings));
+  }
+
+  bool matchRespelled(bool prefixes, Demand demand) {
+    return std::any_of(respelled_.begin(), respelled_.end(), [&](const std::vector<std::string>& words) {
+      return match(dictionaryWords(words, filter_, prefixes), filter_, demand) != nothing;
+    });
+  }
+
+  // Where no character matches all words, those that match most of them, about half at least. Which words are
+  // left out matters: what is unknown says nothing, what is in few texts says most.
+  bool matchFewer(const MatchFilter& filter) {
+    std::vector<QueryWord> known;
+    std::size_t needed = 0;
+    for (QueryWord& word : mistypedWords(words_, filter, false)) {
+      if (index_.isFunctionWord(word.text, filter.languages)) continue;
+      needed += word.filler ? 0 : 1;
+      if (!word.alternatives.empty() && known.size() < mostWordsLeftOut) known.push_back(std::move(word));
+    }
+    // What the others describe: the last word in Germanic languages, the first one in Romance ones.
+    const bool headFirst = index_.hasLanguage("fr", filter_.languages) ||
+                           index_.hasLanguage("it", filter_.languages) ||
+                           index_.hasLanguage("es", filter_.languages);
+    const std::size_t head = headFirst ? 0 : known.size() - 1;
+    for (std::size_t left = known.size(); left > 0 && left * 2 + 1 >= needed; --left) {
+      bool any = false;
+      for (std::uint32_t chosen = 1; chosen < 1u << known.size(); ++chosen) {
+        if (std::popcount(chosen) != static_cast<int>(left)) continue;
+        std::vector<QueryWord> some;
+        std::uint32_t missed = 0;
+        for (std::size_t i = 0; i < known.size(); ++i) {
+          if (chosen >> i & 1)
+            some.push_back(known[i]);
+          else
+            missed += weight(known[i]) + (i == head ? headWeight : 0);
+        }
+        if (std::all_of(some.begin(), some.end(), [](const QueryWord& word) { return word.filler; }))
+          continue;
+        any = match(std::move(some), filter, Demand::any, fewerWordsBase + missed) != nothing || any;
+      }
+      if (any) return true;
+    }
+    return false;
+  }
+
+  // The rarer a word is, the more it says: up to about the difference between two tiers of the ranking.
+  std::uint32_t weight(const QueryWord& word) const {
+    std::size_t postings = 1;
+    for (const Alternative& alternative : word.alternatives)
+      postings += index_.postingsOf(alternative.words).size();
+    constexpr std::size_t mostBits = 17;
+    const std::size_t rarity = mostBits - std::min<std::size_t>(mostBits, std::bit_width(postings));
+    return word.filler ? 0 : 12 * static_cast<std::uint32_t>(rarity);
+  }
+
+  std::vector<QueryWord> dictionaryWords(const std::vector<std::string>& words, const MatchFilter& filter,
+                                         bool prefixes) const {
+    std::vector<QueryWord> result;
+    for (const std::string& text : words) {
+      QueryWord& word = result.emplace_back(QueryWord{text, {}, isFiller(text)});
+      // One letter alone begins a tenth of all words and says nothing; behind other words it is the next one.
+      addDictionaryWords(index_, word, filter.languages, prefixes && (text.size() > 1 || result.size() > 1));
+    }
+    return result;
+  }
+
+  std::vector<QueryWord> mistypedWords(const std::vector<std::string>& words, const MatchFilter& filter,
+                                       bool all) const {
+    std::vector<QueryWord> result = dictionaryWords(words, filter, true);
+    for (QueryWord& word : result) {
+      if (all || word.alternatives.empty()) addMistypedWords(index_, word);
+    }
+    return result;
+  }
+
+  // Adds what meets the demand, with the extra cost; the cost of the best.
+  std::uint32_t match(std::vector<QueryWord> words, const MatchFilter& filter, Demand demand = Demand::any,
+                      std::uint32_t extra = 0) {
+    std::uint32_t best = nothing;
+    for (Match match : matchWords(index_, words, filter)) {
+      if ((demand != Demand::any && match.phrase == noPhrase) ||
+          (demand == Demand::exact && match.cost >= wholeBase))
+        continue;
+      match.cost += extra;
+      best = std::min(best, match.cost);
+      found_.matches.push_back(match);
+    }
+    if (best != nothing) {
+      found_.words.insert(found_.words.end(), std::make_move_iterator(words.begin()),
+                          std::make_move_iterator(words.end()));
+    }
+    return best;
+  }
+
+  const Index& index_;
+  const std::vector<std::string>& words_;
+  const MatchFilter& filter_;
+  MatchFilter anyLanguage_;
+  std::vector<std::vector<std::string>> respelled_;
+  WordsFound found_;
+};
+
+}  // namespace
+
+WordsFound findWords(const Index& index, const std::vector<std::string>& words, const MatchFilter& filter,
+                     bool persistently) {
+  if (words.empty()) return {};
+  return WordSearch(index, words, filter).find(persistently);
+}
+
+}  // namespace glyph::search
