@@ -13,21 +13,25 @@ void addVariant(const Index& index, QueryWord& word, std::string_view variant) {
   if (!range.empty()) word.alternatives.push_back({range, WordMatch::variant});
 }
 
-// The singulars that the word may be the plural of, by the endings of the languages that the catalog knows.
-void addSingulars(const Index& index, QueryWord& word) {
+// The singulars that the word may be the plural of, by the endings of the languages: an English "pawn" is no
+// more than one paw.
+void addSingulars(const Index& index, QueryWord& word, std::uint32_t languages) {
   const std::string_view text = word.text;
   if (text.size() < 4 || text.ends_with("ss")) return;
   if (text.ends_with("s")) addVariant(index, word, text.substr(0, text.size() - 1));
   if (text.ends_with("es")) addVariant(index, word, text.substr(0, text.size() - 2));
-  if (text.ends_with("en") || text.ends_with("er")) addVariant(index, word, text.substr(0, text.size() - 2));
-  if (text.ends_with("e") || text.ends_with("n")) addVariant(index, word, text.substr(0, text.size() - 1));
-  if (text.ends_with("e") || text.ends_with("i")) {
+  if (text.ends_with("ies")) addVariant(index, word, std::string(text.substr(0, text.size() - 3)) + "y");
+  if (index.hasLanguage("de", languages)) {
+    if (text.ends_with("en") || text.ends_with("er"))
+      addVariant(index, word, text.substr(0, text.size() - 2));
+    if (text.ends_with("e") || text.ends_with("n")) addVariant(index, word, text.substr(0, text.size() - 1));
+  }
+  if (index.hasLanguage("it", languages) && (text.ends_with("e") || text.ends_with("i"))) {
     const std::string stem(text.substr(0, text.size() - 1));
     for (const char* const ending : {"a", "e", "o", "ia"}) {
       if (!text.ends_with(ending)) addVariant(index, word, stem + ending);
     }
   }
-  if (text.ends_with("ies")) addVariant(index, word, std::string(text.substr(0, text.size() - 3)) + "y");
 }
 
 // The words behind the word in its line of the synonyms, separated by tabs.
@@ -64,7 +68,7 @@ void addDictionaryWords(const Index& index, QueryWord& word, std::uint32_t langu
     ++range.first;
   }
   // What begins words but is none is rather incomplete than a plural: "rocke" is no "rock".
-  if (!word.alternatives.empty() || range.empty()) addSingulars(index, word);
+  if (!word.alternatives.empty() || range.empty()) addSingulars(index, word, languages);
   addSynonyms(index, word, languages);
   if (prefixes && !range.empty()) word.alternatives.push_back({range, WordMatch::prefix});
 }

@@ -140,6 +140,9 @@ Index openIndex(std::span<const std::byte> image);
 /// The image that the build made for the entities that configure() puts into buildInEntities().
 std::span<const std::byte> catalogIndexImage();
 
+/// The priors of characters for private use are at least that high, and no others.
+inline constexpr std::uint8_t privateUsePrior = 34;
+
 /// The characters of a list, in the order of their static rank.
 struct RankedDoc {
   std::uint32_t entity;

@@ -58,6 +58,15 @@ inline constexpr std::uint32_t unnamedDetail = 6;  // the words are not in the n
 inline constexpr std::uint32_t fillerDetail = 10;  // for each filler of the query that is missing
 inline constexpr std::uint32_t mostFillers = 3;
 
+// Characters for private use, which few systems can show, stand behind all that is not called just what the
+// query says.
+inline constexpr std::uint32_t privateUseExtra = 400;
+
+/// What the character's prior adds.
+inline std::uint32_t priorCost(std::uint32_t cost, std::uint8_t prior) {
+  return prior + (cost >= wholeBase && prior >= privateUsePrior ? privateUseExtra : 0);
+}
+
 /// How a phrase matches all the words of a query.
 struct PhraseMatch {
   WordMatch worst;

@@ -186,7 +186,8 @@ class Matcher {
       const std::uint32_t spread = spreadCost(worst, missingFillers(state.fillers, fillers_));
       const bool together = state.best < spread;
       const std::uint32_t unnamed = state.nameWorst <= state.bestWorst ? 0 : unnamedDetail;
-      matches.push_back({(together ? state.best : spread) + unnamed + index_.docPrior[doc], doc,
+      const std::uint32_t cost = (together ? state.best : spread) + unnamed;
+      matches.push_back({cost + priorCost(cost, index_.docPrior[doc]), doc,
                          together || needed_ == 1 ? state.phrase : noPhrase});
     }
     return matches;

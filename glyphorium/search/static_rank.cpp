@@ -22,10 +22,11 @@ constexpr unsigned keyboardPrior = 5;
 // The cost of a group. What is not listed is another script (its letters are found by its name anyway).
 constexpr unsigned commonSigns = 0;
 constexpr unsigned otherSigns = 4;
+constexpr unsigned phonetic = 7;  // more people read a phonetic alphabet than any one other script
 constexpr unsigned otherScript = 8;
 constexpr unsigned modifiers = 12;
 constexpr unsigned lookalikes = 16;
-constexpr unsigned privateUse = 24;  // no font but its vendor's has them
+constexpr unsigned privateUse = 24;  // no font but its vendor's has them: see also privateUsePrior
 constexpr unsigned curated = 0xFF;   // selections across the other groups say nothing of their own
 
 constexpr std::pair<std::string_view, unsigned> groupCosts[] = {
@@ -56,7 +57,7 @@ constexpr std::pair<std::string_view, unsigned> groupCosts[] = {
     {"greek & coptic", commonSigns},
     {"halfwidth & fullwidth forms", lookalikes},
     {"hangul compatibility jamo", lookalikes},
-    {"ipa extentions", modifiers},
+    {"ipa extentions", phonetic},
     {"latin basic", commonSigns},
     {"latin extended a", otherSigns},
     {"latin extended additional", otherSigns},
