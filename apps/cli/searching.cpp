@@ -42,6 +42,15 @@ std::string nameOf(const std::string& hex) {
   return entry ? glyph::capitalizedName(entry->name) : "(not in the Unicode 13.0 name table)";
 }
 
+// Where no group holds the character that was asked for, it may still be one.
+std::string beyondTheCatalog(const std::string& query) {
+  const std::vector<Character> characters = resolve(query).characters;
+  if (characters.empty() || characters.front().front().name().empty()) return {};
+  const Entity& entity = characters.front().front();
+  return "; no group holds " + entity.computed.hex + " (" + entity.name() +
+         "), but 'glyphorium show' describes it";
+}
+
 // What is searched. Nothing is decoded but the results where it is the catalog as it comes; configuring it
 // and making a search of it would take ten times as long as all the rest of the command.
 class SearchedEntities {
@@ -99,7 +108,7 @@ int searchCatalog(Output& output, const SearchRequest& request, bool json) {
   }
   if (found.results.empty()) {
     if (json) printJsonArray(output, {});
-    complain("nothing found for '" + query + "'");
+    complain("nothing found for '" + query + "'" + beyondTheCatalog(query));
     return nothingFound;
   }
   if (output.onTerminal() && !json && found.approximate)

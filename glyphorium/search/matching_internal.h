@@ -69,7 +69,8 @@ std::vector<Match> matchWords(const Index& index, const std::vector<QueryWord>& 
 void addDictionaryWords(const Index& index, QueryWord& word, std::uint32_t languages, bool prefixes);
 
 /// Adds the words of the dictionary that differ from the word by one letter left out, put in, replaced or
-/// exchanged with its neighbour. Nothing for words under four letters and numbers: everything is near them.
+/// exchanged with its neighbour. Nothing for words under four letters: everything is near them. No words with
+/// digits: so it is with numbers.
 void addMistypedWords(const Index& index, QueryWord& word);
 
 /// Other spellings of the words, the likeliest first: without the words that only join others in the

@@ -53,13 +53,18 @@ class MistypedWords {
     std::string wanted = prefix;
     wanted += rest;
     TextRange range = index_.words.withPrefix(wanted, within);
-    if (range.empty() || wanted == text_) return;
+    if (range.empty() || wanted == text_ || hasDigit(wanted)) return;
     if (index_.words[range.first] == wanted) {
       word_.alternatives.push_back({{range.first, range.first + 1}, WordMatch::typo});
       ++range.first;
     }
     if (!range.empty() && wanted.size() >= leastPrefix)
       word_.alternatives.push_back({range, WordMatch::typoPrefix});
+  }
+
+  // Every number is near others; so are the codes that stand in names.
+  static bool hasDigit(std::string_view text) {
+    return text.find_first_of("0123456789") != std::string_view::npos;
   }
 
   static constexpr std::size_t leastPrefix = 4;  // shorter ones begin half of the dictionary
@@ -74,10 +79,7 @@ constexpr std::size_t leastLetters = 4;
 }  // namespace
 
 void addMistypedWords(const Index& index, QueryWord& word) {
-  const bool number =
-      std::all_of(word.text.begin(), word.text.end(), [](char c) { return c >= '0' && c <= '9'; });
-  if (word.text.size() < leastLetters || number) return;
-  MistypedWords(index, word).find();
+  if (word.text.size() >= leastLetters) MistypedWords(index, word).find();
 }
 
 }  // namespace glyph::search

@@ -137,7 +137,10 @@ class Run {
       addDirect(index_.docOfCodePoint(character), offset_ + behindExactCost, SearchField::character);
     const std::uint32_t bareName = index_.docOfHtmlName(query_.bareText);
     const bool direct = !hits_.empty() || bareName != Index::noDoc;
-    addWords(!direct);
+    // What is a code is no mistyped word, also where the list does not hold its character.
+    const bool saysCode = std::any_of(query_.codes.begin(), query_.codes.end(),
+                                      [](const ParsedCode& code) { return code.htmlName.empty(); });
+    addWords(!direct && !saysCode);
     if (bareName != Index::noDoc)
       addDirect(bareName, offset_ + htmlNameDetail + index_.docPrior[bareName], SearchField::htmlName);
     for (const std::uint32_t character : query_.otherCharacters) {

@@ -24,7 +24,7 @@ bool isOneEdit(std::string_view a, std::string_view b) {
          restA.substr(2) == restB.substr(2);
 }
 
-// The walk through the dictionary finds just the words that comparing with each of them does.
+// The walk through the dictionary finds just the words without digits that comparing with each of them does.
 TEST(MistypedWords, AreThoseAtOneEdit) {
   const Index index = openIndex(catalogIndexImage());
   for (const char* const text : {"arow", "arrow", "aarrow", "elipsis", "xarrow", "rokcet", "letterx", "sqare",
@@ -39,7 +39,8 @@ TEST(MistypedWords, AreThoseAtOneEdit) {
     }
     std::set<std::string> wanted;
     for (std::uint32_t id = 0; id < index.words.size(); ++id) {
-      if (isOneEdit(text, index.words[id])) wanted.emplace(index.words[id]);
+      const std::string_view other = index.words[id];
+      if (isOneEdit(text, other) && other.find_first_of("0123456789") == other.npos) wanted.emplace(other);
     }
     EXPECT_EQ(found, wanted) << text;
   }
