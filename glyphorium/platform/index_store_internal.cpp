@@ -197,6 +197,21 @@ void IndexStore::forsake() {
   sqlite3_db_config(database_->handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
 }
 
+bool IndexStore::damaged(const std::filesystem::path& file, const SqliteError& error) {
+  if (error.code() != SQLITE_ERROR) {
+    return error.damage() || error.code() == SQLITE_CONSTRAINT || error.code() == SQLITE_MISMATCH;
+  }
+  try {
+    Database database(file, SQLITE_OPEN_READWRITE);
+    Statement item(database, "SELECT sql FROM sqlite_schema WHERE name = 'item'");
+    if (!item.step() || item.text(0) != itemTable) return true;
+    database.execute("INSERT INTO token(token) VALUES('integrity-check')");
+    return false;
+  } catch (const SqliteError& again) {
+    return again.damage() || again.code() == SQLITE_ERROR;
+  }
+}
+
 void IndexStore::empty(const std::filesystem::path& file, std::string_view reason) {
   printDiagnostic("Search index emptied, its file cannot be used (" + std::string(reason) +
                   "): " + file.string());

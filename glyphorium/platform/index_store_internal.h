@@ -49,6 +49,9 @@ class IndexStore {
   bool inPlace() const { return fileIdentity(file_) == identity_; }
   /// To be called when it does not: leaves alone what now stands at the path.
   void forsake();
+  /// Whether the error shows that the file is damaged: those about its content do, for the statements are
+  /// known to be right. The general error does where the tables are not as they are created.
+  static bool damaged(const std::filesystem::path& file, const SqliteError& error);
   /// Empties a damaged file, so that it can be opened again.
   static void empty(const std::filesystem::path& file, std::string_view reason);
 

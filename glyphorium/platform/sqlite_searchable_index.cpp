@@ -179,11 +179,12 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
   // Carries the requests out in one transaction. After an error the file is closed, which takes the
   // transaction back, and opened again by the next request: whatever was wrong may have passed.
   Error perform(Position begin, Position end, int& code) noexcept try {
+    if (!file_) return "no home directory is known";
     try {
       performOrThrow(begin, end);
     } catch (const SqliteError& error) {
       store_.reset();
-      if (!error.damage()) throw;
+      if (!IndexStore::damaged(*file_, error)) throw;
       IndexStore::empty(*file_, error.what());
       performOrThrow(begin, end);
     }
@@ -199,7 +200,6 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
   }
 
   void performOrThrow(Position begin, Position end) {
-    if (!file_) throw SqliteError(SQLITE_CANTOPEN, "no home directory is known");
     if (store_ && !store_->inPlace()) {
       store_->forsake();
       store_.reset();

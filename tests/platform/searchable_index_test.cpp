@@ -234,14 +234,22 @@ TEST(SearchableIndex, RepairsAndReportsUnusableFiles) {
   }
 
   // Damage that only some questions meet, while another program keeps the file open.
-  Database(file, SQLITE_OPEN_READWRITE).execute("DELETE FROM token_data");
-  SearchableIndexReader bystander(file);
-  EXPECT_EQ(bystander.count(), 1u);
-  RecordedDiagnostics diagnostics;
+  for (const char* const damage : {"DELETE FROM token_data", "DROP TABLE token_docsize", "DROP TABLE item"}) {
+    Database(file, SQLITE_OPEN_READWRITE).execute(damage);
+    SearchableIndexReader bystander(file);
+    bystander.count();
+    RecordedDiagnostics diagnostics;
+    SqliteSearchableIndex index(file);
+    EXPECT_EQ(indexAndWait(index, {glyphItem("7", "→", "Arrow")}), "") << damage;
+    EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("emptied"))) << damage;
+    EXPECT_EQ(identifiers(bystander.search("arrow", 10)), "7") << damage;
+  }
+  // A statement that is wrong in a whole file is no reason to lose what the file holds.
+  Database(file, SQLITE_OPEN_READWRITE)
+      .execute("CREATE TRIGGER faulty AFTER INSERT ON item BEGIN SELECT absent(); END");
   SqliteSearchableIndex index(file);
-  EXPECT_EQ(indexAndWait(index, {glyphItem("7", "→", "Arrow")}), "");
-  EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("emptied")));
-  EXPECT_EQ(identifiers(bystander.search("arrow", 10)), "7");
+  EXPECT_THAT(indexAndWait(index, {glyphItem("8", "→", "Arrow")}), HasSubstr("absent"));
+  EXPECT_EQ(identifiers(SearchableIndexReader(file).search("arrow", 10)), "7");
 }
 
 TEST(SearchableIndex, TellsTheCompletionWhatTheDiskRefused) {
