@@ -2,13 +2,12 @@
 #include "glyphorium/platform/settings_database_internal.h"
 
 #include <fcntl.h>
-#include <sqlite3.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <memory>
+#include <optional>
 #include <system_error>
 
 #include "glyphorium/platform/application.h"
@@ -18,26 +17,6 @@ namespace glyph {
 namespace {
 
 constexpr int busyTimeoutMilliseconds = 5000;
-
-struct Finalize {
-  void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
-};
-using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
-
-struct Close {
-  void operator()(sqlite3* connection) const { sqlite3_close(connection); }
-};
-
-Statement prepare(sqlite3* connection, const char* sql) {
-  sqlite3_stmt* statement = nullptr;
-  sqlite3_prepare_v2(connection, sql, -1, &statement, nullptr);
-  return Statement(statement);
-}
-
-bool bindText(const Statement& statement, int index, const std::string& text) {
-  return sqlite3_bind_text64(statement.get(), index, text.data(), text.size(), SQLITE_TRANSIENT,
-                             SQLITE_UTF8) == SQLITE_OK;
-}
 
 // Where the file really is, also when it does not exist yet.
 std::filesystem::path followLinks(std::filesystem::path file) {
@@ -68,9 +47,23 @@ class FileDescriptor {
   const int descriptor_;
 };
 
-}  // namespace
-
 using Outcome = SettingsDatabase::Outcome;
+
+Outcome select(const Database& database, const std::string& key, std::string& json) {
+  std::optional<Statement> find;
+  try {
+    find.emplace(database, "SELECT value FROM setting WHERE key = ?1");
+  } catch (const SqliteError& error) {
+    // The general error: there is no such table, so somebody has created the file but not written to it yet.
+    if (error.code() == SQLITE_ERROR) return Outcome::absent;
+    throw;
+  }
+  if (!find->bind(key).step() || find->isNull(0)) return Outcome::absent;
+  json = find->text(0);
+  return Outcome::done;
+}
+
+}  // namespace
 
 Outcome SettingsDatabase::fail(std::string error) {
   error_ = std::move(error);
@@ -81,40 +74,31 @@ Outcome SettingsDatabase::failBySystem() {
   return fail(std::generic_category().message(errno));
 }
 
-// What the connection's last failure means.
-Outcome SettingsDatabase::outcome(sqlite3* connection) {
-  error_ = sqlite3_errmsg(connection);
-  const int code = sqlite3_errcode(connection) & 0xFF;
-  if (code == SQLITE_CORRUPT || code == SQLITE_NOTADB) {
-    damaged_ = true;
-    return Outcome::damaged;
-  }
-  if (const int system = sqlite3_system_errno(connection);
-      system != 0 && (code == SQLITE_CANTOPEN || code == SQLITE_IOERR)) {
-    error_ += " (" + std::generic_category().message(system) + ")";
-  }
-  return Outcome::failed;
-}
-
-Outcome SettingsDatabase::execute(const char* sql) {
-  return sqlite3_exec(connection_, sql, nullptr, nullptr, nullptr) == SQLITE_OK ? Outcome::done
-                                                                                : outcome(connection_);
+template <class Step>
+Outcome SettingsDatabase::attempt(Step step) try {
+  return step();
+} catch (const SqliteError& error) {
+  error_ = error.what();
+  if (!error.damage()) return Outcome::failed;
+  damaged_ = true;
+  return Outcome::damaged;
 }
 
 void SettingsDatabase::close() {
-  // A forked process has the handle but not the locks: even closing it would take the parent's file apart.
-  if (connection_ && process_ == getpid()) {
+  if (connection_ && process_ != getpid()) {
+    // A forked process has the handle but not the locks: even closing it would take the parent's file apart.
+    static_cast<void>(connection_.release());
+  } else if (connection_ && damaged_) {
     // Closing writes the log's pages into the file, but a damaged one is kept as it was found.
-    if (damaged_) sqlite3_db_config(connection_, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
-    sqlite3_close(connection_);
+    sqlite3_db_config(connection_->handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
   }
-  connection_ = nullptr;
+  connection_.reset();
   configured_ = damaged_ = false;
 }
 
 bool SettingsDatabase::moved() const {
   int moved = 0;
-  sqlite3_file_control(connection_, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+  sqlite3_file_control(connection_->handle(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
   return moved != 0;
 }
 
@@ -130,7 +114,7 @@ Outcome SettingsDatabase::open(bool createMissing) {
   if (connection_) {
     if (process_ != getpid()) return fail("the process was forked while they were in use");
     // Within a transaction the file stays the same.
-    if (sqlite3_get_autocommit(connection_) == 0) return Outcome::done;
+    if (sqlite3_get_autocommit(connection_->handle()) == 0) return Outcome::done;
     // What SQLite has opened for reading only it does not try to write later.
     if (!(createMissing && readOnly()) && !moved()) return Outcome::done;
     close();
@@ -153,55 +137,34 @@ Outcome SettingsDatabase::open(bool createMissing) {
   }
   process_ = getpid();
   // The caller's lock guards the connection, so SQLite need not.
-  if (sqlite3_open_v2(file_.c_str(), &connection_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) !=
-      SQLITE_OK) {
-    const Outcome failure = connection_ ? outcome(connection_) : fail("out of memory");
-    close();
-    return failure;
-  }
-  sqlite3_busy_timeout(connection_, busyTimeoutMilliseconds);
+  connection_ = std::make_unique<Database>(file_, SQLITE_OPEN_READWRITE);
+  sqlite3_busy_timeout(connection_->handle(), busyTimeoutMilliseconds);
   return Outcome::done;
 }
 
 // Whether SQLite could open the file for reading only.
 bool SettingsDatabase::readOnly() const {
-  return sqlite3_db_readonly(connection_, "main") != 0;
+  return sqlite3_db_readonly(connection_->handle(), "main") != 0;
 }
 
 Outcome SettingsDatabase::read(const std::string& key, std::string& json) {
-  if (const Outcome opened = open(false); opened != Outcome::done) return opened;
-  // Reading needs files beside the database. A read-only directory has no room for them, and beside a
-  // read-only file they become read-only too and would keep it from being written when it may be. Without a
-  // log of pending pages the file alone is all there is, and may be read as it lies.
-  std::error_code error;
-  const auto logSize = std::filesystem::file_size(withSuffix(file_, "-wal"), error);
-  const bool complete = error || logSize == 0;
-  if (complete && readOnly()) return readAlone(key, json);
-  const Outcome selected = select(connection_, key, json);
-  const int code = sqlite3_errcode(connection_) & 0xFF;
-  const bool noRoom = selected == Outcome::failed && (code == SQLITE_CANTOPEN || code == SQLITE_READONLY);
-  return complete && noRoom ? readAlone(key, json) : selected;
-}
-
-Outcome SettingsDatabase::select(sqlite3* connection, const std::string& key, std::string& json) {
-  const Statement statement = prepare(connection, "SELECT value FROM setting WHERE key = ?1");
-  if (!statement) {
-    // The general error: there is no such table, so somebody has created the file but not written to it yet.
-    return sqlite3_errcode(connection) == SQLITE_ERROR ? Outcome::absent : outcome(connection);
-  }
-  if (!bindText(statement, 1, key)) return outcome(connection);
-  switch (sqlite3_step(statement.get())) {
-    case SQLITE_ROW:
-      break;
-    case SQLITE_DONE:
-      return Outcome::absent;
-    default:
-      return outcome(connection);
-  }
-  const auto* const text = reinterpret_cast<const char*>(sqlite3_column_text(statement.get(), 0));
-  if (!text) return Outcome::absent;
-  json.assign(text, static_cast<std::size_t>(sqlite3_column_bytes(statement.get(), 0)));
-  return Outcome::done;
+  return attempt([&] {
+    if (const Outcome opened = open(false); opened != Outcome::done) return opened;
+    // Reading needs files beside the database. A read-only directory has no room for them, and beside a
+    // read-only file they become read-only too and would keep it from being written when it may be. Without
+    // a log of pending pages the file alone is all there is, and may be read as it lies.
+    std::error_code error;
+    const auto logSize = std::filesystem::file_size(withSuffix(file_, "-wal"), error);
+    const bool complete = error || logSize == 0;
+    if (complete && readOnly()) return readAlone(key, json);
+    try {
+      return select(*connection_, key, json);
+    } catch (const SqliteError& failure) {
+      const bool noRoom = failure.code() == SQLITE_CANTOPEN || failure.code() == SQLITE_READONLY;
+      if (!complete || !noRoom) throw;
+    }
+    return readAlone(key, json);
+  });
 }
 
 Outcome SettingsDatabase::readAlone(const std::string& key, std::string& json) {
@@ -209,49 +172,53 @@ Outcome SettingsDatabase::readAlone(const std::string& key, std::string& json) {
   for (const char c : file_.native()) {
     uri += c == '%' ? "%25" : c == '?' ? "%3f" : c == '#' ? "%23" : std::string(1, c);
   }
-  uri += "?immutable=1";
-  sqlite3* opening = nullptr;
-  const int flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX;
-  const bool opened = sqlite3_open_v2(uri.c_str(), &opening, flags, nullptr) == SQLITE_OK;
-  const std::unique_ptr<sqlite3, Close> connection(opening);
-  return opened ? select(connection.get(), key, json) : outcome(connection.get());
+  return select(Database(uri + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI), key, json);
 }
 
 Outcome SettingsDatabase::begin() {
-  if (const Outcome opened = open(true); opened != Outcome::done) return opened;
-  if (damaged_) return Outcome::damaged;
-  if (readOnly()) return fail("the file may not be written");
-  if (!configured_) {
-    // EXTRA is FULL, and still so where a write-ahead log is impossible (some network file systems) or
-    // another process keeps it from being switched on just now: both are no reason to fail.
-    if (const Outcome set = execute("PRAGMA synchronous = EXTRA"); set != Outcome::done) return set;
-    if (execute("PRAGMA journal_mode = WAL") == Outcome::damaged) return Outcome::damaged;
-    configured_ = true;
-  }
-  if (const Outcome begun = execute("BEGIN IMMEDIATE"); begun != Outcome::done) return begun;
-  return execute(
-      "CREATE TABLE IF NOT EXISTS setting (key TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL) WITHOUT "
-      "ROWID");
+  return attempt([&] {
+    if (const Outcome opened = open(true); opened != Outcome::done) return opened;
+    if (damaged_) return Outcome::damaged;
+    if (readOnly()) return fail("the file may not be written");
+    if (!configured_) {
+      // EXTRA is FULL, and still so where a write-ahead log is impossible (some network file systems) or
+      // another process keeps it from being switched on just now: both are no reason to fail.
+      connection_->execute("PRAGMA synchronous = EXTRA");
+      try {
+        connection_->execute("PRAGMA journal_mode = WAL");
+      } catch (const SqliteError& error) {
+        if (error.damage()) throw;
+      }
+      configured_ = true;
+    }
+    connection_->execute(
+        "BEGIN IMMEDIATE;"
+        "CREATE TABLE IF NOT EXISTS setting (key TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL) WITHOUT "
+        "ROWID");
+    return Outcome::done;
+  });
 }
 
 Outcome SettingsDatabase::write(const std::string& key, const std::string& json) {
-  const Statement statement = prepare(connection_,
-                                      "INSERT INTO setting (key, value) VALUES (?1, ?2) "
-                                      "ON CONFLICT (key) DO UPDATE SET value = excluded.value");
-  if (!statement || !bindText(statement, 1, key) || !bindText(statement, 2, json) ||
-      sqlite3_step(statement.get()) != SQLITE_DONE) {
-    return outcome(connection_);
-  }
-  return Outcome::done;
+  return attempt([&] {
+    Statement(*connection_,
+              "INSERT INTO setting (key, value) VALUES (?1, ?2) "
+              "ON CONFLICT (key) DO UPDATE SET value = excluded.value")
+        .run(key, json);
+    return Outcome::done;
+  });
 }
 
 Outcome SettingsDatabase::commit() {
-  return execute("COMMIT");
+  return attempt([&] {
+    connection_->execute("COMMIT");
+    return Outcome::done;
+  });
 }
 
 void SettingsDatabase::rollback() {
-  if (connection_ && process_ == getpid() && sqlite3_get_autocommit(connection_) == 0) {
-    sqlite3_exec(connection_, "ROLLBACK", nullptr, nullptr, nullptr);
+  if (connection_ && process_ == getpid() && sqlite3_get_autocommit(connection_->handle()) == 0) {
+    sqlite3_exec(connection_->handle(), "ROLLBACK", nullptr, nullptr, nullptr);
   }
 }
 

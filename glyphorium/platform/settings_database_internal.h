@@ -4,10 +4,11 @@
 #include <sys/types.h>
 
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <utility>
 
-struct sqlite3;
+#include "glyphorium/platform/sqlite_internal.h"
 
 namespace glyph {
 
@@ -51,20 +52,19 @@ class SettingsDatabase {
   const std::filesystem::path& file() const { return file_; }
 
  private:
+  template <class Step>
+  Outcome attempt(Step step);
   Outcome open(bool create);
   Outcome create();
   void close();
-  Outcome select(sqlite3* connection, const std::string& key, std::string& json);
   Outcome readAlone(const std::string& key, std::string& json);
   bool readOnly() const;
-  Outcome execute(const char* sql);
-  Outcome outcome(sqlite3* connection);
   Outcome fail(std::string error);
   Outcome failBySystem();
 
   const std::filesystem::path chosenFile_;
   std::filesystem::path file_;
-  sqlite3* connection_ = nullptr;
+  std::unique_ptr<Database> connection_;
   pid_t process_ = 0;  // that opened the connection
   bool configured_ = false;
   bool damaged_ = false;

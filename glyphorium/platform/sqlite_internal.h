@@ -17,14 +17,12 @@ namespace glyph {
 class SqliteError : public std::runtime_error {
  public:
   SqliteError(int code, const std::string& message) : std::runtime_error(message), code_(code & 0xff) {}
+  /// Why the connection's last call gave the code; the connection is null where there was no memory for one.
+  SqliteError(int code, sqlite3* connection);
   /// The primary result code.
   int code() const { return code_; }
-  /// Whether the file is damaged or never was a database. Damage may also show as a missing table or as a
-  /// broken constraint, where the statements themselves are known to be right.
-  bool damage() const {
-    return code_ == SQLITE_CORRUPT || code_ == SQLITE_NOTADB || code_ == SQLITE_ERROR ||
-           code_ == SQLITE_CONSTRAINT || code_ == SQLITE_MISMATCH;
-  }
+  /// Whether the file is damaged or never was a database.
+  bool damage() const { return code_ == SQLITE_CORRUPT || code_ == SQLITE_NOTADB; }
 
  private:
   int code_;
