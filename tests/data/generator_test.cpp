@@ -45,8 +45,7 @@ TEST(Generator, StopsTheBuildAtAFaultySourceWithFileAndLine) {
     const std::string original = fileContent(sources / file);
     const std::size_t place = original.find(what);
     ASSERT_NE(place, std::string::npos) << file << ": " << what;
-    std::ofstream(sources / file, std::ios::binary)
-        << std::string(original).replace(place, what.size(), with);
+    writeFile(sources / file, std::string(original).replace(place, what.size(), with));
     const ProgramResult result = runProgram(command);
     EXPECT_EQ(result.exitCode, 1) << file << ": " << with;
     EXPECT_THAT(result.output, testing::HasSubstr(message));

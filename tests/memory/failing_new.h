@@ -5,18 +5,11 @@
 
 namespace glyph {
 
-/// Has this thread's operator new fail from its k-th call on (k = 1, 2 …), or at that call only, while the
-/// object lives.
-class FailingNew {
- public:
-  enum class Mode { once, fromThenOn };
-  FailingNew(std::size_t k, Mode mode);
-  ~FailingNew();
-  FailingNew(const FailingNew&) = delete;
-  FailingNew& operator=(const FailingNew&) = delete;
-
-  /// How often it was called so far, the failing calls included.
-  std::size_t calls() const;
+/// Which of this thread's calls of operator new fail: those numbered from `first` to `last`, the next being
+/// number 1 when `calls` is 0.
+struct FailingNew {
+  std::size_t first = 0, last = 0, calls = 0;
 };
+extern thread_local FailingNew failingNew;
 
 }  // namespace glyph

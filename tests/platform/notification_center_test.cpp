@@ -48,8 +48,6 @@ TEST_F(NotificationCenterTest, CallsTheObserversOfTheNameInOrderOfRegistration) 
   first.reset();  // holds nothing any more
   EXPECT_THAT(post(), ElementsAre("first ", "second "));
   moved = observe("third ");  // ends the registration that it held
-  EXPECT_THAT(post(), ElementsAre("second ", "third "));
-  second.reset();
   second.reset();
   EXPECT_THAT(post(), ElementsAre("third "));
 }
@@ -81,21 +79,17 @@ TEST_F(NotificationCenterTest, KeepsWhatAnObserverThrowsFromTheOthersAndThePoste
 
 TEST(NotificationToken, MayOutliveItsCenterAndEndWithinIt) {
   auto center = std::make_unique<NotificationCenter>();
-  int calls = 0;
-  auto held = std::make_shared<int>(0);
-  // What the observer holds goes with its registration, which is free to use the center meanwhile.
-  auto releasing = std::shared_ptr<void>(
-      nullptr, [&](void*) { center->addObserver("other", [](const Notification&) {}).reset(); });
-  auto token = center->addObserver("name", [releasing](const Notification&) {});
-  releasing.reset();
+  // What the observer holds goes with its registration, and is free to use the center meanwhile.
+  auto held =
+      std::shared_ptr<void>(nullptr, [&](void*) { center->addObserver("other", [](auto&) {}).reset(); });
+  auto token = center->addObserver("name", [held](auto&) {});
+  held.reset();
   token.reset();
-  token = center->addObserver("name", [&, held](const Notification&) {
-    ++calls;
-    center.reset();
-  });
+  const auto alive = std::make_shared<int>(0);
+  token = center->addObserver("name", [&, alive](auto&) { center.reset(); });
   center->post({"name", std::nullopt});
-  EXPECT_EQ(calls, 1);
-  EXPECT_EQ(held.use_count(), 1);
+  EXPECT_EQ(center, nullptr);
+  EXPECT_EQ(alive.use_count(), 1);
   token.reset();
 }
 

@@ -36,16 +36,6 @@ bool gone(const std::string& process) {
   return status.empty() || status.find(") Z ") != std::string::npos;
 }
 
-// Waits for what another process brings about.
-template <class Condition>
-bool comesAbout(Condition condition) {
-  for (int attempt = 0; attempt < 400; ++attempt) {
-    if (condition()) return true;
-    std::this_thread::sleep_for(50ms);
-  }
-  return false;
-}
-
 // What old kernels and some sandboxes do.
 void forbidPidfd() {
   sock_filter program[] = {
@@ -90,9 +80,8 @@ TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
       const TemporaryDirectory directory;
       for (const auto& [name, body] :
            {std::pair{"xclip", row.xclip}, {"wl-copy", row.wlCopy}, {"xsel", row.xsel}}) {
-        if (body == missing) continue;
-        writeFile(directory / name, "#!/bin/sh\nprintf '"s + name + " ' >>\"$DIR/log\"\n" + body);
-        chmod((directory / name).c_str(), 0700);
+        if (body != missing)
+          writeProgram(directory / name, "printf '"s + name + " ' >>\"$DIR/log\"\n" + body);
       }
       const ScopedVariable variables[] = {{"PATH", directory / ""},
                                           {"DIR", directory / ""},
@@ -114,7 +103,7 @@ TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
         std::string process = fileContent(directory / "process");
         ASSERT_FALSE(process.empty());
         process.pop_back();
-        EXPECT_TRUE(comesAbout([&] { return gone(process); }));
+        EXPECT_TRUE(eventually([&] { return gone(process); }));
       }
     }
   }
@@ -122,8 +111,7 @@ TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
 
 TEST(DesktopPasteboard, WhatStaysBehindHoldsNothingOfTheHost) {
   const TemporaryDirectory directory;
-  writeFile(directory / "xclip", "#!/bin/sh\n/bin/sleep 1000 & echo $! >\"$DIR/process\"\n");
-  chmod((directory / "xclip").c_str(), 0700);
+  writeProgram(directory / "xclip", "/bin/sleep 1000 & echo $! >\"$DIR/process\"\n");
   const ScopedVariable variables[] = {
       {"PATH", directory / ""}, {"DIR", directory / ""}, {"DISPLAY", "x"}, {"WAYLAND_DISPLAY", {}}};
   int ends[2];
@@ -193,7 +181,7 @@ TEST(DesktopPasteboard, TextOutlivesItsWriterUnderX11) {
   const std::string number = directory / "display";
   const Server server("Xvfb -displayfd 7 -screen 0 640x480x24 -nolisten tcp -noreset 7>" + number +
                       " >/dev/null 2>&1");
-  ASSERT_TRUE(comesAbout([&] { return fileContent(number).ends_with('\n'); }));
+  ASSERT_TRUE(eventually([&] { return fileContent(number).ends_with('\n'); }));
   const ScopedVariable variables[] = {{"DISPLAY", ":" + std::to_string(std::stoi(fileContent(number)))},
                                       {"WAYLAND_DISPLAY", {}}};
   if (isInstalled("xsel")) {
@@ -205,7 +193,7 @@ TEST(DesktopPasteboard, TextOutlivesItsWriterUnderX11) {
       copyAndEnd("by xsel →\n");
     }
     // xsel detaches itself a moment before the clipboard is its own.
-    EXPECT_TRUE(comesAbout([] { return output("xclip -selection clipboard -o") == "by xsel →\n"; }));
+    EXPECT_TRUE(eventually([] { return output("xclip -selection clipboard -o") == "by xsel →\n"; }));
   }
   exchangeTexts(server, "xclip -selection clipboard -o -t TARGETS", "TARGETS\nUTF8_STRING\n",
                 "xclip -selection clipboard -o");
@@ -232,7 +220,7 @@ TEST(DesktopPasteboard, TextOutlivesItsWriterUnderWayland) {
                                       {"WLR_LIBINPUT_NO_DEVICES", "1"}, {"WLR_RENDERER", "pixman"},
                                       {"HOME", "/nonexistent"}};
   const Server server(asNobody + "sway -c " + configuration.string() + " >/dev/null 2>&1");
-  ASSERT_TRUE(comesAbout([&] { return std::filesystem::exists(runtime / "wayland-1"); }));
+  ASSERT_TRUE(eventually([&] { return std::filesystem::exists(runtime / "wayland-1"); }));
   const ScopedVariable display("WAYLAND_DISPLAY", "wayland-1");
   exchangeTexts(server, "wl-paste -l", HasSubstr("text/plain;charset=utf-8\n"), "wl-paste -n");
 }
@@ -264,16 +252,6 @@ TEST(TerminalPasteboard, AsksTheTerminalForWhatItCanTake) {
   EXPECT_EQ(diagnostics.take().size(), 4u);
   close(keptOpen);
   close(terminal);
-}
-
-TEST(Pasteboard, HostMayPutItsOwnInPlace) {
-  EXPECT_NE(dynamic_cast<DesktopPasteboard*>(pasteboard().get()), nullptr);
-  const auto memory = std::make_shared<MemoryPasteboard>();
-  setPasteboard(memory);
-  EXPECT_TRUE(pasteboard()->setPlainText("a\0b"s));
-  EXPECT_EQ(memory->plainText(), "a\0b"s);
-  setPasteboard(nullptr);
-  EXPECT_NE(dynamic_cast<DesktopPasteboard*>(pasteboard().get()), nullptr);
 }
 
 }  // namespace

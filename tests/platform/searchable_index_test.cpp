@@ -4,8 +4,6 @@
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 
-#include <atomic>
-#include <deque>
 #include <future>
 #include <random>
 #include <thread>
@@ -24,54 +22,36 @@ namespace {
 using namespace std::chrono_literals;
 using namespace std::string_literals;
 
+using testing::AllOf;
 using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 constexpr auto longEnough = 120s;
 
 SearchableItem glyphItem(const std::string& uid, const std::string& symbol, const std::string& name,
-                         const std::vector<std::string>& more = {}, const std::string& genre = "arrows") {
+                         const std::vector<std::string>& more = {}, const std::string& genre = "other") {
   SearchableItem item{uid, "org.example", "Glyph", symbol + "\t" + name, std::nullopt, genre, {}};
   item.keywords = {symbol, name, "qv:", "qv: ", "entity"};
   item.keywords.insert(item.keywords.end(), more.begin(), more.end());
   return item;
 }
 
-// Collects what each request's completion is called with.
-class Outcomes {
- public:
-  SearchableIndex::Completion next() {
-    return [&outcome = outcomes_.emplace_back()](std::optional<std::string> error) {
-      outcome.error = error.value_or("");
-      ++outcome.calls;
-    };
-  }
-  // The errors in the order of the requests; each completion must have been called exactly once.
-  std::vector<std::string> errors() const {
-    std::vector<std::string> result;
-    for (const auto& outcome : outcomes_) {
-      EXPECT_EQ(outcome.calls, 1);
-      result.push_back(outcome.error);
-    }
-    return result;
-  }
-
- private:
-  struct Outcome {
-    std::atomic<int> calls = 0;
-    std::string error;
-  };
-  std::deque<Outcome> outcomes_;
-};
+// What the completions of an index are called with, in order: that of the requests.
+using Outcomes = std::vector<std::string>;
+SearchableIndex::Completion noting(Outcomes& outcomes) {
+  return [&](std::optional<std::string> error) { outcomes.push_back(error.value_or("")); };
+}
 
 // Hands the request over and waits; what its completion said.
 std::string indexAndWait(SearchableIndex& index, std::vector<SearchableItem> items) {
   Outcomes outcomes;
-  index.indexItems(std::move(items), outcomes.next());
+  index.indexItems(std::move(items), noting(outcomes));
   EXPECT_TRUE(index.waitUntilIdle(longEnough));
-  return outcomes.errors().front();
+  EXPECT_EQ(outcomes.size(), 1u);
+  return outcomes.front();
 }
 
 std::string identifiers(const std::vector<SearchableItem>& items) {
@@ -87,66 +67,51 @@ void removeIndex(const std::filesystem::path& file) {
 TEST(SearchableIndex, FindsSymbolsAndWordsByWhatPeopleType) {
   const TemporaryDirectory directory;
   SqliteSearchableIndex index(directory / "index");
-  std::vector<SearchableItem> items = {
-      glyphItem("2192", "→", "Rightwards Arrow", {"&rarr;", "NEAR", "OR"}),
-      glyphItem("2190", "←", "Leftwards Arrow"),
-      glyphItem("0026", "&", "Ampersand", {"&amp;", ""}, "latin basic"),
-      glyphItem("2103", "℃", "Degree Celsius", {"°C"}, "letterlike"),
-      glyphItem("1f600", "😀", "Grinning Face", {}, "emoji"),
-      glyphItem("1fa95", "🪕", "Banjo", {}, "emoji"),
-      glyphItem("100202", "\U00100202", "Square.And.Arrow.Up", {}, "symbols"),
-      glyphItem("0041", "A", "Latin Capital Letter A", {}, "latin basic"),
-      glyphItem("0061", "a", "Latin Small Letter A", {}, "latin basic"),
-      glyphItem("00c1", "Á", "Latin Capital Letter A With Acute", {}, "latin basic"),
-      glyphItem("0301", "\u0301", "Combining Acute Accent"),
-      glyphItem("0022", "\"", "Quotation Mark", {"\"\""}, "latin basic"),
-      glyphItem("002c", ",", "Comma", {}, "latin basic")};
+  const std::string latin = "latin basic";
+  std::vector<SearchableItem> items = {glyphItem("2192", "→", "Rightwards Arrow", {"&rarr;", "NEAR", "OR"}),
+                                       glyphItem("2190", "←", "Leftwards Arrow"),
+                                       glyphItem("0026", "&", "Ampersand", {"&amp;", ""}, latin),
+                                       glyphItem("2103", "℃", "Degree Celsius", {"°C"}),
+                                       glyphItem("1f600", "😀", "Grinning Face"),
+                                       glyphItem("1fa95", "🪕", "Banjo"),
+                                       glyphItem("100202", "\U00100202", "Square.And.Arrow.Up"),
+                                       glyphItem("0041", "A", "Latin Capital Letter A", {}, latin),
+                                       glyphItem("0061", "a", "Latin Small Letter A", {}, latin),
+                                       glyphItem("00c1", "Á", "Latin Capital Letter A With Acute", {}, latin),
+                                       glyphItem("0301", "\u0301", "Combining Acute Accent"),
+                                       glyphItem("0022", "\"", "Quotation Mark", {"\"\""}, latin),
+                                       glyphItem("002c", ",", "Comma", {}, latin)};
   items[1].comment = "zeigt zurück";
   ASSERT_EQ(indexAndWait(index, items), "");
-  const struct {
-    std::string query, found;
-  } cases[] = {{"→", "2192"},
-               {"&amp;", "0026"},
-               {"amp", "0026"},
-               {"°C", "2103"},
-               {"1F600", "1f600"},
-               {"😀", "1f600"},
-               {"\u0301", "0301"},
-               {",", "002c"},
-               {"\"", "0022"},
-               {"á", "00c1"},
-               {"square.and.arrow.up", "100202"},
-               {"arrow right", "2192"},
-               {"ZURÜCK", "2190"},
-               {"latin basic comma", "002c"},
-               {"qv:arrow", "2190 2192 100202 0301"},
-               {"QV: →", "2192"},
-               {"OR", "2192"},
-               {"→\0arrow"s, "2192"},
-               {"arrow\u2003right", "2192"},
-               // The character itself, then shorter names, then lower identifiers.
-               {"a latin", "0026 0061 0041 00c1"},
-               {"A", "0041 0026 2190 2192 100202 0061 0301 00c1"}};
   std::string manyTerms;
   for (int i = 0; i < 2'000; ++i) manyTerms += "arrow" + std::to_string(i) + " ";
-  // No operators, and nothing that breaks out of the query.
-  const std::string notFound[] = {"arrow OR comma",
-                                  "tok:arrow",
-                                  "arrow*",
-                                  "-comma",
-                                  "arr\" OR \"comma",
-                                  "(",
-                                  "",
-                                  " \t\u00a0\u3000\u180e",
-                                  "\xff\x80\xa0",
-                                  "\0"s,
-                                  "';DROP TABLE item;--",
-                                  std::string(100'000, '"'),
-                                  manyTerms};
+  const struct {
+    std::string found;
+    std::vector<std::string> queries;
+  } cases[] = {
+      {"2192", {"→", "OR", "arrow right", "QV: →", "→\0arrow"s, "arrow\u2003right"}},
+      {"2190", {"ZURÜCK"}},
+      {"0026", {"&amp;", "amp"}},
+      {"2103", {"°C"}},
+      {"1f600", {"1F600", "😀"}},
+      {"100202", {"square.and.arrow.up"}},
+      {"00c1", {"á"}},
+      {"0301", {"\u0301"}},
+      {"0022", {"\""}},
+      {"002c", {",", "latin basic comma"}},
+      // The character itself, then shorter names, then lower identifiers.
+      {"2190 2192 100202", {"qv:arrow"}},
+      {"0026 0061 0041 00c1", {"a latin"}},
+      {"0041 0026 2190 2192 100202 0061 0301 00c1", {"A"}},
+      // No operators, and nothing that breaks out of the query.
+      {"",
+       {"arrow OR comma", "tok:arrow", "arrow*", "-comma", "arr\" OR \"comma", "(", "';DROP TABLE item;--"}},
+      {"", {"", "\0"s, "\xff\x80\xa0", " \t\u00a0\u3000\u180e", std::string(100'000, '"'), manyTerms}}};
   SearchableIndexReader reader(directory / "index");
   RecordedDiagnostics diagnostics;
-  for (const auto& [query, found] : cases) EXPECT_EQ(identifiers(reader.search(query, 100)), found) << query;
-  for (const auto& query : notFound) EXPECT_THAT(reader.search(query, 100), IsEmpty()) << query;
+  for (const auto& [found, queries] : cases) {
+    for (const auto& query : queries) EXPECT_EQ(identifiers(reader.search(query, 100)), found) << query;
+  }
   EXPECT_EQ(reader.search("qv:", 100).size(), 13u);
   EXPECT_EQ(identifiers(reader.search("qv:", 2)), "002c 1fa95");
   EXPECT_THAT(reader.search("qv:", -1), IsEmpty());
@@ -158,7 +123,7 @@ TEST(SearchableIndex, HoldsWhatTheSameRequestsLeaveInMemory) {
   SqliteSearchableIndex index(directory / "index");
   MemorySearchableIndex memory;
   SearchableIndexReader reader(directory / "index");
-  Outcomes outcomes;
+  Outcomes outcomes, inMemory;
   std::minstd_rand random(1);
   const auto number = [&](unsigned below) { return static_cast<unsigned>(random() % below); };
   const auto identifier = [&] { return "\0u"s + std::to_string(number(40)); };
@@ -172,15 +137,13 @@ TEST(SearchableIndex, HoldsWhatTheSameRequestsLeaveInMemory) {
       if (number(2)) items.back().comment = "";
       removed.push_back(identifier());
     }
-    for (SearchableIndex* const each : std::initializer_list<SearchableIndex*>{&index, &memory}) {
-      if (kind == 0) {
-        each->deleteAllItems(outcomes.next());
-      } else if (kind < 6) {
-        each->deleteItems(removed, outcomes.next());
-      } else {
-        each->indexItems(items, outcomes.next());
-      }
-    }
+    const auto request = [&](SearchableIndex& each, Outcomes& noted) {
+      if (kind == 0) return each.deleteAllItems(noting(noted));
+      if (kind < 6) return each.deleteItems(removed, noting(noted));
+      each.indexItems(items, noting(noted));
+    };
+    request(index, outcomes);
+    request(memory, inMemory);
     if (round % 50 != 49) continue;
     PendingIndexWork last{1, 1};
     EXPECT_TRUE(index.waitUntilIdle(longEnough, [&](PendingIndexWork left) { last = left; }));
@@ -188,10 +151,11 @@ TEST(SearchableIndex, HoldsWhatTheSameRequestsLeaveInMemory) {
     std::vector<SearchableItem> held;
     for (const auto& item : memory.items()) held.push_back(*reader.item(item.uniqueIdentifier));
     EXPECT_EQ(held, memory.items());
-    EXPECT_EQ(reader.count(), memory.items().size());
-    EXPECT_EQ(reader.search("u", 100).size(), memory.items().size());
+    EXPECT_EQ(reader.count(), held.size());
+    EXPECT_EQ(reader.search("u", 100).size(), held.size());
   }
-  EXPECT_THAT(outcomes.errors(), Each(""));
+  EXPECT_EQ(outcomes, Outcomes(400));
+  EXPECT_EQ(inMemory, outcomes);
 }
 
 std::vector<SearchableItem> arrows(int count) {
@@ -236,9 +200,10 @@ TEST(SearchableIndex, RepairsAndReportsUnusableFiles) {
   // Damage that only some questions meet, while another program keeps the file open.
   for (const char* const damage : {"DELETE FROM token_data", "DROP TABLE token_docsize", "DROP TABLE item"}) {
     Database(file, SQLITE_OPEN_READWRITE).execute(damage);
+    RecordedDiagnostics diagnostics;
     SearchableIndexReader bystander(file);
     bystander.count();
-    RecordedDiagnostics diagnostics;
+    diagnostics.take();
     SqliteSearchableIndex index(file);
     EXPECT_EQ(indexAndWait(index, {glyphItem("7", "→", "Arrow")}), "") << damage;
     EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("emptied"))) << damage;
@@ -284,41 +249,32 @@ TEST(SearchableIndex, TellsTheCompletionWhatTheDiskRefused) {
   other.execute("BEGIN IMMEDIATE");
   {
     SqliteSearchableIndex blocked(directory / "index");
-    for (int i = 0; i < 600; ++i) blocked.deleteAllItems(outcomes.next());
+    for (int i = 0; i < 600; ++i) blocked.deleteAllItems(noting(outcomes));
   }
-  EXPECT_THAT(outcomes.errors(), Each(testing::Ne("")));
+  EXPECT_THAT(outcomes, AllOf(SizeIs(600), Each(testing::Ne(""))));
   EXPECT_EQ(reader.count(), 1u);
 }
 
 TEST(SearchableIndex, DrainsWhenProgramsEnd) {
   const TemporaryDirectory directory;
   const ScopedVariable data("XDG_DATA_HOME", directory / "data");
-  std::vector<pid_t> programs;
-  for (int program = 0; program < 3; ++program) {
-    programs.push_back(fork());
-    if (programs.back() != 0) continue;
+  EXPECT_TRUE(inChildren(3, [](int program) -> int {
     for (int i = 0; i < 300; ++i) {
       searchableIndex()->indexItems({glyphItem(std::to_string(program * 1000 + i), "→", "Arrow")}, {});
     }
     std::exit(0);
-  }
-  for (const pid_t program : programs) {
-    int status = -1;
-    waitpid(program, &status, 0);
-    EXPECT_EQ(status, 0);
-  }
+  }));
   EXPECT_EQ(SearchableIndexReader().count(), 900u);
   const auto mode = [](const auto& file) { return std::filesystem::status(file).permissions(); };
   EXPECT_EQ(mode(*applicationDataDirectory()), std::filesystem::perms(0700));
   EXPECT_EQ(mode(*applicationDataDirectory() / "index.sqlite"), std::filesystem::perms(0600));
 }
 
-std::ptrdiff_t threads() {
-  return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
-}
-
 TEST(SearchableIndex, MayBeUsedAndEndedByACompletion) {
   std::thread([] {}).join();  // with the first thread a sanitizer starts one of its own, which stays
+  const auto threads = [] {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+  };
   const auto before = threads();
   const TemporaryDirectory directory;
   std::promise<void> done;
@@ -333,8 +289,7 @@ TEST(SearchableIndex, MayBeUsedAndEndedByACompletion) {
   EXPECT_EQ(done.get_future().wait_for(longEnough), std::future_status::ready);
   EXPECT_EQ(SearchableIndexReader(directory / "index").count(), 2u);
   // Its thread ends by itself, too.
-  for (int attempt = 0; attempt < 1'000 && threads() > before; ++attempt) std::this_thread::sleep_for(10ms);
-  EXPECT_EQ(threads(), before);
+  EXPECT_TRUE(eventually([&] { return threads() == before; }));
 }
 
 TEST(SearchableIndex, KeepsWhatItAcknowledgedWhenItsProcessIsKilled) {

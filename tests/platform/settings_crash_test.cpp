@@ -2,7 +2,7 @@
 // The settings file under several processes, and under processes that die.
 #include <gmock/gmock.h>
 
-#include <map>
+#include <algorithm>
 #include <thread>
 
 #include "glyphorium/platform/sqlite_settings_store.h"
@@ -21,42 +21,36 @@ List listIn(const Value& value) {
 }
 
 TEST(SettingsProcesses, LoseNoAppendOfEachOther) {
-  constexpr int count = 200;
   const TemporaryDirectory directory;
   const auto file = directory / "settings.sqlite";
-  std::map<std::string, pid_t> writers = {{"a", 0}, {"b", 0}, {"c", 0}};
   // All of them find no file at first, and all create it.
-  for (auto& [tag, process] : writers) {
-    process = fork();
-    if (process != 0) continue;
+  const auto append = [&](int process) {
     SqliteSettingsStore store(file);
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < 200; ++i) {
       store.update("list", [&](const Value& present) -> Value {
         List list = listIn(present);
-        list.push_back(tag + std::to_string(i));
+        list.push_back(std::to_string(process * 1000 + i));
         return list;
       });
     }
-    _exit(store.synchronize() ? 0 : 1);
-  }
+    return store.synchronize() ? 0 : 1;
+  };
+  // A reader beside them sees every state whole, and time run forwards.
   SqliteSettingsStore reader(file);
-  std::size_t seen = 0;
-  for (const auto& [tag, process] : writers) {
-    // A reader beside them sees every state whole, and time run forwards.
-    for (int reads = 0; reads < 100; ++reads) {
+  const auto read = [&] {
+    for (std::size_t reads = 0, seen = 0; reads < 300; ++reads) {
       const std::size_t size = listIn(reader.object("list")).size();
       EXPECT_GE(size, seen);
       seen = size;
     }
-    int status = -1;
-    EXPECT_EQ(waitpid(process, &status, 0), process);
-    EXPECT_EQ(status, 0);
-  }
-  std::map<std::string, List> byTag;
-  for (const auto& item : listIn(reader.object("list"))) byTag[item.substr(0, 1)].push_back(item.substr(1));
+  };
+  EXPECT_TRUE(inChildren(3, append, read));
+  List list = listIn(reader.object("list"));
+  const auto process = [](const std::string& item) { return std::stoi(item) / 1000; };
+  std::stable_sort(list.begin(), list.end(), [&](auto& a, auto& b) { return process(a) < process(b); });
   List expected;
-  for (int i = 0; i < count; ++i) expected.push_back(std::to_string(i));
-  for (const auto& [tag, process] : writers) EXPECT_EQ(byTag[tag], expected) << tag;
+  for (int i = 0; i < 600; ++i) expected.push_back(std::to_string(i / 200 * 1000 + i % 200));
+  EXPECT_EQ(list, expected) << "each in its own order";
 }
 
 // The n-th state: of a length that makes the pages it takes come and go.

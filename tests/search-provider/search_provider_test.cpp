@@ -27,18 +27,14 @@ TEST_F(SearchProvider, AnswersTheShell) {
   const std::pair<std::string, std::string> searches[] = {
       {"'→'", "['2192']"},
       {"'rightwards', 'ARROW'", "['2192', '21d2', '27f9']"},
-      {"'21D2'", "['21d2']"},
-      {"'u+3c'", "['003c']"},
       {"'\\\\\\\\u{2192}'", "['2192']"},
       {"'U+110000000000000'", "@as []"},
-      {"'lt'", "['003c']"},
       {"'a'", "['0061', '0041,030a', '2192', '05d0', '0301', '21d2', '27f9']"},
-      {"'&rArr;'", "['21d2', '2192']"},
       {"'rihgtwards', 'arrow'", "['2192', '21d2', '27f9']"},
-      {"'qv:double'", "['21d2', '27f9']"},
       {"'❤\uFE0F'", "['2764']"},
       {"'', ' '", "@as []"},
-      {"'arrow OR sign', 'NEAR(', '*', '\\\"'", "@as []"}};
+      {"'arrow OR sign', 'NEAR(', '*', '\\\"'", "@as []"},
+      {"'$(head -c 100000 /dev/zero | tr '\\0' a)'", "@as []"}};
   for (const auto& [terms, found] : searches) {
     EXPECT_EQ(session.shell("GetInitialResultSet \"[" + terms + "]\""), "(" + found + ",)\n") << terms;
   }
@@ -46,9 +42,11 @@ TEST_F(SearchProvider, AnswersTheShell) {
   for (int i = 0; i < 99; ++i) manyResults += ", 'gone" + std::to_string(i) + "'";
   manyResults += "]";
   const struct {
-    std::string call, answer;
+    std::string call;
+    testing::Matcher<std::string> answer;
   } cases[] = {
       {"GetInitialResultSet \"@as []\"", "(@as [],)\n"},
+      {"GetInitialResultSet \"['a']\" \"['b']\"", HasSubstr("InvalidArgs")},
       {"GetSubsearchResultSet \"['2192', '27f9']\" \"['arrow', 'double']\"", "(['27f9'],)\n"},
       // Results that may have been cut short do not bound what people narrow them down to.
       {"GetSubsearchResultSet \"" + manyResults + "\" \"['long']\"", "(['27f9'],)\n"},
@@ -57,22 +55,15 @@ TEST_F(SearchProvider, AnswersTheShell) {
        "'gicon': <'org.glyphorium.Glyphorium'>, 'clipboardText': <'→'>}, "
        "{'id': <'0041,030a'>, 'name': <'A\u030A A With Ring'>, 'description': <'custom · U+0041 U+030A'>, "
        "'gicon': <'org.glyphorium.Glyphorium'>, 'clipboardText': <'A\u030A'>}],)\n"},
+      {"GetResultMetas \"['0301']\"", HasSubstr("'name': <'◌\u0301 Combining Acute Accent'>")},
+      {"GetResultMetas \"['05d0']\"", HasSubstr("'name': <'\\u200eא Hebrew Letter Alef'>")},
+      {"GetResultMetas \"['2028']\"", HasSubstr("'name': <'Line Separator'>")},
       {"ActivateResult 2192 \"['arrow']\" 0", "()\n"},
+      {"ActivateResult zzzz \"['arrow']\" 0", HasSubstr("InvalidArgs")},
+      // No application with a window is installed.
+      {"LaunchSearch \"['arrow']\" 0", HasSubstr("ServiceUnknown")},
   };
-  for (const auto& [call, answer] : cases) EXPECT_EQ(session.shell(call), answer) << call;
-
-  const struct {
-    std::string call, part;
-  } parts[] = {
-      {"GetResultMetas \"['0301']\"", "'name': <'◌\u0301 Combining Acute Accent'>"},
-      {"GetResultMetas \"['05d0']\"", "'name': <'\\u200eא Hebrew Letter Alef'>"},
-      {"GetResultMetas \"['2028']\"", "'name': <'Line Separator'>"},
-      {"GetInitialResultSet \"['$(head -c 100000 /dev/zero | tr '\\0' a)']\"", "(@as [],)"},
-      {"GetInitialResultSet \"['a']\" \"['b']\"", "InvalidArgs"},
-      {"ActivateResult zzzz \"['arrow']\" 0", "InvalidArgs"},
-      {"LaunchSearch \"['arrow']\" 0", "ServiceUnknown"},  // no application with a window is installed
-  };
-  for (const auto& [call, part] : parts) EXPECT_THAT(session.shell(call), HasSubstr(part)) << call;
+  for (const auto& [call, answer] : cases) EXPECT_THAT(session.shell(call), answer) << call;
   EXPECT_EQ(fileContent(session / "clipboard"), "→");
   EXPECT_EQ(session.starts(), 1u) << session.log();
 }
@@ -81,31 +72,25 @@ TEST_F(SearchProvider, AnswersTheRunner) {
   Session session;
   session.index();
   const std::string actions = "'actions': <['character', 'html', 'code-point']>}";
+  const std::string noMatch = "(@a(sssida{sv}) [],)\n", icon = "', 'org.glyphorium.Glyphorium', ";
   const struct {
-    std::string call, answer;
+    std::string call, answer;  // as it starts: a match up to its category relevance
   } cases[] = {
-      {"Match →",
-       "([('2192', '→ Rightwards Arrow', 'org.glyphorium.Glyphorium', 100, 1.0, {'category': "
-       "<'Characters'>, 'subtext': <'arrows · U+2192'>, " +
-           actions + ")],)\n"},
-      {"Match ''", "(@a(sssida{sv}) [],)\n"},
-      {"Match l", "(@a(sssida{sv}) [],)\n"},  // one letter finds only itself
+      {"Match →", "([('2192', '→ Rightwards Arrow" + icon +
+                      "100, 1.0, {'category': <'Characters'>, 'subtext': <'arrows · U+2192'>, " + actions +
+                      ")],)\n"},
+      {"Match ''", noMatch},
+      {"Match l", noMatch},  // one letter finds only itself
+      {"Match a", "([('0061', 'a Latin Small Letter A" + icon + "100"},
+      {"Match 'less-than sign'", "([('003c', '< Less-Than Sign" + icon + "70"},
+      {"Match double", "([('21d2', '⇒ Rightwards Double Arrow" + icon + "30"},
+      {"Match 'QV: double'", "([('21d2', '⇒ Rightwards Double Arrow" + icon + "70"},
       {"Actions",
        "([('character', 'Copy Character', 'edit-copy'), ('html', 'Copy HTML Reference', 'text-html'), "
        "('code-point', 'Copy Code Point', 'accessories-character-map')],)\n"},
       {"Teardown", "()\n"},
   };
-  for (const auto& [call, answer] : cases) EXPECT_EQ(session.runner(call), answer) << call;
-
-  const struct {
-    std::string query, first;  // with its category relevance
-  } matches[] = {{"a", "('0061', 'a Latin Small Letter A', 'org.glyphorium.Glyphorium', 100"},
-                 {"'less-than sign'", "('003c', '< Less-Than Sign', 'org.glyphorium.Glyphorium', 70"},
-                 {"double", "('21d2', '⇒ Rightwards Double Arrow', 'org.glyphorium.Glyphorium', 30"},
-                 {"'QV: double'", "('21d2', '⇒ Rightwards Double Arrow', 'org.glyphorium.Glyphorium', 70"}};
-  for (const auto& [query, first] : matches) {
-    EXPECT_THAT(session.runner("Match " + query), StartsWith("([" + first));
-  }
+  for (const auto& [call, answer] : cases) EXPECT_THAT(session.runner(call), StartsWith(answer)) << call;
 
   const struct {
     std::string arguments, answer, copied;
@@ -137,16 +122,8 @@ TEST_F(SearchProvider, AnswersWhateverBecomesOfTheIndex) {
   EXPECT_EQ(search(), none);
   session.index();
   EXPECT_EQ(search(), found);
-  {
-    Database writer(session.indexFile(), SQLITE_OPEN_READWRITE);
-    writer.execute("PRAGMA busy_timeout = 10000; BEGIN IMMEDIATE; DELETE FROM item");
-    EXPECT_EQ(search(), found);
-  }
-  std::filesystem::remove(session.indexFile());
-  EXPECT_EQ(search(), none);
-  session.index();
-  EXPECT_EQ(search(), found);
   std::filesystem::remove_all(session.indexFile().parent_path());
+  EXPECT_EQ(search(), none);
   session.index();
   {
     Database all(session.indexFile(), SQLITE_OPEN_READWRITE);
@@ -155,7 +132,7 @@ TEST_F(SearchProvider, AnswersWhateverBecomesOfTheIndex) {
     EXPECT_EQ(search(), none);
     EXPECT_THAT(session.runner("Run 2192 ''"), HasSubstr("InvalidArgs"));
   }
-  EXPECT_TRUE(Session::eventually([&] { return search() == found; }));
+  EXPECT_TRUE(eventually([&] { return search() == found; }));
   writeFile(session.indexFile(), std::string(10'000, '?'));
   EXPECT_EQ(search(), none);
   EXPECT_EQ(session.starts(), 1u) << session.log();
@@ -182,7 +159,7 @@ TEST_F(SearchProvider, LeavesWhenIdleWithoutLosingACall) {
                                  .output;
   EXPECT_THAT(result, testing::MatchesRegex("(\\(\\['2192'\\],\\)\n){52}"));
   EXPECT_GT(session.starts(), 2u);
-  EXPECT_TRUE(Session::eventually([&] { return session.ends() == session.starts(); })) << session.log();
+  EXPECT_TRUE(eventually([&] { return session.ends() == session.starts(); })) << session.log();
   EXPECT_THAT(fileContent(session / "ends"), Not(testing::ContainsRegex("[^0\n]"))) << session.log();
 }
 
@@ -197,12 +174,31 @@ TEST_F(SearchProvider, EndsWhenToldTo) {
         "org.freedesktop.DBus.GetConnectionUnixProcessID org.glyphorium.Glyphorium.SearchProvider | "
         "tr -dc '0-9 ' | { read type process; kill -" +
         signal + " $process; }");
-    EXPECT_TRUE(Session::eventually([&] { return session.ends() > before; })) << signal;
+    EXPECT_TRUE(eventually([&] { return session.ends() > before; })) << signal;
   }
   EXPECT_THAT(session.shell("GetInitialResultSet \"['→']\""), HasSubstr("2192"));
   session.endBus();
-  EXPECT_TRUE(Session::eventually([&] { return session.ends() == 4; }));
+  EXPECT_TRUE(eventually([&] { return session.ends() == 4; }));
   EXPECT_EQ(fileContent(session / "ends"), "0\n0\n0\n0\n") << session.log();
+}
+
+// By the tools of those who read the files.
+TEST(InstalledFiles, AreValid) {
+  const std::pair<std::string, std::string> tools[] = {
+      {"desktop-file-validate", "applications/*.desktop krunner/dbusplugins/*.desktop"},
+      {"appstreamcli", "validate --no-net metainfo/*.xml"},
+      {"xmllint", "--noout metainfo/*.xml icons/hicolor/*/apps/*.svg"}};
+  std::string missing;
+  for (const auto& [tool, arguments] : tools) {
+    if (!isInstalled(tool)) {
+      missing += " " + tool;
+      continue;
+    }
+    const auto result = runProgram("cd " INSTALLED_SHARE " && " + tool + " " + arguments + " 2>&1");
+    EXPECT_EQ(result.exitCode, 0) << result.output;
+    EXPECT_THAT(result.output, testing::Not(testing::HasSubstr("warning")));
+  }
+  if (!missing.empty()) GTEST_SKIP() << "not installed:" << missing;
 }
 
 TEST(SearchProviderProgram, ExplainsItself) {

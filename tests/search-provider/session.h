@@ -2,13 +2,9 @@
 #pragma once
 
 #include <gmock/gmock.h>
-#include <sys/stat.h>
 
-#include <chrono>
 #include <cstdio>
-#include <functional>
 #include <string>
-#include <thread>
 
 #include "glyphorium/platform/application.h"
 #include "glyphorium/platform/sqlite_searchable_index.h"
@@ -26,9 +22,10 @@ class Session {
     std::filesystem::create_directories(directory_ / "share/dbus-1/services");
     std::filesystem::create_directories(directory_ / "bin");
     // Writes down each start and end, so that tests see how the program ended.
-    script("program", "echo started >>" + path("starts") + "\n" SEARCH_PROVIDER " --idle-seconds=" +
-                          idleSeconds + "\necho $? >>" + path("ends") + "\n");
-    script("bin/xclip", "exec cat >" + path("clipboard") + "\n");
+    writeProgram(directory_ / "program", "echo started >>" + path("starts") +
+                                             "\n" SEARCH_PROVIDER " --idle-seconds=" + idleSeconds +
+                                             "\necho $? >>" + path("ends") + "\n");
+    writeProgram(directory_ / "bin/xclip", "exec cat >" + path("clipboard") + "\n");
     std::string service =
         fileContent(INSTALLED_SHARE "/dbus-1/services/org.glyphorium.Glyphorium.SearchProvider.service");
     service.replace(service.find("Exec="), std::string::npos, "Exec=" + path("program") + "\n");
@@ -97,16 +94,6 @@ class Session {
     setSearchableIndex(nullptr);
   }
 
-  /// Waits as long as it takes for what must come true, up to a time that only a hanging program needs.
-  static bool eventually(const std::function<bool()>& condition) {
-    for (const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-         std::chrono::steady_clock::now() < end;) {
-      if (condition()) return true;
-      std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    }
-    return false;
-  }
-
  private:
   // Calls as one desktop does, which reads the bus name and the path from a file of "key=value" lines.
   static std::string call(const std::string& file, const std::string& busName, const std::string& objectPath,
@@ -120,10 +107,6 @@ class Session {
            ".";
   }
   std::string path(const std::string& name) const { return "'" + (directory_ / name).string() + "'"; }
-  void script(const std::string& name, const std::string& commands) const {
-    writeFile(directory_ / name, "#!/bin/sh\n" + commands);
-    chmod((directory_ / name).c_str(), 0700);
-  }
   static std::string answer(const std::string& command) { return runProgram(command + " 2>&1").output; }
   std::size_t lines(const std::string& name) const {
     const std::string content = fileContent(directory_ / name);

@@ -13,35 +13,31 @@ using SettingsTest = CatalogFixture;
 
 TEST_F(SettingsTest, WrongTypesReadAsDefaultsAndStayStored) {
   const Glyphorium catalog;
-  EXPECT_THAT(catalog.selectedGroups(), ElementsAre("custom"));
-  EXPECT_THAT(catalog.customAddedEntityUnicodes(), ElementsAre());
-  EXPECT_TRUE(EntityUserData::useSpotlightExtension());
-  EXPECT_FALSE(stored("displayedGroups"));  // no read writes its default
-
-  const SettingValue wrongTypes[] = {"arrows",        std::int64_t{0},       1.5,
-                                     RawJson{"null"}, RawJson{R"(["a",1])"}, RawJson{"{}"}};
-  for (const SettingValue& wrong : wrongTypes) {
-    for (const char* const key : {"displayedGroups", "customAddedEntities", "useSpotlightExtension"})
-      store(key, wrong);
+  const char* const keys[] = {"displayedGroups", "customAddedEntities", "useSpotlightExtension"};
+  const std::optional<SettingValue> values[] = {
+      std::nullopt, "arrows", std::int64_t{0}, 1.5, RawJson{"null"}, RawJson{R"(["a",1])"}, RawJson{"{}"}};
+  for (const auto& value : values) {
+    for (const char* const key : keys) {
+      if (value) store(key, *value);
+    }
     EXPECT_THAT(catalog.selectedGroups(), ElementsAre("custom"));
     EXPECT_THAT(catalog.customAddedEntityUnicodes(), ElementsAre());
     EXPECT_TRUE(EntityUserData::useSpotlightExtension());
-    EXPECT_EQ(stored("displayedGroups"), wrong);
+    for (const char* const key : keys) EXPECT_EQ(stored(key), value);
   }
-  store("displayedGroups", Names());
-  EXPECT_THAT(catalog.selectedGroups(), ElementsAre());
-  store("displayedGroups", Names{"Arrows", "custom", "Arrows"});
-  EXPECT_THAT(catalog.selectedGroups(), ElementsAre("Arrows", "custom", "Arrows"));
+  for (const Names& groups : {Names(), Names{"Arrows", "custom", "Arrows"}}) {
+    store("displayedGroups", groups);
+    EXPECT_EQ(catalog.selectedGroups(), groups);
+  }
 }
 
-TEST_F(SettingsTest, SpotlightChoiceIsOneReadAndOneSynchronizedWrite) {
+TEST_F(SettingsTest, EachChangeIsOneReadAndOneSynchronizedWrite) {
   EntityUserData::setUseSpotlightExtension(false);
   EXPECT_FALSE(EntityUserData::useSpotlightExtension());
-  EXPECT_EQ(settings->synchronized, 1);
-  settings->reads = 0;
   EntityUserData::modifyUseSpotlightExtension([](bool& use) { use = !use; });
-  EXPECT_EQ(settings->reads, 1);
   EXPECT_EQ(stored("useSpotlightExtension"), SettingValue(true));
+  EXPECT_EQ(settings->reads, 2);
+  EXPECT_EQ(settings->synchronized, 2);
   EXPECT_THAT(taken(), ElementsAre("saved useSpotlightExtension", "saved useSpotlightExtension"));
 }
 
@@ -58,16 +54,56 @@ TEST_F(SettingsTest, VerboseLinesNameKeyAndValue) {
                   EndsWith(" +0000\tUserDefaults: Loaded key 'nothing' without results.")));
 }
 
+TEST_F(SettingsTest, EachChangeOfGroupsNormalisesSavesAndRaisesTheFlagOnce) {
+  using Change = std::function<void(Glyphorium&)>;
+  const auto set = [](Names groups) -> Change { return [=](auto& g) { g.setSelectedGroups(groups); }; };
+  const auto add = [](const char* group) -> Change { return [=](auto& g) { g.addSelectedGroup(group); }; };
+  const auto remove = [](const char* group) -> Change {
+    return [=](auto& g) { g.removeSelectedGroup(group); };
+  };
+  const Change append = [](auto& g) { g.modifySelectedGroups([](auto& l) { l.push_back("custom"); }); };
+  const struct {
+    Names before;
+    Change change;
+    Names after;
+    bool saved = true;
+  } cases[] = {
+      // "custom" stands once and in front, but only this exact word, and only where it is chosen.
+      {{}, set({"arrows", "custom", "armenian", "custom"}), {"custom", "arrows", "armenian"}},
+      {{}, set({"arrows", "Custom"}), {"arrows", "Custom"}},
+      {{"arrows"}, set({}), {}},
+      {{"x"}, append, {"custom", "x"}},
+      {{"arrows"}, add("CUSTOM"), {"custom", "arrows"}},
+      // What is added or removed is compared in lower case; what is stored stays as it is.
+      {{"custom"}, add("Arrows"), {"custom", "arrows"}},
+      {{"custom", "arrows"}, add("ARROWS"), {"custom", "arrows"}, false},
+      {{"Arrows"}, add("arrows"), {"Arrows", "arrows"}},
+      {{}, add(""), {""}},
+      {{}, add("ÉTÉ"), {"été"}},
+      {{"arrows", "x", "Arrows"}, remove("ARROWS"), {"x"}},
+      {{"x"}, remove("arrows"), {"x"}},
+      {{"custom", "x"}, remove("custom"), {"x"}},
+  };
+  for (const auto& [before, change, after, saved] : cases) {
+    Glyphorium catalog;
+    store("displayedGroups", before);
+    taken();
+    change(catalog);
+    const auto what = testing::PrintToString(before) + " to " + testing::PrintToString(after);
+    EXPECT_EQ(stored("displayedGroups"), SettingValue(after)) << what;
+    EXPECT_EQ(catalog.selectedGroupsHadChanged, saved) << what;
+    EXPECT_EQ(taken(), saved ? Names({"saved displayedGroups", "selectedGroupsHadChanged true"}) : Names())
+        << what;
+  }
+}
+
 TEST(PersistedKeys, AreMadeOfTheirExactRawValues) {
   using Key = Glyphorium::UserInfluencedEntityKey;
   EXPECT_EQ(Key::fromRawValue("displayedGroups"), Key::displayedGroups);
   EXPECT_EQ(Key::fromRawValue("customAddedEntities"), Key::customAddedEntities);
-  for (const char* const none : {"", "DisplayedGroups", "displayedGroups ", "useSpotlightExtension"}) {
-    EXPECT_EQ(Key::fromRawValue(none), std::nullopt);
-  }
-  EXPECT_EQ(EntityUserDataKey::fromRawValue("useSpotlightExtension"),
-            EntityUserDataKey::useSpotlightExtension);
-  EXPECT_EQ(EntityUserDataKey::fromRawValue("displayedGroups"), std::nullopt);
+  EXPECT_EQ(Key::fromRawValue("DisplayedGroups"), std::nullopt);
+  const auto spotlight = EntityUserDataKey::fromRawValue("useSpotlightExtension");
+  EXPECT_EQ(spotlight, EntityUserDataKey::useSpotlightExtension);
 }
 
 }  // namespace

@@ -54,11 +54,13 @@ class CatalogFixture : public testing::Test {
    public:
     explicit Index(Names& events) : events_(events) {}
     void indexItems(std::vector<SearchableItem> items, Completion) override {
-      note("indexed", items, [](const SearchableItem& item) { return item.uniqueIdentifier; });
+      std::string& event = events_.emplace_back("indexed");
+      for (const SearchableItem& item : items) event += " " + item.uniqueIdentifier;
       indexed = std::move(items);
     }
     void deleteItems(std::vector<std::string> identifiers, Completion) override {
-      note("deleted", identifiers, [](const std::string& identifier) { return identifier; });
+      std::string& event = events_.emplace_back("deleted");
+      for (const std::string& identifier : identifiers) event += " " + identifier;
     }
     void deleteAllItems(Completion) override { events_.push_back("deleted all"); }
     bool waitUntilIdle(std::chrono::milliseconds, const Progress&) override { return true; }
@@ -66,12 +68,6 @@ class CatalogFixture : public testing::Test {
     std::vector<SearchableItem> indexed;
 
    private:
-    template <class List, class Name>
-    void note(const char* what, const List& list, Name name) {
-      std::string event = what;
-      for (const auto& one : list) event += " " + name(one);
-      events_.push_back(event);
-    }
     Names& events_;
   };
 

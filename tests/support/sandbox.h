@@ -7,10 +7,12 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace glyph {
 
@@ -62,6 +64,11 @@ inline void writeFile(const std::filesystem::path& file, std::string_view conten
   std::ofstream(file, std::ios::binary) << content;
 }
 
+inline void writeProgram(const std::filesystem::path& file, const std::string& commands) {
+  writeFile(file, "#!/bin/sh\n" + commands);
+  std::filesystem::permissions(file, std::filesystem::perms::owner_all);
+}
+
 /// Runs `body` in a child process that ends at once with its result, and waits for it.
 template <class Body>
 int inChild(Body body) {
@@ -70,6 +77,35 @@ int inChild(Body body) {
   int status = 0;
   waitpid(child, &status, 0);
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+/// Runs `body(i)` in `count` child processes at once, and `meanwhile` here. Whether each ended with 0.
+template <class Body>
+bool inChildren(
+    int count, Body body, const std::function<void()>& meanwhile = [] {}) {
+  std::vector<pid_t> children;
+  for (int i = 0; i < count; ++i) {
+    children.push_back(fork());
+    if (children.back() == 0) _exit(body(i));
+  }
+  meanwhile();
+  bool good = true;
+  for (const pid_t child : children) {
+    int status = -1;
+    waitpid(child, &status, 0);
+    good &= status == 0;
+  }
+  return good;
+}
+
+/// Waits for what another process or thread brings about, up to a time that only a hanging one needs.
+template <class Condition>
+bool eventually(Condition condition) {
+  for (int attempt = 0; attempt < 3'000; ++attempt) {
+    if (condition()) return true;
+    usleep(20'000);
+  }
+  return false;
 }
 
 }  // namespace glyph
