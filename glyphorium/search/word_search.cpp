@@ -10,7 +10,7 @@ namespace glyph::search {
 namespace {
 
 constexpr std::size_t mostRespellings = 16;
-constexpr std::size_t mostWordsLeftOut = 8;  // the number of choices doubles with each word
+constexpr std::size_t mostKnownWords = 6;  // the number of choices doubles with each
 constexpr std::uint32_t headWeight = 200;
 constexpr std::uint32_t nothing = 0xFFFFFFFF;
 
@@ -70,7 +70,7 @@ class WordSearch {
     for (QueryWord& word : mistypedWords(words_, filter, false)) {
       if (index_.isFunctionWord(word.text, filter.languages)) continue;
       needed += word.filler ? 0 : 1;
-      if (!word.alternatives.empty() && known.size() < mostWordsLeftOut) known.push_back(std::move(word));
+      if (!word.alternatives.empty() && known.size() < mostKnownWords) known.push_back(std::move(word));
     }
     // What the others describe: the last word in Germanic languages, the first one in Romance ones.
     const bool headFirst = index_.hasLanguage("fr", filter_.languages) ||
