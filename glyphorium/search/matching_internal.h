@@ -48,7 +48,7 @@ struct MatchFilter {
 };
 
 /// Added for an HTML name, which is often an abbreviation that happens to be a word ("die", "image").
-inline constexpr std::uint32_t htmlNameDetail = 5;
+inline constexpr std::uint32_t htmlNameDetail = 8;
 
 /// What costs less, the character's prior included, is called what the query says, and no more.
 inline constexpr std::uint32_t wholeBase = 200;
