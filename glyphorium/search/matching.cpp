@@ -185,8 +185,13 @@ class Matcher {
       const auto worst = static_cast<WordMatch>(std::max(state.worst, state.current));
       const std::uint32_t spread = spreadCost(worst, missingFillers(state.fillers, fillers_));
       const bool together = state.best < spread;
-      const std::uint32_t unnamed = state.nameWorst <= state.bestWorst ? 0 : unnamedDetail;
-      const std::uint32_t cost = (together ? state.best : spread) + unnamed;
+      const bool named = state.nameWorst <= state.bestWorst;
+      const std::uint32_t unnamed = named ? 0 : unnamedDetail;
+      std::uint32_t cost = (together ? state.best : spread) + unnamed;
+      // An HTML name that is a word of the character's own name is no accidental abbreviation: "sigma".
+      const bool byHtmlName =
+          state.phrase != noPhrase && index_.phrases[state.phrase].kind == PhraseKind::htmlName;
+      if (named && together && byHtmlName) cost -= htmlNameDetail / 2;
       matches.push_back({cost + priorCost(cost, index_.docPrior[doc]), doc,
                          together || needed_ == 1 ? state.phrase : noPhrase});
     }

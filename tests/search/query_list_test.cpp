@@ -68,8 +68,8 @@ TEST(SearchQueryList, FindsWhatPeopleLookFor) {
   };
   std::printf("%zu queries: first %.1f %%, among the first three %.1f %%, found %.1f %%\n", queries.size(),
               percent(first), percent(firstThree), percent(anywhere));
-  EXPECT_GE(percent(first), 85);
-  EXPECT_GE(percent(firstThree), 95);
+  EXPECT_GE(percent(first), 96);
+  EXPECT_GE(percent(firstThree), 98);
   EXPECT_GE(percent(anywhere), 99);
 }
 
