@@ -29,6 +29,9 @@ class WordSearch {
     // A reading of the words as they stand that is not an exact one may be the lesser one: "thumbsup".
     if (best != nothing && best >= wholeBase) {
       readRespellings();
+      // Of more words no joined or split ones are one text's whole; only what joins them may be too much.
+      if (words_.size() > 2)
+        std::erase_if(respelled_, [&](const auto& words) { return words.size() >= words_.size(); });
       matchRespelled(false, Demand::exact);
     }
     if (best == nothing && persistently) findOtherwise();
