@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "glyphorium/data/embedded_texts.h"
+#include "glyphorium/data/name_table.h"
 #include "glyphorium/platform/unicode_text.h"
 #include "glyphorium/search/search.h"
 #include "glyphorium/toolkit/code_parsing.h"
@@ -115,6 +116,10 @@ Resolved resolve(std::string_view argument) {
                                     [&](const Character& one) { return one.front() == entity; });
     (known == resolved.characters.end() ? resolved.characters.emplace_back() : *known)
         .push_back(std::move(entity));
+  }
+  if (resolved.characters.empty()) {
+    if (const auto codePoint = glyph::findCodePoint(argument))
+      resolved.characters.push_back(characterOf(*codePoint));
   }
   return resolved;
 }

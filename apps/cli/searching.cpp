@@ -47,8 +47,8 @@ std::string beyondTheCatalog(const std::string& query) {
   const std::vector<Character> characters = resolve(query).characters;
   if (characters.empty() || characters.front().front().name().empty()) return {};
   const Entity& entity = characters.front().front();
-  return "; no group holds " + entity.computed.hex + " (" + entity.name() +
-         "), but 'glyphorium show' describes it";
+  return "; no group holds " + entity.computed.hex + " (" + entity.name() + "), but 'glyphorium show " +
+         entity.computed.hex + "' describes it";
 }
 
 // What is searched. Nothing is decoded but the results where it is the catalog as it comes; configuring it

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/data/name_table.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
 
@@ -45,6 +46,19 @@ std::optional<NameTableEntry> findName(std::string_view hex) noexcept {
   const std::size_t end = rest.find('"');
   // What follows the name is `","isSFSymbol":true` or `…false`.
   return NameTableEntry{rest.substr(0, end), rest.substr(end).starts_with("\",\"isSFSymbol\":t")};
+}
+
+std::optional<char32_t> findCodePoint(std::string_view name) noexcept {
+  const auto folded = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; };
+  for (std::size_t position = 0; position < nameIndex.size(); ++position) {
+    const CodePointIndex::Entry entry = nameIndex[position];
+    const std::string_view stored = structuredUnicodeJSON().substr(entry.offset, name.size() + 1);
+    const bool isName = stored.size() > name.size() && stored.back() == '"' &&
+                        std::equal(name.begin(), name.end(), stored.begin(),
+                                   [&](char a, char b) { return folded(a) == folded(b); });
+    if (isName) return entry.codePoint;
+  }
+  return std::nullopt;
 }
 
 }  // namespace glyph

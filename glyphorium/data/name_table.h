@@ -33,4 +33,8 @@ struct NameTableEntry {
 /// without decoding or allocation; any thread may call it.
 GLYPHORIUM_EXPORT std::optional<NameTableEntry> findName(std::string_view hex) noexcept;
 
+/// The lowest code point of that name, ASCII letter case aside. Compares with every name, without decoding or
+/// allocation; any thread may call it.
+GLYPHORIUM_EXPORT std::optional<char32_t> findCodePoint(std::string_view name) noexcept;
+
 }  // namespace glyph

@@ -58,6 +58,8 @@ TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
       {"groups", 0, "custom\t0\ndigital typography (latin)\t254\n"},
       {"search arrow --limit 1", 0, "→\t2192\tRightwards Arrow\tarrows\n"},
       {"search '&rarr;' --json", 0, "\"name\":\"Rightwards Arrow\""},
+      {"search 'replacement character'", 1, "'glyphorium show fffd' describes it"},
+      {"show chevron.right 'REPLACEMENT character' 'null CHARACTER (control)'", 0, "U+10018A"},
       {"search U+FFFD", 1, "no group holds fffd (Replacement Character)"},
       {"search LETTER --group 'LATIN basic' --limit 1", 0, "latin basic\n"},
       {"search letter --group latn", 2, "did you mean"},
