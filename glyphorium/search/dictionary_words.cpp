@@ -73,6 +73,13 @@ void addDictionaryWords(const Index& index, QueryWord& word, std::uint32_t langu
   if (prefixes && !range.empty()) word.alternatives.push_back({range, WordMatch::prefix});
 }
 
+std::size_t postingCount(const Index& index, const QueryWord& word) {
+  std::size_t count = 0;
+  for (const Alternative& alternative : word.alternatives)
+    count += index.postingsOf(alternative.words).size();
+  return count;
+}
+
 std::vector<SearchRange> nameRanges(const Index& index, const std::vector<QueryWord>& words,
                                     std::string_view name) {
   std::vector<SearchRange> ranges;

@@ -62,7 +62,7 @@ class Matcher {
     if (needed.empty()) needed.swap(fillers);  // "sign" alone is what is looked for
     // The rarest first: of all later ones only what stands with it matters.
     std::stable_sort(needed.begin(), needed.end(), [&](std::uint8_t a, std::uint8_t b) {
-      return postingCount(words[a]) < postingCount(words[b]);
+      return postingCount(index_, words[a]) < postingCount(index_, words[b]);
     });
     needed_ = static_cast<std::uint8_t>(needed.size());
     fillers_ = static_cast<std::uint8_t>(fillers.size());
@@ -72,13 +72,6 @@ class Matcher {
   }
 
  private:
-  std::size_t postingCount(const QueryWord& word) const {
-    std::size_t count = 0;
-    for (const Alternative& alternative : word.alternatives)
-      count += index_.postingsOf(alternative.words).size();
-    return count;
-  }
-
   // The language and the group of a phrase are the ones asked for.
   bool counts(const Phrase& phrase) const {
     return (filter_.languages >> phrase.language & 1) != 0 && (!filter_.docs || (*filter_.docs)[phrase.doc]);

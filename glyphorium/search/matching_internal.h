@@ -68,6 +68,9 @@ std::vector<Match> matchWords(const Index& index, const std::vector<QueryWord>& 
 /// asked for, words that begin with it.
 void addDictionaryWords(const Index& index, QueryWord& word, std::uint32_t languages, bool prefixes);
 
+/// How many places the word and its alternatives stand in: the more, the less it says.
+std::size_t postingCount(const Index& index, const QueryWord& word);
+
 /// Adds the words of the dictionary that differ from the word by one letter left out, put in, replaced or
 /// exchanged with its neighbour. Nothing for words under four letters: everything is near them. No words with
 /// digits: so it is with numbers.

@@ -103,11 +103,9 @@ class WordSearch {
 
   // The rarer a word is, the more it says: up to about the difference between two tiers of the ranking.
   std::uint32_t weight(const QueryWord& word) const {
-    std::size_t postings = 1;
-    for (const Alternative& alternative : word.alternatives)
-      postings += index_.postingsOf(alternative.words).size();
-    constexpr std::size_t mostBits = 17;
-    const std::size_t rarity = mostBits - std::min<std::size_t>(mostBits, std::bit_width(postings));
+    constexpr int mostBits = 17;
+    const int rarity =
+        std::max(mostBits - static_cast<int>(std::bit_width(postingCount(index_, word) + 1)), 0);
     return word.filler ? 0 : 12 * static_cast<std::uint32_t>(rarity);
   }
 

@@ -142,7 +142,8 @@ class CodeReader {
 
   // Where the argument begins of what programs and spreadsheets make a character of its number with.
   std::optional<std::size_t> callBegin() const {
-    const std::size_t open = rest_.find('(');
+    constexpr std::size_t longestName = 8;
+    const std::size_t open = rest_.substr(0, longestName + 1).find('(');
     if (open == std::string_view::npos) return std::nullopt;
     std::string name = lowercased(rest_.substr(0, open));
     if (name.starts_with('=')) name.erase(0, 1);
