@@ -72,9 +72,9 @@ Character characterOf(char32_t codePoint) {
 
 // By any of its names there: the enrichment has one for each character.
 std::optional<Character> characterNamedInHtml(const std::string& name) {
-  const auto found = glyph::Search::ofCatalog().query("&" + name + ";", {1, {{"en"}}, {}}).results;
-  if (found.empty() || found.front().field != glyph::SearchField::htmlName) return std::nullopt;
-  const std::string hex = glyph::buildInEntity(found.front().index)->computed.hex;
+  const auto index = glyph::Search::ofCatalog().indexOfHtmlName(name);
+  if (!index) return std::nullopt;
+  const std::string hex = glyph::buildInEntity(*index)->computed.hex;
   return entitiesThat([&](const Entity& entity) { return entity.computed.hex == hex; });
 }
 

@@ -34,11 +34,10 @@ std::string highlighted(const Output& output, const std::string& name, const gly
 }
 
 // The catalog's name of a code point that it holds; the name table knows the others.
-std::string nameOf(const std::string& hex) {
-  const auto found = glyph::Search::ofCatalog().query("U+" + hex, {1, {{"en"}}, {}}).results;
-  if (!found.empty() && found.front().field == glyph::SearchField::code)
-    return glyph::buildInEntity(found.front().index)->name();
-  const auto entry = glyph::findName(hex);
+std::string nameOf(char32_t codePoint) {
+  if (const auto index = glyph::Search::ofCatalog().indexOf(codePoint))
+    return glyph::buildInEntity(*index)->name();
+  const auto entry = glyph::findName(glyph::toolKit().getHex(codePoint));
   return entry ? glyph::capitalizedName(entry->name) : "(not in the Unicode 13.0 name table)";
 }
 
@@ -147,7 +146,7 @@ int identifyText(Output& output, const std::vector<std::string>& texts, bool jso
       const glyph::ComputedEntity record = glyph::Unicode(glyph::toolKit().getHex(point)).computedEntity();
       const auto [known, isNew] = names.try_emplace(record.hex);
       std::string& name = known->second;
-      if (isNew) name = nameOf(record.hex);
+      if (isNew) name = nameOf(point);
       if (json) {
         objects.push_back(nlohmann::ordered_json{
             {"hex", record.hex}, {"symbol", record.symbol}, {"name", name}, {"cluster", std::string(cluster)}}

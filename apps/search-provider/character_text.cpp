@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <cctype>
 
+#include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/platform/unicode_text.h"
+#include "glyphorium/search/search.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace provider {
@@ -31,9 +33,20 @@ std::string eachCodePoint(const SearchableItem& item, const char* separator, For
   std::string result;
   for (const char32_t c : glyph::codePoints(character(item))) {
     if (!result.empty()) result += separator;
-    result += form(glyph::toolKit().getHex(c));
+    result += form(c);
   }
   return result;
+}
+
+// By name, where the catalog gives one: the index keeps names in lower case only, and "&Rarr;" is another
+// arrow.
+std::string reference(char32_t c) {
+  if (const auto index = glyph::Search::ofCatalog().indexOf(c)) {
+    const glyph::Entity entity = *glyph::buildInEntity(*index);
+    const std::string name = entity.additional ? entity.additional->htmlNamed.value_or("") : "";
+    if (!name.empty()) return name;
+  }
+  return glyph::toolKit().getHtmlHex(glyph::toolKit().getHex(c));
 }
 
 }  // namespace
@@ -71,11 +84,12 @@ std::string character(const SearchableItem& item) {
 }
 
 std::string htmlReference(const SearchableItem& item) {
-  return eachCodePoint(item, "", [](const std::string& hex) { return glyph::toolKit().getHtmlHex(hex); });
+  return eachCodePoint(item, "", reference);
 }
 
 std::string codePoint(const SearchableItem& item) {
-  return eachCodePoint(item, " ", [](std::string hex) {
+  return eachCodePoint(item, " ", [](char32_t point) {
+    std::string hex = glyph::toolKit().getHex(point);
     std::transform(hex.begin(), hex.end(), hex.begin(), [](unsigned char c) { return std::toupper(c); });
     return "U+" + hex;
   });

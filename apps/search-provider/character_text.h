@@ -20,7 +20,7 @@ std::string description(const glyph::SearchableItem& item);
 
 /// What is copied.
 std::string character(const glyph::SearchableItem& item);      ///< the symbol; the title where there is none
-std::string htmlReference(const glyph::SearchableItem& item);  ///< "&#x2192;"; valid in XML too
+std::string htmlReference(const glyph::SearchableItem& item);  ///< "&rarr;", or "&#x2798;" without a name
 std::string codePoint(const glyph::SearchableItem& item);      ///< "U+2192", several separated by a blank
 
 }  // namespace provider

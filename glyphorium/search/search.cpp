@@ -258,6 +258,19 @@ SearchResults Search::query(std::string_view text, const SearchOptions& options)
   }
 }
 
+std::optional<std::size_t> Search::indexOfDoc(std::uint32_t doc) const noexcept {
+  if (doc == search::Index::noDoc) return std::nullopt;
+  return index_->docEntity[doc];
+}
+
+std::optional<std::size_t> Search::indexOf(char32_t codePoint) const noexcept {
+  return index_ ? indexOfDoc(index_->docOfCodePoint(codePoint)) : std::nullopt;
+}
+
+std::optional<std::size_t> Search::indexOfHtmlName(std::string_view name) const noexcept {
+  return index_ ? indexOfDoc(index_->docOfHtmlName(name)) : std::nullopt;
+}
+
 std::size_t Search::byteCount() const noexcept {
   return byteCount_;
 }

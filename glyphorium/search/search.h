@@ -105,6 +105,13 @@ class GLYPHORIUM_EXPORT Search {
   /// memory runs out.
   SearchResults query(std::string_view text, const SearchOptions& options = {}) const;
 
+  /// Where the code point's first entity stands in the list that the Search was built from; nullopt where the
+  /// list has none.
+  std::optional<std::size_t> indexOf(char32_t codePoint) const noexcept;
+
+  /// Likewise of the character that the HTML Standard calls so: "rarr". Letter case counts.
+  std::optional<std::size_t> indexOfHtmlName(std::string_view name) const noexcept;
+
   /// The memory that the object and its copies share. Every thread that queries keeps about a third of it
   /// more to work with, until it ends.
   std::size_t byteCount() const noexcept;
@@ -112,6 +119,7 @@ class GLYPHORIUM_EXPORT Search {
  private:
   struct Own;
   Search(std::shared_ptr<const search::Index> index, std::size_t byteCount);
+  std::optional<std::size_t> indexOfDoc(std::uint32_t doc) const noexcept;
 
   std::shared_ptr<const search::Index> index_;
   std::size_t byteCount_ = 0;  // of what the index takes

@@ -95,6 +95,7 @@ TEST_F(SearchProvider, AnswersTheRunner) {
   const struct {
     std::string arguments, answer, copied;
   } runs[] = {{"2192 ''", "()\n", "→"},
+              {"2192 html", "()\n", "&rarr;"},
               {"0041,030a html", "()\n", "&#x41;&#x30a;"},
               {"0041,030a code-point", "()\n", "U+0041 U+030A"},
               {"05d0 character", "()\n", "א"},
