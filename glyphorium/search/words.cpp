@@ -145,9 +145,8 @@ bool isFunctionWord(std::string_view word, std::string_view language) {
       {"es", " al con de del el en es la las los para por que un una "},
   };
   for (const auto& list : lists) {
-    if (list.language != language) continue;
-    const std::size_t at = list.words.find(word);
-    return at != std::string_view::npos && list.words[at - 1] == ' ' && list.words[at + word.size()] == ' ';
+    if (list.language == language)
+      return list.words.find(" " + std::string(word) + " ") != std::string_view::npos;
   }
   return false;
 }
