@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "glyphorium/catalog/entity/records.h"
 #include "output.h"
 
 /// The commands, each a function of its arguments that prints to `output` and returns the exit code.
@@ -35,6 +36,7 @@ int listAdded(Output& output, bool json);
 // The clipboard. The forms are names of copyForms().
 const std::vector<std::string>& copyForms();
 int copyCharacter(Output& output, const std::string& argument, const std::string& form, bool throughTerminal);
+int copyEntities(Output& output, const std::vector<glyph::Entity>& entities, const std::string& form);
 
 // The desktop's search index.
 int showIndexStatus(Output& output, bool json);

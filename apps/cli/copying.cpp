@@ -65,12 +65,17 @@ int copyCharacter(Output& output, const std::string& argument, const std::string
     return nothingFound;
   }
   if (resolved.alternatives) resolved.characters.resize(1);
+  std::vector<Entity> entities;
+  for (Character& character : resolved.characters) entities.push_back(std::move(character.front()));
+  return copyEntities(output, entities, formName);
+}
+
+int copyEntities(Output& output, const std::vector<Entity>& entities, const std::string& formName) {
   const auto form =
       std::find_if(std::begin(forms), std::end(forms), [&](const Form& one) { return formName == one.name; });
   if (form == std::end(forms)) return wrongUse;  // the grammar lets none through
   std::vector<std::string> texts, shown, names;
-  for (const Character& character : resolved.characters) {
-    const Entity& entity = character.front();
+  for (const Entity& entity : entities) {
     texts.push_back(form->make(entity));
     if (texts.back().empty()) {
       complain(entity.name() + ": " + form->missing);

@@ -74,8 +74,7 @@ Character characterOf(char32_t codePoint) {
 std::optional<Character> characterNamedInHtml(const std::string& name) {
   const auto index = glyph::Search::ofCatalog().indexOfHtmlName(name);
   if (!index) return std::nullopt;
-  const std::string hex = glyph::buildInEntity(*index)->computed.hex;
-  return entitiesThat([&](const Entity& entity) { return entity.computed.hex == hex; });
+  return characterOf(static_cast<char32_t>(glyph::buildInEntity(*index)->computed.decimal));
 }
 
 std::optional<Character> characterOf(const glyph::ParsedCode& code) {

@@ -44,8 +44,11 @@ std::string nameOf(char32_t codePoint) {
 // Where no group holds the character that was asked for, it may still be one.
 std::string beyondTheCatalog(const std::string& query) {
   const std::vector<Character> characters = resolve(query).characters;
-  if (characters.empty() || characters.front().front().name().empty()) return {};
+  if (characters.empty()) return {};
   const Entity& entity = characters.front().front();
+  const auto codePoint = static_cast<char32_t>(entity.computed.decimal);
+  // What a group holds was left out by the request.
+  if (entity.name().empty() || glyph::Search::ofCatalog().indexOf(codePoint)) return {};
   return "; no group holds " + entity.computed.hex + " (" + entity.name() + "), but 'glyphorium show " +
          entity.computed.hex + "' describes it";
 }
@@ -118,8 +121,7 @@ int searchCatalog(Output& output, const SearchRequest& request, bool json) {
                                   std::to_string(found.total) + "; --limit shows more"));
   }
   if (!request.copy) return cli::found;
-  return copyCharacter(output, "U+" + entities[found.results.front().index].computed.hex, copyForms().front(),
-                       false);
+  return copyEntities(output, {entities[found.results.front().index]}, copyForms().front());
 }
 
 int identifyText(Output& output, const std::vector<std::string>& texts, bool json) {

@@ -60,6 +60,7 @@ TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
       {"search '&rarr;' --json", 0, "\"name\":\"Rightwards Arrow\""},
       {"search 'replacement character'", 1, "'glyphorium show fffd' describes it"},
       {"show chevron.right 'REPLACEMENT character' 'null CHARACTER (control)'", 0, "U+10018A"},
+      {"search → --group emoji", 1, "nothing found for '→'\n"},  // other groups hold it
       {"search U+FFFD", 1, "no group holds fffd (Replacement Character)"},
       {"search LETTER --group 'LATIN basic' --limit 1", 0, "latin basic\n"},
       {"search letter --group latn", 2, "did you mean"},
