@@ -3,13 +3,14 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstdint>
 #include <cstring>
 
 #include "glyphorium/data/embedded_image_internal.h"
+#include "glyphorium/platform/ascii_internal.h"
 
 namespace glyph {
+
 std::span<const EmbeddedText> embeddedTexts() noexcept {
   return {embeddedTextList, embeddedTextCount};
 }
@@ -30,10 +31,8 @@ std::string_view configuredRow(std::size_t place) noexcept {
 }
 
 std::string_view enrichmentRow(std::string_view hex) noexcept {
-  std::uint32_t codePoint = 0;
-  const auto [end, error] = std::from_chars(hex.data(), hex.data() + hex.size(), codePoint, 16);
-  if (error != std::errc() || end != hex.data() + hex.size()) return {};
-  const auto position = enrichmentIndex.find(codePoint);
+  const auto codePoint = ascii::number(hex, 16);
+  const auto position = codePoint ? enrichmentIndex.find(*codePoint) : std::nullopt;
   if (!position) return {};
   constexpr std::string_view rowEnd = "\n  }";  // what is inside of a row is set in further
   const std::string_view row = additionalJson.substr(enrichmentIndex[*position].offset);

@@ -2,22 +2,19 @@
 #include "glyphorium/data/name_table.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 
 #include "glyphorium/catalog/entity/decoding_internal.h"
 #include "glyphorium/data/embedded_image_internal.h"
+#include "glyphorium/platform/ascii_internal.h"
 
 namespace glyph {
 namespace {
 
 // The number of a hex code spelled as the table spells it.
 std::optional<std::uint32_t> canonicalCodePoint(std::string_view hex) noexcept {
-  std::uint32_t value = 0;
-  const auto [end, error] = std::from_chars(hex.data(), hex.data() + hex.size(), value, 16);
-  if (error != std::errc() || end != hex.data() + hex.size() || hex.size() < 4) return std::nullopt;
-  if (hex.size() > 4 && hex.front() == '0') return std::nullopt;
-  return value;
+  if (hex.size() < 4 || (hex.size() > 4 && hex.front() == '0')) return std::nullopt;
+  return ascii::number(hex, 16);
 }
 
 }  // namespace
@@ -49,13 +46,12 @@ std::optional<NameTableEntry> findName(std::string_view hex) noexcept {
 }
 
 std::optional<char32_t> findCodePoint(std::string_view name) noexcept {
-  const auto folded = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; };
   for (std::size_t position = 0; position < nameIndex.size(); ++position) {
     const CodePointIndex::Entry entry = nameIndex[position];
     const std::string_view stored = structuredUnicodeJSON().substr(entry.offset, name.size() + 1);
     const bool isName = stored.size() > name.size() && stored.back() == '"' &&
                         std::equal(name.begin(), name.end(), stored.begin(),
-                                   [&](char a, char b) { return folded(a) == folded(b); });
+                                   [&](char a, char b) { return ascii::lowered(a) == ascii::lowered(b); });
     if (isName) return entry.codePoint;
   }
   return std::nullopt;

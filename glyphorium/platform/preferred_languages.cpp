@@ -8,6 +8,8 @@
 #include <string_view>
 #include <utility>
 
+#include "glyphorium/platform/ascii_internal.h"
+
 namespace glyph {
 namespace {
 
@@ -34,19 +36,6 @@ std::string_view takePart(std::string_view& text, std::string_view separators) {
   return part;
 }
 
-// Locale names are ASCII, and the process's own locale must not decide what a letter is.
-char lower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
-char upper(char c) {
-  return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c;
-}
-bool isLetter(char c) {
-  return lower(c) >= 'a' && lower(c) <= 'z';
-}
-bool isDigit(char c) {
-  return c >= '0' && c <= '9';
-}
 bool allOf(std::string_view text, bool (*predicate)(char)) {
   return std::all_of(text.begin(), text.end(), predicate);
 }
@@ -66,8 +55,8 @@ std::string_view scriptOfModifier(std::string_view modifier) {
 std::string languageOf(std::string_view locale) {
   std::string_view codes = locale.substr(0, locale.find_first_of(".@"));
   std::string language(takePart(codes, "_-"));
-  if (language.size() < 2 || language.size() > 3 || !allOf(language, isLetter)) return {};
-  std::transform(language.begin(), language.end(), language.begin(), lower);
+  if (language.size() < 2 || language.size() > 3 || !allOf(language, ascii::isLetter)) return {};
+  std::transform(language.begin(), language.end(), language.begin(), ascii::lowered);
   constexpr std::pair<std::string_view, std::string_view> renamed[] = {
       {"iw", "he"}, {"in", "id"}, {"ji", "yi"}, {"no", "nb"}};
   for (const auto& [old, current] : renamed) {
@@ -77,11 +66,11 @@ std::string languageOf(std::string_view locale) {
   std::string script;
   while (!codes.empty()) {
     const std::string_view part = takePart(codes, "_-");
-    if (part.size() == 4 && allOf(part, isLetter) && script.empty()) {
-      std::transform(part.begin(), part.end(), std::back_inserter(script), lower);
-      script[0] = upper(script[0]);
-    } else if (const bool region =
-                   (part.size() == 2 && allOf(part, isLetter)) || (part.size() == 3 && allOf(part, isDigit));
+    if (part.size() == 4 && allOf(part, ascii::isLetter) && script.empty()) {
+      std::transform(part.begin(), part.end(), std::back_inserter(script), ascii::lowered);
+      script[0] = ascii::raised(script[0]);
+    } else if (const bool region = (part.size() == 2 && allOf(part, ascii::isLetter)) ||
+                                   (part.size() == 3 && allOf(part, ascii::isDigit));
                !region) {
       return {};
     }

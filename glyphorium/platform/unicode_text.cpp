@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <memory>
 
+#include "glyphorium/platform/ascii_internal.h"
+
 namespace glyph {
 namespace {
 
@@ -69,8 +71,7 @@ std::string lowercased(std::string_view text) {
   std::string result;
   if (isAscii(text)) {
     result.resize(text.size());
-    std::transform(text.begin(), text.end(), result.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; });
+    std::transform(text.begin(), text.end(), result.begin(), ascii::lowered);
     return result;
   }
   UErrorCode status = U_ZERO_ERROR;

@@ -2,8 +2,8 @@
 #include "glyphorium/search/query_parsing_internal.h"
 
 #include <algorithm>
-#include <charconv>
 
+#include "glyphorium/platform/ascii_internal.h"
 #include "glyphorium/platform/unicode_text.h"
 #include "glyphorium/search/words_internal.h"
 
@@ -64,22 +64,15 @@ std::vector<std::string_view> splitAtBlanks(std::string_view text) {
   return parts;
 }
 
-bool isDecimal(char c) {
-  return c >= '0' && c <= '9';
-}
-
-bool isHex(char c) {
-  return isDecimal(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
-}
-
 // Several numbers without a sign in front: code points, UTF-16 units or bytes of UTF-8, as dumps have them.
 void addBareNumbers(const std::vector<std::string_view>& numbers, ParsedQuery& query) {
   std::string marked;
   bool bytes = true, codePoints = true;
   for (const std::string_view number : numbers) {
-    if (!std::all_of(number.begin(), number.end(), isHex)) return;
+    if (!std::all_of(number.begin(), number.end(), ascii::isHexDigit)) return;
     bytes = bytes && number.size() == 2;
-    codePoints = codePoints && number.size() >= 4 && std::any_of(number.begin(), number.end(), isDecimal);
+    codePoints =
+        codePoints && number.size() >= 4 && std::any_of(number.begin(), number.end(), ascii::isDigit);
   }
   if (!bytes && !codePoints) return;
   for (const std::string_view number : numbers) marked.append(bytes ? "\\x" : "\\u").append(number);
@@ -91,17 +84,13 @@ void addBareNumbers(const std::vector<std::string_view>& numbers, ParsedQuery& q
 
 void addBareNumber(std::string_view text, ParsedQuery& query) {
   const auto all = [&](auto is) { return std::all_of(text.begin(), text.end(), is); };
-  if (text.size() < 2 || text.size() > 8 || !all(isHex)) return;
+  if (text.size() < 2 || text.size() > 8 || !all(ascii::isHexDigit)) return;
   // Four digits and more are a code point, for which nobody types fewer; fewer are rather a decimal one.
-  const bool likely = text.size() >= 4 && std::any_of(text.begin(), text.end(), isDecimal);
+  const bool likely = text.size() >= 4 && std::any_of(text.begin(), text.end(), ascii::isDigit);
   std::vector<std::uint32_t>& numbers = likely ? query.likelyNumbers : query.otherNumbers;
-  std::uint32_t value = 0;
-  const auto parse = [&](int base) { std::from_chars(text.data(), text.data() + text.size(), value, base); };
-  parse(16);
-  numbers.push_back(value);
-  if (!all(isDecimal)) return;
-  parse(10);
-  numbers.insert(likely ? numbers.end() : numbers.begin(), value);
+  numbers.push_back(*ascii::number(text, 16));
+  if (!all(ascii::isDigit)) return;
+  numbers.insert(likely ? numbers.end() : numbers.begin(), *ascii::number(text, 10));
 }
 
 // Takes the codes out of a text of words that nothing else looks like: "U+2192 RIGHTWARDS ARROW", as programs
@@ -149,7 +138,7 @@ void addCharacters(std::string_view text, ParsedQuery& query) {
     addParts(text, query.characters);
     // The other case of a letter is the next thing that may be meant.
     const char c = text.front();
-    if (text.size() == 1 && ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z')))
+    if (text.size() == 1 && ascii::isLetter(c))
       query.characters.push_back(static_cast<std::uint32_t>(c ^ 0x20));
     return;
   }
@@ -162,13 +151,13 @@ void addCharacters(std::string_view text, ParsedQuery& query) {
     const std::vector<std::string_view> inPart = graphemeClusters(part);
     // The letters of a word and the signs beside them are a part of it.
     const bool isWord = inPart.size() > 1 && std::any_of(inPart.begin(), inPart.end(), isLatin);
-    hasLatin = hasLatin || isWord;
     for (const std::string_view cluster : inPart) {
-      const bool ascii = cluster.size() == 1;
+      const bool onKeyboard = cluster.size() == 1;
       const bool latin = isLatin(cluster);
       hasLatin = hasLatin || latin;
-      if ((latin && ascii) || (isWord && (latin || ascii))) continue;
-      addParts(cluster, latin || ascii ? query.otherCharacters : query.besideWords);
+      const bool ordinary = latin || onKeyboard;
+      if ((latin && onKeyboard) || (ordinary && isWord)) continue;
+      addParts(cluster, ordinary ? query.otherCharacters : query.besideWords);
     }
   }
   if (!hasLatin) query.characters.swap(query.besideWords);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
-#include <charconv>
 #include <string>
 #include <tuple>
 #include <unordered_map>
 
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/search_facts_internal.h"
+#include "glyphorium/platform/ascii_internal.h"
 #include "glyphorium/search/index_internal.h"
 
 // How likely a character is meant, whatever the query: the prior of the ranking. Of characters that match
@@ -91,10 +91,8 @@ unsigned groupCost(std::string_view group) {
 }
 
 std::uint32_t codePointOf(const std::string& hex) {
-  std::uint32_t value = 0;
-  const auto [end, error] = std::from_chars(hex.data(), hex.data() + hex.size(), value, 16);
-  const bool whole = error == std::errc() && end == hex.data() + hex.size() && value <= 0x10FFFF;
-  return whole ? value : Index::noCodePoint;
+  const auto value = ascii::number(hex, 16);
+  return value && *value <= 0x10FFFF ? *value : Index::noCodePoint;
 }
 
 // Places in the list of the most wanted characters, as (code point, place), ascending.
@@ -105,9 +103,7 @@ std::vector<std::pair<std::uint32_t, std::uint32_t>> mostWanted() {
     if (facts.kind != SearchFactKind::mostWanted) continue;
     for (std::size_t i = 0; i < facts.size(); ++i) {
       const SearchFacts::Entry entry = facts[i];
-      std::uint32_t place = notWanted;
-      std::from_chars(entry.texts.data(), entry.texts.data() + entry.texts.size(), place);
-      places.emplace_back(entry.codePoint, place);
+      places.emplace_back(entry.codePoint, ascii::number(entry.texts, 10).value_or(notWanted));
     }
   }
   return places;

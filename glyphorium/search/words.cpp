@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 
+#include "glyphorium/platform/ascii_internal.h"
 #include "glyphorium/platform/unicode_text.h"
 #include "glyphorium/search/words_internal.h"
 
@@ -20,10 +21,6 @@ constexpr std::string_view foldedLatin =
 
 bool isAscii(char c) {
   return static_cast<unsigned char>(c) < 0x80;
-}
-
-bool isAsciiAlphanumeric(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z');
 }
 
 // The bytes that the UTF-8 sequence at the position takes, were it well-formed; at least one.
@@ -63,9 +60,9 @@ bool WordReader::next() {
   std::size_t position = end_;
   while (position < text_.size()) {
     const char c = text_[position];
-    if (isAsciiAlphanumeric(c)) {
+    if (ascii::isAlphanumeric(c)) {
       if (word_.empty()) begin_ = position;
-      word_ += c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+      word_ += ascii::lowered(c);
       ++position;
       continue;
     }
@@ -100,7 +97,7 @@ std::string signKey(std::string_view text) {
     const char c = text[i];
     if (c == ' ') continue;
     key += c;
-    if (isAsciiAlphanumeric(c)) {
+    if (ascii::isAlphanumeric(c)) {
       hasWord = true;
     } else if (isAscii(c)) {
       hasSign = hasSign || joining.find(c) == std::string_view::npos;

@@ -1,24 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/toolkit/code_parsing.h"
 
-#include <charconv>
 #include <cstddef>
 #include <optional>
 #include <utility>
 
+#include "glyphorium/platform/ascii_internal.h"
 #include "glyphorium/platform/unicode_text.h"
 
 namespace glyph {
 namespace {
-
-bool isDigit(char c, int base) {
-  const bool letter = (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
-  return (c >= '0' && c <= '9') || (base == 16 && letter);
-}
-
-bool isAlphanumeric(char c) {
-  return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
 
 // Reads code forms from the front of a text. A form that is not read leaves what was taken of it taken: the
 // text as a whole is none then.
@@ -60,11 +51,11 @@ class CodeReader {
   // A number of `least` to `most` digits; takes them all.
   std::optional<std::uint32_t> number(int base, std::size_t least, std::size_t most) {
     std::size_t end = 0;
-    while (end < rest_.size() && isDigit(rest_[end], base)) ++end;
-    std::uint32_t value = 0;
+    while (end < rest_.size() && (base == 16 ? ascii::isHexDigit(rest_[end]) : ascii::isDigit(rest_[end])))
+      ++end;
     if (end < least || end > most) return std::nullopt;
-    if (std::from_chars(rest_.data(), rest_.data() + end, value, base).ec != std::errc()) return std::nullopt;
-    rest_.remove_prefix(end);
+    const auto value = ascii::number(rest_.substr(0, end), base);
+    if (value) rest_.remove_prefix(end);
     return value;
   }
 
@@ -75,7 +66,7 @@ class CodeReader {
 
   // A form that ends where its digits do.
   std::optional<ParsedCode> ended(std::optional<std::uint32_t> value) const {
-    return rest_.empty() || !isAlphanumeric(rest_.front()) ? code(value) : std::nullopt;
+    return rest_.empty() || !ascii::isAlphanumeric(rest_.front()) ? code(value) : std::nullopt;
   }
 
   std::optional<ParsedCode> closed(std::optional<std::uint32_t> value, std::string_view end) {
@@ -91,7 +82,7 @@ class CodeReader {
   std::optional<ParsedCode> reference() {
     if (take("#")) return numericReference(1);
     std::size_t end = 0;
-    while (end < rest_.size() && isAlphanumeric(rest_[end])) ++end;
+    while (end < rest_.size() && ascii::isAlphanumeric(rest_[end])) ++end;
     if (end == 0) return std::nullopt;
     ParsedCode named{0, std::string(rest_.substr(0, end))};
     rest_.remove_prefix(end);
@@ -105,7 +96,7 @@ class CodeReader {
     if (take("U")) return code(number(16, 8, 8));
     if (take("x")) {
       std::size_t digits = 0;
-      while (digits < rest_.size() && isDigit(rest_[digits], 16)) ++digits;
+      while (digits < rest_.size() && ascii::isHexDigit(rest_[digits])) ++digits;
       return digits == 2 ? bytes("\\x") : code(number(16, 3, 8));
     }
     if (!take("u")) return code(number(16, 1, 6));
@@ -120,11 +111,10 @@ class CodeReader {
   // byte is a code point itself where no sequence begins.
   std::optional<ParsedCode> bytes(std::string_view introducer) {
     const auto byte = [&]() -> std::optional<char> {
-      if (rest_.size() < 2 || !isDigit(rest_[0], 16) || !isDigit(rest_[1], 16)) return std::nullopt;
-      unsigned value = 0;
-      std::from_chars(rest_.data(), rest_.data() + 2, value, 16);
+      const auto value = rest_.size() < 2 ? std::nullopt : ascii::number(rest_.substr(0, 2), 16);
+      if (!value) return std::nullopt;
       rest_.remove_prefix(2);
-      return static_cast<char>(value);
+      return static_cast<char>(*value);
     };
     const auto first = byte();
     if (!first) return std::nullopt;

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <charconv>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <system_error>
+
+/// ASCII characters, whatever the process's locale takes for letters.
+namespace glyph::ascii {
+
+inline char lowered(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+}
+inline char raised(char c) {
+  return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c;
+}
+inline bool isLetter(char c) {
+  return lowered(c) >= 'a' && lowered(c) <= 'z';
+}
+inline bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+inline bool isHexDigit(char c) {
+  return isDigit(c) || (lowered(c) >= 'a' && lowered(c) <= 'f');
+}
+inline bool isAlphanumeric(char c) {
+  return isLetter(c) || isDigit(c);
+}
+
+/// The number that the text is, all of it digits of that base; nullopt for others and beyond 32 bits.
+inline std::optional<std::uint32_t> number(std::string_view text, int base) {
+  std::uint32_t value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, base);
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return value;
+}
+
+}  // namespace glyph::ascii
