@@ -37,8 +37,8 @@ void addSingulars(const Index& index, QueryWord& word, std::uint32_t languages) 
 // The words behind the word in its line of the synonyms, separated by tabs.
 std::string_view synonymsOf(std::string_view word, std::string_view lines) {
   while (!lines.empty()) {
-    const std::size_t begin =
-        lines.rfind('\n', lines.size() / 2) + 1;  // of the line in the middle; npos + 1 is 0
+    // The line in the middle; npos + 1 is 0.
+    const std::size_t begin = lines.rfind('\n', lines.size() / 2) + 1;
     const std::string_view line = lines.substr(begin, lines.find('\n', begin) - begin);
     const std::string_view head = line.substr(0, line.find('\t'));
     if (head == word) return line.substr(head.size() + 1);

@@ -58,6 +58,14 @@ inline constexpr std::uint32_t unnamedDetail = 6;  // the words are not in the n
 inline constexpr std::uint32_t fillerDetail = 10;  // for each filler of the query that is missing
 inline constexpr std::uint32_t mostFillers = 3;
 
+/// The cost with what the character's own name, which may hold the words as well as the phrase does, tells of
+/// it.
+inline std::uint32_t withName(std::uint32_t cost, bool named, bool byHtmlName) {
+  if (!named) return cost + unnamedDetail;
+  // An HTML name that is a word of the character's own name is no accidental abbreviation: "sigma".
+  return cost - (byHtmlName ? htmlNameDetail / 2 : 0);
+}
+
 // Characters for private use, which few systems can show, stand behind all that is not called just what the
 // query says.
 inline constexpr std::uint32_t privateUseExtra = 400;

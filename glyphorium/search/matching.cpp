@@ -190,12 +190,9 @@ class Matcher {
       const std::uint32_t spread = spreadCost(worst, missingFillers(state.fillers, fillers_));
       const bool together = state.best < spread;
       const bool named = state.nameWorst <= state.bestWorst;
-      const std::uint32_t unnamed = named ? 0 : unnamedDetail;
-      std::uint32_t cost = (together ? state.best : spread) + unnamed;
-      // An HTML name that is a word of the character's own name is no accidental abbreviation: "sigma".
       const bool byHtmlName =
-          state.phrase != noPhrase && index_.phrases[state.phrase].kind == PhraseKind::htmlName;
-      if (named && together && byHtmlName) cost -= htmlNameDetail / 2;
+          together && state.phrase != noPhrase && index_.phrases[state.phrase].kind == PhraseKind::htmlName;
+      const std::uint32_t cost = withName(together ? state.best : spread, named, byHtmlName);
       matches.push_back({cost + priorCost(cost, index_.docPrior[doc]), doc,
                          together || needed_ == 1 ? state.phrase : noPhrase});
     }

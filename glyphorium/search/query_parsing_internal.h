@@ -15,9 +15,9 @@ namespace glyph::search {
 struct ParsedQuery {
   std::vector<std::string> groups;  ///< from "group:", as typed
 
-  std::vector<ParsedCode> codes;             ///< the text is nothing but these forms
-  std::vector<std::uint32_t> likelyNumbers;  ///< the text is a bare number, and hardly anything else
-  std::vector<std::uint32_t> otherNumbers;   ///< likewise, but it may as well be a word: "face", "100"
+  std::vector<ParsedCode> codes;             ///< all of the text, or parts of it that can be nothing else
+  std::vector<std::uint32_t> likelyNumbers;  ///< the text is bare numbers, and hardly anything else
+  std::vector<std::uint32_t> otherNumbers;   ///< the text is one, but may as well be a word: "face", "100"
 
   std::vector<std::uint32_t> characters;       ///< pasted, hence meant
   std::vector<std::uint32_t> besideWords;      ///< signs that are not on the keyboard, among words

@@ -82,16 +82,14 @@ class Run {
       });
     }
     for (const std::string& typed : query_.groups) {
-      std::vector<std::string> words;
-      for (WordReader reader(typed); reader.next();) words.emplace_back(reader.word());
       const std::string name = wordsOf(typed);
       bool isName = false;
       for (std::uint32_t i = 0; i < index_.groupCount(); ++i) isName = isName || index_.groupWords[i] == name;
       keepOnly([&](const Group& group) {
         if (isName) return group.words == name;
-        return !words.empty() && std::all_of(words.begin(), words.end(), [&](const std::string& word) {
-          return group.hasWordWithPrefix(word);
-        });
+        bool all = !name.empty();
+        for (WordReader reader(name); reader.next();) all = all && group.hasWordWithPrefix(reader.word());
+        return all;
       });
     }
     filter_.docs = &allowed_;
