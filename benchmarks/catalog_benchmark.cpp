@@ -4,11 +4,11 @@
 #include <malloc.h>
 #include <simdjson.h>
 
-#include "glyphorium/catalog/decoding_and_joining_internal.h"
-#include "glyphorium/catalog/entity/decoding_internal.h"
+#include "glyphorium/catalog/decoding_and_joining.h"
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/data/name_table.h"
+#include "glyphorium/entity/decoding.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace {

@@ -8,10 +8,10 @@
 #include <unordered_set>
 
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/platform/diagnostics.h"
-#include "glyphorium/platform/memory_settings_store.h"
-#include "glyphorium/platform/searchable_index_reader.h"
-#include "glyphorium/platform/sqlite_searchable_index.h"
+#include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/services/search_index/searchable_index_reader.h"
+#include "glyphorium/services/search_index/sqlite_searchable_index.h"
+#include "glyphorium/services/settings/memory_settings_store.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace {

@@ -24,8 +24,8 @@
 
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/embedded_texts.h"
-#include "glyphorium/platform/diagnostics.h"
 #include "glyphorium/search/search.h"
+#include "glyphorium/services/diagnostics/diagnostics.h"
 
 namespace {
 

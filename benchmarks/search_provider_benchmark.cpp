@@ -14,9 +14,9 @@
 #include <thread>
 
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/platform/diagnostics.h"
-#include "glyphorium/platform/memory_settings_store.h"
-#include "glyphorium/platform/searchable_index.h"
+#include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/services/search_index/searchable_index.h"
+#include "glyphorium/services/settings/memory_settings_store.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace {

@@ -7,10 +7,10 @@
 #include <filesystem>
 
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/platform/diagnostics.h"
-#include "glyphorium/platform/memory_settings_store.h"
-#include "glyphorium/platform/searchable_index.h"
-#include "glyphorium/platform/sqlite_settings_store.h"
+#include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/services/search_index/searchable_index.h"
+#include "glyphorium/services/settings/memory_settings_store.h"
+#include "glyphorium/services/settings/sqlite_settings_store.h"
 #include "glyphorium/state/selected_entities.h"
 
 namespace {

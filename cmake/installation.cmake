@@ -3,17 +3,11 @@
 include(CMakePackageConfigHelpers)
 
 install(TARGETS glyphorium EXPORT GlyphoriumTargets
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development)
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
+        FILE_SET generated_headers DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/LICENSES DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
-
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/glyphorium ${PROJECT_BINARY_DIR}/generated/glyphorium
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
-        FILES_MATCHING PATTERN "*.h"
-        PATTERN "configure" EXCLUDE
-        PATTERN "generator" EXCLUDE
-        PATTERN "sources" EXCLUDE
-        PATTERN "*_internal.h" EXCLUDE)
 
 set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/Glyphorium)
 install(EXPORT GlyphoriumTargets NAMESPACE Glyphorium:: DESTINATION ${package_directory} COMPONENT development)

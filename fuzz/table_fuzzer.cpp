@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "fuzz/require.h"
-#include "glyphorium/catalog/entity/codec.h"
-#include "glyphorium/catalog/entity/decoding_internal.h"
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/platform/diagnostics.h"
+#include "glyphorium/entity/codec.h"
+#include "glyphorium/entity/decoding.h"
+#include "glyphorium/services/diagnostics/diagnostics.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "glyphorium/platform/export.h"
+#include "glyphorium/export.h"
 
 extern "C" {
 

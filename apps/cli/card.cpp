@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
-#include "glyphorium/catalog/entity/codec.h"
 #include "glyphorium/data/name_table.h"
-#include "glyphorium/platform/unicode_text.h"
+#include "glyphorium/entity/codec.h"
+#include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace cli {

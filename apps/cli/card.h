@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "glyphorium/catalog/entity/records.h"
+#include "glyphorium/entity/records.h"
 #include "output.h"
 
 namespace cli {

@@ -6,8 +6,8 @@
 #include "commands.h"
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/name_table.h"
-#include "glyphorium/platform/settings_store.h"
-#include "glyphorium/platform/unicode_text.h"
+#include "glyphorium/services/settings/settings_store.h"
+#include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 #include "lookup.h"
 

@@ -6,7 +6,7 @@
 #include "commands.h"
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/name_table.h"
-#include "glyphorium/platform/terminal_pasteboard.h"
+#include "glyphorium/services/pasteboard/terminal_pasteboard.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 #include "lookup.h"
 

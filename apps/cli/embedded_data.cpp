@@ -3,9 +3,9 @@
 
 #include "card.h"
 #include "commands.h"
-#include "glyphorium/catalog/entity/codec.h"
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/data/name_table.h"
+#include "glyphorium/entity/codec.h"
 #include "lookup.h"
 
 namespace cli {

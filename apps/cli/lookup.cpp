@@ -5,11 +5,11 @@
 #include <charconv>
 #include <numeric>
 
+#include "glyphorium/codes/code_parsing.h"
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/data/name_table.h"
-#include "glyphorium/platform/unicode_text.h"
 #include "glyphorium/search/search.h"
-#include "glyphorium/toolkit/code_parsing.h"
+#include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace cli {

@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "commands.h"
-#include "glyphorium/platform/unicode_text.h"
+#include "glyphorium/text/unicode_text.h"
 #include "glyphorium/version.h"
 #include "lookup.h"
 

@@ -10,8 +10,8 @@
 #include <cstdlib>
 #include <mutex>
 
-#include "glyphorium/platform/diagnostics.h"
-#include "glyphorium/platform/unicode_text.h"
+#include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/text/unicode_text.h"
 
 namespace cli {
 namespace {

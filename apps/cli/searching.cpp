@@ -11,8 +11,8 @@
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/name_capitalization.h"
 #include "glyphorium/data/name_table.h"
-#include "glyphorium/platform/unicode_text.h"
 #include "glyphorium/state/selected_entities.h"
+#include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 #include "lookup.h"
 

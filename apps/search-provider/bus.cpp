@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <system_error>
 
-#include "glyphorium/platform/unicode_text.h"
+#include "glyphorium/text/unicode_text.h"
 
 namespace provider {
 

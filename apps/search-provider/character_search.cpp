@@ -7,8 +7,8 @@
 
 #include "character_text.h"
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/platform/unicode_text.h"
 #include "glyphorium/search/search.h"
+#include "glyphorium/text/unicode_text.h"
 
 namespace provider {
 namespace {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "glyphorium/platform/searchable_index_reader.h"
+#include "glyphorium/services/search_index/searchable_index_reader.h"
 
 namespace provider {
 

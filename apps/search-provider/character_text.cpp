@@ -5,8 +5,8 @@
 #include <cctype>
 
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/platform/unicode_text.h"
 #include "glyphorium/search/search.h"
+#include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace provider {

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "glyphorium/platform/searchable_index.h"
+#include "glyphorium/services/search_index/searchable_index.h"
 
 namespace provider {
 

@@ -8,7 +8,7 @@
 #include <optional>
 #include <system_error>
 
-#include "glyphorium/platform/diagnostics.h"
+#include "glyphorium/services/diagnostics/diagnostics.h"
 #include "glyphorium/version.h"
 #include "service.h"
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "character_text.h"
-#include "glyphorium/platform/application.h"
+#include "glyphorium/services/application/application.h"
 
 namespace provider {
 namespace {

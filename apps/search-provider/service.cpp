@@ -7,7 +7,7 @@
 #include <cerrno>
 
 #include "character_text.h"
-#include "glyphorium/platform/application.h"
+#include "glyphorium/services/application/application.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 #include "runner_interface.h"
 #include "shell_interface.h"

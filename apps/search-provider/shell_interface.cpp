@@ -5,7 +5,7 @@
 #include <unordered_set>
 
 #include "character_text.h"
-#include "glyphorium/platform/application.h"
+#include "glyphorium/services/application/application.h"
 
 namespace provider {
 namespace {

@@ -5,9 +5,9 @@
 #include <cstring>
 #include <unordered_map>
 
-#include "glyphorium/catalog/decoding_and_joining_internal.h"
-#include "glyphorium/catalog/entity/decoding_internal.h"
+#include "glyphorium/catalog/decoding_and_joining.h"
 #include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/entity/decoding.h"
 
 namespace glyph {
 namespace {

@@ -3,9 +3,9 @@
 
 #include <algorithm>
 
-#include "glyphorium/catalog/fixed_lists_internal.h"
+#include "glyphorium/catalog/fixed_lists.h"
 #include "glyphorium/data/embedded_texts.h"
-#include "glyphorium/platform/diagnostics.h"
+#include "glyphorium/services/diagnostics/diagnostics.h"
 
 namespace glyph {
 namespace {

@@ -10,10 +10,10 @@
 #include <string_view>
 #include <vector>
 
-#include "glyphorium/catalog/entity/records.h"
-#include "glyphorium/catalog/observed.h"
-#include "glyphorium/catalog/user_influenced_entity_key.h"
-#include "glyphorium/platform/export.h"
+#include "glyphorium/entity/records.h"
+#include "glyphorium/export.h"
+#include "glyphorium/state/observed.h"
+#include "glyphorium/state/user_influenced_entity_key.h"
 
 namespace glyph {
 

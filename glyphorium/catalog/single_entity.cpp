@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "glyphorium/catalog/decoding_and_joining_internal.h"
-#include "glyphorium/catalog/entity/decoding_internal.h"
+#include "glyphorium/catalog/decoding_and_joining.h"
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/data/embedded_image_internal.h"
+#include "glyphorium/data/embedded_image.h"
+#include "glyphorium/entity/decoding.h"
 
 namespace glyph {
 namespace {

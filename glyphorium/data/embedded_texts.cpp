@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <cstring>
 
-#include "glyphorium/data/embedded_image_internal.h"
-#include "glyphorium/platform/ascii_internal.h"
+#include "glyphorium/data/embedded_image.h"
+#include "glyphorium/text/ascii.h"
 
 namespace glyph {
 

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "glyphorium/platform/export.h"
+#include "glyphorium/export.h"
 
 namespace glyph {
 

@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "glyphorium/catalog/entity/decoding_internal.h"
-#include "glyphorium/data/embedded_image_internal.h"
-#include "glyphorium/platform/ascii_internal.h"
+#include "glyphorium/data/embedded_image.h"
+#include "glyphorium/entity/decoding.h"
+#include "glyphorium/text/ascii.h"
 
 namespace glyph {
 namespace {

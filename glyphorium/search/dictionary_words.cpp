@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
-#include "glyphorium/data/search_facts_internal.h"
-#include "glyphorium/search/matching_internal.h"
-#include "glyphorium/search/words_internal.h"
+#include "glyphorium/data/search_facts.h"
+#include "glyphorium/search/matching.h"
+#include "glyphorium/search/words.h"
 
 namespace glyph::search {
 namespace {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
-#include "glyphorium/search/index_internal.h"
-#include "glyphorium/search/words_internal.h"
+#include "glyphorium/search/index.h"
+#include "glyphorium/search/words.h"
 
 namespace glyph::search {
 

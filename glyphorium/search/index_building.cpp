@@ -5,9 +5,9 @@
 #include <string>
 #include <utility>
 
-#include "glyphorium/data/search_facts_internal.h"
-#include "glyphorium/search/index_internal.h"
-#include "glyphorium/search/words_internal.h"
+#include "glyphorium/data/search_facts.h"
+#include "glyphorium/search/index.h"
+#include "glyphorium/search/words.h"
 
 namespace glyph::search {
 namespace {

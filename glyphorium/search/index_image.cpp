@@ -2,7 +2,7 @@
 #include <cstring>
 #include <type_traits>
 
-#include "glyphorium/search/index_internal.h"
+#include "glyphorium/search/index.h"
 
 extern "C" {
 extern const std::byte glyphoriumSearchIndex[];

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
-#include "glyphorium/search/match_costs_internal.h"
-#include "glyphorium/search/matching_internal.h"
+#include "glyphorium/search/match_costs.h"
+#include "glyphorium/search/matching.h"
 
 namespace glyph::search {
 namespace {

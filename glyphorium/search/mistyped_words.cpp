@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
-#include "glyphorium/search/matching_internal.h"
+#include "glyphorium/search/matching.h"
 
 namespace glyph::search {
 namespace {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "glyphorium/search/query_parsing_internal.h"
+#include "glyphorium/search/query_parsing.h"
 
 #include <algorithm>
 
-#include "glyphorium/platform/ascii_internal.h"
-#include "glyphorium/platform/unicode_text.h"
-#include "glyphorium/search/words_internal.h"
+#include "glyphorium/search/words.h"
+#include "glyphorium/text/ascii.h"
+#include "glyphorium/text/unicode_text.h"
 
 namespace glyph::search {
 namespace {

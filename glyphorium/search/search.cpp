@@ -5,11 +5,11 @@
 #include <new>
 #include <utility>
 
-#include "glyphorium/platform/preferred_languages.h"
-#include "glyphorium/search/index_internal.h"
-#include "glyphorium/search/matching_internal.h"
-#include "glyphorium/search/query_parsing_internal.h"
-#include "glyphorium/search/words_internal.h"
+#include "glyphorium/search/index.h"
+#include "glyphorium/search/matching.h"
+#include "glyphorium/search/query_parsing.h"
+#include "glyphorium/search/words.h"
+#include "glyphorium/text/preferred_languages.h"
 
 namespace glyph {
 namespace search {

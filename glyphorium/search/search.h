@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "glyphorium/catalog/entity/records.h"
-#include "glyphorium/platform/export.h"
+#include "glyphorium/entity/records.h"
+#include "glyphorium/export.h"
 
 namespace glyph {
 

@@ -5,9 +5,9 @@
 #include <unordered_map>
 
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/data/search_facts_internal.h"
-#include "glyphorium/platform/ascii_internal.h"
-#include "glyphorium/search/index_internal.h"
+#include "glyphorium/data/search_facts.h"
+#include "glyphorium/search/index.h"
+#include "glyphorium/text/ascii.h"
 
 // How likely a character is meant, whatever the query: the prior of the ranking. Of characters that match
 // equally people nearly always mean a common sign and hardly ever its combining, compatibility or private-use

@@ -3,8 +3,8 @@
 #include <bit>
 #include <iterator>
 
-#include "glyphorium/search/matching_internal.h"
-#include "glyphorium/search/words_internal.h"
+#include "glyphorium/search/matching.h"
+#include "glyphorium/search/words.h"
 
 namespace glyph::search {
 namespace {

@@ -2,9 +2,9 @@
 #include <algorithm>
 #include <array>
 
-#include "glyphorium/platform/ascii_internal.h"
-#include "glyphorium/platform/unicode_text.h"
-#include "glyphorium/search/words_internal.h"
+#include "glyphorium/search/words.h"
+#include "glyphorium/text/ascii.h"
+#include "glyphorium/text/unicode_text.h"
 
 namespace glyph::search {
 namespace {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/state/selected_entities.h"
 
-#include "glyphorium/platform/notification_center.h"
-#include "glyphorium/state/notification_names.h"
+#include "glyphorium/services/notifications/notification_center.h"
+#include "glyphorium/services/notifications/notification_names.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace glyph {

@@ -4,9 +4,9 @@
 #include <optional>
 #include <vector>
 
-#include "glyphorium/catalog/entity/records.h"
-#include "glyphorium/catalog/observed.h"
-#include "glyphorium/platform/export.h"
+#include "glyphorium/entity/records.h"
+#include "glyphorium/export.h"
+#include "glyphorium/state/observed.h"
 
 namespace glyph {
 

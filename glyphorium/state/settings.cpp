@@ -4,9 +4,9 @@
 #include <ctime>
 
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/platform/diagnostics.h"
-#include "glyphorium/platform/setting_json_internal.h"
-#include "glyphorium/state/user_defaults_internal.h"
+#include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/services/settings/setting_json.h"
+#include "glyphorium/state/user_defaults.h"
 
 namespace glyph {
 namespace {

@@ -4,8 +4,8 @@
 #include <array>
 #include <functional>
 
-#include "glyphorium/catalog/raw_value_key.h"
-#include "glyphorium/platform/export.h"
+#include "glyphorium/export.h"
+#include "glyphorium/state/raw_value_key.h"
 
 namespace glyph {
 

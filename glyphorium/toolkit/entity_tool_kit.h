@@ -6,10 +6,10 @@
 #include <string_view>
 #include <vector>
 
-#include "glyphorium/catalog/entity/records.h"
-#include "glyphorium/platform/export.h"
-#include "glyphorium/platform/searchable_index.h"
-#include "glyphorium/toolkit/code_formats.h"
+#include "glyphorium/codes/code_formats.h"
+#include "glyphorium/entity/records.h"
+#include "glyphorium/export.h"
+#include "glyphorium/services/search_index/searchable_index.h"
 
 namespace glyph {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/data/name_capitalization.h"
 #include "glyphorium/data/name_table.h"
-#include "glyphorium/platform/unicode_text.h"
+#include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace glyph {

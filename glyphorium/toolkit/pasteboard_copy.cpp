@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "glyphorium/platform/notification_center.h"
-#include "glyphorium/platform/pasteboard.h"
-#include "glyphorium/state/notification_names.h"
+#include "glyphorium/services/notifications/notification_center.h"
+#include "glyphorium/services/notifications/notification_names.h"
+#include "glyphorium/services/pasteboard/pasteboard.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace glyph {

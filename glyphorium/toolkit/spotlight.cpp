@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "glyphorium/platform/application.h"
-#include "glyphorium/platform/searchable_index.h"
+#include "glyphorium/services/application/application.h"
+#include "glyphorium/services/search_index/searchable_index.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace glyph {

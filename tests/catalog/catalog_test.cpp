@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "glyphorium/data/embedded_texts.h"
-#include "glyphorium/platform/preferred_languages.h"
+#include "glyphorium/text/preferred_languages.h"
 
 namespace glyph {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "glyphorium/catalog/entity/codec.h"
+#include "glyphorium/entity/codec.h"
 
 #include <gmock/gmock.h>
 

@@ -9,7 +9,7 @@
 #include <random>
 #include <set>
 
-#include "glyphorium/platform/sqlite_settings_store.h"
+#include "glyphorium/services/settings/sqlite_settings_store.h"
 #include "tests/support/program.h"
 #include "tests/support/sandbox.h"
 

@@ -8,12 +8,12 @@
 #include <functional>
 #include <new>
 
-#include "glyphorium/catalog/entity/codec.h"
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/platform/diagnostics.h"
-#include "glyphorium/platform/memory_settings_store.h"
-#include "glyphorium/platform/sqlite_settings_store.h"
+#include "glyphorium/entity/codec.h"
 #include "glyphorium/search/search.h"
+#include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/services/settings/memory_settings_store.h"
+#include "glyphorium/services/settings/sqlite_settings_store.h"
 #include "glyphorium/state/selected_entities.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 #include "tests/memory/failing_new.h"

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <sqlite3.h>
 
-#include "glyphorium/platform/sqlite_internal.h"
+#include "glyphorium/services/sqlite/sqlite.h"
 #include "session.h"
 
 namespace glyph {

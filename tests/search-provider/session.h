@@ -6,8 +6,8 @@
 #include <cstdio>
 #include <string>
 
-#include "glyphorium/platform/application.h"
-#include "glyphorium/platform/sqlite_searchable_index.h"
+#include "glyphorium/services/application/application.h"
+#include "glyphorium/services/search_index/sqlite_searchable_index.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 #include "tests/support/program.h"
 #include "tests/support/sandbox.h"

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/platform/unicode_text.h"
 #include "glyphorium/search/search.h"
+#include "glyphorium/text/unicode_text.h"
 #include "tests/support/recorded_diagnostics.h"
 
 namespace glyph::testing {

@@ -3,9 +3,9 @@
 
 #include <set>
 
-#include "glyphorium/data/search_facts_internal.h"
-#include "glyphorium/search/matching_internal.h"
-#include "glyphorium/search/words_internal.h"
+#include "glyphorium/data/search_facts.h"
+#include "glyphorium/search/matching.h"
+#include "glyphorium/search/words.h"
 #include "tests/search/catalog_search.h"
 
 namespace glyph::search {

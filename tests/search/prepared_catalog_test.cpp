@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "glyphorium/catalog/entity/codec.h"
-#include "glyphorium/search/index_internal.h"
+#include "glyphorium/entity/codec.h"
+#include "glyphorium/search/index.h"
 #include "tests/search/catalog_search.h"
 
 namespace glyph {

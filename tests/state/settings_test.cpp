@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/state/settings.h"
 
-#include "glyphorium/state/user_defaults_internal.h"
+#include "glyphorium/state/user_defaults.h"
 #include "tests/support/catalog_fixture.h"
 
 namespace glyph {

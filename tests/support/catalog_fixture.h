@@ -9,11 +9,11 @@
 #include <vector>
 
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/platform/memory_settings_store.h"
-#include "glyphorium/platform/notification_center.h"
-#include "glyphorium/platform/pasteboard.h"
-#include "glyphorium/platform/searchable_index.h"
-#include "glyphorium/state/notification_names.h"
+#include "glyphorium/services/notifications/notification_center.h"
+#include "glyphorium/services/notifications/notification_names.h"
+#include "glyphorium/services/pasteboard/pasteboard.h"
+#include "glyphorium/services/search_index/searchable_index.h"
+#include "glyphorium/services/settings/memory_settings_store.h"
 #include "glyphorium/state/selected_entities.h"
 #include "tests/support/recorded_diagnostics.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "glyphorium/platform/diagnostics.h"
+#include "glyphorium/services/diagnostics/diagnostics.h"
 
 namespace glyph {
 

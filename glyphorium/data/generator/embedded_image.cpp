@@ -125,15 +125,15 @@ void EmbeddedImage::write(const std::filesystem::path& folder) {
   const Piece configuredRows = add(configuredRows_);
   std::string header =
       "// SPDX-License-Identifier: MIT\n" + std::string(banner) +
-      "#pragma once\n\n#include <string_view>\n\n#include \"glyphorium/platform/export.h\"\n\n"
+      "#pragma once\n\n#include <string_view>\n\n#include \"glyphorium/export.h\"\n\n"
       "namespace glyph {\n\n"
       "/// The group tables as stored: UTF-8 JSON, an array of one object a character. `latinBasicJson` is\n"
       "/// not valid JSON until repaired, see Glyphorium::getComputedEntitiesFrom.\n";
   std::string definitions = std::string(banner) +
-                            "#include \"glyphorium/data/embedded_image_internal.h\"\n"
+                            "#include \"glyphorium/data/embedded_image.h\"\n"
                             "#include \"glyphorium/data/embedded_texts.h\"\n"
                             "#include \"glyphorium/data/group_tables.h\"\n"
-                            "#include \"glyphorium/data/search_facts_internal.h\"\n\nextern \"C\" {\n"
+                            "#include \"glyphorium/data/search_facts.h\"\n\nextern \"C\" {\n"
                             "extern const char glyphoriumEmbeddedImage[" +
                             std::to_string(blob_.size()) +
                             "];\n}\n\n"

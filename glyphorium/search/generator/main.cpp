@@ -5,7 +5,7 @@
 #include <fstream>
 
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/search/index_internal.h"
+#include "glyphorium/search/index.h"
 
 // What this program makes, and therefore lacks.
 extern "C" {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <glyphorium/catalog/glyphorium.h>
-#include <glyphorium/platform/diagnostics.h>
-#include <glyphorium/platform/memory_settings_store.h>
-#include <glyphorium/platform/notification_center.h>
 #include <glyphorium/search/search.h>
-#include <glyphorium/state/notification_names.h>
+#include <glyphorium/services/diagnostics/diagnostics.h>
+#include <glyphorium/services/notifications/notification_center.h>
+#include <glyphorium/services/notifications/notification_names.h>
+#include <glyphorium/services/settings/memory_settings_store.h>
 #include <glyphorium/state/selected_entities.h>
 
 #include <iostream>

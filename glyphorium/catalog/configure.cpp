@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/catalog/decoding_and_joining.h"
+#include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/data/embedded_texts.h"
+#include "glyphorium/entity/decoding.h"
+#include "glyphorium/services/diagnostics/diagnostics.h"
+
+namespace glyph {
+namespace {
+
+// The rows of all configured tables, so that no entity moves while they are read.
+std::size_t configuredRows() {
+  std::size_t rows = 0;
+  for (const EmbeddedText& text : embeddedTexts()) rows += text.configured ? text.rows : 0;
+  return rows;
+}
+
+}  // namespace
+
+void Glyphorium::configure() {
+  std::vector<Entity> entities;
+  entities.reserve(configuredRows());
+  {
+    TableDecoder decoder;
+    for (const std::string_view table : entityData_) {
+      const std::optional<std::string> repaired = repairedTable(table);
+      const std::string error = decoder.append(repaired ? *repaired : table, entities);
+      if (!error.empty()) printDiagnostic("Group table not decoded: " + error);
+    }
+  }
+  if (const auto enrichment = getAdditionalDataFrom(additionalJson)) enrich(entities, *enrichment);
+  allBuildInEntities_ = std::move(entities);
+  allCustomEntities = getCustomEntities();
+  allBuildInEntityGroups() = getBuildInEntityGroups();
+  setSelectedEntities();
+}
+
+}  // namespace glyph

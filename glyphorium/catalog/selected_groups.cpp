@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+
+#include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/state/user_defaults.h"
+#include "glyphorium/text/unicode_text.h"
+
+namespace glyph {
+namespace {
+
+using Names = std::vector<std::string>;
+
+// "custom" stands once and in front, if it stands at all.
+Names normalised(Names groups) {
+  if (std::erase(groups, customGroup) > 0) groups.emplace(groups.begin(), customGroup);
+  return groups;
+}
+
+}  // namespace
+
+std::vector<std::string> Glyphorium::selectedGroups() const {
+  return storedDisplayedGroups();
+}
+
+void Glyphorium::setSelectedGroups(std::vector<std::string> groups) {
+  saveToUserDefaults(normalised(std::move(groups)), UserInfluencedEntityKey::displayedGroups.rawValue(),
+                     false);
+  selectedGroupsHadChanged = true;
+}
+
+void Glyphorium::modifySelectedGroups(const std::function<void(std::vector<std::string>&)>& change) {
+  changeSelectedGroups([&](Names& groups) {
+    change(groups);
+    return true;
+  });
+}
+
+// Stores what `change` makes of the list, as one step; nothing where it returns false.
+void Glyphorium::changeSelectedGroups(const std::function<bool(std::vector<std::string>&)>& change) {
+  bool changed = false;
+  settingsStore()->update(UserInfluencedEntityKey::displayedGroups.rawValue(),
+                          [&](const auto& stored) -> std::optional<SettingValue> {
+                            Names groups = valueOr(stored, Names{std::string(customGroup)});
+                            changed = change(groups);
+                            if (!changed) return std::nullopt;
+                            return normalised(std::move(groups));
+                          });
+  if (changed) selectedGroupsHadChanged = true;
+}
+
+void Glyphorium::addSelectedGroup(std::string_view named) {
+  changeSelectedGroups([name = lowercased(named)](Names& groups) {
+    if (std::find(groups.begin(), groups.end(), name) != groups.end()) return false;
+    groups.push_back(name);
+    return true;
+  });
+}
+
+void Glyphorium::removeSelectedGroup(std::string_view named) {
+  changeSelectedGroups([name = lowercased(named)](Names& groups) {
+    std::erase_if(groups, [&](const std::string& group) { return lowercased(group) == name; });
+    return true;
+  });
+}
+
+}  // namespace glyph

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/services/diagnostics/diagnostics.h"
+
+#include <cstdio>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <utility>
+
+namespace glyph {
+namespace {
+
+struct Destination {
+  std::mutex mutex;
+  std::shared_ptr<const DiagnosticsSink> sink;  // none: standard output
+};
+
+Destination& destination() {
+  // Never destroyed: a diagnostic may still come from another global's destructor.
+  static auto* const instance = new Destination;
+  return *instance;
+}
+
+}  // namespace
+
+void setDiagnosticsSink(DiagnosticsSink sink) {
+  auto replacement = sink ? std::make_shared<const DiagnosticsSink>(std::move(sink)) : nullptr;
+  const std::lock_guard lock(destination().mutex);
+  destination().sink.swap(replacement);
+}
+
+void printDiagnostic(std::string_view line) noexcept {
+  try {
+    std::shared_ptr<const DiagnosticsSink> sink;
+    {
+      const std::lock_guard lock(destination().mutex);
+      sink = destination().sink;
+    }
+    // The sink runs without the lock, so it may itself change the sink or print.
+    if (sink) {
+      (*sink)(line);
+      return;
+    }
+    std::string text(line);
+    text += '\n';
+    std::fwrite(text.data(), 1, text.size(), stdout);
+  } catch (...) {  // a diagnostic must never become a failure of what it reports on
+  }
+}
+
+}  // namespace glyph

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/services/pasteboard/pasteboard.h"
+
+#include <utility>
+
+#include "glyphorium/services/pasteboard/desktop_pasteboard.h"
+
+namespace glyph {
+namespace {
+
+struct InPlace {
+  std::mutex mutex;
+  std::shared_ptr<Pasteboard> pasteboard = std::make_shared<DesktopPasteboard>();
+};
+
+InPlace& inPlace() {
+  static auto* const instance = new InPlace;  // never destroyed: a host may copy while it exits
+  return *instance;
+}
+
+}  // namespace
+
+Pasteboard::~Pasteboard() = default;
+
+std::shared_ptr<Pasteboard> pasteboard() {
+  const std::lock_guard lock(inPlace().mutex);
+  return inPlace().pasteboard;
+}
+
+void setPasteboard(std::shared_ptr<Pasteboard> replacement) {
+  if (!replacement) replacement = std::make_shared<DesktopPasteboard>();
+  const std::lock_guard lock(inPlace().mutex);
+  inPlace().pasteboard.swap(replacement);
+}
+
+bool MemoryPasteboard::setPlainText(std::string_view text) {
+  const std::lock_guard lock(mutex_);
+  text_ = text;
+  return true;
+}
+
+std::optional<std::string> MemoryPasteboard::plainText() const {
+  const std::lock_guard lock(mutex_);
+  return text_;
+}
+
+}  // namespace glyph

@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/services/search_index/sqlite_searchable_index.h"
+
+#include <pthread.h>
+#include <signal.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <condition_variable>
+#include <exception>
+#include <iterator>
+#include <list>
+#include <thread>
+#include <utility>
+
+#include "glyphorium/services/search_index/index_store.h"
+
+namespace glyph {
+namespace {
+
+using Error = std::optional<std::string>;
+
+struct Request {
+  SearchableIndexRequest what;
+  SearchableIndex::Completion completion;
+
+  std::size_t items() const { return what.items.size() + what.identifiers.size(); }
+};
+
+void carryOut(const SearchableIndexRequest& request, IndexStore& store) {
+  switch (request.kind) {
+    case SearchableIndexRequest::Kind::indexItems:
+      return store.add(request.items);
+    case SearchableIndexRequest::Kind::deleteItems:
+      return store.remove(request.identifiers);
+    case SearchableIndexRequest::Kind::deleteAllItems:
+      return store.clear();
+  }
+}
+
+// How many waiting requests share a transaction: enough to save most of the commits, few enough for
+// completions to come steadily.
+constexpr std::size_t batchRequests = 256;
+constexpr std::size_t batchItems = 20'000;
+
+void complete(const SearchableIndex::Completion& completion, Error error) noexcept {
+  try {
+    if (completion) completion(std::move(error));
+  } catch (...) {  // the host's own; there is nobody here to tell
+  }
+}
+
+// The host's signal handlers are to run on the host's threads, save those that a fault of this one raises.
+class BlockSignals {
+ public:
+  BlockSignals() {
+    sigset_t blocked;
+    sigfillset(&blocked);
+    for (const int fault : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGTRAP, SIGSYS}) {
+      sigdelset(&blocked, fault);
+    }
+    pthread_sigmask(SIG_SETMASK, &blocked, &before_);
+  }
+  ~BlockSignals() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+  BlockSignals(const BlockSignals&) = delete;
+  BlockSignals& operator=(const BlockSignals&) = delete;
+
+ private:
+  sigset_t before_{};
+};
+
+}  // namespace
+
+// The queue and the thread. The thread shares its ownership, so that an index may be destroyed by a
+// completion.
+class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker> {
+ public:
+  explicit Worker(std::optional<std::filesystem::path> file) : file_(std::move(file)) {}
+
+  void post(Request request) {
+    try {
+      const std::lock_guard lock(mutex_);
+      if (!thread_.joinable()) start();
+      queue_.push_back(std::move(request));
+      pending_.requests += 1;
+      pending_.items += queue_.back().items();
+    } catch (const std::exception& error) {  // no thread or no memory; the request is as it was
+      complete(request.completion, error.what());
+      return;
+    }
+    arrived_.notify_one();
+  }
+
+  bool waitUntilIdle(std::chrono::milliseconds limit, const Progress& progress) {
+    if (process_ != getpid()) return false;  // a forked child has no such thread, and perhaps a locked mutex
+    constexpr std::chrono::milliseconds longest = std::chrono::hours(24 * 365);
+    const auto deadline = std::chrono::steady_clock::now() + std::min(limit, longest);
+    std::unique_lock lock(mutex_);
+    for (std::optional<PendingIndexWork> told;;) {
+      if (progress && told != pending_) {
+        const auto left = pending_;
+        told = left;
+        lock.unlock();
+        progress(left);
+        lock.lock();
+      }
+      if (pending_.requests == 0 && (!progress || told == pending_)) return true;
+      if (std::chrono::steady_clock::now() >= deadline) return false;
+      if (!progress || told == pending_) changed_.wait_until(lock, deadline);
+    }
+  }
+
+  void end(std::chrono::milliseconds limit) {
+    if (process_ != getpid()) {
+      if (thread_.joinable()) thread_.detach();
+      return;
+    }
+    const bool byCompletion = std::this_thread::get_id() == thread_.get_id();
+    if (!byCompletion) waitUntilIdle(limit, {});
+    {
+      const std::lock_guard lock(mutex_);
+      ending_ = true;
+      abandoned_ = !byCompletion;
+    }
+    arrived_.notify_one();
+    if (!thread_.joinable()) return;
+    if (byCompletion) {
+      thread_.detach();
+    } else {
+      thread_.join();
+    }
+  }
+
+ private:
+  void start() {
+    if (!file_) file_ = defaultIndexFile();
+    process_ = getpid();
+    const BlockSignals block;
+    thread_ = std::thread([self = shared_from_this()] { self->run(); });
+  }
+
+  void run() {
+    std::unique_lock lock(mutex_);
+    for (;;) {
+      arrived_.wait(lock, [this] { return ending_ || !queue_.empty(); });
+      if (queue_.empty()) return;
+      std::list<Request> batch;
+      std::size_t items = 0;
+      while (!queue_.empty() && batch.size() < batchRequests && items < batchItems) {
+        items += queue_.front().items();
+        batch.splice(batch.end(), queue_, queue_.begin());
+      }
+      lock.unlock();
+      finish(batch);
+      lock.lock();
+    }
+  }
+
+  void finish(std::list<Request>& batch) {
+    int code = SQLITE_OK;
+    const Error all = perform(batch.begin(), batch.end(), code);
+    // A request that fails takes none of its neighbours with it; what another process holds up, it holds up
+    // for all of them.
+    const bool oneByOne = all && batch.size() > 1 && code != SQLITE_BUSY;
+    for (auto request = batch.begin(); request != batch.end(); ++request) {
+      complete(request->completion, oneByOne ? perform(request, std::next(request), code) : all);
+      const auto items = request->items();
+      *request = {};  // the host's captures end before the request counts as done
+      const std::lock_guard lock(mutex_);
+      pending_.requests -= 1;
+      pending_.items -= items;
+      changed_.notify_all();
+    }
+  }
+
+  using Position = std::list<Request>::iterator;
+
+  // Carries the requests out in one transaction. After an error the file is closed, which takes the
+  // transaction back, and opened again by the next request: whatever was wrong may have passed.
+  Error perform(Position begin, Position end, int& code) noexcept try {
+    if (!file_) return "no home directory is known";
+    try {
+      performOrThrow(begin, end);
+    } catch (const SqliteError& error) {
+      store_.reset();
+      if (!IndexStore::damaged(*file_, error)) throw;
+      IndexStore::empty(*file_, error.what());
+      performOrThrow(begin, end);
+    }
+    return std::nullopt;
+  } catch (const SqliteError& error) {
+    store_.reset();
+    code = error.code();
+    return error.what();
+  } catch (const std::exception& error) {
+    store_.reset();
+    code = SQLITE_ERROR;
+    return error.what();
+  }
+
+  void performOrThrow(Position begin, Position end) {
+    if (store_ && !store_->inPlace()) {
+      store_->forsake();
+      store_.reset();
+    }
+    if (!store_) store_.emplace(*file_, abandoned_);
+    store_->begin();
+    for (auto request = begin; request != end; ++request) carryOut(request->what, *store_);
+    store_->commit();
+  }
+
+  std::mutex mutex_;
+  std::condition_variable arrived_;  // a request, or the end
+  std::condition_variable changed_;  // pending_ did
+  std::list<Request> queue_;
+  PendingIndexWork pending_;
+  bool ending_ = false;
+  std::atomic<bool> abandoned_ = false;
+  std::optional<std::filesystem::path> file_;
+  std::atomic<pid_t> process_ = getpid();
+  std::thread thread_;
+  std::optional<IndexStore> store_;  // the thread's own
+};
+
+SqliteSearchableIndex::SqliteSearchableIndex(std::optional<std::filesystem::path> file)
+    : worker_(std::make_shared<Worker>(std::move(file))) {}
+
+SqliteSearchableIndex::~SqliteSearchableIndex() {
+  worker_->end(std::chrono::seconds(5));
+}
+
+void SqliteSearchableIndex::indexItems(std::vector<SearchableItem> items, Completion completion) {
+  worker_->post({{SearchableIndexRequest::Kind::indexItems, std::move(items), {}}, std::move(completion)});
+}
+
+void SqliteSearchableIndex::deleteItems(std::vector<std::string> identifiers, Completion completion) {
+  worker_->post(
+      {{SearchableIndexRequest::Kind::deleteItems, {}, std::move(identifiers)}, std::move(completion)});
+}
+
+void SqliteSearchableIndex::deleteAllItems(Completion completion) {
+  worker_->post({{SearchableIndexRequest::Kind::deleteAllItems, {}, {}}, std::move(completion)});
+}
+
+bool SqliteSearchableIndex::waitUntilIdle(std::chrono::milliseconds limit, const Progress& progress) {
+  return worker_->waitUntilIdle(limit, progress);
+}
+
+}  // namespace glyph

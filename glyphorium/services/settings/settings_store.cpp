@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/services/settings/settings_store.h"
+
+#include <mutex>
+#include <utility>
+
+#include "glyphorium/services/settings/sqlite_settings_store.h"
+
+namespace glyph {
+namespace {
+
+struct Place {
+  std::mutex mutex;
+  std::shared_ptr<SettingsStore> store;
+};
+
+Place& place() {
+  static auto* const instance = new Place;  // never destroyed: settings may be saved while the process ends
+  return *instance;
+}
+
+}  // namespace
+
+SettingsStore::~SettingsStore() = default;
+
+void SettingsStore::update(std::string_view key, const Change& change) {
+  if (std::optional<SettingValue> value = change(object(key))) {
+    set(key, *std::move(value));
+    synchronize();
+  }
+}
+
+std::shared_ptr<SettingsStore> settingsStore() {
+  // At the end of the process the file is closed, so that it lies there complete, with no log beside it.
+  // Whoever uses the settings still later opens it again.
+  static const struct AtExit {
+    ~AtExit() { setSettingsStore(nullptr); }
+  } atExit;
+  const std::lock_guard lock(place().mutex);
+  if (!place().store) place().store = std::make_shared<SqliteSettingsStore>();
+  return place().store;
+}
+
+void setSettingsStore(std::shared_ptr<SettingsStore> store) {
+  const std::lock_guard lock(place().mutex);
+  place().store.swap(store);  // the one before ends after the lock
+}
+
+}  // namespace glyph

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/state/selected_entities.h"
+
+#include <thread>
+
+#include "glyphorium/data/embedded_texts.h"
+#include "glyphorium/services/pasteboard/desktop_pasteboard.h"
+#include "glyphorium/toolkit/entity_tool_kit.h"
+#include "tests/support/catalog_fixture.h"
+
+namespace glyph {
+namespace {
+
+using testing::ElementsAre;
+
+using Configure = CatalogFixture;
+using SelectedEntitiesTest = CatalogFixture;
+
+TEST_F(Configure, FillsTheCatalogTheSameWayEachTime) {
+  Glyphorium catalog;
+  catalog.configure();  // for a fresh user, who sees the added characters only
+  EXPECT_THAT(taken(), ElementsAre("didSet ↘ allBuildInEntities '17532'", "didSet ↘ allCustomEntities '0'",
+                                   "didSet ↘ allEntityGroupNamesWithCount '112'", "contentHasChanged 0"));
+  EXPECT_FALSE(stored("displayedGroups"));
+
+  store("displayedGroups", Names{"custom", "SF symbols", "arrows"});
+  store("customAddedEntities", Names{"2190"});
+  for (int run = 0; run < 2; ++run) {
+    catalog.configure();
+    EXPECT_THAT(taken(),
+                ElementsAre("didSet ↘ allBuildInEntities '17532'", "didSet ↘ allCustomEntities '1'",
+                            "didSet ↘ allEntityGroupNamesWithCount '113'", "contentHasChanged 1195"));
+    EXPECT_EQ(catalog.buildInEntities().front().computed.hex, "0020");
+    EXPECT_EQ(catalog.buildInEntities().back().computed.hex, "1006e2");
+    EXPECT_EQ(selectedEntities()->front().computed.group, "custom");
+    EXPECT_EQ(catalog.allEntityGroupNamesWithCount->at("custom"), 1);
+    const std::vector<std::string>& groups = allBuildInEntityGroups();
+    ASSERT_EQ(groups.size(), 113u);
+    EXPECT_THAT(Names(groups.begin(), groups.begin() + 6),
+                ElementsAre("custom", "digital typography (latin)", "design inspiration", "emoji",
+                            "SF Symbols", "aegean numbers"));
+    EXPECT_EQ(groups.back(), "yijing hexagram symbols");
+  }
+  store("customAddedEntities", Names());
+  catalog.configure();
+  EXPECT_EQ(catalog.allEntityGroupNamesWithCount->count("custom"), 0u);
+  EXPECT_EQ(allBuildInEntityGroups().front(), "custom");
+
+  // The counts are those of the tables.
+  for (const EmbeddedText& text : embeddedTexts()) {
+    if (text.configured) {
+      EXPECT_EQ(catalog.allEntityGroupNamesWithCount->at(std::string(text.group)), text.rows);
+    }
+  }
+}
+
+TEST(Globals, AreCreatedOnceByWhicheverThreadComesFirst) {
+  using Global = const void* (*)();
+  const Global globals[] = {
+      []() -> const void* { return &glyphorium(); }, []() -> const void* { return &selectedEntities(); },
+      []() -> const void* { return &toolKit(); }, []() -> const void* { return settingsStore().get(); },
+      []() -> const void* { return searchableIndex().get(); }};
+  std::vector<std::thread> threads;
+  std::vector<const void*> seen(20);
+  for (std::size_t i = 0; i < seen.size(); ++i) {
+    threads.emplace_back([&, i] { seen[i] = globals[i % 5](); });
+  }
+  for (std::thread& thread : threads) thread.join();
+  for (std::size_t i = 0; i < seen.size(); ++i) EXPECT_EQ(seen[i], globals[i % 5]());
+}
+
+TEST_F(SelectedEntitiesTest, KeepsEachCodePointOfTheEarliestGroupInCodePointOrder) {
+  Glyphorium catalog;
+  // "hex group" each. The last ones are dropped whatever their groups: forbidden ones in any case, not
+  // displayable ones in lower case only.
+  std::vector<Entity> entities;
+  for (const std::string text :
+       {"2190 custom", "00e9 Latin", "00E9 latin", "0041 latin", "2190 arrows", "0041 LATIN", "2192 arrows",
+        "1f600 emoji", "534D latin", "5350 latin", "0FD5 latin", "2028 latin", "200e latin", "27CE latin"}) {
+    const std::size_t space = text.find(' ');
+    entities.push_back(Unicode(text.substr(0, space)).computedEntity().generateEntity());
+    entities.back().computed.group = text.substr(space + 1);
+  }
+  catalog.allCustomEntities = entities;
+  const auto built = [&](const Names& groups) {
+    store("displayedGroups", groups);
+    catalog.setSelectedEntities();
+    Names result;
+    for (const Entity& one : *selectedEntities()) {
+      result.push_back(one.computed.hex + " " + one.computed.group);
+    }
+    return result;
+  };
+  const struct {
+    Names groups, found;
+  } cases[] = {
+      {{"custom", "arrows"}, {"2190 custom", "2192 arrows"}},
+      {{"arrows", "custom"}, {"2190 arrows", "2192 arrows"}},
+      {{"ARROWS", "Arrows"}, {"2190 arrows", "2192 arrows"}},
+      {{"emoji", "arrows"}, {"2190 arrows", "2192 arrows", "1f600 emoji"}},
+      {{"laTin"}, {"0041 latin", "00e9 Latin", "00E9 latin", "27CE latin", "534D latin"}},
+      {{"no such group", ""}, {}},
+      {{}, {}},
+  };
+  for (const auto& [groups, found] : cases) EXPECT_EQ(built(groups), found);
+  catalog.forbiddenUnicodes = {"2192", "1F600"};
+  EXPECT_THAT(built({"arrows", "emoji"}), ElementsAre("2190 arrows"));
+}
+
+TEST_F(SelectedEntitiesTest, AnEmptyCatalogAsksTheStoreNothing) {
+  Glyphorium catalog;
+  catalog.setSelectedEntities();
+  EXPECT_EQ(settings->reads, 0);
+  EXPECT_THAT(taken(), ElementsAre("contentHasChanged 0"));
+}
+
+TEST_F(SelectedEntitiesTest, EveryAssignmentPostsOnce) {
+  selectedEntities() = std::vector<Entity>(2);
+  selectedEntities() = selectedEntities().get();
+  selectedEntities().modify([](auto& entities) { entities.clear(); });
+  toolKit().sendContentHasChangedNotification();
+  EXPECT_THAT(taken(), ElementsAre("contentHasChanged 2", "contentHasChanged 2", "contentHasChanged 0",
+                                   "contentHasChanged 0"));
+  EXPECT_EQ(filteredEntities(), std::nullopt);
+}
+
+TEST_F(SelectedEntitiesTest, CopiesReachTheClipboardAndAreAnnounced) {
+  Names announced;
+  const auto copies = NotificationCenter::defaultCenter().addObserver(
+      notificationName::entityCopied,
+      [&](const Notification& copy) { announced.push_back(copy.object.value()); });
+  toolKit().writeToPasteboard("→");
+  toolKit().writeToPasteboard("→", "");
+  toolKit().writeToPasteboard("&rarr;", "arrow");
+  toolKit().writeToPasteboard("");
+  EXPECT_THAT(announced, ElementsAre("→", "", "arrow", ""));
+  EXPECT_EQ(clipboard->plainText(), "");
+  EXPECT_THAT(taken(), ElementsAre());
+  setPasteboard(nullptr);
+  EXPECT_NE(dynamic_cast<DesktopPasteboard*>(pasteboard().get()), nullptr);
+}
+
+}  // namespace
+}  // namespace glyph

@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/services/pasteboard/pasteboard.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <poll.h>
+#include <signal.h>
+#include <stdlib.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+
+#include <thread>
+
+#include "glyphorium/services/pasteboard/desktop_pasteboard.h"
+#include "glyphorium/services/pasteboard/terminal_pasteboard.h"
+#include "tests/support/program.h"
+#include "tests/support/recorded_diagnostics.h"
+#include "tests/support/sandbox.h"
+
+namespace glyph {
+namespace {
+
+using namespace std::chrono_literals;
+using namespace std::string_literals;
+using testing::AllOf;
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::SizeIs;
+
+// Ended, or a zombie that nobody has reaped yet.
+bool gone(const std::string& process) {
+  const std::string status = fileContent("/proc/" + process + "/stat");
+  return status.empty() || status.find(") Z ") != std::string::npos;
+}
+
+// What old kernels and some sandboxes do.
+void forbidPidfd() {
+  sock_filter program[] = {
+      BPF_STMT(BPF_LD | BPF_W | BPF_ABS, 0), BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_pidfd_open, 0, 1),
+      BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | ENOSYS), BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW)};
+  const sock_fprog filter{4, program};
+  prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
+  prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter);
+}
+
+TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
+  // What a stand-in for a clipboard program does with the text; each first logs its name.
+  const std::string take = "/bin/cat >\"$DIR/text\"\n", fail = "exit 1\n";
+  const std::string hang = "/bin/sleep 1000 & echo $! >\"$DIR/process\"; wait\n";
+  const std::string stubborn = "trap '' TERM INT HUP\n" + hang;
+  const std::string flood = "echo $$ >\"$DIR/process\"; while :; do echo y; echo y >&2; done\n";
+  const std::string missing, x = "x", w = "w", gnome = "ubuntu:GNOME", sway = "sway";
+  const struct {
+    std::string display, waylandDisplay, desktop, xclip, wlCopy, xsel, text;
+    bool taken;
+    std::string asked, problem;
+  } cases[] = {
+      {x, "", "", take, take, take, "→", true, "xclip ", ""},
+      {"", w, "", take, take, take, "→", true, "wl-copy ", ""},
+      {x, w, sway, take, take, take, "→", true, "wl-copy ", ""},
+      {x, w, gnome, take, take, take, "→", true, "xclip ", ""},
+      {x, w, gnome, fail, take, take, "→", true, "xclip wl-copy ", ""},
+      {x, w, sway, take, missing, missing, "", true, "xclip ", ""},
+      {x, "", gnome, missing, take, take, "→\n", true, "xsel ", ""},
+      {x, "", "", fail, take, take, "", false, "xclip ", "xclip: exit code 1"},
+      {x, "", "", missing, take, take, "a\0b"s, false, "", "xclip: not installed"},
+      {x, w, sway, missing, missing, take, "→", false, "", "wl-copy: not installed, xclip: not installed"},
+      {"", "", gnome, take, take, take, "→", false, "", "neither WAYLAND_DISPLAY nor DISPLAY"},
+      {x, "", "", hang, take, take, "→", false, "xclip ", "xclip: no answer in time"},
+      {x, w, sway, take, stubborn, take, "→", false, "wl-copy ", "wl-copy: no answer in time"},
+      {x, "", "", flood, take, take, "→", false, "xclip ", "xclip: no answer in time"},
+      {x, "", "", take, take, take, std::string(3'000'000, 'y'), true, "xclip ", ""},
+  };
+  for (const bool pidfd : {true, false}) {
+    for (const auto& row : cases) {
+      SCOPED_TRACE(row.display + row.waylandDisplay + row.desktop + " " + row.asked + row.problem);
+      const TemporaryDirectory directory;
+      for (const auto& [name, body] :
+           {std::pair{"xclip", row.xclip}, {"wl-copy", row.wlCopy}, {"xsel", row.xsel}}) {
+        if (body != missing)
+          writeProgram(directory / name, "printf '"s + name + " ' >>\"$DIR/log\"\n" + body);
+      }
+      const ScopedVariable variables[] = {{"PATH", directory / ""},
+                                          {"DIR", directory / ""},
+                                          {"DISPLAY", row.display},
+                                          {"WAYLAND_DISPLAY", row.waylandDisplay},
+                                          {"XDG_CURRENT_DESKTOP", row.desktop}};
+      RecordedDiagnostics diagnostics;
+      const bool hangs = row.problem.find("in time") != std::string::npos;
+      DesktopPasteboard pasteboard(hangs ? 1s : 20s);
+      if (pidfd) {
+        EXPECT_EQ(pasteboard.setPlainText(row.text), row.taken);
+        EXPECT_THAT(diagnostics.take(), AllOf(SizeIs(row.taken ? 0 : 1), Each(HasSubstr(row.problem))));
+      } else {
+        EXPECT_EQ(inChild([&] { return forbidPidfd(), pasteboard.setPlainText(row.text); }), row.taken);
+      }
+      EXPECT_EQ(fileContent(directory / "log"), row.asked);
+      EXPECT_EQ(fileContent(directory / "text"), row.taken ? row.text : "");
+      if (hangs) {
+        std::string process = fileContent(directory / "process");
+        ASSERT_FALSE(process.empty());
+        process.pop_back();
+        EXPECT_TRUE(eventually([&] { return gone(process); }));
+      }
+    }
+  }
+}
+
+TEST(DesktopPasteboard, WhatStaysBehindHoldsNothingOfTheHost) {
+  const TemporaryDirectory directory;
+  writeProgram(directory / "xclip", "/bin/sleep 1000 & echo $! >\"$DIR/process\"\n");
+  const ScopedVariable variables[] = {
+      {"PATH", directory / ""}, {"DIR", directory / ""}, {"DISPLAY", "x"}, {"WAYLAND_DISPLAY", {}}};
+  int ends[2];
+  ASSERT_EQ(pipe(ends), 0);  // inheritable, as a host's descriptors often are
+  const auto before = signal(SIGCHLD, SIG_IGN);
+  EXPECT_TRUE(DesktopPasteboard(20s).setPlainText("→"));
+  signal(SIGCHLD, before);
+  close(ends[1]);
+  pollfd end{ends[0], POLLIN, 0};
+  EXPECT_EQ(poll(&end, 1, 10'000), 1) << "the pipe's other end is still open somewhere";
+  close(ends[0]);
+  const pid_t sleeper = std::stoi(fileContent(directory / "process"));
+  EXPECT_EQ(getsid(sleeper), getpgid(sleeper));
+  EXPECT_NE(getsid(sleeper), getsid(0));
+  kill(sleeper, SIGKILL);
+}
+
+std::string output(const std::string& command) {
+  return runProgram("exec 2>/dev/null; " + command).output;
+}
+
+// A display server of this test's own.
+class Server {
+ public:
+  explicit Server(const std::string& command) : process_(fork()) {
+    if (process_ == 0) {
+      execl("/bin/sh", "sh", "-c", ("exec " + command).c_str(), nullptr);
+      _exit(127);
+    }
+  }
+  ~Server() {
+    kill(process_, SIGCONT);
+    kill(process_, SIGTERM);
+    waitpid(process_, nullptr, 0);
+  }
+  Server(const Server&) = delete;
+  Server& operator=(const Server&) = delete;
+  void freeze() const { kill(process_, SIGSTOP); }
+
+ private:
+  pid_t process_;
+};
+
+// Copies in a process that has ended before the text is read.
+void copyAndEnd(const std::string& text) {
+  EXPECT_EQ(inChild([&] { return DesktopPasteboard(60s).setPlainText(text) ? 0 : 1; }), 0);
+}
+
+// By what other programs are told and given; in the end the server hangs.
+void exchangeTexts(const Server& server, const std::string& list, const testing::Matcher<std::string>& types,
+                   const std::string& paste) {
+  const std::string large(10'000'000, 'm');
+  for (const auto& text : {"→ °C 😀"s, ""s, "a\0b"s, "two\nlines\n"s, large, "&#x2192;"s}) {
+    copyAndEnd(text);
+    EXPECT_THAT(output(list), types);
+    EXPECT_TRUE(output(paste) == text) << text.substr(0, 20);
+  }
+  RecordedDiagnostics diagnostics;
+  server.freeze();
+  EXPECT_FALSE(DesktopPasteboard(500ms).setPlainText("never arrives"));
+  EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("no answer in time")));
+}
+
+TEST(DesktopPasteboard, TextOutlivesItsWriterUnderX11) {
+  if (!isInstalled("Xvfb") || !isInstalled("xclip")) GTEST_SKIP() << "needs Xvfb and xclip";
+  const TemporaryDirectory directory;
+  const std::string number = directory / "display";
+  const Server server("Xvfb -displayfd 7 -screen 0 640x480x24 -nolisten tcp -noreset 7>" + number +
+                      " >/dev/null 2>&1");
+  ASSERT_TRUE(eventually([&] { return fileContent(number).ends_with('\n'); }));
+  const ScopedVariable variables[] = {{"DISPLAY", ":" + std::to_string(std::stoi(fileContent(number)))},
+                                      {"WAYLAND_DISPLAY", {}}};
+  if (isInstalled("xsel")) {
+    const auto bin = directory / "bin";
+    std::filesystem::create_directory(bin);
+    std::filesystem::create_symlink(output("printf %s \"$(command -v xsel)\""), bin / "xsel");
+    {
+      const ScopedVariable onlyXsel("PATH", bin);
+      copyAndEnd("by xsel →\n");
+    }
+    // xsel detaches itself a moment before the clipboard is its own.
+    EXPECT_TRUE(eventually([] { return output("xclip -selection clipboard -o") == "by xsel →\n"; }));
+  }
+  exchangeTexts(server, "xclip -selection clipboard -o -t TARGETS", "TARGETS\nUTF8_STRING\n",
+                "xclip -selection clipboard -o");
+  const ScopedVariable nowhere("DISPLAY", ":987654");
+  EXPECT_FALSE(DesktopPasteboard(20s).setPlainText("never arrives"));
+}
+
+TEST(DesktopPasteboard, TextOutlivesItsWriterUnderWayland) {
+  if (!isInstalled("sway") || !isInstalled("wl-copy")) GTEST_SKIP() << "needs sway and wl-clipboard";
+  const TemporaryDirectory directory;
+  const std::filesystem::path runtime = directory / "runtime", configuration = directory / "config";
+  chmod((directory / "").c_str(), 0755);
+  std::filesystem::create_directory(runtime);
+  chmod(runtime.c_str(), 0700);
+  writeFile(configuration, "xwayland disable\n");
+  // The compositor refuses to run as root, but lets root's programs connect.
+  std::string asNobody;
+  if (getuid() == 0) {
+    ASSERT_EQ(chown(runtime.c_str(), 65534, 65534), 0);
+    asNobody = "setpriv --reuid=65534 --regid=65534 --clear-groups ";
+  }
+  const ScopedVariable variables[] = {{"XDG_RUNTIME_DIR", runtime},     {"DISPLAY", {}},
+                                      {"WAYLAND_DISPLAY", {}},          {"WLR_BACKENDS", "headless"},
+                                      {"WLR_LIBINPUT_NO_DEVICES", "1"}, {"WLR_RENDERER", "pixman"},
+                                      {"HOME", "/nonexistent"}};
+  const Server server(asNobody + "sway -c " + configuration.string() + " >/dev/null 2>&1");
+  ASSERT_TRUE(eventually([&] { return std::filesystem::exists(runtime / "wayland-1"); }));
+  const ScopedVariable display("WAYLAND_DISPLAY", "wayland-1");
+  exchangeTexts(server, "wl-paste -l", HasSubstr("text/plain;charset=utf-8\n"), "wl-paste -n");
+}
+
+TEST(TerminalPasteboard, AsksTheTerminalForWhatItCanTake) {
+  const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
+  ASSERT_TRUE(terminal >= 0 && grantpt(terminal) == 0 && unlockpt(terminal) == 0);
+  const std::string device = ptsname(terminal);
+  const int keptOpen = open(device.c_str(), O_RDWR | O_NOCTTY);
+  TerminalPasteboard pasteboard(device);
+  const auto sequence = [&](const std::string& text) {
+    std::string received;
+    std::thread reader([&] {
+      for (char c = 0; c != '\a' && read(terminal, &c, 1) == 1;) received += c;
+    });
+    EXPECT_TRUE(pasteboard.setPlainText(text));
+    reader.join();
+    return received;
+  };
+  EXPECT_EQ(sequence("→"), "\033]52;c;4oaS\a");
+  EXPECT_EQ(sequence("\xff"), "\033]52;c;/w==\a");
+  EXPECT_EQ(sequence(std::string(74'000, 'a')).size(), 8u + 98'668u);
+
+  RecordedDiagnostics diagnostics;
+  EXPECT_FALSE(pasteboard.setPlainText(""));
+  EXPECT_FALSE(pasteboard.setPlainText(std::string(74'001, 'a')));
+  EXPECT_FALSE(pasteboard.setPlainText(std::string(74'000, 'a'))) << "nobody reads";
+  EXPECT_FALSE(TerminalPasteboard("/nonexistent").setPlainText("→"));
+  EXPECT_EQ(diagnostics.take().size(), 4u);
+  close(keptOpen);
+  close(terminal);
+}
+
+}  // namespace
+}  // namespace glyph
