@@ -4,11 +4,12 @@
 #include <malloc.h>
 #include <simdjson.h>
 
-#include "glyphorium/catalog/decoding_and_joining.h"
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/data/name_table.h"
 #include "glyphorium/entity/decoding.h"
+#include "glyphorium/entity/enrichment.h"
+#include "glyphorium/entity/table_repair.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace {

@@ -6,6 +6,7 @@
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/data/name_table.h"
 #include "glyphorium/entity/codec.h"
+#include "glyphorium/state/structured_unicodes.h"
 #include "lookup.h"
 
 namespace cli {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "glyphorium/catalog/decoding_and_joining.h"
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/entity/decoding.h"
+#include "glyphorium/entity/enrichment.h"
+#include "glyphorium/entity/table_repair.h"
 #include "glyphorium/services/diagnostics/diagnostics.h"
 
 namespace glyph {

@@ -6,6 +6,7 @@
 #include "glyphorium/catalog/fixed_lists.h"
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/text/never_destroyed.h"
 
 namespace glyph {
 namespace {
@@ -13,10 +14,6 @@ namespace {
 void printChange(const char* field, std::size_t count) {
   printDiagnostic(std::string("didSet ↘ ") + field + " '" + std::to_string(count) + "'");
 }
-
-}  // namespace
-
-namespace catalog_observers {
 
 void allBuildInEntitiesDidSet(const std::vector<Entity>& entities) {
   printChange("allBuildInEntities", entities.size());
@@ -31,31 +28,47 @@ void selectedGroupsHadChangedDidSet(const bool& value) {
   printDiagnostic(value ? "selectedGroupsHadChanged true" : "selectedGroupsHadChanged false");
 }
 
-}  // namespace catalog_observers
+}  // namespace
 
 Glyphorium::Glyphorium()
     : forbiddenUnicodes(initialForbiddenUnicodes.begin(), initialForbiddenUnicodes.end()),
-      notDisplayableUnicodes_(initialNotDisplayableUnicodes.begin(), initialNotDisplayableUnicodes.end()) {
+      allCustomEntities(&allCustomEntitiesDidSet),
+      allEntityGroupNamesWithCount(&allEntityGroupNamesWithCountDidSet),
+      selectedGroupsHadChanged(&selectedGroupsHadChangedDidSet),
+      notDisplayableUnicodes_(initialNotDisplayableUnicodes.begin(), initialNotDisplayableUnicodes.end()),
+      allBuildInEntities_(&allBuildInEntitiesDidSet) {
   for (const EmbeddedText& text : embeddedTexts()) {
     if (text.configured) entityData_.push_back(text.text);
   }
 }
 
+Glyphorium::Glyphorium(const Glyphorium& other) : Glyphorium() {
+  *this = other;
+}
+
+Glyphorium::~Glyphorium() = default;
+
 Glyphorium& Glyphorium::operator=(const Glyphorium& other) {
-  Glyphorium copy(other);  // all that can fail, before anything changes
-  forbiddenUnicodes.swap(copy.forbiddenUnicodes);
-  allCustomEntities.assignSilently(std::move(copy.allCustomEntities));
-  allEntityGroupNamesWithCount.assignSilently(std::move(copy.allEntityGroupNamesWithCount));
-  selectedGroupsHadChanged.assignSilently(std::move(copy.selectedGroupsHadChanged));
-  entityData_.swap(copy.entityData_);
-  notDisplayableUnicodes_.swap(copy.notDisplayableUnicodes_);
-  allBuildInEntities_.assignSilently(std::move(copy.allBuildInEntities_));
+  // First all that can run out of memory, then what cannot fail: the catalog is as before or complete.
+  auto forbidden = other.forbiddenUnicodes;
+  auto custom = other.allCustomEntities.get();
+  auto counts = other.allEntityGroupNamesWithCount.get();
+  auto tables = other.entityData_;
+  auto notDisplayable = other.notDisplayableUnicodes_;
+  auto buildIn = other.allBuildInEntities_.get();
+  forbiddenUnicodes = std::move(forbidden);
+  allCustomEntities.assignSilently(std::move(custom));
+  allEntityGroupNamesWithCount.assignSilently(std::move(counts));
+  selectedGroupsHadChanged.assignSilently(other.selectedGroupsHadChanged);
+  entityData_ = std::move(tables);
+  notDisplayableUnicodes_ = std::move(notDisplayable);
+  allBuildInEntities_.assignSilently(std::move(buildIn));
   return *this;
 }
 
 std::vector<std::string> Glyphorium::getBuildInEntityGroups() {
   std::vector<std::string> names;
-  for (const Entity& entity : allBuildInEntities_.get()) {
+  for (const Entity& entity : allBuildInEntities_) {
     const std::string& group = entity.computed.group;
     // Rows of a group stand together, so nearly all repeats end here.
     if (names.empty() || names.back() != group) names.push_back(group);
@@ -88,13 +101,13 @@ void Glyphorium::setEntityGroupNamesWithCount() {
 }
 
 Glyphorium& glyphorium() {
-  static Glyphorium instance;
-  return instance;
+  static NeverDestroyed<Glyphorium> instance;
+  return *instance;
 }
 
 std::vector<std::string>& allBuildInEntityGroups() {
-  static std::vector<std::string> groups;
-  return groups;
+  static NeverDestroyed<std::vector<std::string>> groups;
+  return *groups;
 }
 
 }  // namespace glyph

@@ -13,17 +13,9 @@
 #include "glyphorium/entity/records.h"
 #include "glyphorium/export.h"
 #include "glyphorium/state/observed.h"
-#include "glyphorium/state/user_influenced_entity_key.h"
+#include "glyphorium/state/settings_keys.h"
 
 namespace glyph {
-
-namespace catalog_observers {
-// Each prints one diagnostic line that names the field and counts its elements.
-GLYPHORIUM_EXPORT void allBuildInEntitiesDidSet(const std::vector<Entity>& entities);
-GLYPHORIUM_EXPORT void allCustomEntitiesDidSet(const std::vector<Entity>& entities);
-GLYPHORIUM_EXPORT void allEntityGroupNamesWithCountDidSet(const std::map<std::string, std::int64_t>& counts);
-GLYPHORIUM_EXPORT void selectedGroupsHadChangedDidSet(const bool& value);
-}  // namespace catalog_observers
 
 /// The character catalog: a value, of which glyphorium() is the shared instance. No operation throws or
 /// reports an error; bad input gives the neutral value named with the operation, and what went wrong is a
@@ -45,22 +37,25 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   using GroupCounts = std::map<std::string, std::int64_t>;
 
   Glyphorium();
-  Glyphorium(const Glyphorium&) = default;
-  Glyphorium(Glyphorium&&) noexcept = default;
+  // Copying prints nothing. There is no move: moving from glyphorium() would silently empty it.
+  Glyphorium(const Glyphorium& other);
   Glyphorium& operator=(const Glyphorium& other);
-  ~Glyphorium() = default;
+  ~Glyphorium();
 
   /// Code points, in hexadecimal, that selectedEntities() never shows; letter case does not count.
   std::vector<std::string> forbiddenUnicodes;
 
   /// The characters that the user added, in the order added; filled by configure().
-  Observed<std::vector<Entity>, catalog_observers::allCustomEntitiesDidSet> allCustomEntities;
+  /// Every change prints one diagnostic line with the number of elements.
+  Observed<std::vector<Entity>> allCustomEntities;
 
-  Observed<GroupCounts, catalog_observers::allEntityGroupNamesWithCountDidSet> allEntityGroupNamesWithCount;
+  /// How many entities each group has, filled by configure(); [] gives 0 for a group without entities. Every
+  /// change prints one diagnostic line with the number of groups.
+  Observed<GroupCounts> allEntityGroupNamesWithCount;
 
-  /// Raised by every write of the displayed groups; the host lowers it. Every assignment prints a diagnostic
-  /// line.
-  Observed<bool, catalog_observers::selectedGroupsHadChangedDidSet> selectedGroupsHadChanged;
+  /// Raised by every write of the displayed groups; the host lowers it. Every assignment prints one
+  /// diagnostic line with the value.
+  Observed<bool> selectedGroupsHadChanged;
 
   /// The entities of all configured tables, in their order, each with its enrichment; empty before
   /// configure().
@@ -132,7 +127,7 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   std::vector<std::string_view> entityData_;  // the texts of the configured group tables
   std::vector<std::string>
       notDisplayableUnicodes_;  // dropped from selectedEntities() like the forbidden ones
-  Observed<std::vector<Entity>, catalog_observers::allBuildInEntitiesDidSet> allBuildInEntities_;
+  Observed<std::vector<Entity>> allBuildInEntities_;
 };
 
 /// The shared catalog, created with its fixed lists on first use; that is safe from several threads at once.
@@ -146,8 +141,5 @@ GLYPHORIUM_EXPORT std::optional<Entity> buildInEntity(std::size_t place);
 /// The group names in display order: "custom", the three curated groups, then the others ascending. Empty
 /// until configure() fills it.
 GLYPHORIUM_EXPORT std::vector<std::string>& allBuildInEntityGroups();
-
-/// The group of the characters that the user added.
-inline constexpr std::string_view customGroup = "custom";
 
 }  // namespace glyph

@@ -5,7 +5,6 @@
 #include <cstdint>
 
 #include "glyphorium/data/embedded_image.h"
-#include "glyphorium/entity/decoding.h"
 #include "glyphorium/text/ascii.h"
 
 namespace glyph {
@@ -21,17 +20,6 @@ std::optional<std::uint32_t> canonicalCodePoint(std::string_view hex) noexcept {
 
 std::string_view structuredUnicodeJSON() noexcept {
   return structuredUnicodeJsonText;
-}
-
-std::vector<RawUnicodeEntity>& structuredUnicodes() {
-  static std::vector<RawUnicodeEntity> entries;
-  return entries;
-}
-
-void loadStructuredUnicodes() {
-  if (auto entries = decodeOrReport<RawUnicodeEntity>(structuredUnicodeJSON())) {
-    structuredUnicodes() = std::move(*entries);
-  }
 }
 
 std::optional<NameTableEntry> findName(std::string_view hex) noexcept {

@@ -3,9 +3,7 @@
 
 #include <optional>
 #include <string_view>
-#include <vector>
 
-#include "glyphorium/entity/records.h"
 #include "glyphorium/export.h"
 
 namespace glyph {
@@ -13,14 +11,6 @@ namespace glyph {
 /// The Unicode name table: a JSON array of 35,469 RawUnicodeEntity objects, first the 33,797 entries of the
 /// Unicode 13.0 character data file in its order, then the 1,672 SF Symbols. U+100000 stands in both.
 GLYPHORIUM_EXPORT std::string_view structuredUnicodeJSON() noexcept;
-
-/// The host's decoded name table: empty until loadStructuredUnicodes() fills it, for the host to read and
-/// write from one thread at a time. Nothing else in the library uses it.
-GLYPHORIUM_EXPORT std::vector<RawUnicodeEntity>& structuredUnicodes();
-
-/// Decodes the name table and replaces the whole of structuredUnicodes() with it. On a decoding error prints
-/// the error as one diagnostic line and leaves it as it was.
-GLYPHORIUM_EXPORT void loadStructuredUnicodes();
 
 /// An entry of the name table as stored.
 struct NameTableEntry {

@@ -1,21 +1,31 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <concepts>
 #include <memory>
 #include <optional>
 #include <utility>
 
 namespace glyph {
 
-/// An optional value that stands outside its owner: copied with it, like std::optional, but as small as a
-/// pointer while it is absent. For what most owners of a long list do not have.
+/// A std::optional whose value stands outside of its owner, so that it is as small as a pointer while it is
+/// absent: for a field that most owners in a long list do not have. It answers as std::optional does, value()
+/// of an absent value included, which throws std::bad_optional_access. Unlike it, a moved-from BoxedOptional
+/// is absent.
 template <class T>
 class BoxedOptional {
  public:
+  using value_type = T;
+
   BoxedOptional() noexcept = default;
   BoxedOptional(std::nullopt_t) noexcept {}  // NOLINT: converts like std::optional
-  BoxedOptional(T value)
-      : box_(std::make_unique<T>(std::move(value))) {}  // NOLINT: converts like std::optional
+  BoxedOptional(T value)                     // NOLINT: converts like std::optional
+      : box_(std::make_unique<T>(std::move(value))) {}
+  BoxedOptional(std::optional<T> value)  // NOLINT: converts like std::optional
+      : box_(value ? std::make_unique<T>(*std::move(value)) : nullptr) {}
+  template <class... Arguments>
+  explicit BoxedOptional(std::in_place_t, Arguments&&... arguments)
+      : box_(std::make_unique<T>(std::forward<Arguments>(arguments)...)) {}
   BoxedOptional(const BoxedOptional& other) : box_(other ? std::make_unique<T>(*other) : nullptr) {}
   BoxedOptional(BoxedOptional&&) noexcept = default;
   ~BoxedOptional() = default;
@@ -27,20 +37,51 @@ class BoxedOptional {
 
   bool has_value() const noexcept { return box_ != nullptr; }
   explicit operator bool() const noexcept { return has_value(); }
-  T& operator*() noexcept { return *box_; }
-  const T& operator*() const noexcept { return *box_; }
+  T& operator*() & noexcept { return *box_; }
+  const T& operator*() const& noexcept { return *box_; }
+  T&& operator*() && noexcept { return std::move(*box_); }
   T* operator->() noexcept { return box_.get(); }
   const T* operator->() const noexcept { return box_.get(); }
 
-  /// A new value made of the arguments in the place of what there was.
+  T& value() & { return present(*this); }
+  const T& value() const& { return present(*this); }
+  T&& value() && { return std::move(present(*this)); }
+
+  template <class Default>
+  T value_or(Default&& otherwise) const& {
+    return box_ ? *box_ : static_cast<T>(std::forward<Default>(otherwise));
+  }
+  template <class Default>
+  T value_or(Default&& otherwise) && {
+    return box_ ? std::move(*box_) : static_cast<T>(std::forward<Default>(otherwise));
+  }
+
+  /// Replaces the value by a new one made of the arguments.
   template <class... Arguments>
   T& emplace(Arguments&&... arguments) {
     box_ = std::make_unique<T>(std::forward<Arguments>(arguments)...);
     return *box_;
   }
   void reset() noexcept { box_.reset(); }
+  void swap(BoxedOptional& other) noexcept { box_.swap(other.box_); }
+  friend void swap(BoxedOptional& a, BoxedOptional& b) noexcept { a.swap(b); }
+
+  friend bool operator==(const BoxedOptional& a,
+                         const BoxedOptional& b) requires std::equality_comparable<T> {
+    return a && b ? *a == *b : a.has_value() == b.has_value();
+  }
+  friend bool operator==(const BoxedOptional& a, const T& b) requires std::equality_comparable<T> {
+    return a && *a == b;
+  }
+  friend bool operator==(const BoxedOptional& a, std::nullopt_t) noexcept { return !a.has_value(); }
 
  private:
+  template <class Self>
+  static auto& present(Self& self) {
+    if (!self.box_) throw std::bad_optional_access();
+    return *self.box_;
+  }
+
   std::unique_ptr<T> box_;
 };
 

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "glyphorium/entity/boxed_optional.h"
@@ -16,6 +17,9 @@
 namespace glyph {
 
 struct Entity;
+
+/// The name of the group of the characters that the user added.
+inline constexpr std::string_view customGroup = "custom";
 
 /// One character as a group table describes it.
 struct GLYPHORIUM_EXPORT ComputedEntity {

@@ -1,46 +1,77 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <concepts>
+#include <ranges>
 #include <utility>
 
 namespace glyph {
 
-/// A field that does something on change. Reads like a `const T`; every assignment stores the new value, also
-/// an equal one, and then calls `didSet` with it. Copying a whole structure that holds such fields calls
-/// nothing.
-template <class T, void (*didSet)(const T&)>
+/// A field that calls a function on every change. It reads like a `const T`: a list can be iterated, indexed,
+/// counted and compared. Each assignment stores the new value and then calls the function, also where the new
+/// value equals the old one. `= {}` stores an empty value.
+///
+/// An observed field cannot be copied, so `auto list = field;` does not compile; `T list = field;` copies the
+/// value. Nothing is moved out of a field: `T list = std::move(field);` copies too.
+template <class T>
 class Observed {
  public:
-  Observed() = default;
-  explicit Observed(T value) : value_(std::move(value)) {}
-  Observed(const Observed&) = default;
-  Observed(Observed&&) noexcept = default;
+  using DidSet = void (*)(const T&);
+
+  /// A field with the default value. `didSet` is called after each change with the new value; not null.
+  explicit Observed(DidSet didSet) : didSet_(didSet) {}
+  Observed(const Observed&) = delete;
   ~Observed() = default;
 
   Observed& operator=(T value) {
     value_ = std::move(value);
-    didSet(value_);
+    didSet_(value_);
     return *this;
   }
   Observed& operator=(const Observed& other) { return *this = other.value_; }
 
-  /// Changes the value in place by `change(T&)`, then calls `didSet` once.
+  /// Changes the value in place by `change(T&)`, then calls the function once.
   template <class Change>
   void modify(Change change) {
     change(value_);
-    didSet(value_);
+    didSet_(value_);
   }
 
-  /// Takes over another field's value without calling `didSet`: for the copy of a whole structure.
-  void assignSilently(Observed&& other) noexcept { value_ = std::move(other.value_); }
+  /// Stores the value without calling the function: for the copy of a whole structure.
+  void assignSilently(T value) noexcept { value_ = std::move(value); }
 
-  const T& get() const { return value_; }
-  operator const T&() const { return value_; }  // NOLINT: reads like a const T
-  const T* operator->() const { return &value_; }
-  const T& operator*() const { return value_; }
+  const T& get() const noexcept { return value_; }
+  operator const T&() const noexcept { return value_; }  // NOLINT: reads like a const T
+  const T* operator->() const noexcept { return &value_; }
+  const T& operator*() const noexcept { return value_; }
+
+  auto begin() const requires std::ranges::range<const T> { return value_.begin(); }
+  auto end() const requires std::ranges::range<const T> { return value_.end(); }
+  auto size() const requires std::ranges::sized_range<const T> { return value_.size(); }
+  bool empty() const requires std::ranges::range<const T> { return value_.empty(); }
+
+  /// The element at that position of a list, which must be one of its positions; the value for that key of a
+  /// map, or the default value where the map has no such key.
+  template <class Key>
+  decltype(auto) operator[](const Key& key) const requires std::ranges::range<const T> {
+    if constexpr (requires(const T& value) { value[key]; }) {
+      return value_[key];
+    } else {
+      const auto found = value_.find(key);
+      return found == value_.end() ? typename T::mapped_type() : found->second;
+    }
+  }
+
+  friend bool operator==(const Observed& a, const T& b) requires std::equality_comparable<T> {
+    return a.value_ == b;
+  }
+  friend bool operator==(const Observed& a, const Observed& b) requires std::equality_comparable<T> {
+    return a.value_ == b.value_;
+  }
 
  private:
   T value_{};
+  DidSet didSet_;
 };
 
 }  // namespace glyph

@@ -1,32 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/state/selected_entities.h"
 
-#include "glyphorium/services/notifications/notification_center.h"
-#include "glyphorium/services/notifications/notification_names.h"
+#include "glyphorium/text/never_destroyed.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace glyph {
+namespace {
 
-namespace state_observers {
-
-void selectedEntitiesDidSet(const std::vector<Entity>&) {
+void didSet(const std::vector<Entity>&) {
   toolKit().sendContentHasChangedNotification();
 }
 
-}  // namespace state_observers
+}  // namespace
 
-SelectedEntities& selectedEntities() {
-  static SelectedEntities entities;
-  return entities;
+Observed<std::vector<Entity>>& selectedEntities() {
+  static NeverDestroyed<Observed<std::vector<Entity>>> entities(&didSet);
+  return *entities;
 }
 
 std::optional<std::vector<Entity>>& filteredEntities() {
-  static std::optional<std::vector<Entity>> entities;
-  return entities;
-}
-
-void EntityToolKit::sendContentHasChangedNotification() const {
-  NotificationCenter::defaultCenter().post({notificationName::contentHasChanged, std::nullopt});
+  static NeverDestroyed<std::optional<std::vector<Entity>>> entities;
+  return *entities;
 }
 
 }  // namespace glyph

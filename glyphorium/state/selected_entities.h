@@ -10,19 +10,14 @@
 
 namespace glyph {
 
-namespace state_observers {
-/// Posts "contentHasChanged" on the default notification center.
-GLYPHORIUM_EXPORT void selectedEntitiesDidSet(const std::vector<Entity>& entities);
-}  // namespace state_observers
+/// The list that the host displays, in code-point order; empty until Glyphorium::configure() assigns the
+/// first one. Every assignment, also of an equal list, posts "contentHasChanged" on
+/// NotificationCenter::defaultCenter(). Its creation is safe from several threads; use it from one thread at
+/// a time. It lives until the process ends.
+GLYPHORIUM_EXPORT Observed<std::vector<Entity>>& selectedEntities();
 
-using SelectedEntities = Observed<std::vector<Entity>, state_observers::selectedEntitiesDidSet>;
-
-/// The list that the host displays, in code-point order; empty until Glyphorium::configure(). Every
-/// assignment, also of an equal list, posts "contentHasChanged". To be used from one thread at a time; its
-/// creation is safe from several.
-GLYPHORIUM_EXPORT SelectedEntities& selectedEntities();
-
-/// The host's filtered view of it. The library never writes it.
+/// The host's filtered view of selectedEntities(). The library never writes it. Threads and lifetime as with
+/// selectedEntities().
 GLYPHORIUM_EXPORT std::optional<std::vector<Entity>>& filteredEntities();
 
 }  // namespace glyph

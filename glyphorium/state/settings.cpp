@@ -3,7 +3,7 @@
 
 #include <ctime>
 
-#include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/entity/records.h"
 #include "glyphorium/services/diagnostics/diagnostics.h"
 #include "glyphorium/services/settings/setting_json.h"
 #include "glyphorium/state/user_defaults.h"

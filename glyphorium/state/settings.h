@@ -1,30 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
 #include <functional>
 
 #include "glyphorium/export.h"
-#include "glyphorium/state/raw_value_key.h"
+#include "glyphorium/state/settings_keys.h"
 
 namespace glyph {
-
-/// The keys under which EntityUserData is persisted.
-class EntityUserDataKey : public RawValueKey<EntityUserDataKey> {
- public:
-  static const EntityUserDataKey useSpotlightExtension;  ///< true or false
-
-  static constexpr std::array<EntityUserDataKey, 1> allCases();
-
- private:
-  using RawValueKey::RawValueKey;
-};
-
-inline constexpr EntityUserDataKey EntityUserDataKey::useSpotlightExtension{"useSpotlightExtension"};
-
-constexpr std::array<EntityUserDataKey, 1> EntityUserDataKey::allCases() {
-  return {useSpotlightExtension};
-}
 
 /// Settings of the user that are no choice of characters. Every read asks settingsStore(), every write is
 /// durable when it returns. A stored value of another type reads as the default; no read writes anything.
@@ -40,6 +22,3 @@ struct GLYPHORIUM_EXPORT EntityUserData {
 };
 
 }  // namespace glyph
-
-template <>
-struct std::hash<glyph::EntityUserDataKey> : glyph::EntityUserDataKey::Hash {};

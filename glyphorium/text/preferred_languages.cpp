@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "glyphorium/text/ascii.h"
+#include "glyphorium/text/never_destroyed.h"
 
 namespace glyph {
 namespace {
@@ -19,7 +20,7 @@ struct Override {
 };
 
 Override& hostOverride() {
-  static auto* const instance = new Override;  // never destroyed: may be read while the process ends
+  static NeverDestroyed<Override> instance;
   return *instance;
 }
 

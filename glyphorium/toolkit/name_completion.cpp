@@ -20,9 +20,4 @@ std::vector<ComputedEntity> EntityToolKit::addNames(std::vector<ComputedEntity> 
   return to;
 }
 
-EntityToolKit& toolKit() {
-  static EntityToolKit instance;
-  return instance;
-}
-
 }  // namespace glyph

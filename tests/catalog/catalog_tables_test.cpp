@@ -5,10 +5,11 @@
 #include <map>
 #include <unordered_map>
 
-#include "glyphorium/catalog/decoding_and_joining.h"
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/data/name_table.h"
+#include "glyphorium/entity/table_repair.h"
+#include "glyphorium/state/structured_unicodes.h"
 #include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/text/never_destroyed.h"
 
 namespace glyph {
 namespace {
@@ -20,7 +21,7 @@ struct Identifier {
 };
 
 Identifier& identifier() {
-  static auto* const instance = new Identifier;  // never destroyed: used by destructors of other globals
+  static NeverDestroyed<Identifier> instance;
   return *instance;
 }
 

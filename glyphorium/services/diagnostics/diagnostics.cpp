@@ -7,6 +7,8 @@
 #include <string>
 #include <utility>
 
+#include "glyphorium/text/never_destroyed.h"
+
 namespace glyph {
 namespace {
 
@@ -16,8 +18,7 @@ struct Destination {
 };
 
 Destination& destination() {
-  // Never destroyed: a diagnostic may still come from another global's destructor.
-  static auto* const instance = new Destination;
+  static NeverDestroyed<Destination> instance;
   return *instance;
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/text/never_destroyed.h"
 
 namespace glyph {
 
@@ -74,7 +75,7 @@ void NotificationToken::reset() noexcept {
 }
 
 NotificationCenter& NotificationCenter::defaultCenter() {
-  static auto* const center = new NotificationCenter;  // never destroyed: other globals may post at exit
+  static NeverDestroyed<NotificationCenter> center;
   return *center;
 }
 

@@ -31,7 +31,7 @@ class NotificationName {
 /// What is told to the observers of its name.
 struct Notification {
   NotificationName name;
-  std::optional<std::string> object;
+  std::optional<std::string> object{};
 };
 
 /// The registration of one observer: it ends when the token is reset, assigned to or destroyed, from any

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "glyphorium/services/pasteboard/desktop_pasteboard.h"
+#include "glyphorium/text/never_destroyed.h"
 
 namespace glyph {
 namespace {
@@ -14,7 +15,7 @@ struct InPlace {
 };
 
 InPlace& inPlace() {
-  static auto* const instance = new InPlace;  // never destroyed: a host may copy while it exits
+  static NeverDestroyed<InPlace> instance;
   return *instance;
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "glyphorium/services/search_index/sqlite_searchable_index.h"
+#include "glyphorium/text/never_destroyed.h"
 
 namespace glyph {
 namespace {
@@ -29,7 +30,7 @@ struct DrainAtExit {
 };
 
 InPlace& inPlace() {
-  static auto* const instance = new InPlace;  // never destroyed: used by destructors of other globals
+  static NeverDestroyed<InPlace> instance;
   static const DrainAtExit drainAtExit;
   return *instance;
 }

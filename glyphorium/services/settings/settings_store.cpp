@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "glyphorium/services/settings/sqlite_settings_store.h"
+#include "glyphorium/text/never_destroyed.h"
 
 namespace glyph {
 namespace {
@@ -15,7 +16,7 @@ struct Place {
 };
 
 Place& place() {
-  static auto* const instance = new Place;  // never destroyed: settings may be saved while the process ends
+  static NeverDestroyed<Place> instance;
   return *instance;
 }
 

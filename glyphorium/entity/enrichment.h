@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <vector>
+
+#include "glyphorium/entity/records.h"
+
+namespace glyph {
+
+/// Gives each entity without enrichment the first record with its hex code, compared byte for byte.
+void enrich(std::vector<Entity>& entities, const std::vector<AdditionalData>& with);
+
+}  // namespace glyph

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// All of the library's public interface but the texts of the single group tables, which
+/// <glyphorium/data/group_tables.h> declares.
+
+#include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/codes/code_formats.h"
+#include "glyphorium/codes/code_parsing.h"
+#include "glyphorium/data/embedded_texts.h"
+#include "glyphorium/data/name_capitalization.h"
+#include "glyphorium/data/name_table.h"
+#include "glyphorium/entity/codec.h"
+#include "glyphorium/entity/records.h"
+#include "glyphorium/search/search.h"
+#include "glyphorium/services/application/application.h"
+#include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/services/notifications/notification_center.h"
+#include "glyphorium/services/notifications/notification_names.h"
+#include "glyphorium/services/pasteboard/desktop_pasteboard.h"
+#include "glyphorium/services/pasteboard/pasteboard.h"
+#include "glyphorium/services/pasteboard/terminal_pasteboard.h"
+#include "glyphorium/services/search_index/searchable_index.h"
+#include "glyphorium/services/search_index/searchable_index_reader.h"
+#include "glyphorium/services/search_index/sqlite_searchable_index.h"
+#include "glyphorium/services/settings/memory_settings_store.h"
+#include "glyphorium/services/settings/settings_store.h"
+#include "glyphorium/services/settings/sqlite_settings_store.h"
+#include "glyphorium/state/selected_entities.h"
+#include "glyphorium/state/settings.h"
+#include "glyphorium/state/structured_unicodes.h"
+#include "glyphorium/text/preferred_languages.h"
+#include "glyphorium/text/unicode_text.h"
+#include "glyphorium/text/xml_unescape.h"
+#include "glyphorium/toolkit/entity_tool_kit.h"
+#include "glyphorium/version.h"
