@@ -69,11 +69,11 @@ struct SearchOptions {
 ///
 /// A host that shows what the user's words match of the displayed characters:
 ///
-///     const Search search(selectedEntities());   // once, and again after "contentHasChanged"
-///     ...
+///     const Search search(selectedEntities());  // once, and again after "contentHasChanged"
 ///     std::vector<Entity> found;
-///     for (const SearchResult& result : search.query(text).results)
+///     for (const SearchResult& result : search.query(typed).results) {
 ///       found.push_back(selectedEntities()[result.index]);
+///     }
 ///     filteredEntities() = std::move(found);
 ///     NotificationCenter::defaultCenter().post({notificationName::filteredContentHasChanged});
 class GLYPHORIUM_EXPORT Search {
