@@ -3,14 +3,22 @@
 include(CMakePackageConfigHelpers)
 
 install(TARGETS glyphorium EXPORT GlyphoriumTargets
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
         FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
         FILE_SET generated_headers DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+if(TARGET glyphorium-static)
+  install(TARGETS glyphorium-static EXPORT GlyphoriumStaticTargets
+          ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+endif()
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/LICENSES DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
 
 set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/Glyphorium)
 install(EXPORT GlyphoriumTargets NAMESPACE Glyphorium:: DESTINATION ${package_directory} COMPONENT development)
+if(TARGET glyphorium-static)
+  install(EXPORT GlyphoriumStaticTargets NAMESPACE Glyphorium:: DESTINATION ${package_directory} COMPONENT development)
+endif()
 configure_package_config_file(
   ${CMAKE_CURRENT_LIST_DIR}/GlyphoriumConfig.cmake.in ${PROJECT_BINARY_DIR}/GlyphoriumConfig.cmake
   INSTALL_DESTINATION ${package_directory} NO_SET_AND_CHECK_MACRO)
