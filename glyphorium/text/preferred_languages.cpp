@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/text/preferred_languages.h"
 
+#include <unicode/uloc.h>
+
 #include <algorithm>
 #include <cstdlib>
-#include <iterator>
 #include <mutex>
 #include <string_view>
 #include <utility>
 
-#include "glyphorium/text/ascii.h"
 #include "glyphorium/text/never_destroyed.h"
 
 namespace glyph {
@@ -29,16 +29,12 @@ std::string_view environment(const char* variable) {
   return value ? value : "";
 }
 
-// Removes and returns the text before the first of the separators, and that separator.
+// Returns the text before the first separator, and removes it and the separator from `text`.
 std::string_view takePart(std::string_view& text, std::string_view separators) {
   const std::size_t end = std::min(text.find_first_of(separators), text.size());
   const std::string_view part = text.substr(0, end);
   text.remove_prefix(std::min(end + 1, text.size()));
   return part;
-}
-
-bool allOf(std::string_view text, bool (*predicate)(char)) {
-  return std::all_of(text.begin(), text.end(), predicate);
 }
 
 std::string_view scriptOfModifier(std::string_view modifier) {
@@ -52,35 +48,29 @@ std::string_view scriptOfModifier(std::string_view modifier) {
 }
 
 // The language (with its script, if one is named) of a locale name "language[_Script][_REGION][.codeset]
-// [@modifier]"; empty where the name is malformed or names no language, as "C" does.
+// [@modifier]". Empty if the name is malformed or names no language, as "C" does.
 std::string languageOf(std::string_view locale) {
-  std::string_view codes = locale.substr(0, locale.find_first_of(".@"));
-  std::string language(takePart(codes, "_-"));
-  if (language.size() < 2 || language.size() > 3 || !allOf(language, ascii::isLetter)) return {};
-  std::transform(language.begin(), language.end(), language.begin(), ascii::lowered);
-  constexpr std::pair<std::string_view, std::string_view> renamed[] = {
-      {"iw", "he"}, {"in", "id"}, {"ji", "yi"}, {"no", "nb"}};
-  for (const auto& [old, current] : renamed) {
-    if (language == old) language = current;
-  }
+  // ICU accepts first parts of up to eight letters. Language codes have two or three; a longer part is some
+  // system's alias for a locale, such as "german".
+  const std::string name(locale.substr(0, locale.find_first_of(".@")));
+  UErrorCode status = U_ZERO_ERROR;
+  char tag[ULOC_FULLNAME_CAPACITY];
+  uloc_toLanguageTag(name.c_str(), tag, sizeof tag, true, &status);
+  if (U_FAILURE(status) || status == U_STRING_NOT_TERMINATED_WARNING) return {};
+  std::string_view rest = tag;
+  std::string language(takePart(rest, "-"));
+  if (language.size() < 2 || language.size() > 3 || language == "und") return {};
 
-  std::string script;
-  while (!codes.empty()) {
-    const std::string_view part = takePart(codes, "_-");
-    if (part.size() == 4 && allOf(part, ascii::isLetter) && script.empty()) {
-      std::transform(part.begin(), part.end(), std::back_inserter(script), ascii::lowered);
-      script[0] = ascii::raised(script[0]);
-    } else if (const bool region = (part.size() == 2 && allOf(part, ascii::isLetter)) ||
-                                   (part.size() == 3 && allOf(part, ascii::isDigit));
-               !region) {
-      return {};
-    }
-  }
+  if (language == "no") language = "nb";  // locales named "no" are in Bokmål
+
+  std::string_view script = rest.substr(0, rest.find('-'));
+  if (script.size() != 4) script = {};
   if (const std::size_t at = locale.find('@'); script.empty() && at != std::string_view::npos) {
     const std::string_view modifier = locale.substr(at + 1);
     script = scriptOfModifier(modifier.substr(0, modifier.find('.')));
   }
-  return script.empty() ? language : language + '-' + script;
+  if (!script.empty()) (language += '-') += script;
+  return language;
 }
 
 std::vector<std::string> environmentLanguages() {
@@ -96,7 +86,7 @@ std::vector<std::string> environmentLanguages() {
     if (list.empty()) list = locale;
     while (!list.empty()) {
       const std::string_view name = takePart(list, ":");
-      if (name == "C" || name == "POSIX") break;  // from here on untranslated texts
+      if (name == "C" || name == "POSIX") break;  // asks for untranslated texts
       const std::string language = languageOf(name);
       if (!language.empty() && std::find(languages.begin(), languages.end(), language) == languages.end()) {
         languages.push_back(language);
