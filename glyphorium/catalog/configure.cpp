@@ -9,7 +9,7 @@
 namespace glyph {
 namespace {
 
-// The rows of all configured tables, so that no entity moves while they are read.
+// The number of rows in all configured tables: reserved at once, so that entities are not moved.
 std::size_t configuredRows() {
   std::size_t rows = 0;
   for (const EmbeddedText& text : embeddedTexts()) rows += text.configured ? text.rows : 0;

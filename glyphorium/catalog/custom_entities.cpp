@@ -12,7 +12,7 @@ std::vector<Entity> Glyphorium::getCustomEntities() const {
     records.back().group = customGroup;
   }
   records = toolKit().addNames(std::move(records));
-  if (records.empty()) return {};  // as most users': nothing to enrich
+  if (records.empty()) return {};  // usual: spares decoding the enrichment table
   return getEntitiesByEnriching(std::move(records), getAdditionalDataFrom(additionalJson));
 }
 

@@ -49,7 +49,8 @@ Glyphorium::Glyphorium(const Glyphorium& other) : Glyphorium() {
 Glyphorium::~Glyphorium() = default;
 
 Glyphorium& Glyphorium::operator=(const Glyphorium& other) {
-  // First all that can run out of memory, then what cannot fail: the catalog is as before or complete.
+  // Copies first, because they may run out of memory. The assignments cannot fail, so the catalog is never
+  // half assigned.
   auto forbidden = other.forbiddenUnicodes;
   auto custom = other.allCustomEntities.get();
   auto counts = other.allEntityGroupNamesWithCount.get();
@@ -70,7 +71,7 @@ std::vector<std::string> Glyphorium::getBuildInEntityGroups() {
   std::vector<std::string> names;
   for (const Entity& entity : allBuildInEntities_) {
     const std::string& group = entity.computed.group;
-    // Rows of a group stand together, so nearly all repeats end here.
+    // The rows of a group stand together, so this removes nearly all duplicates before sorting.
     if (names.empty() || names.back() != group) names.push_back(group);
   }
   std::sort(names.begin(), names.end());

@@ -17,14 +17,13 @@
 
 namespace glyph {
 
-/// The character catalog: a value, of which glyphorium() is the shared instance. No operation throws or
-/// reports an error; bad input gives the neutral value named with the operation, and what went wrong is a
-/// diagnostic line. A catalog and the module's globals must not be used from two threads at once.
+/// The character catalog. It is a value type; glyphorium() is the shared instance. Operations report no
+/// errors: bad input gives the neutral value that the operation names, and a diagnostic line says what went
+/// wrong. Do not use a catalog, or the module's globals, from two threads at once.
 ///
-/// The one exception, here and in the rest of the library, is std::bad_alloc: a neutral value in the place of
-/// what there is no memory for would be a lie. It may come from everything that is not noexcept. Each list of
-/// the catalog and each stored choice is then as before or complete, nothing is lost, and the operation can
-/// be repeated. What says otherwise at its declaration, as Search::query() does, throws nothing.
+/// The only exception that leaves the library is std::bad_alloc. Every function that is not noexcept may
+/// throw it, unless its declaration says otherwise, as that of Search::query() does. Afterwards each list of
+/// the catalog and each stored choice is either as before or complete, and the operation can be repeated.
 struct GLYPHORIUM_EXPORT Glyphorium {
   using ComputedEntity = glyph::ComputedEntity;
   using AdditionalData = glyph::AdditionalData;
@@ -33,19 +32,19 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   using Unicode = glyph::Unicode;
   using UserInfluencedEntityKey = glyph::UserInfluencedEntityKey;
 
-  /// Entities per group, by the exact group name. A group without entities has no key.
+  /// The number of entities by group name. A group without entities has no key.
   using GroupCounts = std::map<std::string, std::int64_t>;
 
   Glyphorium();
-  // Copying prints nothing. There is no move: moving from glyphorium() would silently empty it.
+  // Copying prints no diagnostic lines. There is no move constructor: it would empty glyphorium() silently.
   Glyphorium(const Glyphorium& other);
   Glyphorium& operator=(const Glyphorium& other);
   ~Glyphorium();
 
-  /// Code points, in hexadecimal, that selectedEntities() never shows; letter case does not count.
+  /// Hex codes that selectedEntities() never shows, in upper or lower case.
   std::vector<std::string> forbiddenUnicodes;
 
-  /// The characters that the user added, in the order added; filled by configure().
+  /// The characters that the user added, in the order of adding; filled by configure().
   /// Every change prints one diagnostic line with the number of elements.
   Observed<std::vector<Entity>> allCustomEntities;
 
@@ -53,67 +52,70 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   /// change prints one diagnostic line with the number of groups.
   Observed<GroupCounts> allEntityGroupNamesWithCount;
 
-  /// Raised by every write of the displayed groups; the host lowers it. Every assignment prints one
-  /// diagnostic line with the value.
+  /// Set to true by every write of the displayed groups. The host sets it back to false. Every assignment
+  /// prints one diagnostic line with the value.
   Observed<bool> selectedGroupsHadChanged;
 
   /// The entities of all configured tables, in their order, each with its enrichment; empty before
   /// configure().
   const std::vector<Entity>& buildInEntities() const { return allBuildInEntities_; }
 
-  /// Fills the catalog from the embedded tables and the user's stored choices, and publishes
-  /// selectedEntities(). May be called again at any time; each run replaces everything.
+  /// Fills the catalog from the embedded tables and the user's stored choices, and assigns
+  /// selectedEntities(). It may be called again at any time and then replaces everything.
   void configure();
 
-  /// The names of the displayed groups, in display order, asked of the settings store on every call;
-  /// ["custom"] where none are stored.
+  /// The names of the displayed groups, in display order. Every call reads the settings store. If it holds no
+  /// list, the result is ["custom"].
   std::vector<std::string> selectedGroups() const;
 
-  /// Stores the names, "custom" once and in front if it is among them, and raises selectedGroupsHadChanged.
-  /// Names are not checked. The displayed list stays until the host calls setSelectedEntities().
+  /// Stores the names, which are not checked, and raises selectedGroupsHadChanged. If "custom" is among them,
+  /// it is stored once and in front. The displayed list stays unchanged until the host calls
+  /// setSelectedEntities().
   void setSelectedGroups(std::vector<std::string> groups);
 
-  /// Changes the stored names by one read and one write, which no other process can come between.
+  /// Reads the stored names, changes them and stores them as one step: no other process can write in between.
   void modifySelectedGroups(const std::function<void(std::vector<std::string>&)>& change);
 
-  /// Appends the lower-cased name unless it is there, which changes nothing.
+  /// Appends the lower-cased name. Does nothing if the list already holds it.
   void addSelectedGroup(std::string_view named);
 
-  /// Drops the name in every letter case, and stores the list also where it held none.
+  /// Removes the name in all spellings of upper and lower case. The list is stored even if nothing was
+  /// removed.
   void removeSelectedGroup(std::string_view named);
 
-  /// The hexadecimal codes (or hex lists, see CodeFormats) that the user added, in the order added.
+  /// The hex codes (or hex lists, see CodeFormats) that the user added, in the order of adding.
   std::vector<std::string> customAddedEntityUnicodes() const;
 
-  /// Stores the codes, which are not checked, and at once updates the search index (unless
-  /// EntityUserData::useSpotlightExtension() is off), allCustomEntities and selectedEntities().
+  /// Stores the codes, which are not checked. Then updates allCustomEntities, selectedEntities() and, if
+  /// EntityUserData::useSpotlightExtension() is on, the search index.
   void setCustomAddedEntityUnicodes(std::vector<std::string> codes);
 
-  /// Changes the stored codes by one read and one write, with the same effects.
+  /// Reads the stored codes, changes them and stores them as one step, with the same effects.
   void modifyCustomAddedEntityUnicodes(const std::function<void(std::vector<std::string>&)>& change);
 
-  /// Appends the lower-cased code unless it is there, displays the group "custom", and in any case has the
-  /// effects of setCustomAddedEntityUnicodes() and recounts the groups.
+  /// Appends the lower-cased code unless the list holds it, adds "custom" to the displayed groups and counts
+  /// the groups again. Has the effects of setCustomAddedEntityUnicodes() in any case.
   void addCustomAddedEntity(std::string_view unicode);
 
-  /// Drops the lower-cased code, with the same effects; the group "custom" stays displayed.
+  /// Removes the lower-cased code, with the same effects. The group "custom" stays displayed.
   void removeCustomAddedEntity(std::string_view unicode);
 
-  /// Builds the displayed list: the entities of the selected groups (letter case does not count) without
-  /// forbidden and not displayable code points, each code point once (the entity of the earlier group stays),
-  /// in code-point order. Assigns it to selectedEntities(), which posts "contentHasChanged" once.
+  /// Builds the displayed list and assigns it to selectedEntities(), which posts "contentHasChanged" once.
+  /// The list holds the entities of the displayed groups (group names in upper or lower case) in code-point
+  /// order, without the forbidden code points and those that cannot be displayed. If several groups hold a
+  /// code point, the entity of the first of them in selectedGroups() is taken.
   void setSelectedEntities();
 
-  /// The rows of a group table's JSON text, after the table repair: the rows of U+0022 and U+005C stand in
-  /// `latinBasicJson` with their symbols unescaped, and are escaped before decoding. nullopt where the text
-  /// does not decode, which one diagnostic line explains.
+  /// The rows of a group table in JSON. `latinBasicJson` holds the symbols of U+0022 and U+005C without the
+  /// escapes that JSON requires; they are escaped before decoding. If the text cannot be decoded, the result
+  /// is nullopt and one diagnostic line says why.
   std::optional<std::vector<ComputedEntity>> getComputedEntitiesFrom(std::string_view json) const;
 
-  /// The rows of an enrichment table's JSON text; nullopt likewise.
+  /// The rows of an enrichment table in JSON. Errors as with getComputedEntitiesFrom().
   std::optional<std::vector<AdditionalData>> getAdditionalDataFrom(std::string_view json) const;
 
-  /// An entity for each record, in their order, with the first enrichment record of its hex code (compared
-  /// byte for byte), if there is one.
+  /// One entity for each record, in the same order. Each gets the first enrichment record with the same hex
+  /// code, compared byte for byte, if there is one.
   std::vector<Entity> getEntitiesByEnriching(std::vector<ComputedEntity> records,
                                              const std::optional<std::vector<AdditionalData>>& with) const;
 
@@ -130,16 +132,17 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   Observed<std::vector<Entity>> allBuildInEntities_;
 };
 
-/// The shared catalog, created with its fixed lists on first use; that is safe from several threads at once.
+/// The shared catalog. It is created on first use, which is safe from several threads, and lives until the
+/// process ends. It is empty until configure() is called.
 GLYPHORIUM_EXPORT Glyphorium& glyphorium();
 
-/// The entity that configure() puts at that place of buildInEntities(), decoded by itself: for programs that
-/// show a few characters, the results of Search::ofCatalog() for example, and can do without the list.
-/// nullopt behind the last place. Needs no catalog; any thread may call it.
+/// The entity that configure() puts at that place of buildInEntities(), decoded alone. It is for programs
+/// that show a few characters, such as results of Search::ofCatalog(), and do not need the whole list.
+/// nullopt if there is no such place. It does not need configure(); any thread may call it.
 GLYPHORIUM_EXPORT std::optional<Entity> buildInEntity(std::size_t place);
 
-/// The group names in display order: "custom", the three curated groups, then the others ascending. Empty
-/// until configure() fills it.
+/// The group names in display order: "custom", the three groups that are chosen by hand, then the others in
+/// ascending order. Empty until configure() fills it. It lives until the process ends.
 GLYPHORIUM_EXPORT std::vector<std::string>& allBuildInEntityGroups();
 
 }  // namespace glyph

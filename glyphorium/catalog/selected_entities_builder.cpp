@@ -11,7 +11,7 @@
 namespace glyph {
 namespace {
 
-// The rank of each lower-cased group name: its first place in the stored list.
+// The rank of each group, by its lower-cased name: its first position in the stored list.
 std::unordered_map<std::string, std::size_t> ranksOf(const std::vector<std::string>& groups) {
   std::unordered_map<std::string, std::size_t> ranks;
   for (const std::string& group : groups) ranks.try_emplace(lowercased(group), ranks.size());
@@ -25,23 +25,23 @@ struct Candidate {
 
 }  // namespace
 
-// One pass over the catalog, with the group's rank in the place of one pass for each selected group: of two
-// entities with one hex the one of the better rank stays, of equal rank the earlier one.
+// One pass over the catalog instead of one pass for each displayed group. Of two entities with the same hex
+// code, the one whose group stands earlier in the stored list stays; within one group, the earlier entity.
 std::vector<Entity> Glyphorium::buildSelectedEntities() const {
   const std::vector<Entity>& buildIn = allBuildInEntities_;
   const std::vector<Entity>& custom = allCustomEntities;
   if (buildIn.empty() && custom.empty()) return {};
   const auto ranks = ranksOf(storedDisplayedGroups());
-  std::unordered_set<std::string> forbidden;  // compared ignoring case on both sides
+  std::unordered_set<std::string> forbidden;  // lower-cased; compared with the lower-cased hex code
   for (const std::string& hex : forbiddenUnicodes) forbidden.insert(lowercased(hex));
-  std::unordered_set<std::string> notDisplayable;  // compared with the entity's hex as stored
+  std::unordered_set<std::string> notDisplayable;  // lower-cased; compared with the hex code as stored
   for (const std::string& hex : notDisplayableUnicodes_) notDisplayable.insert(lowercased(hex));
 
   std::vector<Candidate> candidates;
   candidates.reserve(buildIn.size() + custom.size());
   std::unordered_map<std::string_view, std::size_t> placeOfHex;
   placeOfHex.reserve(buildIn.size() + custom.size());
-  const std::string* group = nullptr;  // of the entity before: rows of a group stand together
+  const std::string* group = nullptr;  // of the previous entity; the rows of a group stand together
   auto rank = ranks.end();
   for (const auto* list : {&buildIn, &custom}) {
     for (const Entity& entity : *list) {
@@ -62,7 +62,7 @@ std::vector<Entity> Glyphorium::buildSelectedEntities() const {
       }
     }
   }
-  // Stable: spellings of one number that differ in their hex keep the catalog's order.
+  // Stable, so that different spellings of one number ("0041", "00041") keep the order of the catalog.
   std::stable_sort(candidates.begin(), candidates.end(), [](const Candidate& a, const Candidate& b) {
     return a.entity->computed.decimal < b.entity->computed.decimal;
   });

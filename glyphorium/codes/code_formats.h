@@ -16,8 +16,8 @@ namespace glyph {
 /// names. All operations are pure; any thread may call them.
 class GLYPHORIUM_EXPORT CodeFormats {
  public:
-  /// "0020" gives 32. A character that is no hexadecimal digit counts as a zero digit ("0x41" gives 65). 0
-  /// for fewer than three characters, and for a value beyond 64 bits.
+  /// "0020" gives 32. A character that is no hexadecimal digit counts as a zero digit ("0x41" gives 65).
+  /// Gives 0 for fewer than three characters and for a value beyond 64 bits.
   std::int64_t getDecimal(std::string_view from) const;
 
   /// 32 gives "0020": lower case, padded to four digits. A negative value counts as 0.
@@ -33,8 +33,8 @@ class GLYPHORIUM_EXPORT CodeFormats {
   /// The text with its XML references replaced: "&#x20;" gives a blank. See xmlUnescaped().
   std::string getSymbol(std::string_view from) const;
 
-  /// "0041,030a" gives 65 and 778. Components of fewer than three characters are left out; the empty list for
-  /// a text of fewer than three.
+  /// "0041,030a" gives 65 and 778. Components of fewer than three characters are left out. A text of fewer
+  /// than three characters gives an empty list.
   std::vector<std::int64_t> getAdvancedDecimal(std::string_view from) const;
 
   /// 65 and 778 give "&#65;&#778;".
@@ -43,11 +43,12 @@ class GLYPHORIUM_EXPORT CodeFormats {
   /// "0041,030A" gives "&#x41;&#x30a;"; an empty component gives "&#x;".
   std::string getAdvancedHtmlHex(std::string_view from) const;
 
-  /// "0041,030a" gives the two code points as text. Components that are no hexadecimal number (with an
-  /// optional sign) of a Unicode scalar value are left out; here one digit is enough.
+  /// "0041,030a" gives the two code points as text. A component is left out unless it is a
+  /// hexadecimal number, with an optional sign, and a Unicode scalar value. One digit is enough here.
   std::string getAdvancedSymbol(std::string_view from) const;
 
-  /// The SwiftUI and UIKit snippets that show the SF Symbol of that name. The name is put in unchanged.
+  /// The SwiftUI and UIKit snippets that show the SF Symbol of that name. The name is inserted unchanged,
+  /// without escaping.
   std::string getSFSymbolSwiftUICode(std::string_view from) const;
   std::string getSFSymbolUIKitCode(std::string_view from) const;
 };

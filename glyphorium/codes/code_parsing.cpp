@@ -11,8 +11,8 @@
 namespace glyph {
 namespace {
 
-// Reads code forms from the front of a text. A form that is not read leaves what was taken of it taken: the
-// text as a whole is none then.
+// Reads code forms one by one from the front of a text. After a form that cannot be read, the position is
+// undefined; the caller then rejects the whole text.
 class CodeReader {
  public:
   explicit CodeReader(std::string_view text) : rest_(text) {}
@@ -25,7 +25,8 @@ class CodeReader {
   std::optional<ParsedCode> next() {
     if (const auto arguments = callBegin()) return call(*arguments);
     if (take("&")) return reference();
-    if (take("#")) return numericReference(4);  // as copied without the "&"; fewer digits are rather a tag
+    if (take("#"))
+      return numericReference(4);  // copied without the "&"; with fewer digits it is probably a tag
     if (take("\\")) return escape();
     if (take("%")) return bytes("%");
     if (take("<U+")) return closed(number(16, 1, 8), ">");
@@ -35,8 +36,8 @@ class CodeReader {
       return ended(number(16, least, 8));
     }
     if (take("0x") || take("0X")) return ended(number(16, 1, 8));
-    if (take("uni")) return ended(number(16, 4, 4));  // as fonts name glyphs
-    // Without a sign in front it takes as many digits as a code point is written with, or it would be a word.
+    if (take("uni")) return ended(number(16, 4, 4));  // a glyph name in fonts
+    // Without "+" at least four digits, the least that a code point is written with; fewer may be a word.
     if (take("u") || take("U")) return ended(number(16, 4, 8));
     return std::nullopt;
   }
@@ -48,7 +49,7 @@ class CodeReader {
     return there;
   }
 
-  // A number of `least` to `most` digits; takes them all.
+  // Reads a number of `least` to `most` digits; nullopt if there are fewer or more.
   std::optional<std::uint32_t> number(int base, std::size_t least, std::size_t most) {
     std::size_t end = 0;
     while (end < rest_.size() && (base == 16 ? ascii::isHexDigit(rest_[end]) : ascii::isDigit(rest_[end])))
@@ -64,7 +65,7 @@ class CodeReader {
     return ParsedCode{*value, {}};
   }
 
-  // A form that ends where its digits do.
+  // The code, if no letter or digit follows its digits.
   std::optional<ParsedCode> ended(std::optional<std::uint32_t> value) const {
     return rest_.empty() || !ascii::isAlphanumeric(rest_.front()) ? code(value) : std::nullopt;
   }
@@ -107,8 +108,8 @@ class CodeReader {
     return ParsedCode{0x10000 + ((*value - 0xD800) << 10) + (*low - 0xDC00), {}};
   }
 
-  // The two digits of a byte are next, and behind `introducer` those of others: a character in UTF-8, or the
-  // byte is a code point itself where no sequence begins.
+  // Reads the two digits of a byte and, behind `introducer` each, those of further bytes as long as they make
+  // up one UTF-8 sequence. If they do not, the first byte alone is a code point.
   std::optional<ParsedCode> bytes(std::string_view introducer) {
     const auto byte = [&]() -> std::optional<char> {
       const auto value = rest_.size() < 2 ? std::nullopt : ascii::number(rest_.substr(0, 2), 16);
@@ -130,7 +131,7 @@ class CodeReader {
     return code(static_cast<unsigned char>(*first));
   }
 
-  // Where the argument begins of what programs and spreadsheets make a character of its number with.
+  // If a call such as "chr(" or "=UNICHAR(" is next: the offset of its argument.
   std::optional<std::size_t> callBegin() const {
     constexpr std::size_t longestName = 8;
     const std::size_t open = rest_.substr(0, longestName + 1).find('(');

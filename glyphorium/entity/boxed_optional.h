@@ -8,10 +8,9 @@
 
 namespace glyph {
 
-/// A std::optional whose value stands outside of its owner, so that it is as small as a pointer while it is
-/// absent: for a field that most owners in a long list do not have. It answers as std::optional does, value()
-/// of an absent value included, which throws std::bad_optional_access. Unlike it, a moved-from BoxedOptional
-/// is absent.
+/// A std::optional that keeps its value on the heap and is as small as a pointer. It suits a field that is
+/// absent in most records of a long list. It behaves as std::optional does: value() of an absent value throws
+/// std::bad_optional_access. One difference: a moved-from BoxedOptional is absent.
 template <class T>
 class BoxedOptional {
  public:

@@ -16,7 +16,7 @@ namespace dom = simdjson::dom;
 
 static_assert(textPadding >= simdjson::SIMDJSON_PADDING);
 
-// What is wrong with a row; unwinds to the row loop only.
+// Says what is wrong with a row. Thrown and caught in this file only.
 struct RowError {
   std::string message;
 };
@@ -66,8 +66,8 @@ void read(dom::element value, std::string_view key, std::optional<T>& field) {
   }
 }
 
-// A key and its field. The fields of each record stand once, here, in the order of the embedded texts, so
-// that reading a row of those compares each key once.
+// A key and its field. The fields of each record are listed below in the order of the embedded texts, so that
+// decoding a row of these compares each key once.
 template <class Record, class T>
 struct Field {
   std::string_view key;
@@ -121,8 +121,9 @@ void readObject(dom::element value, Record& record) {
   constexpr std::size_t count = std::tuple_size_v<decltype(fields)>;
   std::array<bool, count> isRead{};
   [&]<std::size_t... i>(std::index_sequence<i...>) {
-    // In the embedded texts the next key is this one or, where an optional one is left out, the one after:
-    // then one walk reads all there is. What it has not met is looked up, unless no key is left.
+    // In the embedded texts the keys stand in this order, and only optional ones may be missing. One walk
+    // over the object then reads all fields. In other texts, the fields that the walk did not meet are looked
+    // up.
     auto next = object.begin();
     const auto end = object.end();
     const auto readNext = [&](const auto& field, bool& done) {
@@ -147,7 +148,7 @@ void readObject(dom::element value, Record& record) {
   (std::make_index_sequence<count>());
 }
 
-// A row of a group table may be read right into the entity that it becomes.
+// A row of a group table is read directly into the entity, without a copy of the record.
 void readRow(dom::element value, Entity& entity) {
   readObject(value, entity.computed);
 }
@@ -176,7 +177,7 @@ std::string TableDecoder::append(std::string_view json, std::vector<Record>& rec
   dom::array rows;
   const bool copy = !isEmbedded(json);
   const auto error = parser_->parser.parse(json.data(), json.size(), copy).get(rows);
-  if (error == simdjson::MEMALLOC) throw std::bad_alloc();  // that is no fault of the text
+  if (error == simdjson::MEMALLOC) throw std::bad_alloc();  // not an error in the text
   if (error == simdjson::INCORRECT_TYPE) return "is no JSON array";
   if (error != simdjson::SUCCESS) return std::string("is no valid JSON: ") + simdjson::error_message(error);
   const std::size_t before = records.size();

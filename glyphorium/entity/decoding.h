@@ -11,9 +11,8 @@
 
 namespace glyph {
 
-/// Decodes UTF-8 JSON arrays, one after the other, with one parser. Record is ComputedEntity, AdditionalData
-/// or RawUnicodeEntity. Of duplicate keys the first counts. An embedded text is parsed where it lies, any
-/// other is copied once.
+/// Decodes JSON arrays in UTF-8, one after the other, with one parser. If an object has a key twice, the
+/// first one counts. An embedded text is parsed in place, any other text is copied once.
 class TableDecoder {
  public:
   TableDecoder();
@@ -21,9 +20,10 @@ class TableDecoder {
   TableDecoder(const TableDecoder&) = delete;
   TableDecoder& operator=(const TableDecoder&) = delete;
 
-  /// Appends the records of `json` (for Entity: entities with ComputedEntity records, not enriched) to
-  /// `records` and returns an empty text, or leaves them as they were and returns one line that says what is
-  /// wrong: one faulty row fails the whole array.
+  /// Appends the records of `json` to `records` and returns an empty text. Record is ComputedEntity,
+  /// AdditionalData, RawUnicodeEntity, or Entity for entities that have a ComputedEntity and no enrichment.
+  /// One faulty row fails the whole array: `records` is then unchanged, and the result is one line that says
+  /// what is wrong.
   template <class Record>
   std::string append(std::string_view json, std::vector<Record>& records);
 
@@ -32,7 +32,7 @@ class TableDecoder {
   std::unique_ptr<Parser> parser_;
 };
 
-/// The records of one JSON array; on an error prints it as one diagnostic line and returns nothing.
+/// The records of one JSON array. On an error prints it as one diagnostic line and returns nullopt.
 template <class Record>
 std::optional<std::vector<Record>> decodeOrReport(std::string_view json);
 

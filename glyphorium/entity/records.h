@@ -11,9 +11,8 @@
 #include "glyphorium/entity/boxed_optional.h"
 #include "glyphorium/export.h"
 
-/// The value records in which every character travels through the catalog. Hosts know the nested ones by
-/// their names in the catalog type, Glyphorium::Entity and so on. No record checks or normalises what it
-/// holds.
+/// The records that describe characters. They are also members of the catalog type: Glyphorium::Entity and so
+/// on. No record checks or normalises its fields.
 namespace glyph {
 
 struct Entity;
@@ -32,7 +31,7 @@ struct GLYPHORIUM_EXPORT ComputedEntity {
   std::string group;         ///< the name of its group, "latin basic"
   std::optional<bool> isSFSymbol;
 
-  /// An entity with a copy of this record and without enrichment.
+  /// An entity that has a copy of this record and no enrichment.
   Entity generateEntity() const;
 };
 
@@ -42,45 +41,46 @@ struct AdditionalDataAdvice {
   std::string text;
 };
 
-/// What the enrichment table adds to a code point. An empty text is a present value.
+/// A row of the enrichment table: what is known of a code point beside its group table. An empty text counts
+/// as a present value.
 struct GLYPHORIUM_EXPORT AdditionalData {
   std::string hex;
-  std::optional<std::string> betterName;  ///< wins over the table's name where it is not empty
+  std::optional<std::string> betterName;  ///< shown instead of the table's name unless it is empty
   std::optional<std::string> htmlNamed;   ///< named character reference, "&amp;"
-  std::optional<std::string> imageName;   ///< names an image that the host supplies
+  std::optional<std::string> imageName;   ///< the name of an image that the host supplies
   std::optional<std::vector<std::string>> searchTerms;
   std::optional<bool> needsSerifs;  ///< a font with serifs shows it better
   std::vector<AdditionalDataAdvice> advice;
 
-  /// The usage note in the first of preferredLanguages(), compared lower-cased and exactly with the notes'
-  /// languages, else the English one, else none.
+  /// The usage note in the first language of preferredLanguages(), else the English note, else nullopt. The
+  /// language is lower-cased and must then equal the note's.
   std::optional<std::string> localizedAdvice() const;
 };
 
 /// One catalog entry: a character and its enrichment, if it has any.
 struct GLYPHORIUM_EXPORT Entity {
   ComputedEntity computed;
-  BoxedOptional<AdditionalData> additional;  ///< fewer than one entity in eight has any
+  BoxedOptional<AdditionalData> additional;  ///< about one entity in eight has one
 
-  /// The name to show: the enrichment's better name where it has one, else the table's name.
+  /// The name to show: the enrichment's better name unless that is absent or empty, else the table's name.
   std::string name() const;
 
-  /// The Unicode escape of a string literal, "\u{1f600}", with the hex code as stored.
+  /// The escape sequence of a Swift string literal, "\u{1f600}", with the hex code as stored.
   std::string swiftDecimal() const;
 
-  /// All by which the entity can be searched, in lower case, each piece followed by one blank: name, hex,
-  /// decimal, both HTML references, group, symbol and, with enrichment, its search terms and its HTML name.
+  /// The searchable texts of the entity in lower case, with one blank behind each: name, hex, decimal, both
+  /// HTML references, group, symbol and, if it has enrichment, its search terms and its HTML name.
   std::string searchString() const;
 };
 
-/// A bare code point of the host's, to be turned into a record.
+/// A code point or hex list (see CodeFormats) from which to make a record.
 struct GLYPHORIUM_EXPORT Unicode {
   std::string hex;
 
   Unicode() = default;
   explicit Unicode(std::string hexCode) : hex(std::move(hexCode)) {}
 
-  /// A record with all code forms, without name and group.
+  /// A record with all code forms; its name and its group are empty.
   ComputedEntity computedEntity() const;
 };
 
@@ -91,8 +91,8 @@ struct RawUnicodeEntity {
   bool isSFSymbol = false;
 };
 
-/// Entities and their records are equal, and hash alike, exactly when their hex codes are equal byte for
-/// byte. A set therefore keeps each code point once, whatever groups it stands in.
+/// Two entities, or two of their records, are equal if their hex codes are equal byte for byte; their hashes
+/// follow that. A set therefore keeps each code point once, even if several groups hold it.
 inline bool operator==(const ComputedEntity& a, const ComputedEntity& b) {
   return a.hex == b.hex;
 }

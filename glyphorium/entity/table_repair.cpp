@@ -6,7 +6,7 @@
 namespace glyph {
 namespace {
 
-// text with every non-overlapping occurrence of `what` replaced, left to right.
+// The text with all occurrences of `what` replaced, from left to right, without overlaps.
 std::string replaced(std::string_view text, std::string_view what, std::string_view with) {
   std::string result;
   result.reserve(text.size() + 16);
@@ -19,10 +19,10 @@ std::string replaced(std::string_view text, std::string_view what, std::string_v
   }
 }
 
-// Whether the table holds one of the two sequences that the repair replaces. Looks at every byte, at memory
-// speed: quotation marks are too frequent in JSON for a search that stops at each of them.
+// Whether the table holds one of the two sequences that the repair replaces. A search that stops at each
+// quotation mark is slow, because JSON is full of them. This loop looks at every byte, at memory speed.
 bool needsRepair(std::string_view json) {
-  // No branch in the loop, so that the compiler makes vector code of it.
+  // The loop has no branch, so that the compiler can vectorise it.
   constexpr std::size_t block = 4096;
   for (std::size_t begin = 0; begin + 2 < json.size(); begin += block) {
     const std::size_t end = std::min(begin + block, json.size() - 2);
@@ -45,7 +45,8 @@ std::optional<std::string> repairedTable(std::string_view json) {
   constexpr std::string_view bareReverseSolidus = "\"\\\"";
   constexpr std::string_view bareQuotationMark = "\"\"\"";
   if (!needsRepair(json)) return std::nullopt;
-  // In this order: the other one would take the escape of the quotation mark for a bare reverse solidus.
+  // The order matters: the other way round, the second replacement would take the reverse solidus that
+  // escapes a quotation mark for a bare one.
   return replaced(replaced(json, bareReverseSolidus, R"("\\")"), bareQuotationMark, R"("\"")");
 }
 

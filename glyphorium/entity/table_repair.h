@@ -8,7 +8,7 @@
 namespace glyph {
 
 /// The table with the bare symbols of U+0022 and U+005C escaped: every `"\"` becomes `"\\"`, then every `"""`
-/// becomes `"\""`. nullopt for a table without either, so that the caller can parse it where it lies.
+/// becomes `"\""`. nullopt if the table has neither, so that the caller can parse it in place.
 std::optional<std::string> repairedTable(std::string_view json);
 
 }  // namespace glyph

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <system_error>
 
-/// ASCII characters, whatever the process's locale takes for letters.
+/// ASCII characters. Unlike the functions of <cctype>, these do not depend on the process's locale.
 namespace glyph::ascii {
 
 inline char lowered(char c) {
@@ -29,7 +29,8 @@ inline bool isAlphanumeric(char c) {
   return isLetter(c) || isDigit(c);
 }
 
-/// The number that the text is, all of it digits of that base; nullopt for others and beyond 32 bits.
+/// The value of a text that consists of digits of that base only; nullopt for any other text and for a value
+/// beyond 32 bits.
 inline std::optional<std::uint32_t> number(std::string_view text, int base) {
   std::uint32_t value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, base);

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-/// Values as JSON text, one by one: the JSON library's own arrays and objects allocate memory while they are
-/// destroyed, and end the program where there is none.
+/// Values as JSON text. Arrays are joined here from their elements, not built as arrays of the JSON library:
+/// those allocate memory in their destructors and end the program when memory runs out.
 namespace glyph {
 
 /// Ill-formed UTF-8 becomes U+FFFD.

@@ -25,7 +25,7 @@ std::int32_t length32(std::string_view text) {
   return static_cast<std::int32_t>(text.size());
 }
 
-// The code point at text[i], negative for an ill-formed sequence; moves i behind it.
+// The code point at text[i], or a negative number for an ill-formed sequence. Moves i behind it.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wconversion"  // inside ICU's macro
 UChar32 nextCodePoint(std::string_view text, std::int32_t& i) {
@@ -35,7 +35,8 @@ UChar32 nextCodePoint(std::string_view text, std::int32_t& i) {
 }
 #pragma GCC diagnostic pop
 
-// One break iterator a thread: creating one costs some hundred times what walking a short text does.
+// Each thread keeps one break iterator: creating one takes about a hundred times as long as walking a short
+// text.
 icu::BreakIterator* characterIterator() {
   thread_local const std::unique_ptr<icu::BreakIterator> iterator = [] {
     UErrorCode status = U_ZERO_ERROR;
@@ -45,7 +46,8 @@ icu::BreakIterator* characterIterator() {
   return iterator.get();
 }
 
-// Has the iterator walk the text, until the end of the scope: it must not keep pointing at the caller's text.
+// Sets the iterator to the text until the end of the scope. After that it must not point at the caller's text
+// any more.
 class IteratedText {
  public:
   IteratedText(icu::BreakIterator& iterator, std::string_view text, UErrorCode& status)
@@ -172,7 +174,7 @@ int displayWidth(std::string_view text) {
       const bool wide = eastAsian == U_EA_WIDE || eastAsian == U_EA_FULLWIDTH;
       widest = std::max(widest, wide ? 2 : 1);
     }
-    // U+FE0F asks for the emoji picture, which is two columns wide.
+    // U+FE0F selects the emoji presentation, which is two columns wide.
     if (points.find(U'\uFE0F') != std::u32string::npos) widest = 2;
     width += widest;
   }

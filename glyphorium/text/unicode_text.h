@@ -9,8 +9,8 @@
 
 #include "glyphorium/export.h"
 
-/// Unicode operations on UTF-8 text: ICU's, behind an ASCII fast path that never touches ICU. Ill-formed
-/// input never fails: its bytes are passed through, or counted, as the operation says.
+/// Unicode operations on UTF-8 text, by ICU. ASCII text takes a fast path without ICU. Ill-formed UTF-8 is no
+/// error: each operation says what it does with it. Any thread may call these functions.
 namespace glyph {
 
 /// The text in lower case: the full Unicode mapping, independent of language ("İ" gives two code points, a
@@ -18,19 +18,19 @@ namespace glyph {
 GLYPHORIUM_EXPORT std::string lowercased(std::string_view text);
 
 /// The text's user-perceived characters (extended grapheme clusters, UAX #29), in order, as views of `text`;
-/// CR LF is one. An ill-formed byte sequence stands as a cluster of its own.
+/// CR LF is one cluster. An ill-formed byte sequence is a cluster of its own.
 GLYPHORIUM_EXPORT std::vector<std::string_view> graphemeClusters(std::string_view text);
 
-/// The columns that the text takes on a terminal: 0 for what is combining or invisible, 2 for East Asian wide
-/// and fullwidth characters and emoji, else 1, cluster by cluster.
+/// How many columns the text takes on a terminal. A grapheme cluster takes 0 if it holds only marks and
+/// invisible characters, 2 if it is East Asian wide or fullwidth or an emoji, else 1.
 GLYPHORIUM_EXPORT int displayWidth(std::string_view text);
 
-/// Whether a terminal shows nothing of its own for the code point: control and format characters, white
-/// space, surrogates, unassigned and private-use code points, variation selectors and other
-/// default-ignorables.
+/// Whether a terminal shows nothing for the code point by itself: control and format characters, white
+/// space, surrogates, unassigned and private-use code points, variation selectors and other default-ignorable
+/// code points.
 GLYPHORIUM_EXPORT bool isInvisible(char32_t codePoint);
 
-/// Whether the code point combines with the one before it (general category M).
+/// Whether the code point is a mark (general category M), which combines with the character before it.
 GLYPHORIUM_EXPORT bool isCombining(char32_t codePoint);
 
 /// Whether the code point is a letter or a decimal digit.
@@ -45,7 +45,8 @@ GLYPHORIUM_EXPORT bool isWellFormedUtf8(std::string_view text);
 /// The text's code points; an ill-formed byte sequence counts as one U+FFFD.
 GLYPHORIUM_EXPORT std::u32string codePoints(std::string_view text);
 
-/// The code point as UTF-8; the empty text for what is no Unicode scalar value (a surrogate, above U+10FFFF).
+/// The code point as UTF-8. Empty for a number that is no Unicode scalar value: a surrogate, a negative
+/// number or one above U+10FFFF.
 GLYPHORIUM_EXPORT std::string utf8(std::int64_t codePoint);
 
 }  // namespace glyph

@@ -10,8 +10,8 @@ namespace glyph {
 
 /// The text with its XML references replaced, in one pass ("&amp;amp;" gives "&amp;"): decimal ("&#32;") and
 /// hexadecimal ("&#x20;", "&#X20;") character references and the five predefined entities amp, lt, gt, quot
-/// and apos. What is no such reference stays as it is: other entity names, a missing ";", no digits, a value
-/// that is no Unicode scalar value.
+/// and apos. Everything else stays unchanged: other entity names, a missing ";", no digits, a value
+/// that is no Unicode scalar value. Any thread may call it.
 GLYPHORIUM_EXPORT std::string xmlUnescaped(std::string_view text);
 
 }  // namespace glyph

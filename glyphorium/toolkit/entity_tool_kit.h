@@ -13,40 +13,42 @@
 
 namespace glyph {
 
-/// The stateless toolkit: the code formats, and what it does with entities.
+/// Operations on entities and, inherited, the code formats. The toolkit has no state.
 class GLYPHORIUM_EXPORT EntityToolKit : public CodeFormats {
  public:
-  /// Name completion: the records with `fallbackName` and `isSFSymbol` from the first entry of the Unicode
-  /// name table with their hex code (letter case does not count). A record without an entry keeps what it
-  /// has. Left out of the result are records then named "<control>" or without a name, and those of the group
-  /// "Private Use Area". May run on any thread.
+  /// The records with their names. Each takes `fallbackName` and `isSFSymbol` from the first entry of the
+  /// Unicode name table with its hex code, in upper or lower case; a record without an entry stays unchanged.
+  /// Then records are removed that have no name or the name "<control>", and those of the group "Private Use
+  /// Area". Any thread may call it.
   std::vector<ComputedEntity> addNames(std::vector<ComputedEntity> to) const;
 
-  /// Posts "contentHasChanged" without changing anything: asks the host's own views to refresh.
+  /// Posts "contentHasChanged" on NotificationCenter::defaultCenter(). A host uses it to make its views
+  /// refresh.
   void sendContentHasChangedNotification() const;
 
-  /// Replaces the content of pasteboard() by the text, as the one plain text there, and then posts
-  /// "entityCopied" with `displayedValue` as its object, or with the text where there is none. It is posted
-  /// also where the pasteboard did not take the text, which the result tells.
+  /// Replaces the whole content of pasteboard() by the text, then posts "entityCopied" on
+  /// NotificationCenter::defaultCenter(). The notification's object is `displayedValue`, or the text if that
+  /// is nullopt. The result says whether the pasteboard took the text; the notification is posted in any
+  /// case.
   bool writeToPasteboard(std::string_view text,
                          const std::optional<std::string>& displayedValue = std::nullopt) const;
 
-  /// The item by which the desktop's search finds the entity: its symbol and name as title, its usage note as
-  /// comment, its group as genre, and all of its search string as keywords.
+  /// The item by which the desktop's search finds the entity. Its title is the symbol and the name, its
+  /// comment the usage note, its genre the group; its keywords are the parts of the search string.
   SearchableItem searchableItem(const Entity& entity) const;
 
-  /// Hands searchableIndex() one request to add, or replace, an item for each entity, and does not wait for
-  /// it.
+  /// Hands searchableIndex() one request to add or replace the items of the entities. Does not wait for it.
   void addToSpotlight(const std::vector<Entity>& entities) const;
 
-  /// Hands searchableIndex() one request to delete the items of the entities' hex codes.
+  /// Hands searchableIndex() one request to delete the items with the entities' hex codes. Does not wait for
+  /// it.
   void removeFromSpotlight(const std::vector<Entity>& entities) const;
 
-  /// Hands searchableIndex() one request to delete all of the application's items.
+  /// Hands searchableIndex() one request to delete all items of the application. Does not wait for it.
   void resetSpotlight() const;
 };
 
-/// The shared toolkit.
+/// The shared toolkit. It lives until the process ends.
 GLYPHORIUM_EXPORT EntityToolKit& toolKit();
 
 }  // namespace glyph

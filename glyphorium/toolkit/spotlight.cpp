@@ -6,7 +6,7 @@
 namespace glyph {
 namespace {
 
-// The text split at every single blank; an empty piece stands wherever two meet and at the ends.
+// Appends the pieces of the text between blanks, empty ones included.
 void appendPieces(std::string_view text, std::vector<std::string>& pieces) {
   for (;;) {
     const std::size_t blank = text.find(' ');
@@ -32,8 +32,8 @@ SearchableItem EntityToolKit::searchableItem(const Entity& entity) const {
   return item;
 }
 
-// What becomes of these requests is nobody's to hear: the completions are empty. A host that wants to know
-// makes a request of its own, of searchable items.
+// These requests have no completion handler. A host that needs the outcome calls searchableIndex() itself,
+// with searchableItem().
 
 void EntityToolKit::addToSpotlight(const std::vector<Entity>& entities) const {
   std::vector<SearchableItem> items;
