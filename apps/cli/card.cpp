@@ -4,10 +4,8 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
-#include "glyphorium/data/name_table.h"
 #include "glyphorium/entity/codec.h"
-#include "glyphorium/text/unicode_text.h"
-#include "glyphorium/toolkit/entity_tool_kit.h"
+#include "glyphorium/toolkit/copy_forms.h"
 
 namespace cli {
 namespace {
@@ -29,13 +27,8 @@ void printForms(Output& output, const Entity& entity, const std::vector<std::str
   print("Hex", record.hex);
   print("Decimal", std::to_string(record.decimal));
   print("Swift", entity.swiftDecimal());
-  if (record.isSFSymbol.value_or(false)) {
-    // Snippets take the symbol library's own spelling, which only the name table keeps.
-    if (const auto entry = glyph::findName(record.hex)) {
-      print("SwiftUI", glyph::toolKit().getSFSymbolSwiftUICode(entry->name));
-      print("UIKit", glyph::toolKit().getSFSymbolUIKitCode(entry->name));
-    }
-  }
+  print("SwiftUI", glyph::copyForm("swiftui")->text(entity).value_or(""));
+  print("UIKit", glyph::copyForm("uikit")->text(entity).value_or(""));
   print(groups.size() > 1 ? "Groups" : "Group", joined(groups, ", "));
   if (entity.additional && entity.additional->searchTerms) {
     print("Found by", joined(*entity.additional->searchTerms, ", "));
@@ -43,22 +36,6 @@ void printForms(Output& output, const Entity& entity, const std::vector<std::str
 }
 
 }  // namespace
-
-std::string visibleSymbol(const ComputedEntity& record) {
-  const std::u32string points = glyph::codePoints(record.symbol);
-  if (points.size() != 1) return record.symbol;
-  const char32_t point = points.front();
-  if (point < 0x20) return glyph::utf8(0x2400 + static_cast<std::int64_t>(point));
-  if (point == 0x7F) return "␡";
-  if (glyph::isCombining(point)) return "◌" + record.symbol;
-  const bool privateUse = (point >= 0xE000 && point <= 0xF8FF) || point >= 0xF0000;
-  if (privateUse) return "▯";
-  const bool space = point == 0x20 || point == 0xA0 || point == 0x1680 ||
-                     (point >= 0x2000 && point <= 0x200A) || point == 0x202F || point == 0x205F ||
-                     point == 0x3000;
-  if (space) return "␣";
-  return glyph::isInvisible(point) ? "⬚" : record.symbol;
-}
 
 void printEntities(Output& output, const std::vector<const Entity*>& entities, bool json) {
   if (json) {
@@ -70,7 +47,7 @@ void printEntities(Output& output, const std::vector<const Entity*>& entities, b
   std::vector<std::vector<std::string>> rows;
   for (const Entity* entity : entities) {
     const bool named = entity->additional && entity->additional->htmlNamed;
-    rows.push_back({output.accent(visibleSymbol(entity->computed)), output.faint(entity->computed.hex),
+    rows.push_back({output.accent(visibleSymbol(entity->computed.symbol)), output.faint(entity->computed.hex),
                     entity->name(), output.faint(named ? *entity->additional->htmlNamed : "")});
   }
   output.printTable(rows);
@@ -83,11 +60,9 @@ void printCard(Output& output, const std::vector<Entity>& entities) {
     if (!one.computed.group.empty()) groups.push_back(one.computed.group);
   }
   const std::string name = entity.name().empty() ? "(not in the Unicode 13.0 name table)" : entity.name();
-  std::string code = "U+" + entity.computed.hex;
-  std::transform(code.begin(), code.end(), code.begin(),
-                 [](char c) { return c >= 'a' && c <= 'f' ? static_cast<char>(c - ('a' - 'A')) : c; });
-  output.printLine("  " + output.accent(visibleSymbol(entity.computed)) + "  " + output.strong(name) + "  " +
-                   output.faint(code));
+  const std::string code = glyph::copyForm("code-point")->text(entity).value_or(entity.computed.hex);
+  output.printLine("  " + output.accent(visibleSymbol(entity.computed.symbol)) + "  " + output.strong(name) +
+                   "  " + output.faint(code));
   if (name != entity.computed.fallbackName && !entity.computed.fallbackName.empty()) {
     output.printLine("    " + output.faint("in Unicode: " + entity.computed.fallbackName));
   }

@@ -5,14 +5,12 @@
 #include <vector>
 
 #include "glyphorium/entity/records.h"
+#include "glyphorium/text/visible_symbol.h"
 #include "output.h"
 
 namespace cli {
 
-/// The entity's symbol so that a terminal shows something: spaces as "␣", controls as their pictures,
-/// combining marks on a dotted circle, other invisible characters as a dotted square, private-use ones as an
-/// empty box.
-std::string visibleSymbol(const glyph::ComputedEntity& record);
+using glyph::visibleSymbol;
 
 /// Entities as a list: symbol, hex, name and HTML name, or their JSON objects.
 void printEntities(Output& output, const std::vector<const glyph::Entity*>& entities, bool json);

@@ -132,7 +132,7 @@ int removeCharacters(Output& output, const Names& arguments) {
     const auto codePoint = codeOrCharacter(argument);
     const std::string code = asStored || !codePoint ? argument : glyph::toolKit().getHex(*codePoint);
     if (std::find(added.begin(), added.end(), glyph::lowercased(code)) == added.end()) {
-      const Names near = nearest(code, added);
+      const Names near = nearestTexts(code, added);
       complain("'" + argument + "' is not among the added characters" +
                (near.empty() ? std::string() : "; did you mean '" + near.front() + "'?"));
       return nothingFound;

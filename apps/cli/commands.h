@@ -33,8 +33,7 @@ int addCharacters(Output& output, const std::vector<std::string>& codes);
 int removeCharacters(Output& output, const std::vector<std::string>& codes);
 int listAdded(Output& output, bool json);
 
-// The clipboard. The forms are names of copyForms().
-const std::vector<std::string>& copyForms();
+// The clipboard. The forms are identifiers of glyph::copyForms().
 int copyCharacter(Output& output, const std::string& argument, const std::string& form, bool throughTerminal);
 int copyEntities(Output& output, const std::vector<glyph::Entity>& entities, const std::string& form);
 

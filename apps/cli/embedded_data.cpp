@@ -48,7 +48,7 @@ int printTable(Output& output, const std::string& constant, bool json) {
     }
     std::vector<std::string> constants;
     for (const glyph::EmbeddedText& one : glyph::embeddedTexts()) constants.emplace_back(one.constant);
-    const std::vector<std::string> names = nearest(constant, constants);
+    const std::vector<std::string> names = nearestTexts(constant, constants);
     complain("there is no table '" + constant + "'" +
              (names.empty() ? "; 'glyphorium table' lists them" : "; did you mean '" + names.front() + "'?"));
     return wrongUse;

@@ -177,7 +177,7 @@ int searchIndex(Output& output, const std::vector<std::string>& words, int limit
     objects.push_back(nlohmann::ordered_json{
         {"hex", item.uniqueIdentifier}, {"name", name}, {"symbol", record.symbol}, {"group", item.genre}}
                           .dump());
-    rows.push_back({output.accent(visibleSymbol(record)), output.faint(item.uniqueIdentifier), name,
+    rows.push_back({output.accent(visibleSymbol(record.symbol)), output.faint(item.uniqueIdentifier), name,
                     output.faint(item.genre)});
   }
   json ? printJsonArray(output, objects) : output.printTable(rows);

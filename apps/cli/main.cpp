@@ -5,6 +5,7 @@
 
 #include "commands.h"
 #include "glyphorium/text/unicode_text.h"
+#include "glyphorium/toolkit/copy_forms.h"
 #include "glyphorium/version.h"
 #include "lookup.h"
 
@@ -126,13 +127,15 @@ void addChoices(CLI::App& app, Options& options, Run& run) {
 }
 
 void addCopying(CLI::App& app, Options& options, Run& run) {
+  std::vector<std::string> forms;
+  for (const glyph::CopyForm& form : glyph::copyForms()) forms.emplace_back(form.identifier);
   CLI::App* const copy =
       app.add_subcommand("copy", "Copy a character, or one of its code forms, to the clipboard");
   copy->add_option("CHARACTER", options.word, "→, U+2192, 2192, '&rarr;', 'rightwards arrow' ...")
       ->required();
   copy->add_option("--as", options.form, "The form to copy")
       ->capture_default_str()
-      ->check(CLI::IsMember(cli::copyForms()))
+      ->check(CLI::IsMember(forms))
       ->type_name("FORM");
   copy->add_flag("--terminal", options.terminal,
                  "Copy through the terminal (OSC 52), as in a remote session");
@@ -212,7 +215,7 @@ std::string explanation(const CLI::App& app, const CLI::ParseError& error) {
   for (const CLI::App* const command : app.get_subcommands([](const CLI::App*) { return true; })) {
     commands.push_back(command->get_name());
   }
-  const std::vector<std::string> names = cli::nearest(rest.front(), commands);
+  const std::vector<std::string> names = cli::nearestTexts(rest.front(), commands);
   return "there is no command '" + rest.front() + "'" +
          (names.empty() ? "" : "; did you mean '" + names.front() + "'?");
 }

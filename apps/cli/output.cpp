@@ -109,15 +109,6 @@ void complainOfFailure(std::string_view otherwise) {
   keptLines.clear();
 }
 
-std::string joined(const std::vector<std::string>& texts, std::string_view separator) {
-  std::string result;
-  for (const std::string& text : texts) {
-    if (!result.empty()) result += separator;
-    result += text;
-  }
-  return result;
-}
-
 int terminalWidth() {
   winsize size{};
   return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "glyphorium/text/text_pieces.h"
+
 /// What the commands print: collected, then written once, so that a failing command leaves no half output.
 namespace cli {
 
@@ -52,8 +54,7 @@ void keepDiagnostics(bool verbose);
 /// Complains with the kept lines that speak of a failure, or with `otherwise` where there are none.
 void complainOfFailure(std::string_view otherwise);
 
-/// The texts with the separator between them.
-std::string joined(const std::vector<std::string>& texts, std::string_view separator);
+using glyph::joined;
 
 /// The columns of the terminal behind standard output, 80 where it does not say.
 int terminalWidth();

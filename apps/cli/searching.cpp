@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "glyphorium/search/search.h"
-
 #include <iostream>
 #include <iterator>
 #include <nlohmann/json.hpp>
@@ -9,8 +7,8 @@
 #include "card.h"
 #include "commands.h"
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/data/name_capitalization.h"
 #include "glyphorium/data/name_table.h"
+#include "glyphorium/search/catalog_search.h"
 #include "glyphorium/state/selected_entities.h"
 #include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
@@ -33,12 +31,12 @@ std::string highlighted(const Output& output, const std::string& name, const gly
   return text + name.substr(at);
 }
 
-// The catalog's name of a code point that it holds; the name table knows the others.
+// "<control>" is no name, but says more than nothing.
 std::string nameOf(char32_t codePoint) {
-  if (const auto index = glyph::Search::ofCatalog().indexOf(codePoint))
-    return glyph::buildInEntity(*index)->name();
+  std::string name = glyph::entityOf(codePoint).name();
+  if (!name.empty()) return name;
   const auto entry = glyph::findName(glyph::toolKit().getHex(codePoint));
-  return entry ? glyph::capitalizedName(entry->name) : "(not in the Unicode 13.0 name table)";
+  return std::string(entry ? entry->name : "(not in the Unicode 13.0 name table)");
 }
 
 // Where no group holds the character that was asked for, it may still be one.
@@ -52,33 +50,6 @@ std::string beyondTheCatalog(const std::string& query) {
   return "; no group holds " + entity.computed.hex + " (" + entity.name() + "), but 'glyphorium show " +
          entity.computed.hex + "' describes it";
 }
-
-// What is searched. Nothing is decoded but the results where it is the catalog as it comes; configuring it
-// and making a search of it would take ten times as long as all the rest of the command.
-class SearchedEntities {
- public:
-  explicit SearchedEntities(bool displayedOnly) {
-    glyph::Glyphorium& catalog = glyph::glyphorium();
-    if (!displayedOnly && catalog.customAddedEntityUnicodes().empty()) return;
-    catalog.configure();
-    if (displayedOnly) {
-      list_ = glyph::selectedEntities();
-    } else {
-      list_ = catalog.allCustomEntities;
-      list_->insert(list_->end(), catalog.buildInEntities().begin(), catalog.buildInEntities().end());
-    }
-    search = glyph::Search(*list_);
-  }
-
-  Entity operator[](std::size_t place) const {
-    return list_ ? (*list_)[place] : *glyph::buildInEntity(place);
-  }
-
-  glyph::Search search = glyph::Search::ofCatalog();
-
- private:
-  std::optional<std::vector<Entity>> list_;
-};
 
 }  // namespace
 
@@ -95,17 +66,26 @@ int searchCatalog(Output& output, const SearchRequest& request, bool json) {
   }
   const std::string query = joined(request.words, " ");
 
-  const SearchedEntities entities(request.displayed);
-  const glyph::SearchResults found = entities.search.query(query, options);
+  std::optional<glyph::CatalogSearch> catalog;
+  glyph::SearchResults found;
+  if (request.displayed) {
+    glyph::glyphorium().configure();
+    found = glyph::Search(glyph::selectedEntities().get()).query(query, options);
+  } else {
+    found = catalog.emplace().query(query, options);
+  }
+  const auto entityOf = [&](const glyph::SearchResult& result) {
+    return catalog ? catalog->entity(result) : glyph::selectedEntities().get()[result.index];
+  };
   std::vector<std::string> objects;
   std::vector<std::vector<std::string>> rows;
   for (const glyph::SearchResult& result : found.results) {
-    const Entity entity = entities[result.index];
+    const Entity entity = entityOf(result);
     if (json) {
       objects.push_back(entityJson(entity));
       continue;
     }
-    rows.push_back({output.accent(visibleSymbol(entity.computed)), output.faint(entity.computed.hex),
+    rows.push_back({output.accent(visibleSymbol(entity.computed.symbol)), output.faint(entity.computed.hex),
                     highlighted(output, entity.name(), result), output.faint(entity.computed.group)});
   }
   if (found.results.empty()) {
@@ -121,7 +101,7 @@ int searchCatalog(Output& output, const SearchRequest& request, bool json) {
                                   std::to_string(found.total) + "; --limit shows more"));
   }
   if (!request.copy) return cli::found;
-  return copyEntities(output, {entities[found.results.front().index]}, copyForms().front());
+  return copyEntities(output, {entityOf(found.results.front())}, "character");
 }
 
 int identifyText(Output& output, const std::vector<std::string>& texts, bool json) {
@@ -155,7 +135,7 @@ int identifyText(Output& output, const std::vector<std::string>& texts, bool jso
                               .dump());
       }
       const char* const indent = points.size() > 1 && cluster != "\r\n" ? "  " : "";
-      rows.push_back({indent + output.accent(visibleSymbol(record)), output.faint(record.hex), name});
+      rows.push_back({indent + output.accent(visibleSymbol(record.symbol)), output.faint(record.hex), name});
     }
   }
   json ? printJsonArray(output, objects) : output.printTable(rows);

@@ -196,8 +196,10 @@ class Run {
     for (const Hit& hit : hits_) {
       if (results.results.size() == options_.limit) break;
       if (std::exchange(seen[hit.doc], 0) == 0) continue;
-      results.results.push_back(
-          {index_.docEntity[hit.doc], hit.field, nameRanges(index_, words_, index_.names[hit.doc])});
+      const auto cost = static_cast<std::uint32_t>(hit.order >> 32);
+      const bool exact = !approximate_ && hit.field != SearchField::group && cost < offset_ + behindExactCost;
+      results.results.push_back({index_.docEntity[hit.doc], hit.field,
+                                 nameRanges(index_, words_, index_.names[hit.doc]), cost, exact});
     }
     return results;
   }

@@ -44,6 +44,13 @@ struct SearchResult {
   SearchField field;
   std::vector<SearchRange>
       nameRanges;  ///< what the query's words match of the name, ascending, for highlighting
+  /// How far the result is from what was asked for, less is better: what several Searches find for one query
+  /// can be put in one order by it. It means nothing else, and its scale may change.
+  std::uint32_t cost = 0;
+  /// The query as a whole is the character, its code, or all of one thing that it is called: a name, a term,
+  /// an annotation. As always in a search, signs between words do not count. False where the results are
+  /// approximate.
+  bool exact = false;
 };
 
 struct SearchResults {

@@ -23,7 +23,7 @@ _glyphorium() {
   case $previous in
     --color) COMPREPLY=($(compgen -W 'auto always never' -- "$current")); return ;;
     --as)
-      COMPREPLY=($(compgen -W 'character hex decimal html html-hex html-decimal swift swiftui uikit' -- "$current"))
+      COMPREPLY=($(compgen -W 'character hex decimal code-point html html-hex html-decimal swift swiftui uikit' -- "$current"))
       return ;;
     --group) _glyphorium_names groups; return ;;
     --limit) return ;;

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// Texts taken apart and put together. Header only; any thread may call these functions.
+namespace glyph {
+
+/// The text without the ASCII white space at both ends, as a view of it.
+inline std::string_view trimmed(std::string_view text) {
+  constexpr std::string_view blanks = " \t\n\v\f\r";
+  const auto first = text.find_first_not_of(blanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+/// The texts in their order with the separator between each two.
+template <class Texts>
+std::string joined(const Texts& texts, std::string_view separator) {
+  std::string result;
+  bool first = true;
+  for (const auto& text : texts) {
+    if (!first) result += separator;
+    result += text;
+    first = false;
+  }
+  return result;
+}
+
+}  // namespace glyph

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/search/catalog_search.h"
+
+#include <gmock/gmock.h>
+
+#include "glyphorium/catalog/custom_entities.h"
+#include "tests/search/catalog_search.h"
+
+namespace glyph {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+
+const SearchOptions english{20, {{"en"}}, {}};
+
+std::vector<std::string> hexes(const CatalogSearch& search, const std::string& query,
+                               const SearchOptions& options = english) {
+  std::vector<std::string> found;
+  for (const SearchResult& result : search.query(query, options).results)
+    found.push_back(search.entity(result).computed.hex);
+  return found;
+}
+
+// The order must be the one of a single search over both lists, which costs two hundred times as much to
+// make.
+TEST(CatalogSearch, FindsTheUsersCharactersWhereOneSearchOverAllWould) {
+  const std::vector<std::string> codes{"2192", "05d0", "fffd", "0041,030a", "1f600", "2e3b"};
+  const CatalogSearch search(codes);
+  std::vector<Entity> all = customEntities(codes);
+  const std::vector<Entity>& catalog = testing::CatalogSearch::instance().entities;
+  all.insert(all.end(), catalog.begin(), catalog.end());
+  const Search whole(all);
+  for (const std::string query : {"arrow",
+                                  "rightwards arrow",
+                                  "→",
+                                  "2192",
+                                  "U+FFFD",
+                                  "replacement character",
+                                  "hebrew letter alef",
+                                  "alef",
+                                  "grinning",
+                                  "grinnign face",
+                                  "em dash",
+                                  "three em dash",
+                                  "group:custom",
+                                  "face group:custom",
+                                  "replacment",
+                                  "face",
+                                  "smile",
+                                  "group:arrows",
+                                  "letter",
+                                  "qqqqqq",
+                                  ""}) {
+    std::vector<std::string> expected;
+    const SearchResults found = whole.query(query, english);
+    for (const SearchResult& result : found.results) expected.push_back(all[result.index].computed.hex);
+    EXPECT_EQ(hexes(search, query), expected) << query;
+    EXPECT_EQ(search.query(query, english).total, found.total) << query;
+    EXPECT_EQ(search.query(query, english).approximate, found.approximate) << query;
+  }
+}
+
+TEST(CatalogSearch, GivesTheUsersEntityAndNoticesChanges) {
+  const CatalogSearch search({"2192", "0041,030a"});
+  const SearchResult arrow = search.query("→", english).results.front();
+  EXPECT_TRUE(search.isAdded(arrow));
+  EXPECT_EQ(search.entity(arrow).computed.group, "custom");
+  EXPECT_EQ(search.entityOfHex("2192")->computed.group, "custom");
+  EXPECT_EQ(search.entityOfHex("21d2")->name(), "Rightwards Double Arrow");
+  for (const char* const unknown : {"", "21D2", "021d2", "fffd", "zzzz"})
+    EXPECT_FALSE(search.entityOfHex(unknown)) << unknown;
+  EXPECT_FALSE(search.isCurrent());  // the test's store has none
+}
+
+TEST(CatalogSearch, TellsWhatIsMeantFromWhatComesNear) {
+  const CatalogSearch search{std::vector<std::string>()};
+  const std::pair<const char*, bool> queries[] = {
+      {"→", true},        {"U+2192", true},  {"rightwards arrow", true},
+      {"snowman", true},  {"&rarr;", true},  {"arro", false},
+      {"konsole", false}, {"snoman", false}, {"group:arrows", false}};
+  for (const auto& [query, exact] : queries) {
+    const auto found = search.query(query, english).results;
+    EXPECT_EQ(!found.empty() && found.front().exact, exact) << query;
+  }
+}
+
+}  // namespace
+}  // namespace glyph
