@@ -24,12 +24,13 @@ asan tsan:
 	cmake --build --preset $@ -j $(JOBS)
 	ctest --preset $@ -j $(JOBS)
 
-# The fuzzers, a few seconds each.
+# The fuzzers, each for as many seconds.
+FUZZ_SECONDS ?= 5
 fuzz:
 	@scripts/bootstrap fuzz
-	cmake --preset fuzz
+	cmake --preset fuzz -DGLYPHORIUM_FUZZ_SECONDS=$(FUZZ_SECONDS)
 	cmake --build --preset fuzz -j $(JOBS)
-	ctest --preset fuzz
+	ctest --preset fuzz -j $(JOBS)
 
 bench:
 	@scripts/bootstrap bench
