@@ -28,7 +28,10 @@ class Observed {
     didSet_(value_);
     return *this;
   }
-  Observed& operator=(const Observed& other) { return *this = other.value_; }
+  Observed& operator=(const Observed& other) {
+    *this = other.value_;
+    return *this;
+  }
 
   /// Changes the value in place by `change(T&)`, then calls the function once.
   template <class Change>
