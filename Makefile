@@ -1,5 +1,4 @@
-# The two commands of this project, and the few that its developers use besides.
-# Each installs what is missing, builds what changed, and needs no answer to any question.
+# The commands of this project. Each installs missing packages, builds what has changed and asks no question.
 
 JOBS ?= $(shell nproc)
 ARGS ?=
@@ -38,7 +37,7 @@ bench:
 	cmake --build --preset bench -j $(JOBS)
 	@for b in build/bench/benchmarks/*_benchmark; do dbus-run-session -- "$$b" $(ARGS) || exit 1; done
 
-# The desktop finds the installed programs, their manual page and completions, and its search provider here.
+# Installs the library, the programs and what a desktop needs to find them.
 PREFIX ?= /usr/local
 install:
 	@scripts/bootstrap install

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Decoding and joining the catalog beside the parser's bare parse of the same bytes.
+// Decoding and joining the catalog, compared with parsing the same bytes only.
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 #include <simdjson.h>
@@ -28,7 +28,7 @@ std::vector<std::string_view> configuredTables() {
   return tables;
 }
 
-// The raw limit: no record is made of what is parsed.
+// The raw limit: parsing without making records.
 void bareParse(benchmark::State& state) {
   const auto tables = configuredTables();
   simdjson::dom::parser parser;
@@ -43,7 +43,7 @@ void bareParse(benchmark::State& state) {
 }
 BENCHMARK(bareParse)->Unit(benchmark::kMillisecond);
 
-// As configure() does it.
+// The steps of configure().
 std::vector<Entity> decodedRows() {
   std::vector<Entity> records;
   records.reserve(17532);
@@ -59,7 +59,7 @@ std::vector<Entity> decodedRows() {
   return records;
 }
 
-// Taking the entities down again is not part of the cost: a catalog is filled once and kept.
+// Destroying the entities is not measured: a catalog is filled once and kept.
 template <class Make>
 void measureMaking(benchmark::State& state, Make make) {
   for (auto _ : state) {
@@ -108,7 +108,7 @@ void joinAlone(benchmark::State& state) {
 }
 BENCHMARK(joinAlone)->Unit(benchmark::kMillisecond);
 
-// Name completion of that many records, beside decoding the name table once.
+// Name completion of as many records, compared with decoding the name table once.
 void completeNames(benchmark::State& state) {
   std::vector<ComputedEntity> records(static_cast<std::size_t>(state.range(0)));
   for (std::size_t i = 0; i < records.size(); ++i) {
@@ -126,8 +126,8 @@ BENCHMARK(decodeNameTable)->Unit(benchmark::kMicrosecond);
 }  // namespace
 
 int main(int argc, char** argv) {
-  // Keep freed memory, as the parser keeps its own: whether the kernel has to give pages anew would otherwise
-  // decide the comparison. (A first run in a new process pays for them once, about 1 ms for 4 MB.)
+  // Keep freed memory, as the parser does. Otherwise the time that the kernel takes for new pages would
+  // decide the comparison. (A new process needs about 1 ms for 4 MB of pages, once.)
   mallopt(M_TRIM_THRESHOLD, 1 << 30);
   mallopt(M_MMAP_THRESHOLD, 1 << 30);
   benchmark::Initialize(&argc, argv);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The desktop's search index: the whole catalog indexed, replaced, queried and deleted, beside writing the
-// same texts plainly into one SQLite table.
+// The desktop's search index: the whole catalog is indexed, replaced, queried and deleted. The limit to
+// compare with is writing the same texts into one plain SQLite table.
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
@@ -124,7 +124,7 @@ void clear(benchmark::State& state) {
 }
 BENCHMARK(clear)->Unit(benchmark::kMillisecond);
 
-// The raw limit: the same titles and keywords as rows of a table, without words to find them by.
+// The raw limit: the same titles and keywords as rows of a table without a word index.
 void plainTable(benchmark::State& state) {
   for (auto _ : state) {
     state.PauseTiming();

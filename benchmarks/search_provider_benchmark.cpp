@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The desktop search provider with the whole catalog indexed, on a bus of its own: started by a call, and
-// called while it runs, beside the same round trip to the bus itself.
+// The desktop search provider on a private bus, with the whole catalog indexed: a call that starts it, calls
+// while it runs and, to compare with, a round trip to the bus itself.
 #include <benchmark/benchmark.h>
 #include <signal.h>
 #include <sys/wait.h>
@@ -35,7 +35,7 @@ sd_bus* bus() {
   return connection;
 }
 
-// The results of a search, so that no answer can be mistaken for a quick one.
+// Returns the results, so that an empty answer is not taken for a quick one.
 std::size_t search(const char* word) {
   sd_bus_message* reply = nullptr;
   std::size_t results = 0;
@@ -95,7 +95,7 @@ void startProvider(benchmark::State& state) {
 }
 BENCHMARK(startProvider)->UseManualTime()->Iterations(50)->Unit(benchmark::kMillisecond);
 
-// Runs this program again inside a session of its own, with the catalog indexed there.
+// Runs this program again in a session of its own, in which the catalog is indexed.
 int runInSession(char** arguments) {
   std::string folder = std::filesystem::temp_directory_path() / "glyphorium-XXXXXX";
   if (!mkdtemp(folder.data())) return 1;

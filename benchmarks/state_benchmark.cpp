@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Building the displayed list and adding a character, beside configuring the catalog and a plain sort and
-// copy.
+// Building the displayed list and adding a character, compared with configuring the catalog and with a plain
+// sort and copy.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -45,7 +45,7 @@ void buildAllGroups(benchmark::State& state) {
 }
 BENCHMARK(buildAllGroups)->Unit(benchmark::kMillisecond);
 
-// What the list costs without any rule: the same entities copied and sorted.
+// The raw limit: the same entities copied and sorted, without any rule.
 void plainSortAndCopy(benchmark::State& state) {
   displayAllGroups(configuredCatalog());
   configuredCatalog().setSelectedEntities();
@@ -63,7 +63,7 @@ void plainSortAndCopy(benchmark::State& state) {
 }
 BENCHMARK(plainSortAndCopy)->Unit(benchmark::kMillisecond);
 
-// With the store on disk (or in memory) and a few groups displayed, as most users have it.
+// With the store on disk or in memory, and a few displayed groups.
 void addOneCharacter(benchmark::State& state) {
   Glyphorium& catalog = configuredCatalog();
   const auto folder = std::filesystem::temp_directory_path() / "glyphorium-state-benchmark";

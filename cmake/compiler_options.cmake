@@ -1,4 +1,4 @@
-# Options of every target of this project: the language, the warnings it is clean of, the sanitizers asked for.
+# Options of all targets: the language standard, warnings, sanitizers.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -10,7 +10,7 @@ add_library(glyphorium_warnings INTERFACE)
 target_compile_options(glyphorium_warnings INTERFACE
   $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow>)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  # GCC 12 sees overlapping copies inside its own std::string (GCC bug 105651).
+  # GCC 12 warns of overlapping copies inside std::string, wrongly (GCC bug 105651).
   target_compile_options(glyphorium_warnings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)
 endif()
 

@@ -1,5 +1,5 @@
-# What is installed of the library, and how other projects find it: by find_package(Glyphorium) or by pkg-config
-# as glyphorium. The component "runtime" is for those who run programs, "development" for those who build them.
+# Installs the library and the files by which find_package(Glyphorium) and pkg-config find it. The component "runtime"
+# is what programs need to run, "development" what is needed to build them.
 include(CMakePackageConfigHelpers)
 
 install(TARGETS glyphorium EXPORT GlyphoriumTargets
@@ -27,7 +27,7 @@ write_basic_package_version_file(
 install(FILES ${PROJECT_BINARY_DIR}/GlyphoriumConfig.cmake ${PROJECT_BINARY_DIR}/GlyphoriumConfigVersion.cmake
         DESTINATION ${package_directory} COMPONENT development)
 
-# Relative to the file itself, so that the installed folder may be moved, or named only when installing.
+# The prefix is relative to the file, so that the installed folder may be moved and the prefix chosen when installing.
 set(pkgconfig_directory ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH pkgconfig_prefix ${CMAKE_INSTALL_PREFIX}/${pkgconfig_directory} ${CMAKE_INSTALL_PREFIX})
 configure_file(${CMAKE_CURRENT_LIST_DIR}/glyphorium.pc.in ${PROJECT_BINARY_DIR}/glyphorium.pc @ONLY)

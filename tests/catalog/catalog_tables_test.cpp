@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What must hold of every row that the library ships.
+// Checks every row of the embedded tables.
 #include <gmock/gmock.h>
 
 #include <map>
@@ -29,7 +29,7 @@ TEST(CatalogTables, EveryRowAgreesWithItsCodePoint) {
     rows += records->size();
     std::vector<ComputedEntity> named;
     for (const ComputedEntity& record : *records) {
-      // The encoders rebuild every code form from the hex code alone.
+      // All other code forms can be computed from the hex code.
       const ComputedEntity rebuilt = Unicode(record.hex).computedEntity();
       ASSERT_EQ(record.decimal, rebuilt.decimal);
       ASSERT_EQ(record.htmlHex, rebuilt.htmlHex);
@@ -42,13 +42,13 @@ TEST(CatalogTables, EveryRowAgreesWithItsCodePoint) {
       ASSERT_EQ(record.group, table.group);
       ASSERT_EQ(record.isSFSymbol, table.constant == "sfSymbolsJson" ? std::optional(true) : std::nullopt);
       named.push_back(rebuilt);
-      // Where tables overlap, their rows differ in their groups only.
+      // Rows of the same code point in several tables differ in the group only.
       const auto [other, isNew] = first.try_emplace(record.hex, record);
       if (isNew) continue;
       ASSERT_EQ(record.fallbackName, other->second.fallbackName);
       ASSERT_NE(record.group, other->second.group) << record.hex << " stands twice in " << table.constant;
     }
-    // Name completion gives every row the name that the table carries.
+    // Name completion gives each row the name that it already has.
     named = toolKit().addNames(named);
     ASSERT_EQ(named.size(), records->size()) << table.constant;
     for (std::size_t i = 0; i < named.size(); ++i) {
@@ -69,12 +69,12 @@ TEST(CatalogTables, EnrichmentHoldsWhatIsRequiredOfIt) {
   ASSERT_EQ(rows->size(), 1546u);
   std::map<std::string, std::vector<std::string>> terms;
   for (const AdditionalData& row : *rows) {
-    // Every key stands in every row, empty where there is no value.
+    // Each row has all keys; a key without a value is empty.
     ASSERT_TRUE(row.betterName && row.htmlNamed && row.imageName && row.searchTerms && row.needsSerifs)
         << row.hex;
     for (const std::string& term : *row.searchTerms) terms[row.hex].push_back(term + *row.htmlNamed);
   }
-  // Of the two rows of a code point, each has its own terms and reference.
+  // U+2122 has two rows, with different terms and references.
   EXPECT_THAT(terms["0026"], testing::ElementsAre("and&amp;", "et&amp;", "+&amp;"));
   EXPECT_THAT(terms["2153"],
               testing::ElementsAre("1 3 13 1/3 0,3", "33%", "fraction&frac13;", "1 3 13 1/3&frac13;"));
@@ -113,7 +113,7 @@ TEST(NameCompletion, NamesAndFilters) {
                {"100000", "<Plane 16 Private Use, First>"},
                {"zzzz", "Mine", "Mine"},
                {"0041", "Latin Capital Letter A", "", "private use area"},
-               // These are left out.
+               // Records that are removed.
                {"0041", "", "", "Private Use Area"},
                {"zzzz", "", "<CONTROL>"},
                {"4e01", ""},

@@ -24,7 +24,7 @@ TEST_F(CustomAddedEntities, AddingAndRemovingHaveTheirEffectsInOrder) {
   EXPECT_EQ(stored("customAddedEntities"), SettingValue(Names({"0041", "21d0"})));
   EXPECT_EQ(catalog.allEntityGroupNamesWithCount->at("custom"), 2);
 
-  // Adding what is there stores nothing new, but everything is done again.
+  // Adding a stored code again leaves the list unchanged, but has all effects again.
   catalog.addCustomAddedEntity("21d0");
   EXPECT_THAT(taken(), ElementsAre("deleted 0041 21d0", "saved customAddedEntities",
                                    "didSet ↘ allCustomEntities '2'", "indexed 0041 21d0",
@@ -51,7 +51,7 @@ TEST_F(CustomAddedEntities, StoredCodesAreComparedAsStored) {
   catalog.modifyCustomAddedEntityUnicodes([](Names& codes) { codes.push_back("0041"); });
   EXPECT_EQ(catalog.customAddedEntityUnicodes(), Names({"00E9", "0041"}));
 
-  // Only what has a name becomes an entity.
+  // A code without a name does not become an entity.
   catalog.setCustomAddedEntityUnicodes({"00e9", "4e01", "0085", "zzzz", "1F600", "0041,030a", "", "041"});
   const std::vector<Entity>& custom = catalog.allCustomEntities;
   ASSERT_THAT(hexCodes(custom), ElementsAre("00e9", "1F600"));

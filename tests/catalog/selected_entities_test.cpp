@@ -18,7 +18,7 @@ using SelectedEntitiesTest = CatalogFixture;
 
 TEST_F(Configure, FillsTheCatalogTheSameWayEachTime) {
   Glyphorium catalog;
-  catalog.configure();  // for a fresh user, who sees the added characters only
+  catalog.configure();  // nothing is stored, so only added characters are displayed
   EXPECT_THAT(taken(), ElementsAre("didSet ↘ allBuildInEntities '17532'", "didSet ↘ allCustomEntities '0'",
                                    "didSet ↘ allEntityGroupNamesWithCount '112'", "contentHasChanged 0"));
   EXPECT_FALSE(stored("displayedGroups"));
@@ -46,7 +46,7 @@ TEST_F(Configure, FillsTheCatalogTheSameWayEachTime) {
   EXPECT_EQ(catalog.allEntityGroupNamesWithCount->count("custom"), 0u);
   EXPECT_EQ(allBuildInEntityGroups().front(), "custom");
 
-  // The counts are those of the tables.
+  // The counts equal the numbers of rows in the tables.
   for (const EmbeddedText& text : embeddedTexts()) {
     if (text.configured) {
       EXPECT_EQ(catalog.allEntityGroupNamesWithCount->at(std::string(text.group)), text.rows);
@@ -71,8 +71,8 @@ TEST(Globals, AreCreatedOnceByWhicheverThreadComesFirst) {
 
 TEST_F(SelectedEntitiesTest, KeepsEachCodePointOfTheEarliestGroupInCodePointOrder) {
   Glyphorium catalog;
-  // "hex group" each. The last ones are dropped whatever their groups: forbidden ones in any case, not
-  // displayable ones in lower case only.
+  // "hex group" each. The last ones are dropped whatever their groups: forbidden codes in upper or lower
+  // case, codes that cannot be displayed in lower case only.
   std::vector<Entity> entities;
   for (const std::string text :
        {"2190 custom", "00e9 Latin", "00E9 latin", "0041 latin", "2190 arrows", "0041 LATIN", "2192 arrows",

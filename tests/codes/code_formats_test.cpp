@@ -11,7 +11,7 @@ namespace {
 constexpr CodeFormats formats;
 
 TEST(CodeFormats, DecimalIsThePositionalSumOfThreeOrMoreCharacters) {
-  // Characters are those that people see: CR LF is one, and so is a letter with its accent.
+  // Counted in grapheme clusters: CR LF is one, and so is a letter with its accent.
   const std::pair<const char*, std::int64_t> cases[] = {{"1F600", 128512},
                                                         {"", 0},
                                                         {"7", 0},

@@ -14,7 +14,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-// A table of one row, with a change.
+// A table of one row, with one piece of text replaced.
 std::string table(std::string_view what = "", std::string_view replacement = "") {
   std::string text =
       R"([{"symbol":"A","hex":"0041","htmlHex":"&#x41;","fallbackName":"N","htmlDecimal":"&#65;","decimal":65,"group":"g"}])";
@@ -30,11 +30,12 @@ TEST(EntityCodec, OneFaultyRowFailsTheWholeTableAndIsReportedOnce) {
       table("\"group\":\"g\"", R"("isSFSymbol":null,"group":"g")"),
   };
   const struct {
-    std::string fault;  // what the line must speak of
+    std::string fault;  // a part of the diagnostic line
     std::vector<std::string> tables;
   } faulty[] = {
       {"JSON", {"", "not JSON", table("}]", "},]"), table() + " x"}},
-      {"JSON", {table("\"hex\"", R"("ignored":tru,"hex")")}},  // faulty where nobody reads it
+      {"JSON",
+       {table("\"hex\"", R"("ignored":tru,"hex")")}},  // a syntax error in the value of an unknown key
       {"UTF-8", {table("\"A\"", "\"\xFF\"")}},
       {"array", {"{}"}},
       {"object", {"[1]"}},

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What happens when memory runs out at any moment: std::bad_alloc reaches the caller, or the operation
-// succeeds all the same; afterwards everything works. The address sanitizer finds what would be lost
-// meanwhile.
+// Lets each allocation of an operation fail in turn. Either std::bad_alloc reaches the caller or the
+// operation succeeds; afterwards the library must work as before. Under the address sanitizer, this finds
+// leaks too.
 #include <gmock/gmock.h>
 
 #include <cstdint>
@@ -31,7 +31,7 @@ class ExhaustedMemory : public testing::Test {
   }
   ~ExhaustedMemory() override { setDiagnosticsSink(nullptr); }
 
-  // Whether the operation succeeded while those calls of operator new failed.
+  // Returns whether the operation succeeded although these calls of operator new failed.
   static bool run(std::size_t first, std::size_t last, const std::function<void()>& operation) {
     failingNew = {first, last};
     bool succeeded = true;
@@ -44,9 +44,9 @@ class ExhaustedMemory : public testing::Test {
     return succeeded;
   }
 
-  // Runs the operation with each of its calls failing, alone and with all later ones, and `check` after each
-  // run. Of very many calls the first and last ones fail, where something begins or is put in place, and some
-  // between.
+  // Counts the allocations of the operation. Then lets each fail, alone and with all later ones, and runs
+  // `check` after each run. If there are very many, only the first ones, the last ones and some in between
+  // fail.
   static void failAtEveryCall(const std::function<void()>& operation, const std::function<void(bool)>& check,
                               std::size_t atMost = 200) {
     const bool undisturbed = run(0, 0, operation);
@@ -68,7 +68,7 @@ class ExhaustedMemory : public testing::Test {
   }
 };
 
-// Operations that change nothing: a result is right or there is none.
+// Operations that only read: the result is right, or there is none.
 TEST_F(ExhaustedMemory, LeavesNoWrongResults) {
   const Glyphorium catalog;
   ComputedEntity record = Unicode("0041").computedEntity();
@@ -100,7 +100,7 @@ TEST_F(ExhaustedMemory, LeavesNoWrongResults) {
                     [&](bool succeeded) { EXPECT_TRUE(!succeeded || result == expected); });
   }
 
-  // The search would rather find nothing than fail while a person types.
+  // A search throws nothing: it finds nothing instead.
   std::size_t found = 0;
   failAtEveryCall(
       [&] {
@@ -116,7 +116,7 @@ TEST_F(ExhaustedMemory, LeavesACatalogThatCanBeConfigured) {
   settings->set("displayedGroups", Names{"custom", "arrows", "a group that no table has"});
   settings->set("customAddedEntities", Names{"2190", "1f600", "0041,030a"});
   Glyphorium catalog;
-  // As at the start of the program, so that an old list and a complete one differ.
+  // The catalog is empty first, so that the old and the new lists differ.
   const auto reset = [&] {
     catalog = Glyphorium();
     selectedEntities() = std::vector<Entity>();
@@ -157,7 +157,7 @@ TEST_F(ExhaustedMemory, LeavesTheOldChoiceOrTheNewOne) {
         });
       },
       [&](bool succeeded) {
-        // Another connection sees it: no transaction is left open, and none is half done.
+        // Another connection must be able to read the value: no transaction may be left open.
         const std::size_t now = stored();
         EXPECT_EQ(now, succeeded || now != size ? size + 1 : size);
         size = now;

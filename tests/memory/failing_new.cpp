@@ -20,8 +20,8 @@ void* allocated(std::size_t size) noexcept {
 
 }  // namespace
 
-// All forms together (but those for over-aligned types, which nobody here uses): a sanitizer has its own of
-// each, and notices memory that goes from one to the other.
+// Replaces all forms of operator new and delete except those for over-aligned types, which are not used here.
+// The address sanitizer reports memory that is allocated by one implementation and freed by another.
 void* operator new(std::size_t size) {
   if (void* const memory = allocated(size)) return memory;
   throw std::bad_alloc();

@@ -5,8 +5,8 @@
 
 namespace glyph {
 
-/// Which of this thread's calls of operator new fail: those numbered from `first` to `last`, the next being
-/// number 1 when `calls` is 0.
+/// The calls of operator new on this thread that fail: those with the numbers `first` to `last`. `calls` is
+/// the number of calls so far; set it to 0 to begin.
 struct FailingNew {
   std::size_t first = 0, last = 0, calls = 0;
 };

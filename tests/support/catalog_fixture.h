@@ -19,12 +19,12 @@
 
 namespace glyph {
 
-/// A fresh user: empty settings, index and clipboard in memory, and a record of what happens, in order.
+/// Settings, index and clipboard in memory, all empty, and a record of all events in their order.
 class CatalogFixture : public testing::Test {
  protected:
   using Names = std::vector<std::string>;
 
-  // Settings that note their writes among the events.
+  // Settings that record each write as an event.
   class Settings final : public SettingsStore {
    public:
     explicit Settings(Names& events) : events_(events) {}
@@ -49,7 +49,7 @@ class CatalogFixture : public testing::Test {
     Names& events_;
   };
 
-  // An index that notes its requests among the events.
+  // An index that records each request as an event.
   class Index final : public SearchableIndex {
    public:
     explicit Index(Names& events) : events_(events) {}

@@ -12,15 +12,16 @@
 
 namespace glyph {
 
-/// How often to kill a writer: as usual, or as GLYPHORIUM_KILL_ROUNDS asks.
+/// How often to kill a writer: `usual`, unless the variable GLYPHORIUM_KILL_ROUNDS says otherwise.
 inline int killRounds(int usual) {
   const char* const asked = getenv("GLYPHORIUM_KILL_ROUNDS");
   return asked ? std::atoi(asked) : usual;
 }
 
-/// Kills a process that runs `write(descriptor)` after up to `most`, while this one goes on calling
-/// `meanwhile`. The writer tells each of its writes by a byte; this returns their number. With `begun` the
-/// time runs from the first write, else from the start.
+/// Runs `write(descriptor)` in a child process and kills that after a random time of at most `most`. This
+/// process calls `meanwhile` until then. The child sends a byte to the descriptor after each write; the
+/// result is the number of bytes. The time begins with the first write if `begun` is true, else with the
+/// start.
 template <class Write, class Meanwhile>
 std::size_t writesUntilKilled(bool begun, std::chrono::microseconds most, Write write, Meanwhile meanwhile) {
   static std::minstd_rand random(std::random_device{}());

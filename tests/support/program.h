@@ -13,8 +13,8 @@ struct ProgramResult {
   std::string output;
 };
 
-/// Runs a shell command and collects its standard output; redirect standard error in the command to have it
-/// too.
+/// Runs a shell command and collects its standard output. Redirect standard error in the command to collect
+/// it too.
 inline ProgramResult runProgram(const std::string& command) {
   ProgramResult result{-1, {}};
   FILE* const pipe = popen(command.c_str(), "r");

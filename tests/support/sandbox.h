@@ -16,7 +16,7 @@
 
 namespace glyph {
 
-/// A new directory of this test's own, deleted in the end.
+/// A new temporary directory, deleted by the destructor.
 class TemporaryDirectory {
  public:
   TemporaryDirectory() {
@@ -36,7 +36,7 @@ class TemporaryDirectory {
   std::filesystem::path path_;
 };
 
-/// Sets an environment variable, or unsets it, until the end of the scope.
+/// Sets or unsets an environment variable until the end of the scope.
 class ScopedVariable {
  public:
   ScopedVariable(const char* name, const std::optional<std::string>& value) : name_(name) {
@@ -69,7 +69,7 @@ inline void writeProgram(const std::filesystem::path& file, const std::string& c
   std::filesystem::permissions(file, std::filesystem::perms::owner_all);
 }
 
-/// Runs `body` in a child process that ends at once with its result, and waits for it.
+/// Runs `body` in a child process, which ends with its result as exit code, and waits for it.
 template <class Body>
 int inChild(Body body) {
   const pid_t child = fork();
@@ -79,7 +79,8 @@ int inChild(Body body) {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-/// Runs `body(i)` in `count` child processes at once, and `meanwhile` here. Whether each ended with 0.
+/// Runs `body(i)` in `count` child processes at the same time, and `meanwhile` in this one. Returns whether
+/// all ended with 0.
 template <class Body>
 bool inChildren(
     int count, Body body, const std::function<void()>& meanwhile = [] {}) {
@@ -98,7 +99,8 @@ bool inChildren(
   return good;
 }
 
-/// Waits for what another process or thread brings about, up to a time that only a hanging one needs.
+/// Waits until a condition holds that another process or thread brings about. Gives up after a time so long
+/// that something must hang.
 template <class Condition>
 bool eventually(Condition condition) {
   for (int attempt = 0; attempt < 3'000; ++attempt) {

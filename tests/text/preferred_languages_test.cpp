@@ -15,12 +15,12 @@ TEST(PreferredLanguages, AreThoseOfGettextWithoutRegions) {
     Languages languages;
     std::optional<std::string> lang = {}, language = {}, messages = {}, all = {};
   } cases[] = {{{"en"}},
-               // Which variable counts.
+               // The order of the variables.
                {{"de"}, "de_AT.UTF-8"},
                {{"fr"}, "de_DE", {}, "fr_FR"},
                {{"it"}, "de_DE", {}, "fr_FR", "it_IT"},
                {{"de"}, "de_DE", {}, {}, ""},
-               // LANGUAGE: instead of the locale, except in the bare C locale.
+               // LANGUAGE replaces the locale, unless the locale is C or POSIX.
                {{"pt", "fr"}, "de_DE", "pt_BR:pt:fr"},
                {{"de"}, "de_DE", ""},
                {{"sv"}, "de_DE", "::sv:C:fr"},
@@ -28,7 +28,7 @@ TEST(PreferredLanguages, AreThoseOfGettextWithoutRegions) {
                {{"en"}, {}, "fr"},
                {{"fr"}, "C.UTF-8", "fr"},
                {{"en"}, "C.UTF-8"},
-               // Forms of a locale name, and what is none.
+               // Forms of locale names, and malformed ones.
                {{"sr-Latn"}, "sr_RS.UTF-8@latin"},
                {{"zh-Hant"}, "ZH-hANT"},
                {{"en"}, "../../x"},
