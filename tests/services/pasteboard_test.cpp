@@ -15,6 +15,7 @@
 
 #include "glyphorium/services/pasteboard/desktop_pasteboard.h"
 #include "glyphorium/services/pasteboard/terminal_pasteboard.h"
+#include "tests/support/display_server.h"
 #include "tests/support/program.h"
 #include "tests/support/recorded_diagnostics.h"
 #include "tests/support/sandbox.h"
@@ -30,13 +31,13 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::SizeIs;
 
-// Ended, or a zombie that nobody has reaped yet.
+// Ended, or a zombie whose exit code has not been collected yet.
 bool gone(const std::string& process) {
   const std::string status = fileContent("/proc/" + process + "/stat");
   return status.empty() || status.find(") Z ") != std::string::npos;
 }
 
-// What old kernels and some sandboxes do.
+// As on old kernels and in some sandboxes.
 void forbidPidfd() {
   sock_filter program[] = {
       BPF_STMT(BPF_LD | BPF_W | BPF_ABS, 0), BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_pidfd_open, 0, 1),
@@ -47,8 +48,8 @@ void forbidPidfd() {
 }
 
 TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
-  // What a stand-in for a clipboard program does with the text; each first logs its name.
-  const std::string take = "/bin/cat >\"$DIR/text\"\n", fail = "exit 1\n";
+  // What a stand-in for a clipboard program does with the text. Each first logs its name.
+  const std::string take = "/bin/cat >\"$DIR/text\"\n", own = take + "echo copied\n", fail = "exit 1\n";
   const std::string hang = "/bin/sleep 1000 & echo $! >\"$DIR/process\"; wait\n";
   const std::string stubborn = "trap '' TERM INT HUP\n" + hang;
   const std::string flood = "echo $$ >\"$DIR/process\"; while :; do echo y; echo y >&2; done\n";
@@ -56,7 +57,7 @@ TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
   const struct {
     std::string display, waylandDisplay, desktop, xclip, wlCopy, xsel, text;
     bool taken;
-    std::string asked, problem;
+    std::string asked, problem, owner = {};
   } cases[] = {
       {x, "", "", take, take, take, "→", true, "xclip ", ""},
       {"", w, "", take, take, take, "→", true, "wl-copy ", ""},
@@ -67,19 +68,29 @@ TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
       {x, "", gnome, missing, take, take, "→\n", true, "xsel ", ""},
       {x, "", "", fail, take, take, "", false, "xclip ", "xclip: exit code 1"},
       {x, "", "", missing, take, take, "a\0b"s, false, "", "xclip: not installed"},
-      {x, w, sway, missing, missing, take, "→", false, "", "wl-copy: not installed, xclip: not installed"},
+      {x, w, sway, missing, missing, take, "→", false, "", "wl-copy: not installed, owner: not installed, xclip: not installed"},
       {"", "", gnome, take, take, take, "→", false, "", "neither WAYLAND_DISPLAY nor DISPLAY"},
       {x, "", "", hang, take, take, "→", false, "xclip ", "xclip: no answer in time"},
       {x, w, sway, take, stubborn, take, "→", false, "wl-copy ", "wl-copy: no answer in time"},
       {x, "", "", flood, take, take, "→", false, "xclip ", "xclip: no answer in time"},
       {x, "", "", take, take, take, std::string(3'000'000, 'y'), true, "xclip ", ""},
+      {x, "", "", take, take, take, "→", true, "owner ", "", own},
+      {x, w, gnome, take, take, take, "→", true, "owner ", "", own},
+      {x, w, sway, take, take, take, "→", true, "wl-copy ", "", own},
+      {x, w, sway, take, fail, take, "→", true, "wl-copy owner ", "", own},
+      {x, "", "", take, take, take, "→", true, "owner xclip ", "", "exit 0"},
+      {x, "", "", fail, take, missing, "→", false, "owner xclip ", "owner: no room, xclip: exit code 1",
+       "echo no room"},
+      {x, "", "", take, take, take, "→", false, "owner ", "owner: no answer in time", hang},
   };
   for (const bool pidfd : {true, false}) {
     for (const auto& row : cases) {
       SCOPED_TRACE(row.display + row.waylandDisplay + row.desktop + " " + row.asked + row.problem);
       const TemporaryDirectory directory;
-      for (const auto& [name, body] :
-           {std::pair{"xclip", row.xclip}, {"wl-copy", row.wlCopy}, {"xsel", row.xsel}}) {
+      for (const auto& [name, body] : {std::pair{"xclip", row.xclip},
+                                       {"wl-copy", row.wlCopy},
+                                       {"xsel", row.xsel},
+                                       {"owner", row.owner}}) {
         if (body != missing)
           writeProgram(directory / name, "printf '"s + name + " ' >>\"$DIR/log\"\n" + body);
       }
@@ -90,7 +101,7 @@ TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
                                           {"XDG_CURRENT_DESKTOP", row.desktop}};
       RecordedDiagnostics diagnostics;
       const bool hangs = row.problem.find("in time") != std::string::npos;
-      DesktopPasteboard pasteboard(hangs ? 1s : 20s);
+      DesktopPasteboard pasteboard(hangs ? 1s : 20s, directory / "owner");
       if (pidfd) {
         EXPECT_EQ(pasteboard.setPlainText(row.text), row.taken);
         EXPECT_THAT(diagnostics.take(), AllOf(SizeIs(row.taken ? 0 : 1), Each(HasSubstr(row.problem))));
@@ -117,7 +128,8 @@ TEST(DesktopPasteboard, WhatStaysBehindHoldsNothingOfTheHost) {
   int ends[2];
   ASSERT_EQ(pipe(ends), 0);  // inheritable, as a host's descriptors often are
   const auto before = signal(SIGCHLD, SIG_IGN);
-  EXPECT_TRUE(DesktopPasteboard(20s).setPlainText("→"));
+  // Without an exit code: the word that our own program did not say sends the text on to the next.
+  EXPECT_TRUE(DesktopPasteboard(20s, "/bin/false").setPlainText("→"));
   signal(SIGCHLD, before);
   close(ends[1]);
   pollfd end{ends[0], POLLIN, 0};
@@ -133,36 +145,14 @@ std::string output(const std::string& command) {
   return runProgram("exec 2>/dev/null; " + command).output;
 }
 
-// A display server of this test's own.
-class Server {
- public:
-  explicit Server(const std::string& command) : process_(fork()) {
-    if (process_ == 0) {
-      execl("/bin/sh", "sh", "-c", ("exec " + command).c_str(), nullptr);
-      _exit(127);
-    }
-  }
-  ~Server() {
-    kill(process_, SIGCONT);
-    kill(process_, SIGTERM);
-    waitpid(process_, nullptr, 0);
-  }
-  Server(const Server&) = delete;
-  Server& operator=(const Server&) = delete;
-  void freeze() const { kill(process_, SIGSTOP); }
-
- private:
-  pid_t process_;
-};
-
 // Copies in a process that has ended before the text is read.
-void copyAndEnd(const std::string& text) {
-  EXPECT_EQ(inChild([&] { return DesktopPasteboard(60s).setPlainText(text) ? 0 : 1; }), 0);
+void copyAndEnd(const std::string& text, const std::string& ownerProgram = OWNER_PROGRAM) {
+  EXPECT_EQ(inChild([&] { return DesktopPasteboard(60s, ownerProgram).setPlainText(text) ? 0 : 1; }), 0);
 }
 
-// By what other programs are told and given; in the end the server hangs.
-void exchangeTexts(const Server& server, const std::string& list, const testing::Matcher<std::string>& types,
-                   const std::string& paste) {
+// Copies texts and reads them with another program. In the end the server hangs.
+void exchangeTexts(const BackgroundProgram& server, const std::string& list,
+                   const testing::Matcher<std::string>& types, const std::string& paste) {
   const std::string large(10'000'000, 'm');
   for (const auto& text : {"→ °C 😀"s, ""s, "a\0b"s, "two\nlines\n"s, large, "&#x2192;"s}) {
     copyAndEnd(text);
@@ -171,58 +161,37 @@ void exchangeTexts(const Server& server, const std::string& list, const testing:
   }
   RecordedDiagnostics diagnostics;
   server.freeze();
-  EXPECT_FALSE(DesktopPasteboard(500ms).setPlainText("never arrives"));
+  EXPECT_FALSE(DesktopPasteboard(500ms, OWNER_PROGRAM).setPlainText("never arrives"));
   EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("no answer in time")));
 }
 
 TEST(DesktopPasteboard, TextOutlivesItsWriterUnderX11) {
-  if (!isInstalled("Xvfb") || !isInstalled("xclip")) GTEST_SKIP() << "needs Xvfb and xclip";
-  const TemporaryDirectory directory;
-  const std::string number = directory / "display";
-  const Server server("Xvfb -displayfd 7 -screen 0 640x480x24 -nolisten tcp -noreset 7>" + number +
-                      " >/dev/null 2>&1");
-  ASSERT_TRUE(eventually([&] { return fileContent(number).ends_with('\n'); }));
-  const ScopedVariable variables[] = {{"DISPLAY", ":" + std::to_string(std::stoi(fileContent(number)))},
-                                      {"WAYLAND_DISPLAY", {}}};
+  const XServer x;
+  if (!x.usable || !isInstalled("xclip")) GTEST_SKIP() << "needs Xvfb and xclip";
+  const std::string paste = "xclip -selection clipboard -o";
+  copyAndEnd("by xclip →\n", "/nonexistent");
+  // xclip and xsel leave for the background a moment before they have the clipboard.
+  EXPECT_TRUE(eventually([&] { return output(paste) == "by xclip →\n"; }));
   if (isInstalled("xsel")) {
-    const auto bin = directory / "bin";
+    const auto bin = x.directory / "bin";
     std::filesystem::create_directory(bin);
     std::filesystem::create_symlink(output("printf %s \"$(command -v xsel)\""), bin / "xsel");
     {
       const ScopedVariable onlyXsel("PATH", bin);
-      copyAndEnd("by xsel →\n");
+      copyAndEnd("by xsel →\n", "/nonexistent");
     }
-    // xsel detaches itself a moment before the clipboard is its own.
-    EXPECT_TRUE(eventually([] { return output("xclip -selection clipboard -o") == "by xsel →\n"; }));
+    EXPECT_TRUE(eventually([&] { return output(paste) == "by xsel →\n"; }));
   }
-  exchangeTexts(server, "xclip -selection clipboard -o -t TARGETS", "TARGETS\nUTF8_STRING\n",
-                "xclip -selection clipboard -o");
+  if (OWNER_PROGRAM ""s == "/nonexistent") GTEST_SKIP() << "built without XCB";
+  exchangeTexts(x.server, paste + " -t TARGETS", HasSubstr("UTF8_STRING\n"), paste);
   const ScopedVariable nowhere("DISPLAY", ":987654");
-  EXPECT_FALSE(DesktopPasteboard(20s).setPlainText("never arrives"));
+  EXPECT_FALSE(DesktopPasteboard(20s, OWNER_PROGRAM).setPlainText("never arrives"));
 }
 
 TEST(DesktopPasteboard, TextOutlivesItsWriterUnderWayland) {
-  if (!isInstalled("sway") || !isInstalled("wl-copy")) GTEST_SKIP() << "needs sway and wl-clipboard";
-  const TemporaryDirectory directory;
-  const std::filesystem::path runtime = directory / "runtime", configuration = directory / "config";
-  chmod((directory / "").c_str(), 0755);
-  std::filesystem::create_directory(runtime);
-  chmod(runtime.c_str(), 0700);
-  writeFile(configuration, "xwayland disable\n");
-  // The compositor refuses to run as root, but lets root's programs connect.
-  std::string asNobody;
-  if (getuid() == 0) {
-    ASSERT_EQ(chown(runtime.c_str(), 65534, 65534), 0);
-    asNobody = "setpriv --reuid=65534 --regid=65534 --clear-groups ";
-  }
-  const ScopedVariable variables[] = {{"XDG_RUNTIME_DIR", runtime},     {"DISPLAY", {}},
-                                      {"WAYLAND_DISPLAY", {}},          {"WLR_BACKENDS", "headless"},
-                                      {"WLR_LIBINPUT_NO_DEVICES", "1"}, {"WLR_RENDERER", "pixman"},
-                                      {"HOME", "/nonexistent"}};
-  const Server server(asNobody + "sway -c " + configuration.string() + " >/dev/null 2>&1");
-  ASSERT_TRUE(eventually([&] { return std::filesystem::exists(runtime / "wayland-1"); }));
-  const ScopedVariable display("WAYLAND_DISPLAY", "wayland-1");
-  exchangeTexts(server, "wl-paste -l", HasSubstr("text/plain;charset=utf-8\n"), "wl-paste -n");
+  const WaylandServer wayland;
+  if (!wayland.usable) GTEST_SKIP() << "needs sway and wl-clipboard";
+  exchangeTexts(wayland.server, "wl-paste -l", HasSubstr("text/plain;charset=utf-8\n"), "wl-paste -n");
 }
 
 TEST(TerminalPasteboard, AsksTheTerminalForWhatItCanTake) {
@@ -247,7 +216,7 @@ TEST(TerminalPasteboard, AsksTheTerminalForWhatItCanTake) {
   RecordedDiagnostics diagnostics;
   EXPECT_FALSE(pasteboard.setPlainText(""));
   EXPECT_FALSE(pasteboard.setPlainText(std::string(74'001, 'a')));
-  EXPECT_FALSE(pasteboard.setPlainText(std::string(74'000, 'a'))) << "nobody reads";
+  EXPECT_FALSE(pasteboard.setPlainText(std::string(74'000, 'a'))) << "no program reads";
   EXPECT_FALSE(TerminalPasteboard("/nonexistent").setPlainText("→"));
   EXPECT_EQ(diagnostics.take().size(), 4u);
   close(keptOpen);

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/services/pasteboard/desktop_pasteboard.h"
 
+#include <dlfcn.h>
+
 #include <cstdlib>
 #include <exception>
+#include <filesystem>
 #include <string>
+#include <system_error>
+#include <utility>
 #include <vector>
 
 #include "glyphorium/services/diagnostics/diagnostics.h"
@@ -11,8 +16,6 @@
 
 namespace glyph {
 namespace {
-
-using Command = std::vector<std::string>;
 
 std::string_view environment(const char* variable) {
   const char* const value = std::getenv(variable);
@@ -30,42 +33,67 @@ bool desktopIs(std::string_view name) {
   }
 }
 
+// Where the build and the installation put the program: at a fixed path from the library's own file. Empty
+// where that file is not known.
+std::string installedOwnerProgram() {
+  Dl_info library{};
+  const auto* const code = reinterpret_cast<const void*>(&installedOwnerProgram);
+  // A relative name was given to the loader in a working directory that may have changed since.
+  if (!dladdr(code, &library) || !library.dli_fname || library.dli_fname[0] != '/') return {};
+  std::error_code error;
+  const auto file = std::filesystem::canonical(library.dli_fname, error);
+  if (error) return {};
+  return (file.parent_path() / CLIPBOARD_OWNER).lexically_normal();
+}
+
+// Our own program for X11. It orders overlapping copies by the time at which they were asked for.
+Program owner(std::string path) {
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  const auto askedAt = std::chrono::duration_cast<std::chrono::microseconds>(now).count();
+  return {{std::move(path), std::to_string(askedAt)}, "copied"};
+}
+
 // The programs that can take the text in this session, best first.
-std::vector<Command> commandsFor(std::string_view text) {
-  // xclip without -t offers UTF8_STRING, which every program reads; with a type of its own it offers only
-  // that.
-  const Command xclip{"xclip", "-selection", "clipboard", "-in"};
+std::vector<Program> programsFor(std::string_view text, const std::string& ownerPath) {
+  std::vector<Program> x11Programs;
+  if (ownerPath.starts_with('/')) x11Programs.push_back(owner(ownerPath));
+  // Without -t xclip offers UTF8_STRING, which every program reads. With it, xclip offers that type only.
+  x11Programs.push_back({{"xclip", "-selection", "clipboard", "-in"}});
   // Without a type wl-copy guesses one from the content.
-  const Command wlCopy{"wl-copy", "--type", "text/plain;charset=utf-8"};
+  const Program wlCopy{{"wl-copy", "--type", "text/plain;charset=utf-8"}};
   const bool x11 = !environment("DISPLAY").empty();
   const bool wayland = !environment("WAYLAND_DISPLAY").empty();
 
-  // GNOME gives wl-copy no clipboard without the keyboard's focus; xclip reaches the same clipboard through
-  // Xwayland. Other Wayland desktops heed Xwayland's clipboard only while an X11 window has the focus.
-  if (x11 && wayland) return desktopIs("GNOME") ? std::vector{xclip, wlCopy} : std::vector{wlCopy, xclip};
+  if (x11 && wayland) {
+    // GNOME gives wl-copy no clipboard without the keyboard's focus. An X11 program reaches the same
+    // clipboard through Xwayland. Other Wayland desktops heed Xwayland's clipboard only while an X11 window
+    // has the focus.
+    std::vector<Program> programs = std::move(x11Programs);
+    programs.insert(desktopIs("GNOME") ? programs.end() : programs.begin(), wlCopy);
+    return programs;
+  }
   if (wayland) return {wlCopy};
   if (!x11) return {};
-  std::vector<Command> commands{xclip};
   // xsel clears the clipboard for the empty text and cuts a text at its first NUL.
   if (!text.empty() && text.find('\0') == std::string_view::npos) {
-    commands.push_back({"xsel", "--clipboard", "--input"});
+    x11Programs.push_back({{"xsel", "--clipboard", "--input"}});
   }
-  return commands;
+  return x11Programs;
 }
 
 // Empty where a program took the text, else the reason why none did.
-std::string handOver(std::string_view text, std::chrono::milliseconds limit) {
-  const auto commands = commandsFor(text);
-  if (commands.empty()) return "no display: neither WAYLAND_DISPLAY nor DISPLAY is set";
-
+std::string handOver(std::string_view text, std::chrono::milliseconds limit, const std::string& ownerPath) {
   const auto deadline = std::chrono::steady_clock::now() + limit;
+  const auto programs = programsFor(text, ownerPath);
+  if (programs.empty()) return "no display: neither WAYLAND_DISPLAY nor DISPLAY is set";
+
   std::string problems;
-  for (const Command& command : commands) {
-    const SpawnResult result = runProgram(command, text, deadline);
+  for (const Program& program : programs) {
+    const SpawnResult result = runProgram(program, text, deadline);
     if (result.end == SpawnEnd::succeeded) return {};
     if (!problems.empty()) problems += ", ";
-    problems += command.front() + ": " + result.problem;
-    // The display server hangs; it would hang the next program as well.
+    problems += std::filesystem::path(program.command.front()).filename().string() + ": " + result.problem;
+    // The display server hangs. The next program would hang as well.
     if (result.end == SpawnEnd::timedOut) break;
   }
   return problems;
@@ -74,7 +102,8 @@ std::string handOver(std::string_view text, std::chrono::milliseconds limit) {
 }  // namespace
 
 bool DesktopPasteboard::setPlainText(std::string_view text) try {
-  const std::string problem = handOver(text, limit_);
+  const std::string problem =
+      handOver(text, limit_, ownerProgram_.empty() ? installedOwnerProgram() : ownerProgram_);
   if (!problem.empty()) printDiagnostic("Clipboard unchanged (" + problem + ")");
   return problem.empty();
 } catch (const std::exception&) {  // out of memory

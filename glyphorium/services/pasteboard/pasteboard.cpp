@@ -9,13 +9,13 @@
 namespace glyph {
 namespace {
 
-struct InPlace {
+struct Current {
   std::mutex mutex;
   std::shared_ptr<Pasteboard> pasteboard = std::make_shared<DesktopPasteboard>();
 };
 
-InPlace& inPlace() {
-  static NeverDestroyed<InPlace> instance;
+Current& current() {
+  static NeverDestroyed<Current> instance;
   return *instance;
 }
 
@@ -24,14 +24,14 @@ InPlace& inPlace() {
 Pasteboard::~Pasteboard() = default;
 
 std::shared_ptr<Pasteboard> pasteboard() {
-  const std::lock_guard lock(inPlace().mutex);
-  return inPlace().pasteboard;
+  const std::lock_guard lock(current().mutex);
+  return current().pasteboard;
 }
 
 void setPasteboard(std::shared_ptr<Pasteboard> replacement) {
   if (!replacement) replacement = std::make_shared<DesktopPasteboard>();
-  const std::lock_guard lock(inPlace().mutex);
-  inPlace().pasteboard.swap(replacement);
+  const std::lock_guard lock(current().mutex);
+  current().pasteboard.swap(replacement);
 }
 
 bool MemoryPasteboard::setPlainText(std::string_view text) {

@@ -16,23 +16,24 @@ class GLYPHORIUM_EXPORT Pasteboard {
  public:
   virtual ~Pasteboard();
 
-  /// Replaces the whole content, of whatever types, by the one plain text (UTF-8; empty and NUL are texts
-  /// like others). True where the clipboard took it; the reason of a failure goes to the diagnostics. Throws
-  /// nothing. Safe to call from any thread.
+  /// Replaces the whole content, whatever its types, by one plain text in UTF-8. The text may be empty and
+  /// may contain NUL. Returns true when the clipboard has taken the text; else prints the reason as a
+  /// diagnostic. Throws nothing and may be called from any thread.
   virtual bool setPlainText(std::string_view text) = 0;
 };
 
-/// The pasteboard in place: until a host sets another, the desktop's (DesktopPasteboard). Never null.
+/// The pasteboard that the library copies to. It is a DesktopPasteboard until a host sets another one. Never
+/// null.
 GLYPHORIUM_EXPORT std::shared_ptr<Pasteboard> pasteboard();
 
-/// Puts the host's pasteboard in place; null goes back to the desktop's.
+/// Makes the library copy to another pasteboard. Null: to a DesktopPasteboard again.
 GLYPHORIUM_EXPORT void setPasteboard(std::shared_ptr<Pasteboard> replacement);
 
-/// A pasteboard of this process alone, for tests and for hosts without a desktop.
+/// A pasteboard that keeps its text in this process, for tests and for hosts without a desktop.
 class GLYPHORIUM_EXPORT MemoryPasteboard final : public Pasteboard {
  public:
   bool setPlainText(std::string_view text) override;
-  /// The text set last; nullopt before the first.
+  /// The text that was set last. nullopt before the first.
   std::optional<std::string> plainText() const;
 
  private:

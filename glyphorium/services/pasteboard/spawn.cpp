@@ -39,7 +39,14 @@ SpawnResult failure(const char* what, int error) {
   return {SpawnEnd::failed, std::string(what) + ": " + std::generic_category().message(error)};
 }
 
-// The input as a file in memory: unlike a pipe it needs no feeding, cannot block and raises no SIGPIPE.
+// Input and output are files in memory, which only the two processes can open. Unlike a pipe, such a file
+// never blocks and raises no SIGPIPE. Its number is above the standard streams, where the host may have
+// closed one, so that setting up one stream of the child does not overwrite another.
+int memoryFile() {
+  const Descriptor file(memfd_create("clipboard", MFD_CLOEXEC));
+  return file.open() ? fcntl(file.number(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1) : -1;
+}
+
 bool fill(int file, std::string_view input) {
   while (!input.empty()) {
     const ssize_t written = write(file, input.data(), input.size());
@@ -52,15 +59,17 @@ bool fill(int file, std::string_view input) {
 
 class SpawnSettings {
  public:
-  explicit SpawnSettings(int input) {
+  // A negative number of the output stands for /dev/null.
+  SpawnSettings(int input, int output) {
     posix_spawn_file_actions_init(&actions);
     posix_spawnattr_init(&attributes);
     error = posix_spawn_file_actions_adddup2(&actions, input, STDIN_FILENO);
-    // Whoever captures this process's output waits until every holder of it has ended, and the clipboard's
-    // program stays: it must not inherit ours.
-    for (const int output : {STDOUT_FILENO, STDERR_FILENO}) {
-      if (!error) error = posix_spawn_file_actions_addopen(&actions, output, "/dev/null", O_WRONLY, 0);
+    // The program stays in the background. With our output it would keep everyone waiting who collects what
+    // we print.
+    for (const int stream : {STDOUT_FILENO, STDERR_FILENO}) {
+      if (!error) error = posix_spawn_file_actions_addopen(&actions, stream, "/dev/null", O_WRONLY, 0);
     }
+    if (!error && output >= 0) error = posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
     if (!error) error = posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
     if (!error) error = posix_spawn_file_actions_addchdir_np(&actions, "/");
     sigset_t none, all;
@@ -83,11 +92,11 @@ class SpawnSettings {
   int error = 0;
 };
 
-// Waits until the child has ended, without reaping it; false at the deadline.
+// Waits until the child has ended, and leaves its exit code to be collected. False at the deadline.
 bool awaitEnd(pid_t child, Clock::time_point deadline) {
   // The C library's own pidfd_open cannot be linked from C++ in glibc 2.36.
   const Descriptor handle(static_cast<int>(syscall(SYS_pidfd_open, child, 0)));
-  if (!handle.open() && errno == ESRCH) return true;  // ended and reaped by the host
+  if (!handle.open() && errno == ESRCH) return true;  // ended, and the host has collected the exit code
   for (;;) {
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
     const int wait = static_cast<int>(std::clamp<decltype(left)>(left, 0, 3'600'000));
@@ -107,29 +116,41 @@ bool awaitEnd(pid_t child, Clock::time_point deadline) {
   }
 }
 
-SpawnResult reap(pid_t child) {
+// Collects the exit code of a child that has ended. Empty on success, else the problem.
+std::string exitProblem(pid_t child) {
   int status = 0;
-  pid_t reaped;
+  pid_t collected;
   do {
-    reaped = waitpid(child, &status, 0);
-  } while (reaped < 0 && errno == EINTR);
-  if (reaped < 0) return {SpawnEnd::succeeded, {}};  // the host took the exit code
-  if (WIFEXITED(status) && WEXITSTATUS(status) == 0) return {SpawnEnd::succeeded, {}};
-  if (WIFEXITED(status)) return {SpawnEnd::failed, "exit code " + std::to_string(WEXITSTATUS(status))};
-  return {SpawnEnd::failed, "ended by signal " + std::to_string(WTERMSIG(status))};
+    collected = waitpid(child, &status, 0);
+  } while (collected < 0 && errno == EINTR);
+  if (collected < 0) return {};  // the host has the exit code
+  if (WIFEXITED(status) && WEXITSTATUS(status) == 0) return {};
+  if (WIFEXITED(status)) return "exit code " + std::to_string(WEXITSTATUS(status));
+  return "ended by signal " + std::to_string(WTERMSIG(status));
+}
+
+// The first line of a file, as far as it is short.
+std::string firstLine(int file) {
+  char buffer[256];
+  const ssize_t size = pread(file, buffer, sizeof buffer, 0);
+  const std::string_view content(buffer, static_cast<std::size_t>(std::max<ssize_t>(size, 0)));
+  return std::string(content.substr(0, content.find('\n')));
 }
 
 }  // namespace
 
-SpawnResult runProgram(const std::vector<std::string>& command, std::string_view input,
-                       Clock::time_point deadline) {
-  const Descriptor file(memfd_create("input", MFD_CLOEXEC));
+SpawnResult runProgram(const Program& program, std::string_view input, Clock::time_point deadline) {
+  const Descriptor file(memoryFile());
   if (!file.open() || !fill(file.number(), input)) return failure("no memory for the text", errno);
-  const SpawnSettings settings(file.number());
+  const Descriptor output(program.word.empty() ? -1 : memoryFile());
+  if (!program.word.empty() && !output.open()) return failure("no memory for the answer", errno);
+  const SpawnSettings settings(file.number(), output.number());
   if (settings.error) return failure("not started", settings.error);
 
   std::vector<char*> arguments;
-  for (const std::string& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));
+  for (const std::string& argument : program.command) {
+    arguments.push_back(const_cast<char*>(argument.c_str()));
+  }
   arguments.push_back(nullptr);
   pid_t child = 0;
   const int error =
@@ -137,11 +158,20 @@ SpawnResult runProgram(const std::vector<std::string>& command, std::string_view
   if (error == ENOENT) return {SpawnEnd::notInstalled, "not installed"};
   if (error) return failure("not started", error);
 
-  if (awaitEnd(child, deadline)) return reap(child);
-  kill(-child, SIGKILL);  // the group: the program may have started others
-  // Not a plain waitpid: a process that hangs in the kernel does not even end by this signal.
-  if (awaitEnd(child, Clock::now() + std::chrono::milliseconds(500))) reap(child);
-  return {SpawnEnd::timedOut, "no answer in time"};
+  if (!awaitEnd(child, deadline)) {
+    kill(-child, SIGKILL);  // the group: the program may have started others
+    // Not a plain waitpid: a process that hangs in the kernel does not even end by this signal.
+    if (awaitEnd(child, Clock::now() + std::chrono::milliseconds(500))) exitProblem(child);
+    return {SpawnEnd::timedOut, "no answer in time"};
+  }
+  std::string problem = exitProblem(child);
+  if (!program.word.empty()) {
+    const std::string said = firstLine(output.number());
+    if (said == program.word) return {SpawnEnd::succeeded, {}};
+    if (!said.empty()) problem = said;
+    if (problem.empty()) problem = "no answer";
+  }
+  return {problem.empty() ? SpawnEnd::succeeded : SpawnEnd::failed, problem};
 }
 
 }  // namespace glyph

@@ -34,7 +34,7 @@ std::string base64(std::string_view text) {
   return result;
 }
 
-// False where the terminal stops taking bytes (its output may be held by ctrl-S) or is gone.
+// False where the terminal is gone or takes no more bytes, for example because its user has pressed Ctrl-S.
 bool writeAll(int terminal, std::string_view bytes, Clock::time_point deadline) {
   while (!bytes.empty()) {
     const ssize_t written = write(terminal, bytes.data(), bytes.size());

@@ -9,19 +9,20 @@
 
 namespace glyph {
 
-/// The clipboard of the terminal's own machine, by the control sequence OSC 52: it works through ssh and
-/// without a display. A terminal does not answer, and many ignore the sequence until the user permits it, so
-/// success means only that the terminal was asked. Never in place by itself: the bytes go into a screen that
-/// is not ours to write to unless the user wants it.
+/// The clipboard of the machine on which the terminal runs, reached by the control sequence OSC 52. It works
+/// through ssh and without a display. A terminal does not answer, and many ignore the sequence until the user
+/// permits it. Success therefore means only that the terminal was asked. The library uses it only where a
+/// host sets it, because it writes to the user's terminal.
 class GLYPHORIUM_EXPORT TerminalPasteboard final : public Pasteboard {
  public:
-  /// What terminals are known to take, in bytes of text; longer sequences are dropped without a word.
+  /// The longest text in bytes that terminals are known to take. They ignore longer sequences silently.
   static constexpr std::size_t maximumLength = 74'000;
 
+  /// `device` is the path of the terminal. The default is the terminal of this process.
   explicit TerminalPasteboard(std::string device = "/dev/tty");
 
-  /// False for the empty text, which terminals do not take, for one longer than maximumLength, and where
-  /// there is no terminal or it does not accept the bytes within two seconds.
+  /// False for the empty text, which terminals do not take, and for a text longer than maximumLength. Also
+  /// false where there is no terminal, or where it does not accept the bytes within two seconds.
   bool setPlainText(std::string_view text) override;
 
  private:
