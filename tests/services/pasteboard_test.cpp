@@ -13,8 +13,12 @@
 
 #include <thread>
 
+#include "glyphorium/services/notifications/notification_center.h"
+#include "glyphorium/services/notifications/notification_names.h"
 #include "glyphorium/services/pasteboard/desktop_pasteboard.h"
+#include "glyphorium/services/pasteboard/spawn.h"
 #include "glyphorium/services/pasteboard/terminal_pasteboard.h"
+#include "glyphorium/toolkit/entity_tool_kit.h"
 #include "tests/support/display_server.h"
 #include "tests/support/program.h"
 #include "tests/support/recorded_diagnostics.h"
@@ -68,7 +72,8 @@ TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
       {x, "", gnome, missing, take, take, "→\n", true, "xsel ", ""},
       {x, "", "", fail, take, take, "", false, "xclip ", "xclip: exit code 1"},
       {x, "", "", missing, take, take, "a\0b"s, false, "", "xclip: not installed"},
-      {x, w, sway, missing, missing, take, "→", false, "", "wl-copy: not installed, owner: not installed, xclip: not installed"},
+      {x, w, sway, missing, missing, take, "→", false, "",
+       "wl-copy: not installed, owner: not installed, xclip: not installed"},
       {"", "", gnome, take, take, take, "→", false, "", "neither WAYLAND_DISPLAY nor DISPLAY"},
       {x, "", "", hang, take, take, "→", false, "xclip ", "xclip: no answer in time"},
       {x, w, sway, take, stubborn, take, "→", false, "wl-copy ", "wl-copy: no answer in time"},
@@ -192,6 +197,73 @@ TEST(DesktopPasteboard, TextOutlivesItsWriterUnderWayland) {
   const WaylandServer wayland;
   if (!wayland.usable) GTEST_SKIP() << "needs sway and wl-clipboard";
   exchangeTexts(wayland.server, "wl-paste -l", HasSubstr("text/plain;charset=utf-8\n"), "wl-paste -n");
+}
+
+// Copies in pairs while other programs keep the processors busy. When "entityCopied" runs for the second copy
+// of a pair, its text must be there for others to read, and it must stay. In most pairs another process makes
+// one of the copies. With `overlapping` its copy may still be under way when the second is asked for.
+void copyUnderLoad(const std::string& paste, bool overlapping) {
+  const char* const asked = getenv("GLYPHORIUM_COPIES");
+  const int pairs = asked ? (std::stoi(asked) + 1) / 2 : 12;
+  const BackgroundProgram busy[] = {BackgroundProgram("sh -c 'while :; do :; done'"),
+                                    BackgroundProgram("sh -c 'while :; do :; done'"),
+                                    BackgroundProgram("sh -c 'while :; do :; done'")};
+  setPasteboard(std::make_shared<DesktopPasteboard>(20s, OWNER_PROGRAM));
+  int refused = 0, late = 0, replaced = 0;
+  std::string text, there;
+  std::chrono::duration<double> slowest{};
+  const auto observer = NotificationCenter::defaultCenter().addObserver(
+      notificationName::entityCopied, [&](auto&) { there = output(paste); });
+  const auto copy = [&] {
+    const auto start = std::chrono::steady_clock::now();
+    const bool taken = pasteboard()->setPlainText(text);
+    slowest = std::max<std::chrono::duration<double>>(slowest, std::chrono::steady_clock::now() - start);
+    return taken;
+  };
+  for (int pair = 0; pair < pairs; ++pair) {
+    text = std::to_string(pair) + " first";
+    const int kind = pair % (overlapping ? 4 : 3);
+    pid_t slow = 0;
+    if (kind == 0) refused += !copy();
+    if (kind == 1 || kind == 2) refused += inChild([&] { return copy() ? 0 : 1; }) != 0;
+    if (kind == 3) {
+      const auto now = std::chrono::steady_clock::now();
+      const auto askedAt = std::chrono::duration_cast<std::chrono::microseconds>(now.time_since_epoch());
+      const Program owner{{OWNER_PROGRAM, std::to_string(askedAt.count())}, "copied"};
+      slow = fork();
+      if (slow == 0) _exit(runProgram(owner, text, now + 20s).problem.empty() ? 0 : 1);
+      std::this_thread::sleep_for(25ms);
+    }
+    text = std::to_string(pair) + " second";
+    if (kind == 2) {
+      late += inChild([&] { return toolKit().writeToPasteboard(text) && there == text ? 0 : 1; }) != 0;
+    } else {
+      refused += !toolKit().writeToPasteboard(text);
+      late += there != text;
+    }
+    int status = 0;
+    if (slow) waitpid(slow, &status, 0);
+    refused += status != 0;
+    std::this_thread::sleep_for(10ms);
+    replaced += output(paste) != text;
+  }
+  setPasteboard(nullptr);
+  std::printf("%d copies: %d refused, %d late, %d replaced by the one before; the slowest took %.3f s\n",
+              2 * pairs, refused, late, replaced, slowest.count());
+  EXPECT_EQ(refused + late + replaced, 0);
+}
+
+TEST(DesktopPasteboard, LastCopyIsThereUnderLoadOnX11) {
+  const XServer x;
+  if (!x.usable || !isInstalled("xclip")) GTEST_SKIP() << "needs Xvfb and xclip";
+  if (OWNER_PROGRAM ""s == "/nonexistent") GTEST_SKIP() << "built without XCB";
+  copyUnderLoad("xclip -selection clipboard -o", true);
+}
+
+TEST(DesktopPasteboard, LastCopyIsThereUnderLoadOnWayland) {
+  const WaylandServer wayland;
+  if (!wayland.usable) GTEST_SKIP() << "needs sway and wl-clipboard";
+  copyUnderLoad("wl-paste -n", false);
 }
 
 TEST(TerminalPasteboard, AsksTheTerminalForWhatItCanTake) {
