@@ -19,7 +19,7 @@ using testing::HasSubstr;
 
 class NotificationCenterTest : public testing::Test {
  protected:
-  // An observer that notes its label, and then does what `then` does.
+  // Adds an observer that records its label and the object, and then calls `then`.
   [[nodiscard]] NotificationToken observe(
       std::string label, std::function<void()> then = [] {}) {
     return center.addObserver("name", [this, label, then](const Notification& notification) {
@@ -45,9 +45,9 @@ TEST_F(NotificationCenterTest, CallsTheObserversOfTheNameInOrderOfRegistration) 
   EXPECT_THAT(post("Name"), ElementsAre());
 
   NotificationToken moved = std::move(first);
-  first.reset();  // holds nothing any more
+  first.reset();  // it was moved from
   EXPECT_THAT(post(), ElementsAre("first ", "second "));
-  moved = observe("third ");  // ends the registration that it held
+  moved = observe("third ");  // ends the registration of "first"
   second.reset();
   EXPECT_THAT(post(), ElementsAre("third "));
 }
@@ -67,7 +67,7 @@ TEST_F(NotificationCenterTest, LetsObserversAddRemoveAndPost) {
   EXPECT_THAT(post(), ElementsAre("removing", "added"));
 }
 
-TEST_F(NotificationCenterTest, KeepsWhatAnObserverThrowsFromTheOthersAndThePoster) {
+TEST_F(NotificationCenterTest, PrintsExceptionsOfObserversAndCallsTheOthers) {
   RecordedDiagnostics diagnostics;
   const auto first = observe("first", [] { throw std::runtime_error("broken"); });
   const auto second = observe("second", [] { throw 1; });
@@ -79,7 +79,7 @@ TEST_F(NotificationCenterTest, KeepsWhatAnObserverThrowsFromTheOthersAndThePoste
 
 TEST(NotificationToken, MayOutliveItsCenterAndEndWithinIt) {
   auto center = std::make_unique<NotificationCenter>();
-  // What the observer holds goes with its registration, and is free to use the center meanwhile.
+  // The end of the registration destroys what the observer holds. Its destructor may use the center.
   auto held =
       std::shared_ptr<void>(nullptr, [&](void*) { center->addObserver("other", [](auto&) {}).reset(); });
   auto token = center->addObserver("name", [held](auto&) {});
@@ -94,7 +94,7 @@ TEST(NotificationToken, MayOutliveItsCenterAndEndWithinIt) {
 }
 
 TEST(NotificationCenterThreads, PostWhileOthersRegister) {
-  // The first use of the default center, by all at once.
+  // All threads use the default center for the first time.
   const auto center = []() -> NotificationCenter& { return NotificationCenter::defaultCenter(); };
   std::atomic<int> always{0}, sometimes{0};
   std::vector<std::thread> threads;

@@ -18,11 +18,11 @@ struct NotificationToken::Observer {
 
   const NotificationName name;
   const NotificationCenter::Callback callback;
-  // Posts under way walk a list that still holds the observer after its registration ended.
+  // A post that has begun may still find the observer in its list after the registration has ended.
   std::atomic<bool> registered{true};
 };
 
-// The list is replaced, never changed, so a post walks the one that it found without a lock.
+// A list is never changed, only replaced by another. A post can therefore go through its list without a lock.
 struct NotificationToken::Registry {
   using List = std::vector<std::shared_ptr<Observer>>;
 
@@ -31,8 +31,8 @@ struct NotificationToken::Registry {
     return observers;
   }
 
-  // Replaces the list by what `change` makes of a copy. The list before is let go without the lock: with it
-  // may go the last hold on a callback, whose destructor is the host's code.
+  // Replaces the list by a copy to which `change` is applied. The old list is released after the lock,
+  // because that may destroy a callback, and its destructor is the host's code.
   template <typename Change>
   void modify(Change change) {
     std::shared_ptr<const List> before;
@@ -70,7 +70,8 @@ void NotificationToken::reset() noexcept {
   if (!registry) return;
   try {
     registry->modify([&](Registry::List& list) { std::erase(list, observer); });
-  } catch (const std::exception&) {  // no memory for the shorter list: a silenced observer stays in it
+  } catch (const std::exception&) {
+    // No memory for the shorter list. The observer stays in the list and is not called.
   }
 }
 
@@ -91,7 +92,7 @@ NotificationToken NotificationCenter::addObserver(NotificationName name, Callbac
 }
 
 void NotificationCenter::post(const Notification& notification) {
-  // From here on nothing of this object is touched: an observer may destroy it.
+  // Uses no member after this line, because an observer may destroy this object.
   const auto observers = registry_->snapshot();
   for (const auto& observer : *observers) {
     if (!observer->registered || observer->name != notification.name) continue;

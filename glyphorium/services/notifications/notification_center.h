@@ -13,8 +13,8 @@
 
 namespace glyph {
 
-/// The name of a notification, a type of its own so that it is not mistaken for the notification's object.
-/// Any text may be one; constants are declared as std::string_view and convert.
+/// The name of a notification. Any text can be a name. It has its own type so that a name and an object
+/// cannot be confused. Texts convert to it, and names are declared as constants of type std::string_view.
 class NotificationName {
  public:
   template <std::convertible_to<std::string_view> Text>
@@ -28,18 +28,18 @@ class NotificationName {
   std::string rawValue_;
 };
 
-/// What is told to the observers of its name.
+/// A message to the observers of a name. `object` is the text that belongs to it, where there is one.
 struct Notification {
   NotificationName name;
   std::optional<std::string> object{};
 };
 
-/// The registration of one observer: it ends when the token is reset, assigned to or destroyed, from any
-/// thread, also inside the observer itself. The token may outlive its center. A moved-from token and a
-/// default one hold no registration.
+/// The registration of one observer. It ends when the token is reset, destroyed or assigned another token.
+/// This may happen on any thread, and also inside the observer. The token may live longer than its center. A
+/// default token and a token that was moved from hold no registration.
 ///
-/// From then on the observer is not called any more; a call that another thread has begun before still runs
-/// to its end.
+/// After the registration has ended no call of the observer begins. A call that another thread has already
+/// begun runs to its end.
 class GLYPHORIUM_EXPORT NotificationToken {
  public:
   NotificationToken() = default;
@@ -60,13 +60,14 @@ class GLYPHORIUM_EXPORT NotificationToken {
   std::weak_ptr<Observer> observer_;
 };
 
-/// Hands notifications to observers: synchronously, on the posting thread, in the order of registration. All
-/// operations may be called from any thread, and from inside an observer: no lock is held while one runs.
+/// Delivers notifications to observers. post() calls them on its own thread, in the order of their
+/// registration, and returns after the last one. All functions may be called from any thread and from inside
+/// an observer, because no lock is held while an observer runs.
 class GLYPHORIUM_EXPORT NotificationCenter {
  public:
   using Callback = std::function<void(const Notification&)>;
 
-  /// The center on which the library posts. It lives as long as the process.
+  /// The center on which the library posts. It exists until the process ends.
   static NotificationCenter& defaultCenter();
 
   NotificationCenter();
@@ -74,12 +75,12 @@ class GLYPHORIUM_EXPORT NotificationCenter {
   NotificationCenter(const NotificationCenter&) = delete;
   NotificationCenter& operator=(const NotificationCenter&) = delete;
 
-  /// Has every later post of that name call `callback`, until the token ends. A post that is under way does
-  /// not reach it. An empty function is not registered.
+  /// Registers an observer: every later post of this name calls `callback` until the token ends the
+  /// registration. A post that has already begun does not call it. An empty function is not registered.
   [[nodiscard]] NotificationToken addObserver(NotificationName name, Callback callback);
 
-  /// Calls the observers of the notification's name. What an observer throws is printed as a diagnostic and
-  /// reaches neither the other observers nor the caller.
+  /// Calls the observers of the notification's name. An exception of an observer is printed as a diagnostic.
+  /// The other observers are still called, and post() itself does not throw it.
   void post(const Notification& notification);
 
  private:

@@ -3,15 +3,15 @@
 
 #include <string_view>
 
-/// The names of the notifications on NotificationCenter::defaultCenter(), each equal to its raw value. The
-/// library posts entityCopied and contentHasChanged; the others are for the host's own use, so that hosts and
-/// their plug-ins agree on them.
+/// The names of the notifications on NotificationCenter::defaultCenter(). The text of each name equals the
+/// name of its constant. The library posts entityCopied and contentHasChanged. The others are for hosts and
+/// their plug-ins: the library declares them so that both use the same names.
 namespace glyph::notificationName {
 
 inline constexpr std::string_view appAppearanceChanged = "appAppearanceChanged";
-/// A text was copied. Its object is the displayed text where one was given, else the copied text.
+/// A text was copied. The object is the displayed text where one was given, else the copied text.
 inline constexpr std::string_view entityCopied = "entityCopied";
-/// The list of selected entities was assigned. No object.
+/// The list of selected entities was assigned. There is no object.
 inline constexpr std::string_view contentHasChanged = "contentHasChanged";
 inline constexpr std::string_view filteredContentHasChanged = "filteredContentHasChanged";
 inline constexpr std::string_view preferencesGlyphGridChanged = "preferencesGlyphGridChanged";
