@@ -29,6 +29,7 @@ class SelectionOwner {
   void serve(int signals);
 
  private:
+  std::optional<xcb_timestamp_t> serverTimeAt(Clock::time_point moment);
   bool isLaterCopy(xcb_window_t owner);
   void handle(const xcb_generic_event_t& event);
   void answer(const xcb_selection_request_event_t& request);

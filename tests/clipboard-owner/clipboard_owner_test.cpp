@@ -276,6 +276,7 @@ TEST_F(ClipboardOwner, EndsWithoutManagerAndWithTheServer) {
 }
 
 TEST_F(ClipboardOwner, IsFoundByTheLibrary) {
+  if (COMMAND_LINE ""s == "") GTEST_SKIP() << "the library is part of the program";
   EXPECT_THAT(runProgram("DISPLAY=:987654 PATH= " COMMAND_LINE " copy → 2>&1").output,
               HasSubstr("(glyphorium-clipboard-owner: no connection"));
 }

@@ -232,7 +232,7 @@ void copyUnderLoad(const std::string& paste, bool overlapping) {
       const Program owner{{OWNER_PROGRAM, std::to_string(askedAt.count())}, "copied"};
       slow = fork();
       if (slow == 0) _exit(runProgram(owner, text, now + 20s).problem.empty() ? 0 : 1);
-      std::this_thread::sleep_for(25ms);
+      std::this_thread::sleep_for(50ms);
     }
     text = std::to_string(pair) + " second";
     if (kind == 2) {
@@ -240,12 +240,15 @@ void copyUnderLoad(const std::string& paste, bool overlapping) {
     } else {
       refused += !toolKit().writeToPasteboard(text);
       late += there != text;
+      EXPECT_EQ(there, text) << "kind " << kind;
     }
     int status = 0;
     if (slow) waitpid(slow, &status, 0);
     refused += status != 0;
     std::this_thread::sleep_for(10ms);
-    replaced += output(paste) != text;
+    there = output(paste);
+    replaced += there != text;
+    EXPECT_EQ(there, text) << "kind " << kind;
   }
   setPasteboard(nullptr);
   std::printf("%d copies: %d refused, %d late, %d replaced by the one before; the slowest took %.3f s\n",
