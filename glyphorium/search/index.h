@@ -5,59 +5,31 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
-#include <vector>
 
-#include "glyphorium/entity/records.h"
+#include "glyphorium/search/text_list.h"
 
 namespace glyph::search {
 
-/// What a phrase is to its character.
+/// The source of a phrase.
 enum class PhraseKind : std::uint8_t {
   name,
-  replacedName,  ///< the table's name where a better name is shown
+  replacedName,  ///< the name of the Unicode table, if the catalog shows a better one
   alias,
   htmlName,
   searchTerm,
   everydayName,
-  spokenName,
-  keyword,  ///< shared by many characters, hence a little weaker than what names one
+  textToSpeechName,
+  keyword,  ///< many characters share one, so it says a little less than a name
   note,
 };
 
-/// A text of a character: some words in order.
+/// A text that belongs to a character.
 struct Phrase {
   std::uint32_t doc;
   PhraseKind kind;
-  std::uint8_t language;   ///< index in Index::languages; 0: of no language
-  std::uint8_t words;      ///< at most 255
-  std::uint8_t coreWords;  ///< those that are no fillers
-};
-
-/// A range of texts in a list, [first, last).
-struct TextRange {
-  std::uint32_t first = 0;
-  std::uint32_t last = 0;
-  bool empty() const { return first == last; }
-};
-
-/// Texts, one behind the other.
-struct TextList {
-  std::span<const char> bytes;
-  std::span<const std::uint32_t> begins;  // one more than texts
-
-  std::uint32_t size() const { return static_cast<std::uint32_t>(begins.size() - 1); }
-  std::string_view operator[](std::uint32_t i) const {
-    return {bytes.data() + begins[i], begins[i + 1] - begins[i]};
-  }
-
-  // Of ascending texts:
-
-  /// Those that begin with `prefix`; the first of them is the prefix itself, if it is one of them.
-  TextRange withPrefix(std::string_view prefix) const;
-  /// Likewise, where a range is known that they are in.
-  TextRange withPrefix(std::string_view prefix, TextRange within) const;
-  /// The text itself; empty where it is none of them.
-  TextRange exactly(std::string_view text) const;
+  std::uint8_t language;   ///< position in Index::languages; 0: in no language
+  std::uint8_t words;      ///< number of its words, at most 255
+  std::uint8_t coreWords;  ///< of these, the ones that are not stop words; all of them if there are no others
 };
 
 struct CodePointDoc {
@@ -67,42 +39,45 @@ struct CodePointDoc {
 
 struct Group {
   std::string_view name;
-  std::string_view words;  ///< of the name, folded, with blanks between them
+  std::string_view words;  ///< of the name, folded, with a space between them
   std::span<const std::uint32_t> docs;
 
   bool hasWordWithPrefix(std::string_view prefix) const;
 };
 
-/// The inverted index, as views into one image (see index_image.cpp). A character is a "doc"; docs are
-/// numbered by their static rank (see static_rank.cpp), so of two equal matches the one with the lower number
-/// is the better one.
+/// The inverted index: views of the parts of one image (see index_image.h). Each character is a document,
+/// "doc" for short. Docs are numbered in the order of their static rank (see static_rank.h), so of two equal
+/// matches the one with the lower number is the better one.
 struct Index {
-  // by doc
-  std::span<const std::uint32_t> docEntity;     // place of its first entity in the list
-  std::span<const std::uint32_t> docCodePoint;  // noCodePoint where the hex code is none
-  std::span<const std::uint8_t> docPrior;       // cost in the ranking, see static_rank.cpp
+  // One element per doc:
+  std::span<const std::uint32_t> docEntity;     ///< position of its first entity in the list
+  std::span<const std::uint32_t> docCodePoint;  ///< noCodePoint if its hex code is not a code point
+  std::span<const std::uint8_t> docPrior;       ///< what the ranking adds to its cost, see static_rank.h
   TextList names;
 
-  std::span<const CodePointDoc> byCodePoint;  // ascending
+  std::span<const CodePointDoc> byCodePoint;  ///< ascending
 
   std::span<const Phrase> phrases;
 
-  TextList words;  // the dictionary: folded, ascending
-  // by word, one more: where its postings begin; a posting is a phrase << 8 | the word's position in it
+  TextList words;  ///< the dictionary: all words of all phrases, folded, ascending
+  /// Position of each word's first posting in `postings`, then the size of `postings`.
   std::span<const std::uint32_t> postingStart;
+  /// A posting is (number of the phrase) << 8 | (position of the word in the phrase).
   std::span<const std::uint32_t> postings;
 
-  TextList signs;                              // sign keys, ascending
-  std::span<const std::uint32_t> signPhrases;  // by sign key: its phrase
-  TextList htmlNames;                          // spelled exactly, ascending
-  std::span<const std::uint32_t> htmlDocs;     // by HTML name
+  TextList signs;                              ///< sign keys (see signKey()), ascending
+  std::span<const std::uint32_t> signPhrases;  ///< the phrase of each sign key
+  TextList htmlNames;                          ///< in their exact spelling, ascending
+  std::span<const std::uint32_t> htmlDocs;     ///< the doc of each HTML name
 
   TextList groupNames;
-  TextList groupWords;                           // as Group has them
-  std::span<const std::uint32_t> groupDocStart;  // in groupDocs, one more than groups
+  TextList groupWords;                           ///< Group::words
+  std::span<const std::uint32_t> groupDocStart;  ///< of each group in `groupDocs`, then the size of that
   std::span<const std::uint32_t> groupDocs;
 
-  TextList languages;  // [0] empty, [1] "en"
+  /// Languages of the phrases (BCP 47). The first is empty, the second "en". Sets of languages are bit masks:
+  /// bit i stands for languages[i].
+  TextList languages;
 
   static constexpr std::uint32_t noCodePoint = 0xFFFFFFFF;
   static constexpr std::uint32_t noDoc = 0xFFFFFFFF;
@@ -111,10 +86,8 @@ struct Index {
   std::span<const std::uint32_t> postingsOf(TextRange range) const {
     return postings.subspan(postingStart[range.first], postingStart[range.last] - postingStart[range.first]);
   }
-  /// Whether a language is among those of which the bits are set.
+  /// Whether the language is in the bit mask.
   bool hasLanguage(std::string_view language, std::uint32_t languageBits) const;
-  /// Whether the word only joins others in one of these languages.
-  bool isFunctionWord(std::string_view word, std::uint32_t languageBits) const;
 
   std::uint32_t groupCount() const { return groupNames.size(); }
   Group group(std::uint32_t i) const {
@@ -122,41 +95,9 @@ struct Index {
             groupDocs.subspan(groupDocStart[i], groupDocStart[i + 1] - groupDocStart[i])};
   }
 
+  /// noDoc if there is none.
   std::uint32_t docOfCodePoint(std::uint32_t codePoint) const;
   std::uint32_t docOfHtmlName(std::string_view name) const;
 };
-
-/// An index in one piece, which can be used where it lies: the same on every machine of one byte order for
-/// the same entities. Aligned to eight bytes.
-using IndexImage = std::vector<std::byte>;
-
-IndexImage buildIndex(std::span<const Entity> entities);
-
-IndexImage packed(const Index& index);
-
-/// The index in an image, which must outlive it.
-Index openIndex(std::span<const std::byte> image);
-
-/// The image that the build made for the entities that configure() puts into buildInEntities().
-std::span<const std::byte> catalogIndexImage();
-
-/// The priors of characters for private use are at least that high, and no others.
-inline constexpr std::uint8_t privateUsePrior = 34;
-
-/// The characters of a list, in the order of their static rank.
-struct RankedDoc {
-  std::uint32_t entity;
-  std::uint32_t codePoint;
-  std::uint8_t prior;
-};
-struct GroupMembers {
-  std::string_view name;
-  std::vector<std::uint32_t> entities;  // the first entity of each member's hex code
-};
-struct RankedDocs {
-  std::vector<RankedDoc> docs;
-  std::vector<GroupMembers> groups;
-};
-RankedDocs rankDocs(std::span<const Entity> entities);
 
 }  // namespace glyph::search

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "glyphorium/search/index_building.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -6,7 +8,9 @@
 #include <utility>
 
 #include "glyphorium/data/search_facts.h"
-#include "glyphorium/search/index.h"
+#include "glyphorium/search/language_rules.h"
+#include "glyphorium/search/static_rank.h"
+#include "glyphorium/search/text_parts.h"
 #include "glyphorium/search/words.h"
 
 namespace glyph::search {
@@ -146,12 +150,12 @@ class Builder {
       const std::uint32_t position = std::min<std::uint32_t>(phrase.words, lastPosition);
       tokens_.push_back({words_.number(reader_.word()), number << 8 | position});
       if (phrase.words < lastPosition) ++phrase.words;
-      if (phrase.coreWords < lastPosition && !isFiller(reader_.word())) ++phrase.coreWords;
+      if (phrase.coreWords < lastPosition && !isStopWord(reader_.word())) ++phrase.coreWords;
     }
     if (phrase.coreWords == 0) phrase.coreWords = phrase.words;
     // Signs stand in what people type for a character; in names they only separate.
     if (kind == PhraseKind::searchTerm || kind == PhraseKind::everydayName || kind == PhraseKind::keyword ||
-        kind == PhraseKind::spokenName) {
+        kind == PhraseKind::textToSpeechName) {
       std::string key = signKey(text);
       if (!key.empty()) signPhrases_.emplace_back(std::move(key), number);
     }
@@ -214,13 +218,10 @@ class Builder {
   }
 
   void addTexts(std::uint32_t doc, SearchFactKind kind, std::uint8_t itsLanguage, std::string_view texts) {
-    for (bool first = true;; first = false) {
-      const std::size_t end = texts.find('\n');
-      const std::string_view text = texts.substr(0, end);
+    for (bool first = true; !texts.empty(); first = false) {
+      const std::string_view text = takePart(texts, '\n');
       if (kind == SearchFactKind::htmlName) htmlNames_.emplace_back(text, doc);
       if (!text.empty()) addPhrase(doc, phraseKind(kind, first), itsLanguage, text);
-      if (end == std::string_view::npos) return;
-      texts.remove_prefix(end + 1);
     }
   }
 
@@ -236,7 +237,7 @@ class Builder {
       case SearchFactKind::mostWanted:
         break;
     }
-    return first ? PhraseKind::spokenName : PhraseKind::keyword;
+    return first ? PhraseKind::textToSpeechName : PhraseKind::keyword;
   }
 
   void addGroups() {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "glyphorium/search/index_image.h"
+
 #include <cstring>
 #include <type_traits>
-
-#include "glyphorium/search/index.h"
 
 extern "C" {
 extern const std::byte glyphoriumSearchIndex[];

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
+#include "glyphorium/search/matching.h"
+
 #include <algorithm>
 
+#include "glyphorium/search/dictionary_words.h"
 #include "glyphorium/search/match_costs.h"
-#include "glyphorium/search/matching.h"
 
 namespace glyph::search {
 namespace {
 
 struct PhraseState {
   std::uint32_t epoch = 0;
-  std::uint8_t count = 0;    // of the query's words, from the first on, that it matches
-  std::uint8_t fillers = 0;  // likewise of the fillers
-  std::uint8_t aligned = 0;  // words that stand at the same place in the query
-  std::uint8_t worst = 0;    // WordMatch
+  std::uint8_t count = 0;      // it matches that many of the needed words, from the first on
+  std::uint8_t stopWords = 0;  // and that many of the stop words
+  std::uint8_t aligned = 0;    // words that have the same position in the query
+  std::uint8_t worst = 0;      // WordMatch
 };
 
 struct DocState {
@@ -21,16 +23,16 @@ struct DocState {
   std::uint32_t best = 0;  // cost of its best phrase that matches all words
   std::uint8_t count = 0;
   std::uint8_t worst = 0;
-  std::uint8_t current = 0;  // the best WordMatch of the word at hand
-  std::uint8_t fillers = 0;
+  std::uint8_t current = 0;  // the best WordMatch of the word that is being matched
+  std::uint8_t stopWords = 0;
   std::uint8_t bestWorst = 0;    // the worst WordMatch of its best phrase
-  std::uint8_t nameWorst = 255;  // likewise of its name, if all words are in it
+  std::uint8_t nameWorst = 255;  // the worst WordMatch of its name, if all words are in it
 };
 
 constexpr std::uint32_t noCost = 0xFFFFFFFF;
 
-// Working memory, kept for the next query. States of earlier queries are told by their epoch, so that nothing
-// needs clearing.
+// Working memory, kept for the next query. Each query has a number, its epoch. A state with another epoch is
+// one of an earlier query, so no query has to clear the states.
 struct Scratch {
   std::vector<PhraseState> phrases;
   std::vector<DocState> docs;
@@ -56,28 +58,28 @@ class Matcher {
 
   std::vector<Match> match(const std::vector<QueryWord>& words) {
     std::vector<std::uint8_t> needed;
-    std::vector<std::uint8_t> fillers;
+    std::vector<std::uint8_t> stopWords;
     for (std::uint8_t place = 0; place < words.size(); ++place)
-      (words[place].filler ? fillers : needed).push_back(place);
-    if (needed.empty()) needed.swap(fillers);  // "sign" alone is what is looked for
-    // The rarest first: of all later ones only what stands with it matters.
+      (words[place].isStopWord ? stopWords : needed).push_back(place);
+    if (needed.empty()) needed.swap(stopWords);  // the query is "sign"
+    // The rarest word first: for the later words only the characters that match it need a look.
     std::stable_sort(needed.begin(), needed.end(), [&](std::uint8_t a, std::uint8_t b) {
       return postingCount(index_, words[a]) < postingCount(index_, words[b]);
     });
     needed_ = static_cast<std::uint8_t>(needed.size());
-    fillers_ = static_cast<std::uint8_t>(fillers.size());
+    stopWords_ = static_cast<std::uint8_t>(stopWords.size());
     for (std::uint8_t i = 0; i < needed_; ++i) matchNeeded(words[needed[i]], i, needed[i]);
-    for (std::uint8_t i = 0; i < fillers_; ++i) matchFiller(words[fillers[i]], i, fillers[i]);
+    for (std::uint8_t i = 0; i < stopWords_; ++i) matchStopWord(words[stopWords[i]], i, stopWords[i]);
     return result();
   }
 
  private:
-  // The language and the group of a phrase are the ones asked for.
+  // Whether the filter lets the phrase through.
   bool counts(const Phrase& phrase) const {
     return (filter_.languages >> phrase.language & 1) != 0 && (!filter_.docs || (*filter_.docs)[phrase.doc]);
   }
 
-  // The i-th of the words that must match, which stands at that place of the query.
+  // The i-th of the words that must match; `place` is its position in the query.
   void matchNeeded(const QueryWord& word, std::uint8_t i, std::uint8_t place) {
     for (const Alternative& alternative : word.alternatives) {
       for (const std::uint32_t posting : index_.postingsOf(alternative.words)) {
@@ -123,11 +125,11 @@ class Matcher {
       state = {};
       state.epoch = epoch_;
     }
-    // A word may stand in the phrase several times: its first posting counts, the aligned one may come later.
+    // A word may be in the phrase several times: its first posting counts, the aligned one may come later.
     const bool isNew = state.count == i;
     const bool alignsNow = isAligned && (match == WordMatch::whole || match == WordMatch::prefix) &&
                            (isNew || state.count == i + 1);
-    if (!isNew && !alignsNow) return;  // lacks a word, or has this one already, by a better match
+    if (!isNew && !alignsNow) return;  // lacks an earlier word, or has this one already by a better match
     if (isNew) {
       state.count = static_cast<std::uint8_t>(i + 1);
       state.worst = std::max(state.worst, static_cast<std::uint8_t>(match));
@@ -146,7 +148,7 @@ class Matcher {
     }
   }
 
-  void matchFiller(const QueryWord& word, std::uint8_t i, std::uint8_t place) {
+  void matchStopWord(const QueryWord& word, std::uint8_t i, std::uint8_t place) {
     for (const Alternative& alternative : word.alternatives) {
       if (alternative.match != WordMatch::whole) continue;
       for (const std::uint32_t posting : index_.postingsOf(alternative.words)) {
@@ -154,13 +156,13 @@ class Matcher {
         const Phrase& phrase = index_.phrases[number];
         DocState& doc = scratch_.docs[phrase.doc];
         if (doc.epoch != epoch_ || doc.count != needed_ || !counts(phrase)) continue;
-        if (doc.fillers == i) ++doc.fillers;
+        if (doc.stopWords == i) ++doc.stopWords;
         PhraseState& state = scratch_.phrases[number];
         if (state.epoch != epoch_ || state.count != needed_) continue;
         const bool isAligned = static_cast<std::uint8_t>(posting) == place;
-        if (state.fillers == i)
-          ++state.fillers;
-        else if (state.fillers != i + 1 || !isAligned)
+        if (state.stopWords == i)
+          ++state.stopWords;
+        else if (state.stopWords != i + 1 || !isAligned)
           continue;
         if (isAligned) ++state.aligned;
         offer(number, phrase, state);
@@ -168,10 +170,10 @@ class Matcher {
     }
   }
 
-  // A phrase that matches all words: it counts for its doc if it is the best one.
+  // A phrase that matches all needed words counts for its doc if it is the best one so far.
   void offer(std::uint32_t number, const Phrase& phrase, const PhraseState& state) {
     const std::uint32_t cost = phraseCost(phrase, {static_cast<WordMatch>(state.worst), state.count,
-                                                   state.fillers, state.aligned, needed_, fillers_});
+                                                   state.stopWords, state.aligned, needed_, stopWords_});
     DocState& doc = scratch_.docs[phrase.doc];
     if (phrase.kind == PhraseKind::name || phrase.kind == PhraseKind::replacedName)
       doc.nameWorst = std::min(doc.nameWorst, state.worst);
@@ -187,7 +189,7 @@ class Matcher {
       const DocState& state = scratch_.docs[doc];
       if (state.count != needed_) continue;
       const auto worst = static_cast<WordMatch>(std::max(state.worst, state.current));
-      const std::uint32_t spread = spreadCost(worst, missingFillers(state.fillers, fillers_));
+      const std::uint32_t spread = spreadCost(worst, missingStopWords(state.stopWords, stopWords_));
       const bool together = state.best < spread;
       const bool named = state.nameWorst <= state.bestWorst;
       const bool byHtmlName =
@@ -204,7 +206,7 @@ class Matcher {
   Scratch& scratch_;
   const std::uint32_t epoch_;
   std::uint8_t needed_ = 0;
-  std::uint8_t fillers_ = 0;
+  std::uint8_t stopWords_ = 0;
 };
 
 }  // namespace

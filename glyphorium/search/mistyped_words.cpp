@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <algorithm>
+#include "glyphorium/search/mistyped_words.h"
 
-#include "glyphorium/search/matching.h"
+#include <algorithm>
+#include <string>
 
 namespace glyph::search {
 namespace {

@@ -1,33 +1,29 @@
 // SPDX-License-Identifier: MIT
-#include <algorithm>
+#include "glyphorium/search/respelling.h"
 
-#include "glyphorium/search/matching.h"
+#include <algorithm>
+#include <functional>
+#include <iterator>
+#include <string_view>
+
+#include "glyphorium/search/language_rules.h"
+#include "glyphorium/search/text_parts.h"
 
 namespace glyph::search {
 namespace {
 
 constexpr std::size_t mostParts = 4;
-constexpr std::size_t leastPart = 2;
+constexpr std::size_t shortestPart = 2;
 constexpr std::size_t mostSplits = 6;
-constexpr std::size_t longestSplit = 40;  // the number of ways to split grows with the length
+constexpr std::size_t longestSplit = 40;  // the number of ways to split a word grows with its length
 
 using Words = std::vector<std::string>;
 
-// "haekchen" for "häkchen", which folds to "hakchen".
-std::string withoutUmlautSpelling(std::string_view word) {
-  std::string result;
-  for (std::size_t i = 0; i < word.size(); ++i) {
-    result += word[i];
-    if (i + 1 < word.size() && word[i + 1] == 'e' && (word[i] == 'a' || word[i] == 'o' || word[i] == 'u'))
-      ++i;
-  }
-  return result;
-}
-
-// The ways to split a word into words of the dictionary, of which the last may be incomplete.
+// Splits a word into words of the dictionary. The last one may be incomplete.
 class Splitter {
  public:
-  Splitter(const Index& index, bool isGerman) : index_(index), isGerman_(isGerman) {}
+  Splitter(const Index& index, const std::vector<std::string_view>& linkingLetters)
+      : index_(index), linkingLetters_(linkingLetters) {}
 
   std::vector<Words> split(std::string_view word) {
     const bool number = word.find_first_of("0123456789") != std::string_view::npos;
@@ -45,22 +41,21 @@ class Splitter {
       ways_.back().emplace_back(rest);
     }
     if (parts_.size() + 1 == mostParts) return;
-    for (std::size_t size = leastPart; size + leastPart <= rest.size(); ++size) {
+    for (std::size_t size = shortestPart; size + shortestPart <= rest.size(); ++size) {
       if (index_.words.exactly(rest.substr(0, size)).empty()) continue;
       parts_.emplace_back(rest.substr(0, size));
       step(rest.substr(size));
-      // Letters of no meaning may join them: "Geburtstagstorte".
-      for (const std::string_view joint : {"s", "n", "es", "en", "er"}) {
-        if (isGerman_ && rest.substr(size).starts_with(joint) &&
-            size + joint.size() + leastPart <= rest.size())
-          step(rest.substr(size + joint.size()));
+      // The "s" in "Geburtstagstorte".
+      for (const std::string_view linking : linkingLetters_) {
+        if (rest.substr(size).starts_with(linking) && size + linking.size() + shortestPart <= rest.size())
+          step(rest.substr(size + linking.size()));
       }
       parts_.pop_back();
     }
   }
 
   const Index& index_;
-  const bool isGerman_;
+  const std::vector<std::string_view>& linkingLetters_;
   Words parts_;
   std::vector<Words> ways_;
 };
@@ -69,16 +64,24 @@ class Splitter {
 
 std::vector<Words> respellings(const Index& index, const Words& words, std::uint32_t languages) {
   std::vector<Words> result;
+  const std::vector<const SearchLanguage*> itsLanguages = languagesOf(index, languages);
+  const auto joinsOthers = [&](const std::string& word) {
+    return std::any_of(itsLanguages.begin(), itsLanguages.end(),
+                       [&](const SearchLanguage* language) { return isFunctionWord(*language, word); });
+  };
   Words meaningful;
-  for (const std::string& word : words) {
-    if (!index.isFunctionWord(word, languages)) meaningful.push_back(word);
-  }
+  std::copy_if(words.begin(), words.end(), std::back_inserter(meaningful), std::not_fn(joinsOthers));
   if (!meaningful.empty() && meaningful.size() < words.size()) result.push_back(std::move(meaningful));
-  Words umlauts;
-  for (const std::string& word : words) umlauts.push_back(withoutUmlautSpelling(word));
-  if (umlauts != words) result.push_back(std::move(umlauts));
+  Words respelled;
+  for (const std::string& word : words) respelled.push_back(withoutTypedSpellings(word));
+  if (respelled != words) result.push_back(std::move(respelled));
+  std::vector<std::string_view> linkingLetters;
+  for (const SearchLanguage* const language : itsLanguages) {
+    for (std::string_view rest = language->linkingLetters; !rest.empty();)
+      linkingLetters.push_back(takePart(rest, '\n'));
+  }
   for (std::size_t i = 0; i < words.size(); ++i) {
-    for (Words& parts : Splitter(index, index.hasLanguage("de", languages)).split(words[i])) {
+    for (Words& parts : Splitter(index, linkingLetters).split(words[i])) {
       Words split = words;
       const auto place = split.erase(split.begin() + static_cast<std::ptrdiff_t>(i));
       split.insert(place, parts.begin(), parts.end());

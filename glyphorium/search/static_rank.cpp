@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "glyphorium/search/static_rank.h"
+
 #include <algorithm>
 #include <string>
 #include <tuple>
@@ -9,9 +11,6 @@
 #include "glyphorium/search/index.h"
 #include "glyphorium/text/ascii.h"
 
-// How likely a character is meant, whatever the query: the prior of the ranking. Of characters that match
-// equally people nearly always mean a common sign and hardly ever its combining, compatibility or private-use
-// cousin; the order of code points knows nothing of that ("arrow" would begin with U+02C2).
 namespace glyph::search {
 namespace {
 
@@ -19,75 +18,38 @@ constexpr std::uint32_t notWanted = 0xFFFF;
 constexpr unsigned mostWantedPrior = 6;
 constexpr unsigned keyboardPrior = 5;
 
-// The cost of a group. What is not listed is another script (its letters are found by its name anyway).
-constexpr unsigned commonSigns = 0;
-constexpr unsigned otherSigns = 4;
-constexpr unsigned phonetic = 7;  // more people read a phonetic alphabet than any one other script
-constexpr unsigned otherScript = 8;
-constexpr unsigned modifiers = 12;
-constexpr unsigned lookalikes = 16;
-constexpr unsigned privateUse = 24;  // no font but its vendor's has them: see also privateUsePrior
-constexpr unsigned curated = 0xFF;   // selections across the other groups say nothing of their own
+constexpr unsigned noGroup = 0xFF;  // costs more than every group
 
-constexpr std::pair<std::string_view, unsigned> groupCosts[] = {
-    {"SF Symbols", privateUse},
-    {"alphabetic presentation forms", lookalikes},
-    {"arabic presentation forms a", lookalikes},
-    {"arabic presentation forms b", lookalikes},
-    {"arrows", commonSigns},
-    {"block elements", commonSigns},
-    {"box drawing", commonSigns},
-    {"braille patterns", otherSigns},
-    {"cjk compatibility", lookalikes},
-    {"cjk compatibility forms", lookalikes},
-    {"cjk compatibility ideographs", lookalikes},
-    {"combining diacritical marks", lookalikes},
-    {"combining diacritical marks for symbols", lookalikes},
-    {"control pictures", otherSigns},
-    {"currency symbols", commonSigns},
-    {"custom", commonSigns},
-    {"cyrillic", otherSigns},
-    {"design inspiration", curated},
-    {"digital typography (latin)", curated},
-    {"dingbats", commonSigns},
-    {"emoji", commonSigns},
-    {"enclosed alphanumerics", otherSigns},
-    {"enclosed cjk letters & months", lookalikes},
-    {"geometric shapes", commonSigns},
-    {"greek & coptic", commonSigns},
-    {"halfwidth & fullwidth forms", lookalikes},
-    {"hangul compatibility jamo", lookalikes},
-    {"ipa extentions", phonetic},
-    {"latin basic", commonSigns},
-    {"latin extended a", otherSigns},
-    {"latin extended additional", otherSigns},
-    {"latin extended b", otherSigns},
-    {"latin supplement", commonSigns},
-    {"letterlike symbols", commonSigns},
-    {"math alphanumeric symbols", lookalikes},
-    {"math operators", commonSigns},
-    {"misc math symbols a", otherSigns},
-    {"misc math symbols b", otherSigns},
-    {"misc symbols", commonSigns},
-    {"misc symbols & arrows", otherSigns},
-    {"misc technical", commonSigns},
-    {"musical symbols", commonSigns},
-    {"number forms", commonSigns},
-    {"phonetic extensions", modifiers},
-    {"punctuation", commonSigns},
-    {"small form variants", lookalikes},
-    {"spacing modifier letters", modifiers},
-    {"superscripts & subscripts", commonSigns},
-    {"supplemental arrows a", otherSigns},
-    {"supplemental arrows b", otherSigns},
-    {"supplemental math operators", otherSigns},
-};
+unsigned groupCost(GroupKind kind) {
+  switch (kind) {
+    case GroupKind::commonSigns:
+      return 0;
+    case GroupKind::otherSigns:
+      return 4;
+    case GroupKind::phonetic:  // more people read a phonetic alphabet than any one other script
+      return 7;
+    case GroupKind::script:  // its name finds its letters anyway
+      return 8;
+    case GroupKind::modifiers:
+      return 12;
+    case GroupKind::lookalikes:
+      return 16;
+    case GroupKind::privateUse:  // only the fonts of one vendor have them: see also privateUsePrior
+      return 24;
+    case GroupKind::selection:
+      break;
+  }
+  return noGroup;
+}
 
-unsigned groupCost(std::string_view group) {
-  const auto found =
-      std::lower_bound(std::begin(groupCosts), std::end(groupCosts), group,
-                       [](const auto& entry, std::string_view name) { return entry.first < name; });
-  return found == std::end(groupCosts) || found->first != group ? otherScript : found->second;
+// The cost of a group by its name.
+unsigned groupCost(std::string_view name) {
+  // The characters that the user added are wanted ones.
+  if (name == customGroup) return groupCost(GroupKind::commonSigns);
+  const auto found = std::lower_bound(
+      groupKinds.begin(), groupKinds.end(), name,
+      [](const GroupWithKind& entry, std::string_view other) { return entry.group < other; });
+  return groupCost(found == groupKinds.end() || found->group != name ? GroupKind::script : found->kind);
 }
 
 std::uint32_t codePointOf(const std::string& hex) {
@@ -95,7 +57,7 @@ std::uint32_t codePointOf(const std::string& hex) {
   return value && *value <= 0x10FFFF ? *value : Index::noCodePoint;
 }
 
-// Places in the list of the most wanted characters, as (code point, place), ascending.
+// The positions in the list of the most wanted characters, as (code point, position), ascending.
 std::vector<std::pair<std::uint32_t, std::uint32_t>> mostWanted() {
   std::vector<std::pair<std::uint32_t, std::uint32_t>> places;
   for (std::size_t list = 0; list < searchFactCount; ++list) {
@@ -112,7 +74,7 @@ std::vector<std::pair<std::uint32_t, std::uint32_t>> mostWanted() {
 struct Candidate {
   std::uint32_t entity;
   std::uint32_t codePoint;
-  unsigned group = curated;
+  unsigned group = noGroup;  // the least cost of its groups
 };
 
 std::string_view shownName(const Entity& entity) {
@@ -121,15 +83,15 @@ std::string_view shownName(const Entity& entity) {
   return better ? *additional->betterName : entity.computed.fallbackName;
 }
 
-// Smaller is likelier; at most 41, so that it never makes up for a better kind of match (see matching.cpp).
+// At most 41, so that it never makes up for a better tier of matches (see match_costs.h).
 unsigned priorOf(const Candidate& candidate, std::string_view name, std::uint32_t place) {
   if (place != notWanted) return std::min(place / 60, mostWantedPrior);
-  // Who has the sign on the keyboard seldom looks for it; still it is what its words mean first.
+  // People seldom search a sign that they have on the keyboard. Still their words mean it first.
   if (candidate.codePoint < 0x80) return keyboardPrior;
-  const unsigned group = candidate.group == curated ? otherSigns : candidate.group;
+  const unsigned group = candidate.group == noGroup ? groupCost(GroupKind::otherSigns) : candidate.group;
   const auto blanks = static_cast<unsigned>(std::count(name.begin(), name.end(), ' '));
   const unsigned capital = name.find(" Capital ") != std::string_view::npos ? 1 : 0;
-  // A name of five words and more is that of a variant of something.
+  // A name of five words or more is that of a variant of something.
   return 10 + group + capital + std::min(blanks > 3 ? blanks - 3 : 0u, 6u);
 }
 
@@ -148,7 +110,7 @@ RankedDocs rankDocs(std::span<const Entity> entities) {
     if (isNew) candidates.push_back({static_cast<std::uint32_t>(i), codePointOf(record.hex)});
     Candidate& candidate = candidates[known->second];
     candidate.group = std::min(candidate.group, groupCost(record.group));
-    // Rows of a group stand together, so nearly all repeats end here.
+    // The rows of a group follow each other, so this condition is rarely true.
     if (result.groups.empty() || result.groups.back().name != record.group) {
       const auto [group, isNewGroup] =
           groupOfName.try_emplace(record.group, static_cast<std::uint32_t>(result.groups.size()));

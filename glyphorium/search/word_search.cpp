@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include "glyphorium/search/word_search.h"
+
 #include <algorithm>
 #include <bit>
 #include <iterator>
 
-#include "glyphorium/search/matching.h"
-#include "glyphorium/search/words.h"
+#include "glyphorium/search/dictionary_words.h"
+#include "glyphorium/search/language_rules.h"
+#include "glyphorium/search/match_costs.h"
+#include "glyphorium/search/mistyped_words.h"
+#include "glyphorium/search/respelling.h"
 
 namespace glyph::search {
 namespace {
@@ -68,17 +73,21 @@ class WordSearch {
   // Where no character matches all words, those that match most of them, about half at least. Which words are
   // left out matters: what is unknown says nothing, what is in few texts says most.
   bool matchFewer(const MatchFilter& filter) {
+    const std::vector<const SearchLanguage*> languages = languagesOf(index_, filter.languages);
+    const auto joinsOthers = [](const std::string& word) {
+      return [&word](const SearchLanguage* language) { return isFunctionWord(*language, word); };
+    };
     std::vector<QueryWord> known;
     std::size_t needed = 0;
     for (QueryWord& word : mistypedWords(words_, filter, false)) {
-      if (index_.isFunctionWord(word.text, filter.languages)) continue;
-      needed += word.filler ? 0 : 1;
+      if (std::any_of(languages.begin(), languages.end(), joinsOthers(word.text))) continue;
+      needed += word.isStopWord ? 0 : 1;
       if (!word.alternatives.empty() && known.size() < mostKnownWords) known.push_back(std::move(word));
     }
-    // What the others describe: the last word in Germanic languages, the first one in Romance ones.
-    const bool headFirst = index_.hasLanguage("fr", filter_.languages) ||
-                           index_.hasLanguage("it", filter_.languages) ||
-                           index_.hasLanguage("es", filter_.languages);
+    // The noun that the other words describe: the last word in Germanic languages, the first in Romance ones.
+    const std::vector<const SearchLanguage*> preferred = languagesOf(index_, filter_.languages);
+    const bool headFirst = std::any_of(preferred.begin(), preferred.end(),
+                                       [](const SearchLanguage* language) { return language->headFirst; });
     const std::size_t head = headFirst ? 0 : known.size() - 1;
     for (std::size_t left = known.size(); left > 0 && left * 2 + 1 >= needed; --left) {
       bool any = false;
@@ -92,7 +101,7 @@ class WordSearch {
           else
             missed += weight(known[i]) + (i == head ? headWeight : 0);
         }
-        if (std::all_of(some.begin(), some.end(), [](const QueryWord& word) { return word.filler; }))
+        if (std::all_of(some.begin(), some.end(), [](const QueryWord& word) { return word.isStopWord; }))
           continue;
         any = match(std::move(some), filter, Demand::any, fewerWordsBase + missed) != nothing || any;
       }
@@ -106,14 +115,14 @@ class WordSearch {
     constexpr int mostBits = 17;
     const int rarity =
         std::max(mostBits - static_cast<int>(std::bit_width(postingCount(index_, word) + 1)), 0);
-    return word.filler ? 0 : 12 * static_cast<std::uint32_t>(rarity);
+    return word.isStopWord ? 0 : 12 * static_cast<std::uint32_t>(rarity);
   }
 
   std::vector<QueryWord> dictionaryWords(const std::vector<std::string>& words, const MatchFilter& filter,
                                          bool prefixes) const {
     std::vector<QueryWord> result;
     for (const std::string& text : words) {
-      QueryWord& word = result.emplace_back(QueryWord{text, {}, isFiller(text)});
+      QueryWord& word = result.emplace_back(QueryWord{text, {}, isStopWord(text)});
       // One letter alone begins a tenth of all words and says nothing; behind other words it is the next one.
       addDictionaryWords(index_, word, filter.languages, prefixes && (text.size() > 1 || result.size() > 1));
     }

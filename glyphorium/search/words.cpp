@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <algorithm>
-#include <array>
-
 #include "glyphorium/search/words.h"
+
+#include <algorithm>
+
 #include "glyphorium/text/ascii.h"
 #include "glyphorium/text/unicode_text.h"
 
@@ -115,37 +115,6 @@ std::string signKey(std::string_view text) {
   }
   if (hasWord && !hasSign) return {};
   return lowercased(key);
-}
-
-bool isFiller(std::string_view word) {
-  static constexpr std::array<std::string_view, 20> fillers{
-      "caracter", "caractere", "carattere", "character", "emoji", "glyph",  "icon",
-      "mark",     "of",        "segno",     "sign",      "signe", "signo",  "signs",
-      "simbolo",  "symbol",    "symbole",   "symbols",   "the",   "zeichen"};
-  return std::binary_search(fillers.begin(), fillers.end(), word);
-}
-
-bool isFunctionWord(std::string_view word, std::string_view language) {
-  // Single letters are none: as a word of a query they are rather the letter.
-  static constexpr struct {
-    std::string_view language;
-    std::string_view words;
-  } lists[] = {
-      {"en", " an and at by for from in into is it its of on or that the through to with "},
-      {"de",
-       " am an auf aus beim das dem den der des die durch ein eine einem einen einer eines fur im in ist mit "
-       "nach oder um und vom von zu zum zur "},
-      {"fr", " au aux avec dans de des du en est et la le les ou par pour sur un une "},
-      {"it",
-       " ai al alla allo che col con da dal dalla degli dei del della delle dello di gli il in la le lo nel "
-       "nella per sul sulla un una uno "},
-      {"es", " al con de del el en es la las los para por que un una "},
-  };
-  for (const auto& list : lists) {
-    if (list.language == language)
-      return list.words.find(" " + std::string(word) + " ") != std::string_view::npos;
-  }
-  return false;
 }
 
 }  // namespace glyph::search

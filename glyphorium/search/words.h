@@ -43,11 +43,4 @@ std::string wordsOf(std::string_view text);
 /// hyphens, full stops and such between or behind them included: there the words say it all.
 std::string signKey(std::string_view text);
 
-/// Whether the word (folded) only says that a character is meant, or joins others: "sign", "symbol", "of",
-/// and their like in the other languages.
-bool isFiller(std::string_view word);
-
-/// Whether the word (folded) is one that joins others in that language: "with", "mit", "avec".
-bool isFunctionWord(std::string_view word, std::string_view language);
-
 }  // namespace glyph::search

@@ -4,8 +4,8 @@
 #include <set>
 
 #include "glyphorium/data/search_facts.h"
-#include "glyphorium/search/matching.h"
-#include "glyphorium/search/words.h"
+#include "glyphorium/search/index_image.h"
+#include "glyphorium/search/mistyped_words.h"
 #include "tests/search/catalog_search.h"
 
 namespace glyph::search {
@@ -45,23 +45,6 @@ TEST(MistypedWords, AreThoseAtOneEdit) {
     }
     EXPECT_EQ(found, wanted) << text;
   }
-}
-
-// Many stand within others of their list.
-TEST(FunctionWords, AreWholeWordsOfTheirLanguage) {
-  for (const auto& [word, language] : {std::pair{"with", "en"},
-                                       {"to", "en"},
-                                       {"in", "de"},
-                                       {"im", "de"},
-                                       {"la", "fr"},
-                                       {"la", "it"},
-                                       {"lo", "it"},
-                                       {"el", "es"},
-                                       {"un", "es"}})
-    EXPECT_TRUE(isFunctionWord(word, language)) << word << " " << language;
-  for (const auto& [word, language] :
-       {std::pair{"el", "en"}, {"th", "en"}, {"ell", "it"}, {"", "de"}, {"in", "xx"}})
-    EXPECT_FALSE(isFunctionWord(word, language)) << word << " " << language;
 }
 
 TEST(SearchFacts, EveryHtmlNameFindsItsCharacterFirst) {

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "glyphorium/entity/codec.h"
-#include "glyphorium/search/index.h"
+#include "glyphorium/search/index_building.h"
 #include "tests/search/catalog_search.h"
 
 namespace glyph {

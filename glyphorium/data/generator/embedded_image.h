@@ -9,23 +9,26 @@
 #include <utility>
 #include <vector>
 
+#include "glyphorium/data/generator/search_grammar.h"
+
 namespace glyph::generator {
 
-/// Collects everything that the library embeds into one read-only blob, and writes the sources that name its
-/// parts. One blob behind one symbol costs the compiler nothing and the loader no relocation per text.
+/// Collects everything that the library embeds in one block of bytes, and writes the source files that name
+/// its parts. With one block behind one symbol the compiler has little to do and the loader relocates few
+/// texts.
 class EmbeddedImage {
  public:
-  /// A text constant of namespace glyph: a group table, or another text with an empty group.
+  /// Adds a text constant of namespace glyph. `group` is empty if it is not a group table.
   void addText(std::string constant, std::string group, std::size_t entries, bool configured,
                std::string_view text);
 
-  /// A text constant that is a part of the text added last.
+  /// Adds a text constant that is a part of the text added last.
   void addPart(const std::string& constant, std::size_t entries, std::size_t offset, std::size_t size);
 
-  /// Where the rows of the text added last begin in it; they are a part of the catalog.
+  /// Adds the offsets at which the rows of the text added last begin. configure() decodes that text.
   void addConfiguredRows(const std::vector<std::size_t>& offsets);
 
-  /// Pairs of code point and offset, in the name table ascending by code point, or in the enrichment table.
+  /// Pairs of code point and offset in a table. Those of the name table ascend by code point.
   using Index = std::vector<std::pair<char32_t, std::uint32_t>>;
   void addNameIndex(const Index& index);
   void addEnrichmentIndex(const Index& index);
@@ -33,7 +36,11 @@ class EmbeddedImage {
   /// Facts of the search: texts by code point, of a kind (an enumerator of SearchFactKind) and a language.
   void addSearchFacts(std::string kind, std::string language,
                       const std::map<char32_t, std::vector<std::string>>& facts);
-  void addSynonyms(std::string language, std::string_view lines);
+  /// The members of a SearchLanguage.
+  void addSearchLanguage(const std::string& code, std::string_view synonyms, const SearchGrammar& grammar);
+  void addStopWords(std::string_view lines);
+  /// The kind of a group, in the spelling of groups.tsv.
+  void addGroupKind(const std::string& group, const std::string& kind) { groupKinds_.emplace(group, kind); }
 
   /// Writes embedded.bin, embedded.S, embedded_image.cpp and glyphorium/data/group_tables.h below the folder.
   void write(const std::filesystem::path& folder);
@@ -41,7 +48,7 @@ class EmbeddedImage {
  private:
   struct Text {
     std::string constant;
-    std::string variable;  // that holds it
+    std::string variable;  // C++ name of the constant
     std::string group;
     std::size_t entries;
     bool configured;
@@ -73,7 +80,9 @@ class EmbeddedImage {
   Piece nameIndex_{};
   Piece enrichmentIndex_{};
   std::vector<SearchFacts> searchFacts_;
-  std::vector<std::pair<std::string, Piece>> synonyms_;  // by language
+  std::string searchLanguages_;  // the initialisers
+  Piece stopWords_{};
+  std::map<std::string, std::string> groupKinds_;
 };
 
 }  // namespace glyph::generator

@@ -2,7 +2,6 @@
 #include "glyphorium/data/generator/enrichment_table.h"
 
 #include <algorithm>
-#include <array>
 #include <map>
 #include <optional>
 #include <vector>
@@ -11,9 +10,6 @@
 
 namespace glyph::generator {
 namespace {
-
-// The order in which the notes of a row stand.
-constexpr std::array<const char*, 5> languages{"en", "de", "fr", "it", "es"};
 
 struct Row {
   std::map<std::string, std::string> notes;  // by language
@@ -157,12 +153,12 @@ std::string jsonArray(const std::vector<std::string>& elements) {
   return json + "\n    ]";
 }
 
-std::string rowJson(const std::string& hex, const Row& row) {
+std::string rowJson(const std::string& hex, const Row& row, const std::vector<Language>& languages) {
   std::vector<std::string> advice;
-  for (const char* const language : languages) {
-    const auto note = row.notes.find(language);
+  for (const Language& language : languages) {
+    const auto note = row.notes.find(language.code);
     if (note == row.notes.end()) continue;
-    advice.push_back("{\n        \"lang\": \"" + std::string(language) +
+    advice.push_back("{\n        \"lang\": \"" + language.code +
                      "\",\n        \"text\": " + jsonText(note->second) + "\n      }");
   }
   std::vector<std::string> terms;
@@ -201,31 +197,42 @@ void noteFigures(const RowsByHex& rows, const NameTable& names, const std::set<c
   for (const auto& [figure, value] : counts) figures.reached(figure, value);
 }
 
-}  // namespace
-
-EnrichmentTable makeEnrichmentTable(const std::filesystem::path& sources, const NameTable& names,
-                                    const std::set<char32_t>& configured, Figures& figures) {
-  const std::filesystem::path folder = sources / "enrichment";
-  RowsByHex rows;
-  readSearchTerms(folder / "search-terms.tsv", rows);  // first: it decides how many rows a code point has
-  readReferences(folder / "html-references.tsv", rows, figures);
-  readAttributes(folder / "attributes.tsv", rows);
-  for (const char* const language : languages) {
-    readNotes(folder / "advice" / (std::string(language) + ".md"), language, names, rows);
-  }
-  noteFigures(rows, names, configured, figures);
-
+EnrichmentTable makeTable(const RowsByHex& rows, const std::vector<Language>& languages) {
   EnrichmentTable table{"[\n", 0, {}};
   for (const auto& [hex, all] : rows) {  // std::map holds them in the order of the hex text
     for (const Row& row : all) {
       if (table.rows++ > 0) table.json += ",\n";
       if (&row == &all.front())
         table.index.emplace_back(std::stoul(hex, nullptr, 16), static_cast<std::uint32_t>(table.json.size()));
-      table.json += rowJson(hex, row);
+      table.json += rowJson(hex, row, languages);
     }
   }
   table.json += "\n]";
   return table;
+}
+
+}  // namespace
+
+EnrichmentTable makeEnrichmentTable(const std::filesystem::path& sources,
+                                    const std::vector<Language>& languages, const NameTable& names,
+                                    const std::set<char32_t>& configured, Figures& figures) {
+  const std::filesystem::path folder = sources / "enrichment";
+  RowsByHex rows;
+  readSearchTerms(folder / "search-terms.tsv", rows);  // first: it decides how many rows a code point has
+  readReferences(folder / "html-references.tsv", rows, figures);
+  readAttributes(folder / "attributes.tsv", rows);
+  const auto addNotes = [&](bool counted) {
+    for (const Language& language : languages) {
+      const std::filesystem::path file = folder / "advice" / (language.code + ".md");
+      if (language.notesAreCounted == counted && std::filesystem::exists(file))
+        readNotes(file, language.code, names, rows);
+    }
+  };
+  addNotes(true);
+  noteFigures(rows, names, configured, figures);
+  figures.reached("bytes of additionalJson", makeTable(rows, languages).json.size());
+  addNotes(false);
+  return makeTable(rows, languages);
 }
 
 }  // namespace glyph::generator

@@ -10,15 +10,15 @@
 
 namespace glyph::generator {
 
-/// The figures that the generated texts must come to, from figures.tsv.
+/// Sizes and counts of the generated texts, compared with figures.tsv.
 class Figures {
  public:
   explicit Figures(const std::filesystem::path& sources);
 
-  /// Notes the value reached for a figure.
+  /// Records the value of a figure.
   void reached(const std::string& figure, std::size_t value) { reached_[figure] = value; }
 
-  /// Fails with all figures that differ, that nobody reached or that the file does not hold.
+  /// Fails if a value differs from the file, or if only one of the two has a figure. Names all such figures.
   void check() const;
 
  private:

@@ -2,17 +2,35 @@
 #include "glyphorium/data/generator/group_tables.h"
 
 #include <algorithm>
+#include <array>
 #include <set>
 
 #include "glyphorium/data/name_capitalization.h"
+#include "glyphorium/text/unicode_text.h"
 
 namespace glyph::generator {
 namespace {
 
 // Columns of groups.tsv.
-enum Column : std::size_t { constant, group, first, last, rows, membership, use, layout, order, columnCount };
+enum Column : std::size_t {
+  constant,
+  group,
+  first,
+  last,
+  rows,
+  membership,
+  use,
+  layout,
+  order,
+  kind,
+  columnCount
+};
 
-// Which of two words a column holds.
+constexpr std::array<std::string_view, 8> groupKinds{"common-signs", "other-signs", "phonetic",
+                                                     "script",       "modifiers",   "lookalikes",
+                                                     "private-use",  "selection"};
+
+// Whether a column holds `yes`. Fails if it holds neither `yes` nor `no`.
 bool choose(const SourceLine& line, Column column, std::string_view yes, std::string_view no) {
   if (line.columns[column] != yes && line.columns[column] != no) {
     line.fail("'" + line.columns[column] + "' must be '" + std::string(yes) + "' or '" + std::string(no) +
@@ -49,21 +67,28 @@ std::vector<char32_t> readBlock(const SourceLine& line, const NameTable& names) 
   return members;
 }
 
-// The symbols of U+0022 and U+005C stand unescaped like all others: readers of this table repair the two rows
-// before they parse it, and an escaped row would not survive that repair.
+// The symbols of U+0022 and U+005C are not escaped either. Readers of this table repair these two rows before
+// they parse it, and that repair would damage an escaped symbol.
 std::string rowJson(char32_t codePoint, const std::string& name, const std::string& group, bool isSymbol) {
   const std::string hex = hexText(codePoint);
   const std::string decimal = std::to_string(static_cast<std::uint32_t>(codePoint));
   const std::size_t zeros = std::min(hex.find_first_not_of('0'), hex.size());
-  return "{\"symbol\":\"" + utf8Text(codePoint) + "\",\"hex\":\"" + hex + "\"," +
+  return "{\"symbol\":\"" + utf8(codePoint) + "\",\"hex\":\"" + hex + "\"," +
          (isSymbol ? "\"isSFSymbol\":true," : "") + "\"htmlHex\":\"&#x" + hex.substr(zeros) +
          ";\",\"fallbackName\":\"" + capitalizedName(name) + "\",\"htmlDecimal\":\"&#" + decimal +
          ";\",\"decimal\":" + decimal + ",\"group\":\"" + group + "\"}";
 }
 
 GroupTable makeTable(const SourceLine& line, const std::filesystem::path& sources, const NameTable& names) {
-  GroupTable table{
-      line.columns[constant], line.columns[group], choose(line, use, "configured", "text"), {}, "[", {}};
+  GroupTable table{line.columns[constant],
+                   line.columns[group],
+                   choose(line, use, "configured", "text"),
+                   line.columns[kind],
+                   {},
+                   "[",
+                   {}};
+  if (std::find(groupKinds.begin(), groupKinds.end(), table.kind) == groupKinds.end())
+    line.fail("'" + table.kind + "' is not a kind of group");
   const bool isSymbols = table.constant == "sfSymbolsJson";
   const bool oneRowALine = choose(line, layout, "lines", "compact");
   table.members = choose(line, membership, "selection", "block")
@@ -84,7 +109,7 @@ GroupTable makeTable(const SourceLine& line, const std::filesystem::path& source
     const NameTable::Entry* const entry = names.find(codePoint);
     if (!entry) line.fail("member " + hexText(codePoint) + " has no name");
     if (isSymbols && !names.isSymbol(codePoint))
-      line.fail("member " + hexText(codePoint) + " is no SF Symbol");
+      line.fail("member " + hexText(codePoint) + " is not an SF Symbol");
     if (table.json.size() > 1) table.json += oneRowALine ? ",\n" : ",";
     table.rowOffsets.push_back(table.json.size());
     table.json += rowJson(codePoint, entry->name, table.group, isSymbols);

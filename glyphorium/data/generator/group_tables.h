@@ -9,14 +9,15 @@
 
 namespace glyph::generator {
 
-/// One of the 119 group tables.
+/// A group table.
 struct GroupTable {
   std::string constant;
   std::string group;
-  bool configured;  // decoded into the catalog
+  bool configured;   ///< configure() decodes it
+  std::string kind;  ///< of the group, for the ranking of the search
   std::vector<char32_t> members;
   std::string json;
-  std::vector<std::size_t> rowOffsets;  // where each member's object begins in `json`
+  std::vector<std::size_t> rowOffsets;  ///< where each member's object begins in `json`
 };
 
 /// All tables in the order of groups.tsv.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Turns the sources of the embedded texts into constants of the library. The build runs it; it stops the
-// build when a source breaks a rule or a text does not come to its figures.
+// Turns the sources of the embedded texts into constants of the library. The build runs it. It stops the
+// build if a source breaks a rule or a figure differs.
 #include <cstdio>
 #include <exception>
 #include <set>
@@ -9,6 +9,7 @@
 #include "glyphorium/data/generator/enrichment_table.h"
 #include "glyphorium/data/generator/figures.h"
 #include "glyphorium/data/generator/group_tables.h"
+#include "glyphorium/data/generator/languages.h"
 #include "glyphorium/data/generator/name_table.h"
 #include "glyphorium/data/generator/search_facts.h"
 
@@ -28,10 +29,7 @@ void addGroupTables(const std::vector<GroupTable>& tables, EmbeddedImage& image,
     bytes += table.json.size();
     configuredTables += table.configured ? 1 : 0;
     configuredRows += table.configured ? table.members.size() : 0;
-    for (const char* const listed :
-         {"sfSymbolsJson", "mathematicalAlphanumericSymbolsJson", "yiSyllablesJson"}) {
-      if (table.constant == listed) figures.reached("bytes of " + table.constant, table.json.size());
-    }
+    image.addGroupKind(table.group, table.kind);
   }
   figures.reached("group tables", tables.size());
   figures.reached("group table rows", rows);
@@ -48,14 +46,13 @@ void addNameTable(const NameTable& names, EmbeddedImage& image, Figures& figures
   image.addNameIndex(text.index);
   figures.reached("unicode names", names.unicode().size());
   figures.reached("sf symbols", names.symbols().size());
-  figures.reached("name table rows", entries);
   figures.reached("name table first piece bytes", text.fragmentOffset);
   figures.reached("bytes of sfSymbols", text.fragmentSize);
-  figures.reached("bytes of structuredUnicodeJSON", text.json.size());
 }
 
 void generate(const std::filesystem::path& sources, const std::filesystem::path& folder) {
   Figures figures(sources);
+  const std::vector<Language> languages = readLanguages(sources);
   EmbeddedImage image;
   const NameTable names(sources);
   const std::vector<GroupTable> tables = makeGroupTables(sources, names);
@@ -65,13 +62,12 @@ void generate(const std::filesystem::path& sources, const std::filesystem::path&
   for (const GroupTable& table : tables) {
     if (table.configured) configured.insert(table.members.begin(), table.members.end());
   }
-  const EnrichmentTable enrichment = makeEnrichmentTable(sources, names, configured, figures);
+  const EnrichmentTable enrichment = makeEnrichmentTable(sources, languages, names, configured, figures);
   image.addText("additionalJson", "", enrichment.rows, false, enrichment.json);
   image.addEnrichmentIndex(enrichment.index);
-  figures.reached("bytes of additionalJson", enrichment.json.size());
 
   addNameTable(names, image, figures);
-  addSearchFacts(sources, names, image, figures);
+  addSearchFacts(sources, languages, names, image, figures);
   figures.check();
   image.write(folder);
 }

@@ -12,7 +12,7 @@ void requireCharacters(const SourceLine& line, const std::string& name, std::str
   for (const char c : name) {
     const bool letterOrDigit = (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
     if (!letterOrDigit && allowed.find(c) == std::string_view::npos) {
-      line.fail("name '" + name + "' holds a character that no name has");
+      line.fail("name '" + name + "' holds a character that names do not have");
     }
   }
 }
@@ -31,14 +31,14 @@ NameTable::NameTable(const std::filesystem::path& sources) {
     requireCharacters(line, line.columns[1], " -.,()<>");
     const auto control = controls.find(codePoint);
     if (control != controls.end() && line.columns[1] != "<control>")
-      line.fail("is no control, but named as one");
+      line.fail("is not a control character, but control-names.tsv names it");
     unicodePlaces_.emplace(codePoint, unicode_.size());
     unicode_.push_back(
         {codePoint, control != controls.end() ? control->second : line.columns[1], line.place});
   }
   for (const auto& [codePoint, name] : controls) {
     if (!unicodePlaces_.contains(codePoint))
-      Place{sources / "control-names.tsv", 0}.fail(name + " is no entry");
+      Place{sources / "control-names.tsv", 0}.fail(name + " is not in unicode-13.0-names.tsv");
   }
   std::set<std::string> seen;
   for (const SourceLine& line : readTable(sources / "sf-symbols-1.tsv", 2, 2)) {

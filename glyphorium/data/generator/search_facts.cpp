@@ -3,10 +3,12 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "glyphorium/data/generator/search_grammar.h"
 #include "glyphorium/data/generator/source_file.h"
 
 namespace glyph::generator {
@@ -16,9 +18,7 @@ using Facts = std::map<char32_t, std::vector<std::string>>;
 
 constexpr std::size_t manyColumns = 64;
 
-const char* const languages[] = {"en", "de", "fr", "it", "es"};
-
-// The code point of a line, which has a name and does not stand before that of the line before.
+// The code point of a line. It must have a name and must not be smaller than that of the line before.
 char32_t orderedCodePoint(const SourceLine& line, const NameTable& names, char32_t& previous) {
   const char32_t codePoint = line.codePoint(0, false);
   if (codePoint < previous) line.fail("is out of order");
@@ -36,7 +36,7 @@ void requireDistinctTexts(const SourceLine& line, std::size_t firstColumn, bool 
   if (std::adjacent_find(texts.begin(), texts.end()) != texts.end()) line.fail("holds a text twice");
 }
 
-// One line a code point: its texts in the columns behind.
+// Each line has a code point and its texts.
 Facts readFacts(const std::filesystem::path& file, const NameTable& names, bool firstMayBeEmpty) {
   Facts facts;
   char32_t previous = 0;
@@ -57,7 +57,7 @@ Facts readAliases(const std::filesystem::path& file, const NameTable& names) {
     const std::string& type = line.columns[1];
     if (type != "correction" && type != "control" && type != "alternate" && type != "figment" &&
         type != "abbreviation") {
-      line.fail("'" + type + "' is no type of alias");
+      line.fail("'" + type + "' is not a type of alias");
     }
     requireDistinctTexts(line, 2, false);
     facts[codePoint].push_back(line.columns[2]);
@@ -77,7 +77,7 @@ Facts readHtmlNames(const std::filesystem::path& file) {
   return facts;
 }
 
-// The place in the order, from 0, as text.
+// The text of a code point is its position in the file, from 0, in digits.
 Facts readMostWanted(const std::filesystem::path& file, const NameTable& names) {
   Facts facts;
   std::size_t place = 0;
@@ -90,7 +90,7 @@ Facts readMostWanted(const std::filesystem::path& file, const NameTable& names) 
   return facts;
 }
 
-// The lines themselves, without comments.
+// The lines without the comments.
 std::string readSynonyms(const std::filesystem::path& file) {
   std::string text;
   std::string previous;
@@ -100,7 +100,7 @@ std::string readSynonyms(const std::filesystem::path& file) {
     requireDistinctTexts(line, 0, false);
     for (std::size_t i = 0; i < line.columns.size(); ++i) {
       if (line.columns[i].find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789") != std::string::npos)
-        line.fail("holds what is no word of lower-case letters and digits");
+        line.fail("'" + line.columns[i] + "' is not a word of lower-case letters and digits");
       text += (i ? "\t" : "") + line.columns[i];
     }
     text += '\n';
@@ -119,26 +119,42 @@ std::size_t count(const Facts& facts) {
 
 }  // namespace
 
-void addSearchFacts(const std::filesystem::path& sources, const NameTable& names, EmbeddedImage& image,
-                    Figures& figures) {
-  // What comes from elsewhere has a figure, so that no text of it gets lost; this project's own lists grow.
-  const auto addImported = [&](const char* kind, const std::string& language, const std::string& figure,
-                               const Facts& facts) {
-    image.addSearchFacts(kind, language, facts);
-    figures.reached(figure, count(facts));
-  };
+void addSearchFacts(const std::filesystem::path& sources, const std::vector<Language>& languages,
+                    const NameTable& names, EmbeddedImage& image, Figures& figures) {
   const std::filesystem::path folder = sources / "search";
-  addImported("alias", "", "name aliases", readAliases(folder / "name-aliases.tsv", names));
-  addImported("htmlName", "", "html names", readHtmlNames(sources / "enrichment" / "html-references.tsv"));
-  for (const std::string language : languages) {
-    addImported("annotation", language, "annotations " + language,
-                readFacts(folder / ("annotations." + language + ".tsv"), names, true));
-    image.addSearchFacts("everydayName", language,
-                         readFacts(folder / ("everyday-names." + language + ".tsv"), names, false));
+  // Imported lists have a figure, so that no text of theirs gets lost. This project's own lists grow.
+  const Facts aliases = readAliases(folder / "name-aliases.tsv", names);
+  image.addSearchFacts("alias", "", aliases);
+  figures.reached("name aliases", count(aliases));
+  const Facts htmlNames = readHtmlNames(sources / "enrichment" / "html-references.tsv");
+  image.addSearchFacts("htmlName", "", htmlNames);
+  figures.reached("html names", count(htmlNames));
+  for (const Language& language : languages) {
+    Facts annotations;
+    if (const auto file = searchFile(sources, "annotations", language); !file.empty())
+      annotations = readFacts(file, names, true);
+    if (count(annotations) != language.annotationTexts) {
+      language.place.fail("annotations." + language.code + ".tsv holds " +
+                          std::to_string(count(annotations)) + " texts, wanted " +
+                          std::to_string(language.annotationTexts));
+    }
+    image.addSearchFacts("annotation", language.code, annotations);
+    if (const auto file = searchFile(sources, "everyday-names", language); !file.empty())
+      image.addSearchFacts("everydayName", language.code, readFacts(file, names, false));
   }
   image.addSearchFacts("mostWanted", "", readMostWanted(folder / "most-wanted.tsv", names));
-  for (const std::string language : languages)
-    image.addSynonyms(language, readSynonyms(folder / ("synonyms." + language + ".tsv")));
+  std::set<std::string> stopWords;
+  for (const Language& language : languages) {
+    SearchGrammar grammar;
+    std::string synonyms;
+    if (const auto file = searchFile(sources, "grammar", language); !file.empty())
+      grammar = readGrammar(file);
+    if (const auto file = searchFile(sources, "synonyms", language); !file.empty())
+      synonyms = readSynonyms(file);
+    image.addSearchLanguage(language.code, synonyms, grammar);
+    stopWords.merge(grammar.stopWords);
+  }
+  image.addStopWords(lines(stopWords));
 }
 
 }  // namespace glyph::generator

@@ -2,16 +2,18 @@
 #pragma once
 
 #include <filesystem>
+#include <vector>
 
 #include "glyphorium/data/generator/embedded_image.h"
 #include "glyphorium/data/generator/figures.h"
+#include "glyphorium/data/generator/languages.h"
 #include "glyphorium/data/generator/name_table.h"
 
 namespace glyph::generator {
 
-/// Adds what the search knows beyond the tables: the aliases, annotations, everyday names, synonyms and the
-/// order of wanted characters below search/, and all the names of the HTML Standard.
-void addSearchFacts(const std::filesystem::path& sources, const NameTable& names, EmbeddedImage& image,
-                    Figures& figures);
+/// Adds the sources of the search that are in no table: all files below search/, and all names of the HTML
+/// Standard.
+void addSearchFacts(const std::filesystem::path& sources, const std::vector<Language>& languages,
+                    const NameTable& names, EmbeddedImage& image, Figures& figures);
 
 }  // namespace glyph::generator

@@ -2,35 +2,15 @@
 #include "glyphorium/data/generator/source_file.h"
 
 #include <charconv>
-#include <cstdio>
 #include <fstream>
 #include <iterator>
+#include <optional>
+
+#include "glyphorium/text/ascii.h"
+#include "glyphorium/text/unicode_text.h"
 
 namespace glyph::generator {
 namespace {
-
-bool isWellFormed(std::string_view text) {
-  for (std::size_t i = 0; i < text.size();) {
-    const auto lead = static_cast<unsigned char>(text[i]);
-    const std::size_t size = lead < 0x80   ? 1
-                             : lead < 0xC2 ? 0
-                             : lead < 0xE0 ? 2
-                             : lead < 0xF0 ? 3
-                             : lead < 0xF5 ? 4
-                                           : 0;
-    if (size == 0 || i + size > text.size()) return false;
-    char32_t value = size == 1 ? lead : lead & (0x7Fu >> size);
-    for (std::size_t k = 1; k < size; ++k) {
-      const auto byte = static_cast<unsigned char>(text[i + k]);
-      if ((byte & 0xC0) != 0x80) return false;
-      value = value << 6 | (byte & 0x3F);
-    }
-    const char32_t smallest = size == 2 ? 0x80 : size == 3 ? 0x800 : size == 4 ? 0x10000 : 0;
-    if (value < smallest || value > 0x10FFFF || (value >= 0xD800 && value <= 0xDFFF)) return false;
-    i += size;
-  }
-  return true;
-}
 
 std::vector<std::string> split(std::string_view text, char separator) {
   std::vector<std::string> parts;
@@ -50,22 +30,18 @@ void Place::fail(const std::string& message) const {
 
 char32_t SourceLine::codePoint(std::size_t column, bool upperCase) const {
   const std::string& text = columns.at(column);
-  std::uint32_t value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, 16);
-  if (error != std::errc() || end != text.data() + text.size() || value > 0x10FFFF) {
-    fail("'" + text + "' is no code point in hexadecimal digits");
-  }
-  const std::string canonical = upperCase ? upperHexText(value) : hexText(value);
+  const std::optional<std::uint32_t> value = ascii::number(text, 16);
+  if (!value || *value > 0x10FFFF) fail("'" + text + "' is not a code point in hexadecimal digits");
+  const std::string canonical = upperCase ? upperHexText(*value) : hexText(*value);
   if (text != canonical) fail("'" + text + "' must be written '" + canonical + "'");
-  return value;
+  return *value;
 }
 
 std::size_t SourceLine::number(std::size_t column) const {
   const std::string& text = columns.at(column);
-  std::size_t value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (error != std::errc() || end != text.data() + text.size()) fail("'" + text + "' is no number");
-  return value;
+  const std::optional<std::uint32_t> value = ascii::number(text, 10);
+  if (!value) fail("'" + text + "' is not a number");
+  return *value;
 }
 
 std::vector<std::string> readLines(const std::filesystem::path& file) {
@@ -75,7 +51,7 @@ std::vector<std::string> readLines(const std::filesystem::path& file) {
   if (text.empty() || text.back() != '\n') Place{file, 0}.fail("must end with a line feed");
   std::vector<std::string> lines = split(std::string_view(text).substr(0, text.size() - 1), '\n');
   for (std::size_t i = 0; i < lines.size(); ++i) {
-    if (!isWellFormed(lines[i])) Place{file, i + 1}.fail("is not well-formed UTF-8");
+    if (!isWellFormedUtf8(lines[i])) Place{file, i + 1}.fail("is not well-formed UTF-8");
     if (lines[i].find('\r') != std::string::npos) Place{file, i + 1}.fail("holds a carriage return");
   }
   return lines;
@@ -97,7 +73,7 @@ std::vector<SourceLine> readTable(const std::filesystem::path& file, std::size_t
     }
     for (const std::string& column : line.columns) {
       if (!column.empty() && (column.front() == ' ' || column.back() == ' '))
-        line.fail("has a blank at a column's end");
+        line.fail("has a space at the begin or end of a column");
     }
     table.push_back(std::move(line));
   }
@@ -105,23 +81,18 @@ std::vector<SourceLine> readTable(const std::filesystem::path& file, std::size_t
 }
 
 std::string hexText(char32_t codePoint) {
-  char buffer[16];
-  std::snprintf(buffer, sizeof buffer, "%04x", static_cast<unsigned>(codePoint));
-  return buffer;
+  char digits[8];
+  char* const end =
+      std::to_chars(digits, digits + sizeof digits, static_cast<std::uint32_t>(codePoint), 16).ptr;
+  std::string text(digits, end);
+  if (text.size() < 4) text.insert(0, 4 - text.size(), '0');
+  return text;
 }
 
 std::string upperHexText(char32_t codePoint) {
   std::string text = hexText(codePoint);
-  for (char& c : text) c = c >= 'a' && c <= 'f' ? static_cast<char>(c - ('a' - 'A')) : c;
+  for (char& c : text) c = ascii::raised(c);
   return text;
-}
-
-std::string utf8Text(char32_t c) {
-  const auto tail = [c](int shift) { return static_cast<char>(0x80 | (c >> shift & 0x3F)); };
-  if (c < 0x80) return {static_cast<char>(c)};
-  if (c < 0x800) return {static_cast<char>(0xC0 | c >> 6), tail(0)};
-  if (c < 0x10000) return {static_cast<char>(0xE0 | c >> 12), tail(6), tail(0)};
-  return {static_cast<char>(0xF0 | c >> 18), tail(12), tail(6), tail(0)};
 }
 
 }  // namespace glyph::generator

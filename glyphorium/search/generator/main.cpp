@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Builds the search index of the catalog, so that nobody waits for that at run time. The build runs it, with
-// the library's own code in it.
+// Builds the search index of the catalog, so that a program does not wait for that at run time. The build
+// runs it. It has the code of the library in it.
 #include <cstdio>
-#include <fstream>
+#include <exception>
 
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/search/index.h"
+#include "glyphorium/data/generator/output_file.h"
+#include "glyphorium/search/index_building.h"
 
-// What this program makes, and therefore lacks.
+// The library's code refers to the index that this program is to make. It does not read it here.
 extern "C" {
 extern const std::byte glyphoriumSearchIndex[];
 extern const std::byte glyphoriumSearchIndexEnd[];
@@ -20,12 +21,14 @@ int main(int argc, char** argv) {
     std::fputs("usage: glyphorium-generate-search-index FILE\n", stderr);
     return 2;
   }
-  std::vector<glyph::Entity> entities;
-  while (auto entity = glyph::buildInEntity(entities.size())) entities.push_back(*std::move(entity));
-  const glyph::search::IndexImage image = glyph::search::buildIndex(entities);
-  std::ofstream file(argv[1], std::ios::binary);
-  file.write(reinterpret_cast<const char*>(image.data()), static_cast<std::streamsize>(image.size()));
-  file.close();
-  if (!file) std::fprintf(stderr, "%s cannot be written\n", argv[1]);
-  return file ? 0 : 1;
+  try {
+    std::vector<glyph::Entity> entities;
+    while (auto entity = glyph::buildInEntity(entities.size())) entities.push_back(*std::move(entity));
+    const glyph::search::IndexImage image = glyph::search::buildIndex(entities);
+    glyph::generator::writeFile(argv[1], {reinterpret_cast<const char*>(image.data()), image.size()});
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 1;
+  }
+  return 0;
 }

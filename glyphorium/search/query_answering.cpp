@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/search/query_answering.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "glyphorium/search/hits.h"
+#include "glyphorium/search/match_costs.h"
+#include "glyphorium/search/name_ranges.h"
+#include "glyphorium/search/query_filter.h"
+#include "glyphorium/search/word_search.h"
+#include "glyphorium/text/preferred_languages.h"
+
+namespace glyph::search {
+namespace {
+
+SearchField fieldOf(PhraseKind kind) {
+  switch (kind) {
+    case PhraseKind::name:
+    case PhraseKind::replacedName:
+      break;
+    case PhraseKind::alias:
+      return SearchField::alias;
+    case PhraseKind::htmlName:
+      return SearchField::htmlName;
+    case PhraseKind::searchTerm:
+    case PhraseKind::everydayName:
+      return SearchField::searchTerm;
+    case PhraseKind::textToSpeechName:
+    case PhraseKind::keyword:
+      return SearchField::annotation;
+    case PhraseKind::note:
+      return SearchField::note;
+  }
+  return SearchField::name;
+}
+
+class Answer {
+ public:
+  Answer(const Index& index, const ParsedQuery& query, const SearchOptions& options)
+      : index_(index), options_(options), query_(query) {
+    filter_.languages = languageBits(index, options.languages ? *options.languages : preferredLanguages());
+    if (query.groups.empty() && options.groups.empty()) return;
+    allowed_ = docsInGroups(index, options.groups, query.groups);
+    filter_.docs = &allowed_;
+  }
+  Answer(const Answer&) = delete;
+  Answer& operator=(const Answer&) = delete;
+
+  SearchResults results() && {
+    if (query_.words.empty() && query_.codes.empty() && query_.characters.empty() &&
+        query_.besideWords.empty() && query_.otherCharacters.empty()) {
+      addWholeGroups();
+    } else {
+      addReadings();
+    }
+    Hits::Best best = std::move(hits_).best(options_.limit, index_.docCount());
+    SearchResults results;
+    results.total = best.total;
+    results.approximate = approximate_;
+    for (const Hits::Hit& hit : best.hits) {
+      const bool exact =
+          !approximate_ && hit.field != SearchField::group && hit.cost() < offset_ + behindExactCost;
+      results.results.push_back({index_.docEntity[hit.doc], hit.field,
+                                 nameRanges(index_, words_, index_.names[hit.doc]), hit.cost(), exact});
+    }
+    return results;
+  }
+
+ private:
+  // In the order of the list.
+  void addWholeGroups() {
+    if (query_.groups.empty()) return;
+    for (std::uint32_t doc = 0; doc < index_.docCount(); ++doc) {
+      if (allowed_[doc]) hits_.addAtPosition(doc, index_.docEntity[doc], SearchField::group);
+    }
+  }
+
+  void addReadings() {
+    // What cannot be anything else comes first, in the order of the query.
+    std::uint32_t place = firstCost;
+    for (const ParsedCode& item : query_.codes) {
+      if (item.htmlName.empty())
+        add(index_.docOfCodePoint(item.codePoint), place++, SearchField::code);
+      else
+        add(index_.docOfHtmlName(item.htmlName), place++, SearchField::htmlName);
+    }
+    const bool isCode = !hits_.empty();
+    for (const std::uint32_t number : query_.likelyNumbers)
+      add(index_.docOfCodePoint(number), place++, SearchField::code);
+    for (const std::uint32_t character : query_.characters)
+      add(index_.docOfCodePoint(character), place++, SearchField::character);
+    offset_ = place;
+    addSignPhrases();
+    for (const std::uint32_t number : query_.otherNumbers)
+      add(index_.docOfCodePoint(number), offset_ + behindExactCost, SearchField::code);
+    for (const std::uint32_t character : query_.besideWords)
+      add(index_.docOfCodePoint(character), offset_ + behindExactCost, SearchField::character);
+    const std::uint32_t bareName = index_.docOfHtmlName(query_.bareText);
+    const bool direct = !hits_.empty() || bareName != Index::noDoc;
+    // A code is not a mistyped word, even if the list does not have its character.
+    const bool saysCode = std::any_of(query_.codes.begin(), query_.codes.end(),
+                                      [](const ParsedCode& code) { return code.htmlName.empty(); });
+    addWords(!direct && !saysCode);
+    if (bareName != Index::noDoc)
+      add(bareName, offset_ + htmlNameDetail + index_.docPrior[bareName], SearchField::htmlName);
+    for (const std::uint32_t character : query_.otherCharacters) {
+      // Nobody asks for the signs of a code or the letters of words that were found.
+      if (!isCode && (hits_.empty() || query_.words.empty() || !wordsFound_))
+        add(index_.docOfCodePoint(character), offset_ + lastCost + place++, SearchField::character);
+    }
+  }
+
+  void add(std::uint32_t doc, std::uint32_t cost, SearchField field) {
+    if (doc == Index::noDoc || (filter_.docs && !allowed_[doc])) return;
+    hits_.add(doc, cost, field);
+  }
+
+  void addSignPhrases() {
+    if (query_.signs.empty()) return;
+    const TextRange range = index_.signs.withPrefix(query_.signs);
+    for (std::uint32_t sign = range.first; sign < range.last; ++sign) {
+      const Phrase& found = index_.phrases[index_.signPhrases[sign]];
+      if ((filter_.languages >> found.language & 1) == 0) continue;
+      const bool whole = index_.signs[sign].size() == query_.signs.size();
+      const std::uint32_t cost = offset_ + (whole ? 0 : behindExactCost) + index_.docPrior[found.doc];
+      add(found.doc, cost, fieldOf(found.kind));
+    }
+  }
+
+  void addWords(bool persistently) {
+    WordsFound found = findWords(index_, query_.words, filter_, persistently);
+    hits_.reserveMore(found.matches.size());
+    for (const Match& match : found.matches) {
+      const bool byName = match.phrase == noPhrase;
+      add(match.doc, offset_ + match.cost,
+          byName ? SearchField::name : fieldOf(index_.phrases[match.phrase].kind));
+    }
+    wordsFound_ = !found.matches.empty();
+    approximate_ = found.approximate;
+    words_ = std::move(found.words);
+  }
+
+  const Index& index_;
+  const SearchOptions& options_;
+  const ParsedQuery& query_;
+  MatchFilter filter_;
+  std::vector<char> allowed_;  // by doc; empty if no group is asked for
+  Hits hits_;
+  std::vector<QueryWord> words_;  // with the alternatives that matched
+  std::uint32_t offset_ = 0;      // cost that the direct readings leave for the others to begin at
+  bool wordsFound_ = false;
+  bool approximate_ = false;
+};
+
+}  // namespace
+
+SearchResults answer(const Index& index, const ParsedQuery& query, const SearchOptions& options) {
+  return Answer(index, query, options).results();
+}
+
+}  // namespace glyph::search
