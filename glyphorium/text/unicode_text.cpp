@@ -13,6 +13,7 @@
 #include <memory>
 
 #include "glyphorium/text/ascii.h"
+#include "glyphorium/text/utf8_decoding.h"
 
 namespace glyph {
 namespace {
@@ -24,16 +25,6 @@ bool isAscii(std::string_view text) {
 std::int32_t length32(std::string_view text) {
   return static_cast<std::int32_t>(text.size());
 }
-
-// The code point at text[i], or a negative number for an ill-formed sequence. Moves i behind it.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wconversion"  // inside ICU's macro
-UChar32 nextCodePoint(std::string_view text, std::int32_t& i) {
-  UChar32 codePoint;
-  U8_NEXT(text.data(), i, length32(text), codePoint);
-  return codePoint;
-}
-#pragma GCC diagnostic pop
 
 // Each thread keeps one break iterator: creating one takes about a hundred times as long as walking a short
 // text.
@@ -114,7 +105,7 @@ std::vector<std::string_view> graphemeClusters(std::string_view text) {
 std::u32string codePoints(std::string_view text) {
   std::u32string result;
   result.reserve(text.size());
-  for (std::int32_t i = 0; i < length32(text);) {
+  for (std::size_t i = 0; i < text.size();) {
     const UChar32 codePoint = nextCodePoint(text, i);
     result.push_back(codePoint < 0 ? U'\uFFFD' : static_cast<char32_t>(codePoint));
   }
@@ -122,7 +113,7 @@ std::u32string codePoints(std::string_view text) {
 }
 
 bool isWellFormedUtf8(std::string_view text) {
-  for (std::int32_t i = 0; i < length32(text);) {
+  for (std::size_t i = 0; i < text.size();) {
     if (nextCodePoint(text, i) < 0) return false;
   }
   return true;

@@ -116,7 +116,7 @@ TEST(SearchQueryForms, WordsOfTheUsersLanguagesFindCharacters) {
     const char* language;
     const char* wanted;
   } cases[] = {
-      {"fleche", "fr", "2192"},   {"FLÈCHE", "fr", "2192"},   {"fle\u0300che", "fr", "2192"},
+      {"fleche", "fr", "2192"},   {"FLÈCHE", "fr", "2192"},   {"arrọw", "en", "2192"},
       {"haekchen", "de", "2713"}, {"pfeile", "de", "2192"},   {"groesser gleich", "de", "2265"},
       {"pound", "de", "00a3"},    {"pound", "pt-BR", "00a3"}, {"herz", "de-AT", "2764"},
       {"corazón", "en", "2764"},  // nothing English is called so

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/search/words.h"
+
+#include <gtest/gtest.h>
+
+namespace glyph::search {
+namespace {
+
+TEST(SearchWords, AreFoldedInAllOfLatinAndSeparated) {
+  const struct {
+    const char* text;
+    const char* words;
+  } cases[] = {
+      {"ARRÖW arrọw arrǭw", "arrow arrow arrow"},            // one and two diacritics, from three blocks
+      {"fle\u0300che fle\u0300\u0323che", "fleche fleche"},  // behind their letters
+      {"ŁÓDŹ Đorđe Þór œuvre Æsir ǽ ǿ İı", "lodz dorde thor oeuvre aesir ae o ii"},
+      {"STRAẞE Straße", "strasse strasse"},
+      {"\u212Bngström", "angstrom"},       // ANGSTROM SIGN
+      {"Стрелка ΒΈΛΟΣ", "стрелка βέλοσ"},  // other scripts keep their letters
+      {"no-break_space l’œil", "no break space l oeil"},
+      {"\u0301a × 2 ÷", "a 2"},
+      {"a\xFF\xC3z\xE2\x86", "a z"},  // ill-formed bytes separate
+      {"→", ""},
+  };
+  for (const auto& test : cases) EXPECT_EQ(wordsOf(test.text), test.words) << test.text;
+}
+
+TEST(SearchWords, ReportWhereTheyStand) {
+  constexpr std::string_view text = " Flèche\u0301 ↑";
+  WordReader reader(text);
+  ASSERT_TRUE(reader.next());
+  EXPECT_EQ(text.substr(reader.begin(), reader.end() - reader.begin()), "Flèche\u0301");
+  EXPECT_FALSE(reader.next());
+}
+
+}  // namespace
+}  // namespace glyph::search
