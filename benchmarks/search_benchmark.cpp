@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The interactive search over the whole catalog: what building and a query cost, beside other ways to look up
-// the same words. Compare only within one run: machines that run this are shared and noisy.
+// The time that the search of the whole catalog takes: to build it, and for a query, beside other ways to
+// find the same words. Compare only figures of one run, because other programs run on the same machine.
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <malloc.h>
@@ -59,7 +59,7 @@ struct ListedQuery {
   SearchOptions options;
 };
 
-// The list of everyday queries; typed: every beginning of each.
+// The list of everyday queries. If `typed` is set, every beginning of each.
 std::vector<ListedQuery> listedQueries(bool typed) {
   std::vector<ListedQuery> queries;
   std::ifstream file(SEARCH_QUERY_LIST);
@@ -87,8 +87,8 @@ void buildingSearch(benchmark::State& state) {
 }
 BENCHMARK(buildingSearch)->Unit(benchmark::kMillisecond);
 
-// Each query timed by itself: what a user waits for is not the mean. Of each query the median of its runs
-// counts, so that a moment that another process took is not charged to it.
+// Measures each query by itself, because users notice the slow ones and not the mean. The time of a query is
+// the median of its runs, which other processes disturb little.
 void measureQueries(benchmark::State& state, bool typed) {
   using Clock = std::chrono::steady_clock;
   const std::vector<ListedQuery> queries = listedQueries(typed);
@@ -125,7 +125,7 @@ void oneWord(benchmark::State& state) {
 }
 BENCHMARK(oneWord)->Unit(benchmark::kMicrosecond);
 
-// The others find "arrow" in the names and rank nothing.
+// The following find "arrow" in the names, and do not rank.
 
 UBool countArrow(void* count, UChar32, UCharNameChoice, const char* name, int32_t) {
   *static_cast<int*>(count) += std::strstr(name, "ARROW") != nullptr;
@@ -227,7 +227,7 @@ void fullTextQuery(benchmark::State& state, const char* match) {
 BENCHMARK_CAPTURE(fullTextQuery, arrow, "arrow*")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(fullTextQuery, let, "let*")->Unit(benchmark::kMicrosecond);
 
-// What a program does that shows results and needs nothing else of the catalog.
+// A program that shows results and needs nothing else of the catalog does this.
 void decodingTwentyResults(benchmark::State& state) {
   const auto results = Search::ofCatalog().query("arrow", {20, {{"en"}}, {}}).results;
   for (auto _ : state) {
@@ -236,7 +236,7 @@ void decodingTwentyResults(benchmark::State& state) {
 }
 BENCHMARK(decodingTwentyResults)->Unit(benchmark::kMicrosecond);
 
-// Programs from their start to their end, as somebody without stored settings meets them.
+// Whole programs from start to end, without stored settings.
 void wholeProcess(benchmark::State& state, std::vector<std::string> command) {
   std::vector<char*> arguments;
   for (std::string& argument : command) arguments.push_back(argument.data());

@@ -9,8 +9,8 @@
 
 namespace glyph {
 
-/// Where texts of code points begin: pairs of 32-bit integers in the library's read-only image, a code point
-/// and an offset in some text, ascending by code point.
+/// Where the texts of code points begin in a longer text: pairs of 32-bit integers, a code point and an
+/// offset, in ascending order of code points. A view of the library's read-only image.
 class CodePointIndex {
  public:
   struct Entry {
@@ -28,15 +28,15 @@ class CodePointIndex {
     return entry;
   }
 
-  /// The part of `text` from the offset of the entry at that position up to the next one's, where offsets
-  /// ascend too.
+  /// The part of `text` between the offset of the entry at this position and that of the next entry. Needs
+  /// ascending offsets.
   std::string_view slice(std::string_view text, std::size_t position) const noexcept {
     const std::size_t begin = (*this)[position].offset;
     const std::size_t end = position + 1 < size() ? (*this)[position + 1].offset : text.size();
     return text.substr(begin, end - begin);
   }
 
-  /// The position of the code point.
+  /// The position of the code point's entry; nullopt if there is none.
   std::optional<std::size_t> find(std::uint32_t codePoint) const noexcept {
     std::size_t begin = 0;
     for (std::size_t end = size(); begin < end;) {

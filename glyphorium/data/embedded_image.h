@@ -10,27 +10,28 @@ namespace glyph {
 
 struct EmbeddedText;
 
-/// Everything that is embedded, padding included. A text that lies in it and ends textPadding before its end
-/// may be parsed in place.
+/// All embedded bytes, padding included. A text in it that ends at least textPadding bytes before the end of
+/// the image may be parsed in place.
 extern const std::string_view embeddedImage;
 
 extern const std::string_view structuredUnicodeJsonText;
 extern const EmbeddedText embeddedTextList[];
 extern const std::size_t embeddedTextCount;
 
-/// Where the name of each code point's first entry begins in structuredUnicodeJSON().
+/// The offset in structuredUnicodeJSON() of the name in each code point's first entry.
 extern const CodePointIndex nameIndex;
 
-/// Where the first row of each code point begins in additionalJson.
+/// The offset in additionalJson of each code point's first row.
 extern const CodePointIndex enrichmentIndex;
 
-/// Where each row of the configured tables begins in embeddedImage, as 32-bit integers.
+/// The offset in embeddedImage of each row of the configured tables, as 32-bit integers; then the end of the
+/// last row.
 extern const std::string_view configuredRowOffsets;
 
-/// The JSON object that stands at that place, counted through all configured tables; empty behind the last.
+/// The JSON object of a row, counted from 0 through all configured tables; empty if there is no such row.
 std::string_view configuredRow(std::size_t place) noexcept;
 
-/// The JSON object of the hex code's first row in the enrichment table; empty where it has none.
+/// The JSON object of the hex code's first row in the enrichment table; empty if it has none.
 std::string_view enrichmentRow(std::string_view hex) noexcept;
 
 }  // namespace glyph

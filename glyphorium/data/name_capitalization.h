@@ -6,11 +6,10 @@
 
 namespace glyph {
 
-/// A character name as the catalog shows it: lower-cased, then every letter that begins the text or follows a
-/// non-letter in upper case ("Latin Capital Letter A", "Cjk Compatibility Ideograph-F90A",
-/// "Square.And.Arrow.Up"). Names are ASCII; other bytes count as non-letters and stay as they are.
-/// Title-casing by word boundaries, as text libraries do it, is a different rule: it would leave the letter
-/// after a digit or a full stop in lower case.
+/// A character name as the catalog shows it: in lower case, but each letter at the begin of the text or
+/// behind a non-letter in upper case ("Latin Capital Letter A", "Cjk Compatibility Ideograph-F90A",
+/// "Square.And.Arrow.Up"). Names are ASCII; other bytes count as non-letters and stay as they are. This is
+/// not the title case of Unicode, which leaves the letter behind a digit or a full stop in lower case.
 inline std::string capitalizedName(std::string_view name) {
   std::string result(name);
   bool insideWord = false;

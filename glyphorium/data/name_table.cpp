@@ -10,7 +10,7 @@
 namespace glyph {
 namespace {
 
-// The number of a hex code spelled as the table spells it.
+// The number of a hex code that is written as in the table.
 std::optional<std::uint32_t> canonicalCodePoint(std::string_view hex) noexcept {
   if (hex.size() < 4 || (hex.size() > 4 && hex.front() == '0')) return std::nullopt;
   return ascii::number(hex, 16);
@@ -29,7 +29,7 @@ std::optional<NameTableEntry> findName(std::string_view hex) noexcept {
   if (!position) return std::nullopt;
   const std::string_view rest = structuredUnicodeJSON().substr(nameIndex[*position].offset);
   const std::size_t end = rest.find('"');
-  // What follows the name is `","isSFSymbol":true` or `…false`.
+  // `","isSFSymbol":true` or `","isSFSymbol":false` follows the name.
   return NameTableEntry{rest.substr(0, end), rest.substr(end).starts_with("\",\"isSFSymbol\":t")};
 }
 

@@ -5,8 +5,8 @@
 
 namespace glyph {
 
-/// Readable bytes behind every embedded text, so that the JSON parser, which reads in wide steps, can parse
-/// it where it lies.
+/// Number of readable bytes behind each embedded text. The JSON parser reads several bytes at a time. With
+/// the padding it can parse a text in place.
 inline constexpr std::size_t textPadding = 64;
 
 }  // namespace glyph

@@ -2,8 +2,7 @@
 #include "glyphorium/search/index_building.h"
 
 #include <algorithm>
-#include <array>
-#include <cstring>
+#include <numeric>
 #include <string>
 #include <utility>
 
@@ -11,70 +10,16 @@
 #include "glyphorium/search/language_rules.h"
 #include "glyphorium/search/static_rank.h"
 #include "glyphorium/search/text_parts.h"
+#include "glyphorium/search/word_numbers.h"
 #include "glyphorium/search/words.h"
 
 namespace glyph::search {
 namespace {
 
-constexpr std::uint32_t maxPhrases = 1u << 24;  // a posting has 24 bits for one
+constexpr std::uint32_t maxPhrases = 1u << 24;  // a posting has 24 bits for the number of a phrase
 constexpr std::uint32_t lastPosition = 0xFF;
 
-// Numbers words in the order of their appearance: an open hash table over one blob, because a node and a
-// string for each of some 30,000 words would cost more than all the rest of building.
-class WordNumbers {
- public:
-  WordNumbers() : slots_(1u << 16, empty) { offsets_.push_back(0); }
-
-  std::uint32_t number(std::string_view word) {
-    const std::uint64_t hash = hashOf(word);
-    for (std::size_t slot = hash & (slots_.size() - 1);; slot = (slot + 1) & (slots_.size() - 1)) {
-      const std::uint32_t known = slots_[slot];
-      if (known == empty) return add(word, hash, slot);
-      if (hashes_[known] == static_cast<std::uint32_t>(hash >> 32) && this->word(known) == word) return known;
-    }
-  }
-
-  std::uint32_t size() const { return static_cast<std::uint32_t>(hashes_.size()); }
-  std::size_t blobSize() const { return blob_.size(); }
-  std::string_view word(std::uint32_t number) const {
-    return {blob_.data() + offsets_[number], offsets_[number + 1] - offsets_[number]};
-  }
-
- private:
-  static constexpr std::uint32_t empty = 0xFFFFFFFF;
-
-  static std::uint64_t hashOf(std::string_view word) {
-    std::uint64_t hash = 0xCBF29CE484222325;
-    for (const char c : word) hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3;
-    return hash ^ hash >> 29;
-  }
-
-  std::uint32_t add(std::string_view word, std::uint64_t hash, std::size_t slot) {
-    const std::uint32_t number = size();
-    hashes_.push_back(static_cast<std::uint32_t>(hash >> 32));
-    blob_ += word;
-    offsets_.push_back(static_cast<std::uint32_t>(blob_.size()));
-    slots_[slot] = number;
-    if (hashes_.size() * 2 > slots_.size()) grow();
-    return number;
-  }
-
-  void grow() {
-    slots_.assign(slots_.size() * 2, empty);
-    for (std::uint32_t number = 0; number < size(); ++number) {
-      std::size_t slot = hashOf(word(number)) & (slots_.size() - 1);
-      while (slots_[slot] != empty) slot = (slot + 1) & (slots_.size() - 1);
-      slots_[slot] = number;
-    }
-  }
-
-  std::vector<std::uint32_t> slots_;
-  std::vector<std::uint32_t> hashes_;
-  std::vector<std::uint32_t> offsets_;
-  std::string blob_;
-};
-
-// A text list in the making.
+// Collects the texts of a TextList.
 struct Texts {
   std::string bytes;
   std::vector<std::uint32_t> begins{0};
@@ -86,7 +31,7 @@ struct Texts {
   TextList list() const { return {bytes, begins}; }
 };
 
-// Texts with a number each, ascending.
+// Texts in ascending order, and the number that belongs to each.
 template <class Text>
 struct NumberedTexts {
   explicit NumberedTexts(std::vector<std::pair<Text, std::uint32_t>> pairs) {
@@ -153,7 +98,7 @@ class Builder {
       if (phrase.coreWords < lastPosition && !isStopWord(reader_.word())) ++phrase.coreWords;
     }
     if (phrase.coreWords == 0) phrase.coreWords = phrase.words;
-    // Signs stand in what people type for a character; in names they only separate.
+    // People type signs for a character, and these texts contain them. In names signs only separate words.
     if (kind == PhraseKind::searchTerm || kind == PhraseKind::everydayName || kind == PhraseKind::keyword ||
         kind == PhraseKind::textToSpeechName) {
       std::string key = signKey(text);
@@ -192,7 +137,7 @@ class Builder {
       addPhrase(doc, PhraseKind::note, language(advice.lang), advice.text);
   }
 
-  // The number of a language; 0, which is always looked at, when there are too many of them.
+  // The number of a language. If there are too many languages it is 0, which is always searched.
   std::uint8_t language(std::string_view name) {
     const auto found = std::find(languages_.begin(), languages_.end(), name);
     if (found != languages_.end()) return static_cast<std::uint8_t>(found - languages_.begin());
@@ -206,7 +151,7 @@ class Builder {
       const SearchFacts& facts = searchFactList[list];
       if (facts.kind == SearchFactKind::mostWanted) continue;
       const std::uint8_t itsLanguage = facts.language.empty() ? std::uint8_t{0} : language(facts.language);
-      // Both ascend by code point.
+      // Both lists are in the order of code points.
       auto place = byCodePoint_.begin();
       for (std::size_t i = 0; i < facts.size() && place != byCodePoint_.end(); ++i) {
         const SearchFacts::Entry entry = facts[i];
@@ -252,29 +197,20 @@ class Builder {
   }
 
   void makeDictionary() {
-    // Sorted by the first eight bytes as one number; only words that agree in them are compared as texts.
-    std::vector<std::pair<std::uint64_t, std::uint32_t>> order(words_.size());
-    for (std::uint32_t number = 0; number < words_.size(); ++number) {
-      std::array<unsigned char, 8> head{};
-      const std::string_view word = words_.word(number);
-      std::memcpy(head.data(), word.data(), std::min(word.size(), head.size()));
-      std::uint64_t key = 0;
-      for (const unsigned char byte : head) key = key << 8 | byte;
-      order[number] = {key, number};
-    }
-    std::sort(order.begin(), order.end(), [&](const auto& a, const auto& b) {
-      return a.first != b.first ? a.first < b.first : words_.word(a.second) < words_.word(b.second);
-    });
+    std::vector<std::uint32_t> order(words_.size());
+    std::iota(order.begin(), order.end(), 0u);
+    std::sort(order.begin(), order.end(),
+              [&](std::uint32_t a, std::uint32_t b) { return words_.word(a) < words_.word(b); });
 
     std::vector<std::uint32_t> sortedPlace(words_.size());
     dictionary_.bytes.reserve(words_.blobSize());
     dictionary_.begins.reserve(words_.size() + 1);
     for (std::uint32_t i = 0; i < order.size(); ++i) {
-      sortedPlace[order[i].second] = i;
-      dictionary_.add(words_.word(order[i].second));
+      sortedPlace[order[i]] = i;
+      dictionary_.add(words_.word(order[i]));
     }
 
-    // A counting sort; it is stable, so that the postings of a word ascend.
+    // A counting sort. It is stable, so the postings of a word are in ascending order.
     postingStart_.assign(words_.size() + 1, 0);
     for (Token& token : tokens_) {
       token.word = sortedPlace[token.word];

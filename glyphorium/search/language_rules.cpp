@@ -37,8 +37,10 @@ std::vector<const SearchLanguage*> languagesOf(const Index& index, std::uint32_t
   return result;
 }
 
-bool isFunctionWord(const SearchLanguage& language, std::string_view word) {
-  return findLine(language.functionWords, word).has_value();
+bool isFunctionWord(const std::vector<const SearchLanguage*>& languages, std::string_view word) {
+  return std::any_of(languages.begin(), languages.end(), [&](const SearchLanguage* language) {
+    return findLine(language->functionWords, word).has_value();
+  });
 }
 
 std::string_view synonymsOf(const SearchLanguage& language, std::string_view word) {

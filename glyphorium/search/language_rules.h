@@ -19,8 +19,8 @@ bool isStopWord(std::string_view word);
 /// The languages of a bit mask of Index::languages, in the order of searchLanguages.
 std::vector<const SearchLanguage*> languagesOf(const Index& index, std::uint32_t languages);
 
-/// Whether the word joins others in the language: "with".
-bool isFunctionWord(const SearchLanguage& language, std::string_view word);
+/// Whether the word joins others in one of the languages: "with".
+bool isFunctionWord(const std::vector<const SearchLanguage*>& languages, std::string_view word);
 
 /// The words of Unicode names that the word may stand for, separated by tabs.
 std::string_view synonymsOf(const SearchLanguage& language, std::string_view word);

@@ -7,9 +7,9 @@
 namespace glyph::search {
 namespace {
 
-// Walks the sorted dictionary as the tree of its words' letters: all words in a range share `depth` bytes.
-// One edit is spent somewhere on the way down; what is left of the query's word must then follow as it is.
-// That looks at some hundred ranges, where comparing every word would take a thousand times as many steps.
+// Walks the sorted dictionary like a prefix tree: all words of a range begin with the same `depth` bytes. At
+// each depth it tries every edit; the rest of the query's word must then follow unchanged. This looks at some
+// hundred ranges. Comparing each word would take a thousand times as many steps.
 class MistypedWords {
  public:
   MistypedWords(const Index& index, QueryWord& word) : index_(index), word_(word), text_(word.text) {}
@@ -29,13 +29,13 @@ class MistypedWords {
   }
 
  private:
-  // All words of the range begin with `prefix`, the first `depth` letters of the text; the edit comes here.
+  // Edits the text behind its first `depth` bytes. All words of the range begin with these, the `prefix`.
   void editAt(std::size_t depth, const std::string& prefix, TextRange range) {
     const std::string_view rest = text_.substr(depth);
-    if (!rest.empty()) accept(prefix, rest.substr(1), range);  // one letter too many
+    if (!rest.empty()) accept(prefix, rest.substr(1), range);  // leave a letter out
     if (rest.size() >= 2 && rest[0] != rest[1])
-      accept(prefix + rest[1] + rest[0], rest.substr(2), range);  // two letters exchanged
-    // Every letter that may follow: in place of the text's, or missing in it.
+      accept(prefix + rest[1] + rest[0], rest.substr(2), range);  // exchange two letters
+    // Replace the letter by each one that follows in the dictionary, and put each of these in.
     for (std::uint32_t first = range.first; first < range.last;) {
       const std::string_view word = index_.words[first];
       if (word.size() == depth) {
@@ -63,12 +63,11 @@ class MistypedWords {
       word_.alternatives.push_back({range, WordMatch::typoPrefix});
   }
 
-  // Every number is near others; so are the codes that stand in names.
   static bool hasDigit(std::string_view text) {
     return text.find_first_of("0123456789") != std::string_view::npos;
   }
 
-  static constexpr std::size_t leastPrefix = 4;  // shorter ones begin half of the dictionary
+  static constexpr std::size_t leastPrefix = 4;  // too many words begin with a shorter one
 
   const Index& index_;
   QueryWord& word_;

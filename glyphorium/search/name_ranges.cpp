@@ -14,7 +14,8 @@ std::vector<SearchRange> nameRanges(const Index& index, const std::vector<QueryW
   while (reader.next()) {
     std::size_t size = 0;
     const auto cover = [&](const QueryWord& word, const Alternative& alternative) {
-      // Every word of a name is in the dictionary, so it is in the range if it is between its ends.
+      // Each word of a name is in the dictionary. So it is in the range if it is between the ends of the
+      // range.
       if (reader.word() < index.words[alternative.words.first] ||
           reader.word() > index.words[alternative.words.last - 1]) {
         return;

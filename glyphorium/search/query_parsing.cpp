@@ -10,19 +10,14 @@
 namespace glyph::search {
 namespace {
 
-// Beyond what anybody types; bounds what a pasted file costs.
+// Longer than typed queries are. They limit the time for a pasted file.
 constexpr std::size_t longestText = 1000;
 constexpr std::size_t longestWord = 64;
 constexpr std::size_t mostWords = 32;
 
+// ASCII only: another space (U+00A0) is a character that the user may ask about.
 bool isBlank(char c) {
   return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
-std::string_view trimmed(std::string_view text) {
-  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-  return text;
 }
 
 std::string_view shortened(std::string_view text) {
@@ -64,7 +59,7 @@ std::vector<std::string_view> splitAtBlanks(std::string_view text) {
   return parts;
 }
 
-// Several numbers without a sign in front: code points, UTF-16 units or bytes of UTF-8, as dumps have them.
+// Several numbers without a prefix: code points, UTF-16 units or bytes of UTF-8, in the form of dumps.
 void addBareNumbers(const std::vector<std::string_view>& numbers, ParsedQuery& query) {
   std::string marked;
   bool bytes = true, codePoints = true;
@@ -77,7 +72,7 @@ void addBareNumbers(const std::vector<std::string_view>& numbers, ParsedQuery& q
   if (!bytes && !codePoints) return;
   for (const std::string_view number : numbers) marked.append(bytes ? "\\x" : "\\u").append(number);
   const std::vector<ParsedCode> codes = parseCodes(marked);
-  // Bytes that are no UTF-8 are rather two-letter words and numbers.
+  // If the bytes are not UTF-8, they are rather words and numbers of two letters.
   if (bytes && codes.size() == numbers.size()) return;
   for (const ParsedCode& code : codes) query.likelyNumbers.push_back(code.codePoint);
 }
@@ -85,7 +80,7 @@ void addBareNumbers(const std::vector<std::string_view>& numbers, ParsedQuery& q
 void addBareNumber(std::string_view text, ParsedQuery& query) {
   const auto all = [&](auto is) { return std::all_of(text.begin(), text.end(), is); };
   if (text.size() < 2 || text.size() > 8 || !all(ascii::isHexDigit)) return;
-  // Four digits and more are a code point, for which nobody types fewer; fewer are rather a decimal one.
+  // Code points are typed with four digits or more. A shorter number is rather decimal.
   const bool likely = text.size() >= 4 && std::any_of(text.begin(), text.end(), ascii::isDigit);
   std::vector<std::uint32_t>& numbers = likely ? query.likelyNumbers : query.otherNumbers;
   numbers.push_back(*ascii::number(text, 16));
@@ -93,8 +88,8 @@ void addBareNumber(std::string_view text, ParsedQuery& query) {
   numbers.insert(likely ? numbers.end() : numbers.begin(), *ascii::number(text, 10));
 }
 
-// Takes the codes out of a text of words that nothing else looks like: "U+2192 RIGHTWARDS ARROW", as programs
-// print it and people paste it.
+// Takes the codes with a prefix out of a text of words: "U+2192 RIGHTWARDS ARROW", which people paste from
+// the output of programs.
 std::string takeMarkedCodes(std::string_view text, ParsedQuery& query) {
   std::string words;
   for (const std::string_view part : splitAtBlanks(text)) {
@@ -107,14 +102,14 @@ std::string takeMarkedCodes(std::string_view text, ParsedQuery& query) {
   return query.codes.empty() ? std::string(text) : words;
 }
 
-// The name in a string literal's escape "\N{SNOWMAN}", else the text.
+// The name in an escape sequence "\N{SNOWMAN}". Another text stays as it is.
 std::string_view withoutName(std::string_view text) {
   constexpr std::string_view begin = "\\N{";
   if (!text.starts_with(begin) || !text.ends_with('}')) return text;
   return text.substr(begin.size(), text.size() - begin.size() - 1);
 }
 
-// A cluster's precomposed character, if there is one, and its parts.
+// The precomposed character of a grapheme cluster, if there is one, and the parts of the cluster.
 void addParts(std::string_view cluster, std::vector<std::uint32_t>& characters) {
   const auto add = [&](char32_t point) {
     const auto value = static_cast<std::uint32_t>(point);
@@ -126,7 +121,7 @@ void addParts(std::string_view cluster, std::vector<std::uint32_t>& characters) 
     if (parts.find(point) == std::u32string::npos) add(point);
   }
   for (const char32_t point : parts) {
-    // Joiners and variation selectors only say how the others are shown.
+    // ZERO WIDTH JOINER and variation selectors only say how the other parts are shown.
     const bool joins = point == 0x200D || point == 0xFE0E || point == 0xFE0F;
     if (!joins || parts.size() == 1) add(point);
   }
@@ -136,7 +131,7 @@ void addCharacters(std::string_view text, ParsedQuery& query) {
   const std::vector<std::string_view> clusters = graphemeClusters(text);
   if (clusters.size() == 1) {
     addParts(text, query.characters);
-    // The other case of a letter is the next thing that may be meant.
+    // The same letter in the other case may be meant too.
     const char c = text.front();
     if (text.size() == 1 && ascii::isLetter(c))
       query.characters.push_back(static_cast<std::uint32_t>(c ^ 0x20));
@@ -149,7 +144,7 @@ void addCharacters(std::string_view text, ParsedQuery& query) {
   };
   for (const std::string_view part : splitAtBlanks(text)) {
     const std::vector<std::string_view> inPart = graphemeClusters(part);
-    // The letters of a word and the signs beside them are a part of it.
+    // The signs beside the letters of a word belong to the word.
     const bool isWord = inPart.size() > 1 && std::any_of(inPart.begin(), inPart.end(), isLatin);
     for (const std::string_view cluster : inPart) {
       const bool onKeyboard = cluster.size() == 1;
@@ -168,20 +163,24 @@ void addCharacters(std::string_view text, ParsedQuery& query) {
 std::optional<ParsedQuery> parseQuery(std::string_view text) {
   ParsedQuery query;
   const std::string withBlanks = withoutGroups(shortened(text), query.groups);
-  std::string_view rest = trimmed(withBlanks);
-  if (rest.empty()) {
-    // Blanks alone are looked for themselves.
+  const std::vector<std::string_view> parts = splitAtBlanks(withBlanks);
+  if (parts.empty()) {
+    // A query of spaces alone asks for the space.
     if (query.groups.empty()) {
       if (withBlanks.empty()) return std::nullopt;
       query.characters.push_back(static_cast<std::uint32_t>(static_cast<unsigned char>(withBlanks.front())));
     }
     return query;
   }
-  query.codes = parseCodes(rest);
-  const std::string withoutCodes = query.codes.empty() ? takeMarkedCodes(rest, query) : std::string(rest);
-  rest = withoutName(withoutCodes);
-  const std::vector<std::string_view> parts = splitAtBlanks(rest);
-  parts.size() > 1 ? addBareNumbers(parts, query) : addBareNumber(rest, query);
+  const std::string_view trimmed(
+      parts.front().data(),
+      static_cast<std::size_t>(parts.back().data() + parts.back().size() - parts.front().data()));
+  query.codes = parseCodes(trimmed);
+  const std::string withoutCodes =
+      query.codes.empty() ? takeMarkedCodes(trimmed, query) : std::string(trimmed);
+  const std::string_view rest = withoutName(withoutCodes);
+  const std::vector<std::string_view> numbers = splitAtBlanks(rest);
+  numbers.size() > 1 ? addBareNumbers(numbers, query) : addBareNumber(rest, query);
   addCharacters(rest, query);
   query.bareText = rest;
   query.signs = signKey(rest);

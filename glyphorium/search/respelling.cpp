@@ -2,7 +2,6 @@
 #include "glyphorium/search/respelling.h"
 
 #include <algorithm>
-#include <functional>
 #include <iterator>
 #include <string_view>
 
@@ -65,12 +64,9 @@ class Splitter {
 std::vector<Words> respellings(const Index& index, const Words& words, std::uint32_t languages) {
   std::vector<Words> result;
   const std::vector<const SearchLanguage*> itsLanguages = languagesOf(index, languages);
-  const auto joinsOthers = [&](const std::string& word) {
-    return std::any_of(itsLanguages.begin(), itsLanguages.end(),
-                       [&](const SearchLanguage* language) { return isFunctionWord(*language, word); });
-  };
   Words meaningful;
-  std::copy_if(words.begin(), words.end(), std::back_inserter(meaningful), std::not_fn(joinsOthers));
+  std::copy_if(words.begin(), words.end(), std::back_inserter(meaningful),
+               [&](const std::string& word) { return !isFunctionWord(itsLanguages, word); });
   if (!meaningful.empty() && meaningful.size() < words.size()) result.push_back(std::move(meaningful));
   Words respelled;
   for (const std::string& word : words) respelled.push_back(withoutTypedSpellings(word));

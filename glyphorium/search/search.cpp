@@ -27,7 +27,7 @@ Search::Search(std::span<const Entity> entities) {
     index_ = {own, &own->index};
     byteCount_ = sizeof *own + own->image.size();
   } catch (const std::bad_alloc&) {
-    // Finds nothing.
+    // index_ stays null: this Search finds nothing.
   }
 }
 

@@ -19,20 +19,20 @@ namespace search {
 struct Index;
 }
 
-/// What of an entity a query matched best.
+/// The part of an entity that matches a query best.
 enum class SearchField : std::uint8_t {
-  character,   ///< the character itself stands in the query
-  code,        ///< its code point does
-  name,        ///< Entity::name(), or the table's name that a better name replaced
-  alias,       ///< a formal alias or abbreviation of the Unicode Character Database
-  htmlName,    ///< a name of the HTML Standard
+  character,   ///< the query contains the character itself
+  code,        ///< the query contains its code point
+  name,        ///< Entity::name(), or the name in the Unicode table that a better name replaces
+  alias,       ///< a formal alias or an abbreviation in the Unicode Character Database
+  htmlName,    ///< a name in the HTML Standard's list of character references
   searchTerm,  ///< a search term or an everyday name
-  annotation,  ///< a spoken name or keyword of CLDR
-  group,
-  note,  ///< a word of a usage note
+  annotation,  ///< a text-to-speech name or keyword of CLDR
+  group,       ///< only the group: the query is "group:…" without words
+  note,        ///< a usage note
 };
 
-/// Bytes of Entity::name(), from begin up to end.
+/// A part of Entity::name(), in bytes: [begin, end).
 struct SearchRange {
   std::size_t begin;
   std::size_t end;
@@ -40,41 +40,41 @@ struct SearchRange {
 };
 
 struct SearchResult {
-  std::size_t index;  ///< of the entity in the list that the Search was built from
+  std::size_t index;  ///< position of the entity in the list that the Search was built from
   SearchField field;
-  std::vector<SearchRange>
-      nameRanges;  ///< what the query's words match of the name, ascending, for highlighting
-  /// How far the result is from what was asked for, less is better: what several Searches find for one query
-  /// can be put in one order by it. It means nothing else, and its scale may change.
+  /// The parts of the name that the words of the query match, ascending, for highlighting.
+  std::vector<SearchRange> nameRanges;
+  /// How badly the result matches: smaller is better. Its only use is to put the results of several Searches
+  /// for one query in one order. The scale may change.
   std::uint32_t cost = 0;
-  /// The query as a whole is the character, its code, or all of one thing that it is called: a name, a term,
-  /// an annotation. As always in a search, signs between words do not count. False where the results are
-  /// approximate.
+  /// The query is the character, its code, or the whole of one of its texts: a name, a term, an annotation.
+  /// Signs between words do not count. False if the results are approximate.
   bool exact = false;
 };
 
 struct SearchResults {
-  std::vector<SearchResult> results;  ///< the best ones, best first
-  std::size_t total = 0;              ///< how many entities match, the ones beyond the limit included
-  bool approximate =
-      false;  ///< nothing matches the query as it stands: its words were respelled to find these
+  std::vector<SearchResult> results;  ///< best first, at most SearchOptions::limit
+  std::size_t total = 0;              ///< number of matching characters, those beyond the limit included
+  /// Nothing matches the query as it stands. The results are of a query with corrected or fewer words.
+  bool approximate = false;
 };
 
 struct SearchOptions {
   std::size_t limit = 100;
-  /// Languages whose words are looked at first ("de", "pt-BR"); nullopt: preferredLanguages(). English always
-  /// is. Words of the other languages that the catalog knows are found where these give nothing.
+  /// BCP 47 tags of the user's languages ("de", "pt-BR"; the region does not count); nullopt:
+  /// preferredLanguages(). Only words in these languages and in English are searched. If that gives nothing,
+  /// words in all languages of the catalog are.
   std::optional<std::vector<std::string>> languages;
-  /// Only entities of these groups, by their exact names; empty: of all.
+  /// If not empty, only entities of the groups with these exact names are found.
   std::vector<std::string> groups;
 };
 
 /// The interactive search over a list of entities. Immutable: any number of threads may query one object, and
-/// copies share their data. It keeps nothing of the list and does not notice its changes; build a new one for
-/// a new list. Building costs somewhat more than decoding the tables did, so do it when it is first needed;
-/// for the unchanged catalog the build did it, see ofCatalog().
+/// copies share their data. It does not refer to the list and does not notice its changes: build a new Search
+/// for a changed list. Building takes somewhat longer than configure(), so build it when it is first needed.
+/// For the unchanged catalog use ofCatalog(), which costs nothing.
 ///
-/// A host that shows what the user's words match of the displayed characters:
+/// A host that shows which of the displayed characters match the user's words:
 ///
 ///     const Search search(selectedEntities());  // once, and again after "contentHasChanged"
 ///     std::vector<Entity> found;
@@ -85,42 +85,48 @@ struct SearchOptions {
 ///     NotificationCenter::defaultCenter().post({notificationName::filteredContentHasChanged});
 class GLYPHORIUM_EXPORT Search {
  public:
-  /// Several entities of one hex code (a curated group and its home block) are one result, of which the first
-  /// one's index is reported; all their groups count.
+  /// Several entities with one hex code (in a selection and in their block) are one result, with the index of
+  /// the first. It is in all their groups. If memory runs out, the Search finds nothing.
   explicit Search(std::span<const Entity> entities);
 
-  /// The search over buildInEntities() as configure() fills it, with the same results as if it were built
-  /// from that list, made by the build: costs nothing to make, needs no configured catalog (buildInEntity()
-  /// gives the entities of its results), and is shared by all processes.
+  /// The search over buildInEntities() as configure() fills it, with the same results as a Search built from
+  /// that list. The library contains its index, so this call builds nothing, all processes share the index,
+  /// and the catalog need not be configured: buildInEntity() gives the entities of the results.
   static Search ofCatalog();
 
-  /// A query is one or more words in any order, which must all match if any character does; letter case,
-  /// hyphens, underscores and the diacritics of Latin letters do not count, and the last letters of a word
-  /// may still be missing. Or it is
-  /// - a code point in any form that parseCodes() reads, also among words ("U+2192 RIGHTWARDS ARROW"), or a
-  ///   bare number of either base, also several, bytes of UTF-8 and units of UTF-16 as dumps have them;
-  /// - a reference or its bare name: "&rarr;", "&rarr", "rarr", "&#8594;", "&#x2192;";
-  /// - characters: each is identified; of a sequence (combining marks, joiners, skin tones) its parts are,
-  ///   behind the precomposed character where there is one;
+  /// The characters that match a UTF-8 text. The text is one or more words in any order. A character must
+  /// match all words. Letter case, hyphens, underscores and the diacritics of Latin letters do not count, and
+  /// the last letters of a word may be missing. Or the text is
+  /// - a code point in a form that parseCodes() reads, also among words ("U+2192 RIGHTWARDS ARROW"), or one
+  /// or
+  ///   more numbers without a prefix, decimal or hexadecimal, also the bytes of UTF-8 or the units of UTF-16;
+  /// - a character reference or its bare name: "&rarr;", "&rarr", "rarr", "&#8594;", "&#x2192;";
+  /// - characters: each is found; of a sequence (combining marks, joiners, skin tones) its parts are, behind
+  /// the
+  ///   precomposed character if there is one;
   /// - signs typed for a character: "->", "(c)", "1/2".
-  /// What is several of these at once gives all of them, the likeliest first. "group:arrows" before, between
-  /// or behind words keeps to the groups of that name or, where none is called so, with these words in their
-  /// names (group:"misc symbols" with blanks); alone it gives the whole groups in the order of the list.
-  /// Where nothing matches, words are split, joined and corrected by one letter, then those are left out that
-  /// join others or match nothing together with the others. Only the first 1,000 bytes
-  /// and 32 words count. No results for an empty text, for ill-formed UTF-8 beside nothing else, and when
-  /// memory runs out.
+  /// A text with several of these meanings finds the characters of all of them, the likeliest first.
+  ///
+  /// "group:arrows" before, between or behind the words restricts the results to the group of that name. If
+  /// there is none, to the groups that have these words in their names. A name with spaces needs quotation
+  /// marks: group:"misc symbols". Without words it finds the whole groups, in the order of the list.
+  ///
+  /// If nothing matches, the search splits and joins words and corrects them by one letter. Then it leaves
+  /// out words that only join others, and words that no character matches together with the rest.
+  ///
+  /// Only the first 1,000 bytes and 32 words count. There are no results for an empty text, for one of only
+  /// ill-formed UTF-8, and if memory runs out.
   SearchResults query(std::string_view text, const SearchOptions& options = {}) const;
 
-  /// Where the code point's first entity stands in the list that the Search was built from; nullopt where the
+  /// The position of the code point's first entity in the list that the Search was built from; nullopt if the
   /// list has none.
   std::optional<std::size_t> indexOf(char32_t codePoint) const noexcept;
 
-  /// Likewise of the character that the HTML Standard calls so: "rarr". Letter case counts.
+  /// The same for the character that has this name in the HTML Standard: "rarr". Letter case counts.
   std::optional<std::size_t> indexOfHtmlName(std::string_view name) const noexcept;
 
-  /// The memory that the object and its copies share. Every thread that queries keeps about a third of it
-  /// more to work with, until it ends.
+  /// The memory in bytes that the object and its copies share. Each thread that queries keeps about a third
+  /// of that as working memory until it ends.
   std::size_t byteCount() const noexcept;
 
  private:
@@ -129,7 +135,7 @@ class GLYPHORIUM_EXPORT Search {
   std::optional<std::size_t> indexOfDoc(std::uint32_t doc) const noexcept;
 
   std::shared_ptr<const search::Index> index_;
-  std::size_t byteCount_ = 0;  // of what the index takes
+  std::size_t byteCount_ = 0;
 };
 
 }  // namespace glyph

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The index of the unchanged catalog, as the build made it, in the library's read-only image.
+// The index of the unchanged catalog, which the build made, in the read-only data of the library.
 .section .rodata
 .balign 64
 .global glyphoriumSearchIndex

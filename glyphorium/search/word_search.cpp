@@ -15,11 +15,11 @@ namespace glyph::search {
 namespace {
 
 constexpr std::size_t mostRespellings = 16;
-constexpr std::size_t mostKnownWords = 6;  // the number of choices doubles with each
+constexpr std::size_t mostKnownWords = 6;  // each more doubles the number of choices
 constexpr std::uint32_t headWeight = 200;
-constexpr std::uint32_t nothing = 0xFFFFFFFF;
+constexpr std::uint32_t nothing = 0xFFFFFFFF;  // instead of a cost: no match
 
-// Parts of a respelled word prove something only where they stand in one text.
+// Which matches count. The parts of a split word must be in one text: in several texts they match by chance.
 enum class Demand { any, together, exact };
 
 class WordSearch {
@@ -31,10 +31,11 @@ class WordSearch {
 
   WordsFound find(bool persistently) && {
     const std::uint32_t best = match(dictionaryWords(words_, filter_, true), filter_);
-    // A reading of the words as they stand that is not an exact one may be the lesser one: "thumbsup".
+    // If the words match no whole text, a respelling of them may match one and mean more: "thumbsup".
     if (best != nothing && best >= wholeBase) {
       readRespellings();
-      // Of more words no joined or split ones are one text's whole; only what joins them may be too much.
+      // Of more than two words only respellings with fewer words are tried, which left out function words or
+      // joined two words.
       if (words_.size() > 2)
         std::erase_if(respelled_, [&](const auto& words) { return words.size() >= words_.size(); });
       matchRespelled(false, Demand::exact);
@@ -70,17 +71,14 @@ class WordSearch {
     });
   }
 
-  // Where no character matches all words, those that match most of them, about half at least. Which words are
-  // left out matters: what is unknown says nothing, what is in few texts says most.
+  // Finds the characters that match most of the words, at least about half of them. It costs less to leave
+  // out a word that is in many texts than one that is in few, and nothing to leave out an unknown word.
   bool matchFewer(const MatchFilter& filter) {
     const std::vector<const SearchLanguage*> languages = languagesOf(index_, filter.languages);
-    const auto joinsOthers = [](const std::string& word) {
-      return [&word](const SearchLanguage* language) { return isFunctionWord(*language, word); };
-    };
     std::vector<QueryWord> known;
     std::size_t needed = 0;
     for (QueryWord& word : mistypedWords(words_, filter, false)) {
-      if (std::any_of(languages.begin(), languages.end(), joinsOthers(word.text))) continue;
+      if (isFunctionWord(languages, word.text)) continue;
       needed += word.isStopWord ? 0 : 1;
       if (!word.alternatives.empty() && known.size() < mostKnownWords) known.push_back(std::move(word));
     }
@@ -110,7 +108,8 @@ class WordSearch {
     return false;
   }
 
-  // The rarer a word is, the more it says: up to about the difference between two tiers of the ranking.
+  // The cost of leaving out a word: the rarer it is, the more it says. At most about the difference between
+  // two tiers of the ranking.
   std::uint32_t weight(const QueryWord& word) const {
     constexpr int mostBits = 17;
     const int rarity =
@@ -123,7 +122,8 @@ class WordSearch {
     std::vector<QueryWord> result;
     for (const std::string& text : words) {
       QueryWord& word = result.emplace_back(QueryWord{text, {}, isStopWord(text)});
-      // One letter alone begins a tenth of all words and says nothing; behind other words it is the next one.
+      // A query of one letter would find a tenth of all words by their beginning. Behind other words a letter
+      // is the beginning of the next one.
       addDictionaryWords(index_, word, filter.languages, prefixes && (text.size() > 1 || result.size() > 1));
     }
     return result;
@@ -138,7 +138,7 @@ class WordSearch {
     return result;
   }
 
-  // Adds what meets the demand, with the extra cost; the cost of the best.
+  // Adds the matches that meet the demand, with the extra cost. Returns the cost of the best one.
   std::uint32_t match(std::vector<QueryWord> words, const MatchFilter& filter, Demand demand = Demand::any,
                       std::uint32_t extra = 0) {
     std::uint32_t best = nothing;

@@ -7,21 +7,22 @@
 
 namespace glyph::search {
 
-/// Finds the words of a text one by one, folded for comparing: lower case, Latin letters without diacritics
-/// ("flèche" is "fleche", "ß" is "ss"). A word is a run of letters and digits; all else separates.
+/// Finds the words of a UTF-8 text one by one. A word is a run of letters and digits; everything else
+/// separates words. The words are folded for comparing: see appendFolded(). The text must outlive the reader.
 class WordReader {
  public:
   explicit WordReader(std::string_view text) : text_(text) {}
 
-  /// Goes to the next word; false behind the last one.
+  /// Goes to the next word; false if there is none.
   bool next();
 
-  /// Valid until the next call of next().
+  /// The folded word, valid until the next call of next().
   std::string_view word() const { return word_; }
+  /// The part of the text that the word was folded from, in bytes: [begin, end).
   std::size_t begin() const { return begin_; }
   std::size_t end() const { return end_; }
 
-  /// Goes on with another text; keeps the buffer.
+  /// Goes to the begin of another text. Saves the memory allocation that a new reader needs.
   void restart(std::string_view text) {
     text_ = text;
     end_ = 0;
@@ -36,11 +37,11 @@ class WordReader {
   std::size_t end_ = 0;
 };
 
-/// The words of a text as WordReader finds them, with blanks between them.
+/// The words of a text as WordReader finds them, with a space between them.
 std::string wordsOf(std::string_view text);
 
-/// What a text of signs is compared by: lower case, without blanks. Empty for what consists of words only,
-/// hyphens, full stops and such between or behind them included: there the words say it all.
+/// The form in which texts of signs ("->", "(c)") are compared: in lower case, without spaces. Empty if the
+/// text consists of words and the hyphens, full stops and the like between them: its words are compared then.
 std::string signKey(std::string_view text);
 
 }  // namespace glyph::search

@@ -11,13 +11,22 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(Generator, StopsTheBuildAtAFaultySourceWithFileAndLine) {
+// Runs the generator as the build does, on a copy of the sources.
+struct Generation {
   const TemporaryDirectory folder;
   const fs::path sources = folder / "sources";
-  fs::copy(SOURCES, sources, fs::copy_options::recursive);
-  const std::string command =
-      std::string(GENERATOR) + " " + sources.string() + " " + (folder / "out").string() + " 2>&1";
-  ASSERT_EQ(runProgram(command).exitCode, 0);
+  const fs::path output = folder / "out";
+
+  Generation() { fs::copy(SOURCES, sources, fs::copy_options::recursive); }
+  ProgramResult run() const {
+    return runProgram(std::string(GENERATOR) + " " + sources.string() + " " + output.string() + " 2>&1");
+  }
+};
+
+TEST(Generator, StopsTheBuildAtAFaultySourceWithFileAndLine) {
+  const Generation generation;
+  const fs::path& sources = generation.sources;
+  ASSERT_EQ(generation.run().exitCode, 0);
 
   const struct {
     std::string file, what, with, message;
@@ -40,17 +49,51 @@ TEST(Generator, StopsTheBuildAtAFaultySourceWithFileAndLine) {
       {"enrichment/html-references.tsv", "&amp;", "&gt;", "htmlNamed beside another character: 10, wanted 9"},
       {"figures.tsv", "search terms\t611", "search terms\t610", "search terms: 611, wanted 610"},
       {"control-names.tsv", "\n", "\r\n", "carriage return"},
+      {"control-names.tsv", "Unit Separator", "Unit Sep\xC3",
+       "control-names.tsv:34: error: is not well-formed UTF-8"},
+      {"groups.tsv", "\tprivate-use\n", "\tprivate\n", "'private' is not a kind of group"},
+      {"languages.tsv", "en\t5897", "en\t5898",
+       "languages.tsv:5: error: annotations.en.tsv holds 5897 texts"},
+      {"languages.tsv", "es\t", "pt\t", "es.md: error: 'es' is not a language of languages.tsv"},
+      {"search/grammar.de.tsv", "spelling\tae\ta", "spelling\tä\ta",
+       "'ä' is not a word of lower-case letters"},
+      {"search/grammar.de.tsv", "spelling\tae\ta", "speling\tae\ta", "'speling' is not a kind of rule"},
+      {"search/grammar.de.tsv", "spelling\tae\ta", "spelling\tae", "too few or too many columns"},
   };
   for (const auto& [file, what, with, message] : cases) {
     const std::string original = fileContent(sources / file);
     const std::size_t place = original.find(what);
     ASSERT_NE(place, std::string::npos) << file << ": " << what;
     writeFile(sources / file, std::string(original).replace(place, what.size(), with));
-    const ProgramResult result = runProgram(command);
+    const ProgramResult result = generation.run();
     EXPECT_EQ(result.exitCode, 1) << file << ": " << with;
     EXPECT_THAT(result.output, testing::HasSubstr(message));
     writeFile(sources / file, original);
   }
+}
+
+TEST(Generator, TakesAnotherLanguageFromOneLineAndDataFiles) {
+  const Generation generation;
+  const fs::path& sources = generation.sources;
+  writeFile(sources / "languages.tsv", fileContent(sources / "languages.tsv") + "pt\t3\tgrowing\n");
+  writeFile(sources / "enrichment/advice/pt.md", "## 0040 Commercial At\n\nSepara nome e domínio.\n");
+  writeFile(sources / "search/annotations.pt.tsv", "2192\tseta para a direita\tdireita\tseta\n");
+  writeFile(sources / "search/everyday-names.pt.tsv", "0040\tarroba\n");
+  writeFile(sources / "search/synonyms.pt.tsv", "seta\tarrow\n");
+  writeFile(sources / "search/grammar.pt.tsv",
+            "stop-word\tsinal\nfunction-word\tpara\nplural\toes\tao\nspelling\tcao\tcao\nhead\tfirst\n");
+  const ProgramResult result = generation.run();
+  ASSERT_EQ(result.exitCode, 0) << result.output;
+
+  const std::string image = fileContent(generation.output / "embedded.bin");
+  for (const char* const text : {"\"lang\": \"pt\",\n        \"text\": \"Separa nome e domínio.\"",
+                                 "seta para a direita\ndireita\nseta", "arroba", "seta\tarrow\n",
+                                 "signs\nsimbolo\nsinal\nsymbol\n", "para\n", "oes\tao\n"})
+    EXPECT_THAT(image, testing::HasSubstr(text));
+  const std::string code = fileContent(generation.output / "embedded_image.cpp");
+  for (const char* const text : {"{SearchFactKind::annotation, \"pt\", ",
+                                 "{SearchFactKind::everydayName, \"pt\", ", "{\"pt\", true, "})
+    EXPECT_THAT(code, testing::HasSubstr(text));
 }
 
 }  // namespace

@@ -14,7 +14,7 @@
 
 namespace glyph::testing {
 
-/// The whole catalog and its search, made once.
+/// The configured catalog and a Search of it, made once.
 struct CatalogSearch {
   std::vector<Entity> entities;
   Search search;

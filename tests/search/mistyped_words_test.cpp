@@ -3,15 +3,13 @@
 
 #include <set>
 
-#include "glyphorium/data/search_facts.h"
 #include "glyphorium/search/index_image.h"
 #include "glyphorium/search/mistyped_words.h"
-#include "tests/search/catalog_search.h"
-
 namespace glyph::search {
 namespace {
 
-// Whether one edit makes `a` of `b`: a letter left out, put in, replaced, or two neighbours exchanged.
+// Whether one edit turns one text into the other: a letter left out, put in, replaced, or two neighbours
+// exchanged.
 bool isOneEdit(std::string_view a, std::string_view b) {
   if (a.size() > b.size()) std::swap(a, b);
   std::size_t head = 0;
@@ -25,7 +23,7 @@ bool isOneEdit(std::string_view a, std::string_view b) {
          restA.substr(2) == restB.substr(2);
 }
 
-// The walk through the dictionary finds just the words without digits that comparing with each of them does.
+// The walk through the dictionary finds the same words as a comparison with each of its words without digits.
 TEST(MistypedWords, AreThoseAtOneEdit) {
   const Index index = openIndex(catalogIndexImage());
   for (const char* const text : {"arow", "arrow", "aarrow", "elipsis", "xarrow", "rokcet", "letterx", "sqare",
@@ -45,31 +43,6 @@ TEST(MistypedWords, AreThoseAtOneEdit) {
     }
     EXPECT_EQ(found, wanted) << text;
   }
-}
-
-TEST(SearchFacts, EveryHtmlNameFindsItsCharacterFirst) {
-  std::size_t names = 0;
-  for (std::size_t list = 0; list < searchFactCount; ++list) {
-    const SearchFacts& facts = searchFactList[list];
-    if (facts.kind != SearchFactKind::htmlName) continue;
-    for (std::size_t i = 0; i < facts.size(); ++i) {
-      char hex[16];
-      std::snprintf(hex, sizeof hex, "%04x", facts[i].codePoint);
-      const auto& entities = testing::CatalogSearch::instance().entities;
-      if (std::none_of(entities.begin(), entities.end(),
-                       [&](const Entity& e) { return e.computed.hex == hex; }))
-        continue;
-      for (std::string_view rest = facts[i].texts; !rest.empty();) {
-        const std::string name(rest.substr(0, rest.find('\n')));
-        rest.remove_prefix(std::min(name.size() + 1, rest.size()));
-        const auto found =
-            testing::CatalogSearch::instance().hexes(std::string(1, '&').append(name).append(";"));
-        EXPECT_EQ(found.empty() ? "" : found.front(), hex) << name;
-        ++names;
-      }
-    }
-  }
-  EXPECT_GT(names, 2000u);
 }
 
 }  // namespace

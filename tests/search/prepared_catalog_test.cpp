@@ -12,7 +12,8 @@ namespace {
 
 using testing::CatalogSearch;
 
-// What the build prepared is what a host would get that configures the catalog and builds a search of it.
+// Entities decoded one by one and the index that the build made equal what a host gets when it configures the
+// catalog and builds a Search of it.
 
 TEST(PreparedCatalog, EntitiesDecodedAloneAreThoseOfTheConfiguredCatalog) {
   const std::vector<Entity>& entities = CatalogSearch::instance().entities;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <sstream>
+
+#include "glyphorium/data/search_facts.h"
 #include "tests/search/catalog_search.h"
 
 namespace glyph {
@@ -31,8 +34,8 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"\\2192", {"2192"}, SearchField::code},
       {"\\uD83D\\uDE00", {"1f600"}, SearchField::code},
       {"U+2192, U+2190", {"2192", "2190"}, SearchField::code},
-      {"2665", {"2665"}, SearchField::code},          // not U+0A69, which is 2665 too
-      {"0169", {"0169", "00a9"}, SearchField::code},  // both readings
+      {"2665", {"2665"}, SearchField::code},          // not U+0A69, decimal 2665
+      {"0169", {"0169", "00a9"}, SearchField::code},  // hexadecimal, decimal
       {"169", {"00a9", "0169"}, SearchField::code},
       {"U-0001F600", {"1f600"}, SearchField::code},
       {"U+ 2713", {"2713"}, SearchField::code},
@@ -43,7 +46,7 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"chr(0x3bb)", {"03bb"}, SearchField::code},
       {"#8594;", {"2192"}, SearchField::code},
       {"%E2%82%ac%20", {"20ac", "0020"}, SearchField::code},
-      {"\\xE2\\x82\\xAC \\xa9", {"20ac", "00a9"}, SearchField::code},  // UTF-8, else the byte itself
+      {"\\xE2\\x82\\xAC \\xa9", {"20ac", "00a9"}, SearchField::code},  // UTF-8; a byte that is not
       {"e2 82 ac", {"20ac"}, SearchField::code},
       {"D83D DE02", {"1f602"}, SearchField::code},
       {"2192 2190", {"2192", "2190"}, SearchField::code},
@@ -55,11 +58,11 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"&rarr;&larr;", {"2192", "2190"}, SearchField::htmlName},
       {"&#8594;", {"2192"}, SearchField::code},
       {"&#x2192", {"2192"}, SearchField::code},
-      {"&rArr;", {"21d2"}, SearchField::htmlName},  // letter case counts in references
+      {"&rArr;", {"21d2"}, SearchField::htmlName},  // letter case counts
       {"&Rarr;", {"21a0"}, SearchField::htmlName},
       {"rightarrow", {"2192"}, SearchField::htmlName},
       {"RightArrow", {"2192"}, SearchField::htmlName},
-      {"rpar", {"0029"}, SearchField::htmlName},  // not the reference chosen for it
+      {"rpar", {"0029"}, SearchField::htmlName},  // the enrichment table has another name
       // the characters themselves
       {"→", {"2192"}, SearchField::character},
       {"→←", {"2192", "2190"}, SearchField::character},
@@ -73,13 +76,13 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"👨\u200D👩\u200D👧", {"1f468", "1f469", "1f467"}, SearchField::character},
       {"\u200D", {"200d"}, SearchField::character},
       {"жук", {"0436", "0443", "043a"}, SearchField::character},
-      // signs typed for a character, and the signs themselves behind it
+      // signs typed for a character; the signs themselves come behind it
       {"->", {"2192", "002d", "003e"}, SearchField::searchTerm},
       {"(C)", {"00a9"}, SearchField::searchTerm},
       {"1/2", {"00bd"}, SearchField::searchTerm},
       {"!=", {"2260", "0021", "003d"}, SearchField::searchTerm},
       {"...", {"2026"}, SearchField::searchTerm},
-      // names, however they are written
+      // names in several spellings
       {"square.and.arrow.up", {"100202"}, SearchField::name},
       {"NO-BREAK_space", {"00a0"}, SearchField::name},
       {"arrow rightwards", {"2192"}, SearchField::name},
@@ -88,7 +91,7 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"lambda", {"03bb"}, SearchField::htmlName},
       {"latin capital letter gha", {"01a2"}, SearchField::alias},  // a corrected name
       {"sqrt", {"221a"}, SearchField::searchTerm},
-      // words that are codes as well come as words first
+      // a word that is also a code
       {"face", {"263a"}, SearchField::annotation},
   };
   for (const FormCase& form : cases) {
@@ -102,12 +105,32 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
   }
 }
 
-// Their signs are not meant.
+// The signs of a code ("&", "#", "+") are not results.
 TEST(SearchQueryForms, CodesFindNothingBesides) {
   for (const char* const code : {"U+2192", "\\u2192", "\\u{2192}", "&#8594;", "&#x2192;"})
     EXPECT_EQ(CatalogSearch::instance().hexes(code), std::vector<std::string>{"2192"}) << code;
   EXPECT_EQ(CatalogSearch::instance().hexes("&#"),
             (std::vector<std::string>{"0026", "0023"}));  // no code yet
+}
+
+TEST(SearchQueryForms, EveryHtmlReferenceFindsItsCharacterFirst) {
+  const CatalogSearch& catalog = CatalogSearch::instance();
+  std::size_t names = 0;
+  for (std::size_t list = 0; list < searchFactCount; ++list) {
+    const SearchFacts& facts = searchFactList[list];
+    if (facts.kind != SearchFactKind::htmlName) continue;
+    for (std::size_t i = 0; i < facts.size(); ++i) {
+      const auto index = catalog.search.indexOf(facts[i].codePoint);
+      if (!index) continue;  // not in the catalog
+      std::istringstream texts{std::string(facts[i].texts)};
+      for (std::string name; std::getline(texts, name); ++names) {
+        const auto found = catalog.search.query("&" + name + ";", {1, {{"en"}}, {}}).results;
+        EXPECT_EQ(found.empty() ? SIZE_MAX : found.front().index, *index) << name;
+        EXPECT_EQ(catalog.search.indexOfHtmlName(name), index) << name;
+      }
+    }
+  }
+  EXPECT_GT(names, 2000u);
 }
 
 TEST(SearchQueryForms, WordsOfTheUsersLanguagesFindCharacters) {
@@ -119,7 +142,7 @@ TEST(SearchQueryForms, WordsOfTheUsersLanguagesFindCharacters) {
       {"fleche", "fr", "2192"},   {"FLÈCHE", "fr", "2192"},   {"arrọw", "en", "2192"},
       {"haekchen", "de", "2713"}, {"pfeile", "de", "2192"},   {"groesser gleich", "de", "2265"},
       {"pound", "de", "00a3"},    {"pound", "pt-BR", "00a3"}, {"herz", "de-AT", "2764"},
-      {"corazón", "en", "2764"},  // nothing English is called so
+      {"corazón", "en", "2764"},  // no English text has this word
   };
   for (const auto& test : cases) {
     const auto hexes = CatalogSearch::instance().hexes(test.query, {100, {{test.language}}, {}});
@@ -143,7 +166,7 @@ TEST(SearchQueryForms, GroupsKeepTheirOwn) {
     std::size_t total;
     const char* first;
   } cases[] = {
-      {"group:arrows", {}, inGroup("arrows"), "2190"},  // that group alone; in the order of the list
+      {"group:arrows", {}, inGroup("arrows"), "2190"},  // the whole group, in the order of the list
       {"group:Currency", {}, inGroup("currency symbols"), "20a0"},
       {"group:\"math operators\"", {}, inGroup("math operators"), "2200"},
       {"group:emoji cat", {}, catalog.search.query("cat", {0, {{"en"}}, {"emoji"}}).total, "1f408"},

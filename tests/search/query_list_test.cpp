@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <fstream>
+#include <map>
 #include <sstream>
 
 #include "tests/search/catalog_search.h"
@@ -35,7 +35,7 @@ std::vector<ListedQuery> listedQueries() {
   return queries;
 }
 
-// Place of the first wanted character, from 1; 0 where none is found.
+// The place of the first wanted character, from 1; 0 if none is found.
 std::size_t placeOf(const ListedQuery& query, const std::vector<std::string>& found) {
   for (std::size_t i = 0; i < found.size(); ++i) {
     if (("," + query.wanted + ",").find("," + found[i] + ",") != std::string::npos) return i + 1;
@@ -43,34 +43,38 @@ std::size_t placeOf(const ListedQuery& query, const std::vector<std::string>& fo
   return 0;
 }
 
-// What people look for, written down without regard to the engine. A change of the ranking that loses some of
-// it for the sake of something else shows here.
-TEST(SearchQueryList, FindsWhatPeopleLookFor) {
+// The queries that do not find a wanted character first, with its place. A change that mends one takes it off
+// this list; a change that adds one must be worth it.
+const std::map<std::string, std::size_t> knownMisses{
+    {"aproximately equal", 2},
+    {"box corner top left", 2},
+    {"checkbox", 2},
+    {"gear", 2},
+    {"race finish flag", 2},
+    {"skull", 2},
+    {"skull and bones", 4},
+    {"trash", 2},
+    {"wifi", 2},
+    {"winner cup", 5},
+    {"étoiles", 2},
+};
+
+// The list says what people look for. It was written without regard to what the search finds.
+TEST(SearchQueryList, EachQueryFindsItsCharacterFirstButForKnownMisses) {
   const std::vector<ListedQuery> queries = listedQueries();
-  ASSERT_GE(queries.size(), 120u);
-  std::size_t first = 0;
-  std::size_t firstThree = 0;
-  std::size_t anywhere = 0;
+  ASSERT_GE(queries.size(), 815u);
+  std::size_t misses = 0;
   for (const ListedQuery& query : queries) {
     const auto found = CatalogSearch::instance().hexes(query.query, {100, {{query.language}}, {}});
-    const std::size_t place = placeOf(query, found);
-    first += place == 1;
-    firstThree += place >= 1 && place <= 3;
-    anywhere += place >= 1;
-    if (place == 1) continue;
+    const auto miss = knownMisses.find(query.query);
+    misses += miss != knownMisses.end();
     std::string best;
     for (std::size_t i = 0; i < std::min<std::size_t>(found.size(), 6); ++i) best += " " + found[i];
-    std::printf("'%s' (%s): %s is at place %zu; first are%s\n", query.query.c_str(), query.kind.c_str(),
-                query.wanted.c_str(), place, best.c_str());
+    EXPECT_EQ(placeOf(query, found), miss == knownMisses.end() ? 1 : miss->second)
+        << "'" << query.query << "' (" << query.language << ", " << query.kind << ") means " << query.wanted
+        << "; found are" << best;
   }
-  const auto percent = [&](std::size_t count) {
-    return 100.0 * static_cast<double>(count) / static_cast<double>(queries.size());
-  };
-  std::printf("%zu queries: first %.1f %%, among the first three %.1f %%, found %.1f %%\n", queries.size(),
-              percent(first), percent(firstThree), percent(anywhere));
-  EXPECT_GE(percent(first), 96);
-  EXPECT_GE(percent(firstThree), 98);
-  EXPECT_GE(percent(anywhere), 99);
+  EXPECT_EQ(misses, knownMisses.size());
 }
 
 }  // namespace

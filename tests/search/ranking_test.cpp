@@ -37,11 +37,11 @@ TEST(SearchRanking, TyposAreCorrectedOnlyWhereNothingElseMatches) {
       {"orrow", "2192", true},   // replaced, at the front
       {"arrwo", "2192", true},   // exchanged
       {"rokcet", "1f680", true},    {"black haert", "2665", true},
-      {"elipsi", "2026", true},  // and not yet complete
+      {"elipsi", "2026", true},  // and incomplete
       {"arrow", "2192", false},     {"dagger", "2020", false},
-      {"arrrrow", nullptr, false},   // two slips
-      {"xqz", nullptr, false},       // too short to be near anything
-      {"99999999", nullptr, false},  // numbers are not mistyped words
+      {"arrrrow", nullptr, false},   // two edits
+      {"xqz", nullptr, false},       // too short to correct
+      {"99999999", nullptr, false},  // numbers are not corrected
   };
   for (const auto& test : cases) {
     const SearchResults found = CatalogSearch::instance().search.query(test.query, english);
@@ -57,14 +57,14 @@ TEST(SearchRanking, WordsAreLeftOutWhereNoCharacterMatchesAll) {
     const char* language;
     const char* first;  // nullptr: nothing is found
   } cases[] = {
-      {"face with tears and joy", "en", "1f602"},  // what only joins words
-      {"purple qzwxv snowman", "en", "2603"},      // what nothing is called
-      {"frozen snwman", "en", "2603"},             // also beside a typo
-      {"square anchor", "en", "2693"},             // what describes it
-      {"ancla cuadrada", "es", "2693"},            // which stands behind it in other languages
+      {"face with tears and joy", "en", "1f602"},  // function words
+      {"purple qzwxv snowman", "en", "2603"},      // an unknown word
+      {"frozen snwman", "en", "2603"},             // beside a mistyped word
+      {"square anchor", "en", "2693"},             // the word that describes the noun
+      {"ancla cuadrada", "es", "2693"},            // which is the second word in Spanish
       {"pfeil nach rechts", "de", "2192"},
-      {"Geburtstagstorte", "de", "1f382"},           // joined by letters of no meaning
-      {"qzwxv vxzwq zzqqv snowman", "en", nullptr},  // one word of four proves nothing
+      {"Geburtstagstorte", "de", "1f382"},           // linking letters
+      {"qzwxv vxzwq zzqqv snowman", "en", nullptr},  // one word of four is too little
   };
   for (const auto& test : cases) {
     const auto hexes = CatalogSearch::instance().hexes(test.query, {100, {{test.language}}, {}});
@@ -127,7 +127,8 @@ TEST(SearchRanking, ReportsEachCharacterOnceAndAllInTheTotal) {
   }
 }
 
-// No other name comes before the one that was asked for; what else is called so (an annotation, a term) may.
+// The name of a character finds it. Only characters with the same name, or with another text that is equal to
+// it, may come before it.
 TEST(SearchRanking, EveryNameFindsItsCharacter) {
   const CatalogSearch& catalog = CatalogSearch::instance();
   const auto loose = [](std::string name) {
@@ -146,7 +147,7 @@ TEST(SearchRanking, EveryNameFindsItsCharacter) {
       reached = other == entity;
       if (reached) break;
       const bool calledSo = result.field != SearchField::name || loose(other.name()) == loose(name);
-      // SF Symbols stand behind Unicode: "Bell" behind "Bell Symbol".
+      // SF Symbols come behind Unicode: "Bell" behind "Bell Symbol".
       EXPECT_TRUE(calledSo || entity.computed.isSFSymbol.value_or(false))
           << entity.computed.hex << " " << name << ": " << other.name();
     }

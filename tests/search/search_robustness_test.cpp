@@ -56,9 +56,9 @@ TEST(SearchRobustness, HostileTextsAreAnswered) {
 TEST(SearchRobustness, OddListsAreSearched) {
   EXPECT_EQ(Search({}).query("arrow").total, 0u);
   std::vector<Entity> entities(3);
-  entities[0].computed.hex = "0041,030a";  // no code point
+  entities[0].computed.hex = "0041,030a";  // not one code point
   entities[0].computed.fallbackName = "Two Of Them";
-  entities[1].computed.hex = "2192";  // without a name and a group; the annotations know it
+  entities[1].computed.hex = "2192";  // without name and group, but it has annotations
   entities[2].computed.hex = "";
   const Search search(entities);
   EXPECT_EQ(search.query("two them", {10, {{"en"}}, {}}).total, 1u);
@@ -92,7 +92,7 @@ TEST(SearchRobustness, TenThousandQueriesLeaveMemoryFlat) {
     for (std::size_t i = 0; i < count; ++i) {
       const std::string name = catalog.entities[i * 7919 % catalog.entities.size()].name();
       catalog.search.query(name.substr(0, 1 + i % 12));
-      if (i % 50 == 0) catalog.search.query(name + "x");  // nothing matches it as it stands
+      if (i % 50 == 0) catalog.search.query(name + "x");  // nothing matches: the search tries other spellings
     }
   };
   round(500);

@@ -4,14 +4,15 @@
 #include <algorithm>
 #include <set>
 
+#include "glyphorium/text/ascii.h"
+
 namespace glyph::generator {
 namespace {
 
 void requireCharacters(const SourceLine& line, const std::string& name, std::string_view allowed) {
   if (name.empty()) line.fail("has no name");
   for (const char c : name) {
-    const bool letterOrDigit = (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
-    if (!letterOrDigit && allowed.find(c) == std::string_view::npos) {
+    if (!ascii::isAlphanumeric(c) && allowed.find(c) == std::string_view::npos) {
       line.fail("name '" + name + "' holds a character that names do not have");
     }
   }
@@ -80,7 +81,7 @@ NameTable::Text NameTable::text() const {
   text.fragmentSize = text.json.size() - text.fragmentOffset;
   text.json += "\n]";
 
-  // The first entry of a code point wins; the sort is stable, so unique keeps it.
+  // The sort is stable, so the first entry of a code point is the one that stays.
   std::stable_sort(text.index.begin(), text.index.end(), [](auto& a, auto& b) { return a.first < b.first; });
   const auto sameCodePoint = [](auto& a, auto& b) { return a.first == b.first; };
   text.index.erase(std::unique(text.index.begin(), text.index.end(), sameCodePoint), text.index.end());

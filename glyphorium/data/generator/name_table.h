@@ -12,7 +12,7 @@
 
 namespace glyph::generator {
 
-/// The Unicode name table: its text, and what the group tables and the name index take from it.
+/// The names of all code points, and the Unicode name table made of them.
 class NameTable {
  public:
   explicit NameTable(const std::filesystem::path& sources);
@@ -27,17 +27,17 @@ class NameTable {
   /// In the order of the symbol library.
   const std::vector<Entry>& symbols() const { return symbols_; }
 
-  /// The first entry with the code point in table order (Unicode before SF Symbols), or nullptr.
+  /// The first entry of the code point in the table (Unicode is before SF Symbols), or nullptr.
   const Entry* find(char32_t codePoint) const;
   bool isSymbol(char32_t codePoint) const { return symbolPlaces_.contains(codePoint); }
 
-  /// The JSON array of all entries: first piece, SF Symbols fragment, closing bracket.
+  /// The JSON array of all entries: those of Unicode, the SF Symbols, the closing bracket.
   struct Text {
     std::string json;
-    std::size_t fragmentOffset;  // of the SF Symbols fragment in json
+    std::size_t fragmentOffset;  ///< of the SF Symbols in json
     std::size_t fragmentSize;
-    std::vector<std::pair<char32_t, std::uint32_t>>
-        index;  // first entry's code point, offset of its name in json
+    /// Code points, and the offset in json of the name in the first entry.
+    std::vector<std::pair<char32_t, std::uint32_t>> index;
   };
   Text text() const;
 
