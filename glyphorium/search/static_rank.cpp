@@ -86,7 +86,7 @@ std::string_view shownName(const Entity& entity) {
 // At most 41, so that it never makes up for a better tier of matches (see match_costs.h).
 unsigned priorOf(const Candidate& candidate, std::string_view name, std::uint32_t place) {
   if (place != notWanted) return std::min(place / 60, mostWantedPrior);
-  // People seldom search a sign that they have on the keyboard. Still their words mean it first.
+  // People seldom search a sign that is on the keyboard. But if its words are searched, it is meant first.
   if (candidate.codePoint < 0x80) return keyboardPrior;
   const unsigned group = candidate.group == noGroup ? groupCost(GroupKind::otherSigns) : candidate.group;
   const auto blanks = static_cast<unsigned>(std::count(name.begin(), name.end(), ' '));

@@ -34,6 +34,7 @@ bool WordReader::next() {
   std::size_t position = end_;
   while (position < text_.size()) {
     const char c = text_[position];
+    // Nearly all letters are ASCII, and ICU would take much longer for them.
     if (ascii::isAlphanumeric(c)) {
       if (word_.empty()) begin_ = position;
       word_ += ascii::lowered(c);

@@ -63,7 +63,7 @@ TEST(CatalogTables, EveryRowAgreesWithItsCodePoint) {
   EXPECT_EQ(first.size(), 18278u - 838u);
 }
 
-TEST(CatalogTables, EnrichmentHoldsWhatIsRequiredOfIt) {
+TEST(CatalogTables, EnrichmentRowsHaveAllKeysAndRepeatedCodePointsTwoRows) {
   const auto rows = Glyphorium().getAdditionalDataFrom(additionalJson);
   ASSERT_TRUE(rows);
   ASSERT_EQ(rows->size(), 1546u);
