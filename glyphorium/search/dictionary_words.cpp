@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/search/dictionary_words.h"
 
-#include "glyphorium/search/language_rules.h"
 #include "glyphorium/search/text_parts.h"
 
 namespace glyph::search {
@@ -16,22 +15,21 @@ void addVariant(const Index& index, QueryWord& word, std::string_view variant) {
 
 }  // namespace
 
-void addDictionaryWords(const Index& index, QueryWord& word, std::uint32_t languages, bool prefixes) {
+void addDictionaryWords(const Index& index, QueryWord& word, const Languages& languages, bool prefixes) {
   TextRange range = index.words.withPrefix(word.text);
   const bool isWord = !range.empty() && index.words[range.first] == word.text;
   if (isWord) {
     word.alternatives.push_back({{range.first, range.first + 1}, WordMatch::whole});
     ++range.first;
   }
-  const std::vector<const SearchLanguage*> itsLanguages = languagesOf(index, languages);
   // If words begin with it but it is not a word itself, it is incomplete rather than a plural: "rocke" does
   // not mean "rock".
   if ((isWord || range.empty()) && word.text.size() >= shortestPlural) {
-    for (const SearchLanguage* const language : itsLanguages) {
+    for (const SearchLanguage* const language : languages) {
       for (const std::string& singular : singularsOf(*language, word.text)) addVariant(index, word, singular);
     }
   }
-  for (const SearchLanguage* const language : itsLanguages) {
+  for (const SearchLanguage* const language : languages) {
     for (std::string_view rest = synonymsOf(*language, word.text); !rest.empty();)
       addVariant(index, word, takePart(rest, '\t'));
   }

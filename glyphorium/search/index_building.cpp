@@ -93,9 +93,11 @@ class Builder {
     reader_.restart(text);
     while (reader_.next()) {
       const std::uint32_t position = std::min<std::uint32_t>(phrase.words, lastPosition);
-      tokens_.push_back({words_.number(reader_.word()), number << 8 | position});
+      const std::uint32_t word = words_.number(reader_.word());
+      if (word == isStopWord_.size()) isStopWord_.push_back(isStopWord(reader_.word()));
+      tokens_.push_back({word, number << 8 | position});
       if (phrase.words < lastPosition) ++phrase.words;
-      if (phrase.coreWords < lastPosition && !isStopWord(reader_.word())) ++phrase.coreWords;
+      if (phrase.coreWords < lastPosition && !isStopWord_[word]) ++phrase.coreWords;
     }
     if (phrase.coreWords == 0) phrase.coreWords = phrase.words;
     // People type signs for a character, and these texts contain them. In names signs only separate words.
@@ -225,6 +227,7 @@ class Builder {
   std::span<const Entity> entities_;
   RankedDocs ranked_;
   WordNumbers words_;
+  std::vector<char> isStopWord_;  // by number of the word
   WordReader reader_{{}};
   std::vector<Token> tokens_;
 

@@ -29,15 +29,15 @@ bool isStopWord(std::string_view word) {
   return findLine(searchStopWords, word).has_value();
 }
 
-std::vector<const SearchLanguage*> languagesOf(const Index& index, std::uint32_t languages) {
-  std::vector<const SearchLanguage*> result;
+Languages languagesOf(const Index& index, std::uint32_t languages) {
+  Languages result;
   for (const SearchLanguage& language : searchLanguages) {
     if (index.hasLanguage(language.code, languages)) result.push_back(&language);
   }
   return result;
 }
 
-bool isFunctionWord(const std::vector<const SearchLanguage*>& languages, std::string_view word) {
+bool isFunctionWord(const Languages& languages, std::string_view word) {
   return std::any_of(languages.begin(), languages.end(), [&](const SearchLanguage* language) {
     return findLine(language->functionWords, word).has_value();
   });

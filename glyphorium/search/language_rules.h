@@ -16,11 +16,13 @@ namespace glyph::search {
 /// Whether the word need not match, in any language: "sign", "symbol", "of".
 bool isStopWord(std::string_view word);
 
+using Languages = std::vector<const SearchLanguage*>;
+
 /// The languages of a bit mask of Index::languages, in the order of searchLanguages.
-std::vector<const SearchLanguage*> languagesOf(const Index& index, std::uint32_t languages);
+Languages languagesOf(const Index& index, std::uint32_t languages);
 
 /// Whether the word joins others in one of the languages: "with".
-bool isFunctionWord(const std::vector<const SearchLanguage*>& languages, std::string_view word);
+bool isFunctionWord(const Languages& languages, std::string_view word);
 
 /// The words of Unicode names that the word may stand for, separated by tabs.
 std::string_view synonymsOf(const SearchLanguage& language, std::string_view word);

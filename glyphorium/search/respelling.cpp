@@ -5,7 +5,6 @@
 #include <iterator>
 #include <string_view>
 
-#include "glyphorium/search/language_rules.h"
 #include "glyphorium/search/text_parts.h"
 
 namespace glyph::search {
@@ -61,18 +60,17 @@ class Splitter {
 
 }  // namespace
 
-std::vector<Words> respellings(const Index& index, const Words& words, std::uint32_t languages) {
+std::vector<Words> respellings(const Index& index, const Words& words, const Languages& languages) {
   std::vector<Words> result;
-  const std::vector<const SearchLanguage*> itsLanguages = languagesOf(index, languages);
   Words meaningful;
   std::copy_if(words.begin(), words.end(), std::back_inserter(meaningful),
-               [&](const std::string& word) { return !isFunctionWord(itsLanguages, word); });
+               [&](const std::string& word) { return !isFunctionWord(languages, word); });
   if (!meaningful.empty() && meaningful.size() < words.size()) result.push_back(std::move(meaningful));
   Words respelled;
   for (const std::string& word : words) respelled.push_back(withoutTypedSpellings(word));
   if (respelled != words) result.push_back(std::move(respelled));
   std::vector<std::string_view> linkingLetters;
-  for (const SearchLanguage* const language : itsLanguages) {
+  for (const SearchLanguage* const language : languages) {
     for (std::string_view rest = language->linkingLetters; !rest.empty();)
       linkingLetters.push_back(takePart(rest, '\n'));
   }

@@ -25,7 +25,11 @@ enum class Demand { any, together, exact };
 class WordSearch {
  public:
   WordSearch(const Index& index, const std::vector<std::string>& words, const MatchFilter& filter)
-      : index_(index), words_(words), filter_(filter), anyLanguage_(filter) {
+      : index_(index),
+        words_(words),
+        filter_(filter),
+        languages_(search::languagesOf(index, filter.languages)),
+        anyLanguage_(filter) {
     anyLanguage_.languages = ~0u;
   }
 
@@ -60,8 +64,14 @@ class WordSearch {
     found_.approximate = false;
   }
 
+  const Languages& languagesOf(const MatchFilter& filter) {
+    if (&filter != &anyLanguage_) return languages_;
+    if (allLanguages_.empty()) allLanguages_ = search::languagesOf(index_, anyLanguage_.languages);
+    return allLanguages_;
+  }
+
   void readRespellings() {
-    respelled_ = respellings(index_, words_, filter_.languages);
+    respelled_ = respellings(index_, words_, languages_);
     respelled_.resize(std::min(respelled_.size(), mostRespellings));
   }
 
@@ -74,7 +84,7 @@ class WordSearch {
   // Finds the characters that match most of the words, at least about half of them. It costs less to leave
   // out a word that is in many texts than one that is in few, and nothing to leave out an unknown word.
   bool matchFewer(const MatchFilter& filter) {
-    const std::vector<const SearchLanguage*> languages = languagesOf(index_, filter.languages);
+    const Languages& languages = languagesOf(filter);
     std::vector<QueryWord> known;
     std::size_t needed = 0;
     for (QueryWord& word : mistypedWords(words_, filter, false)) {
@@ -83,8 +93,7 @@ class WordSearch {
       if (!word.alternatives.empty() && known.size() < mostKnownWords) known.push_back(std::move(word));
     }
     // The noun that the other words describe: the last word in Germanic languages, the first in Romance ones.
-    const std::vector<const SearchLanguage*> preferred = languagesOf(index_, filter_.languages);
-    const bool headFirst = std::any_of(preferred.begin(), preferred.end(),
+    const bool headFirst = std::any_of(languages_.begin(), languages_.end(),
                                        [](const SearchLanguage* language) { return language->headFirst; });
     const std::size_t head = headFirst ? 0 : known.size() - 1;
     for (std::size_t left = known.size(); left > 0 && left * 2 + 1 >= needed; --left) {
@@ -118,19 +127,20 @@ class WordSearch {
   }
 
   std::vector<QueryWord> dictionaryWords(const std::vector<std::string>& words, const MatchFilter& filter,
-                                         bool prefixes) const {
+                                         bool prefixes) {
     std::vector<QueryWord> result;
     for (const std::string& text : words) {
       QueryWord& word = result.emplace_back(QueryWord{text, {}, isStopWord(text)});
       // A query of one letter would find a tenth of all words by their beginning. Behind other words a letter
       // is the beginning of the next one.
-      addDictionaryWords(index_, word, filter.languages, prefixes && (text.size() > 1 || result.size() > 1));
+      addDictionaryWords(index_, word, languagesOf(filter),
+                         prefixes && (text.size() > 1 || result.size() > 1));
     }
     return result;
   }
 
   std::vector<QueryWord> mistypedWords(const std::vector<std::string>& words, const MatchFilter& filter,
-                                       bool all) const {
+                                       bool all) {
     std::vector<QueryWord> result = dictionaryWords(words, filter, true);
     for (QueryWord& word : result) {
       if (all || word.alternatives.empty()) addMistypedWords(index_, word);
@@ -160,7 +170,9 @@ class WordSearch {
   const Index& index_;
   const std::vector<std::string>& words_;
   const MatchFilter& filter_;
+  const Languages languages_;  // of the filter
   MatchFilter anyLanguage_;
+  Languages allLanguages_;  // empty until needed
   std::vector<std::vector<std::string>> respelled_;
   WordsFound found_;
 };
