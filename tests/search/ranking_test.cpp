@@ -36,7 +36,7 @@ TEST(SearchRanking, TyposAreCorrectedOnlyWhereNothingElseMatches) {
       {"arrrow", "2192", true},  // put in
       {"orrow", "2192", true},   // replaced, at the front
       {"arrwo", "2192", true},   // exchanged
-      {"rokcet", "1f680", true},    {"black haert", "2665", true},
+      {"rokcet", "1f680", true},    {"black haert", "1f5a4", true},
       {"elipsi", "2026", true},  // and incomplete
       {"arrow", "2192", false},     {"dagger", "2020", false},
       {"arrrrow", nullptr, false},   // two edits
