@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <map>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "glyphorium/data/name_capitalization.h"
@@ -34,7 +35,7 @@ void requirePlainText(const Place& place, const std::string& text) {
   if (text.find_first_of("\"\\") != std::string::npos)
     place.fail("holds a straight quotation mark or a reverse solidus");
   for (const char c : text) {
-    if (static_cast<unsigned char>(c) < 0x20 && c != '\n') place.fail("holds a control character");
+    if (static_cast<unsigned char>(c) < 0x20) place.fail("holds a control character");
   }
 }
 
@@ -95,6 +96,40 @@ void readAttributes(const std::filesystem::path& file, RowsByHex& rows) {
   }
 }
 
+// Fails where a line of a note breaks the form of the notes. `before` is the line above it, which may be the
+// heading.
+void requireNoteForm(const Place& place, const std::string& language, const std::string& before,
+                     const std::string& line) {
+  requirePlainText(place, line);
+  if (line.starts_with('#')) place.fail("is no heading");
+  if (line.empty()) {
+    if (before.empty()) place.fail("is the second empty line in a row");
+    return;
+  }
+  if (line.starts_with("• ")) {
+    if (!before.starts_with("• ") && !before.ends_with(':'))
+      place.fail("begins a list, but the line before it does not end in a colon");
+  } else if (!before.empty()) {
+    place.fail("follows text without an empty line, but does not begin with '• '");
+  }
+  // The straight apostrophe may stand only where a note is about it, with its code.
+  for (std::size_t i = line.find('\''); i != std::string::npos; i = line.find('\'', i + 1)) {
+    if (line.compare(i, 8, "' (0027)") != 0) place.fail("holds a straight quotation mark");
+  }
+  std::string blanks = line;
+  for (const std::string noBreakSpace : {"\u00A0", "\u202F"}) {
+    for (std::size_t i; (i = blanks.find(noBreakSpace)) != std::string::npos;)
+      blanks.replace(i, noBreakSpace.size(), " ");
+  }
+  if (blanks.starts_with(' ') || blanks.ends_with(' ')) place.fail("begins or ends with a blank");
+  if (blanks.find("  ") != std::string::npos) place.fail("holds two blanks in a row");
+  if (language != "fr") return;
+  for (const char* const breakable : {" :", " ;", " !", " ?", " »", "« "}) {
+    if (line.find(breakable) != std::string::npos)
+      place.fail("needs a no-break space in '" + std::string(breakable) + "'");
+  }
+}
+
 void readNotes(const std::filesystem::path& file, const std::string& language, const NameTable& names,
                RowsByHex& rows) {
   std::string previous;
@@ -109,17 +144,19 @@ void readNotes(const std::filesystem::path& file, const std::string& language, c
       return;
     }
     if (note.empty()) heading->fail("has no note");
-    requirePlainText(*heading, note);
     mainRow(rows, hex).notes[language] = note;
   };
   std::size_t number = 0;
+  std::string before;
   for (const std::string& text : readLines(file)) {
     const Place place{file, ++number};
-    if (text.ends_with(' ')) place.fail("ends with a blank");
+    const std::string above = std::exchange(before, text);
     if (!text.starts_with("## ")) {
+      requireNoteForm(place, language, above, text);
       note += text + '\n';
       continue;
     }
+    if (!above.empty()) place.fail("needs an empty line before it");
     finish();
     note.clear();
     heading = place;
