@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "glyphorium/data/name_capitalization.h"
+#include "glyphorium/text/unicode_text.h"
 
 namespace glyph::generator {
 namespace {
@@ -98,7 +99,7 @@ void readAttributes(const std::filesystem::path& file, RowsByHex& rows) {
 
 // Fails where a line of a note breaks the form of the notes. `before` is the line above it, which may be the
 // heading.
-void requireNoteForm(const Place& place, const std::string& language, const std::string& before,
+void requireNoteForm(const Place& place, const Language& language, const std::string& before,
                      const std::string& line) {
   requirePlainText(place, line);
   if (line.starts_with('#')) place.fail("is no heading");
@@ -123,14 +124,15 @@ void requireNoteForm(const Place& place, const std::string& language, const std:
   }
   if (blanks.starts_with(' ') || blanks.ends_with(' ')) place.fail("begins or ends with a blank");
   if (blanks.find("  ") != std::string::npos) place.fail("holds two blanks in a row");
-  if (language != "fr") return;
-  for (const char* const breakable : {" :", " ;", " !", " ?", " »", "« "}) {
+  const auto forbid = [&](const std::string& breakable) {
     if (line.find(breakable) != std::string::npos)
-      place.fail("needs a no-break space in '" + std::string(breakable) + "'");
-  }
+      place.fail("needs a no-break space in '" + breakable + "'");
+  };
+  for (const char32_t c : language.unbreakableBefore) forbid(" " + utf8(c));
+  for (const char32_t c : language.unbreakableBehind) forbid(utf8(c) + " ");
 }
 
-void readNotes(const std::filesystem::path& file, const std::string& language, const NameTable& names,
+void readNotes(const std::filesystem::path& file, const Language& language, const NameTable& names,
                RowsByHex& rows) {
   std::string previous;
   std::optional<Place> heading;
@@ -144,7 +146,7 @@ void readNotes(const std::filesystem::path& file, const std::string& language, c
       return;
     }
     if (note.empty()) heading->fail("has no note");
-    mainRow(rows, hex).notes[language] = note;
+    mainRow(rows, hex).notes[language.code] = note;
   };
   std::size_t number = 0;
   std::string before;
@@ -262,7 +264,7 @@ EnrichmentTable makeEnrichmentTable(const std::filesystem::path& sources,
     for (const Language& language : languages) {
       const std::filesystem::path file = folder / "advice" / (language.code + ".md");
       if (language.notesAreCounted == counted && std::filesystem::exists(file))
-        readNotes(file, language.code, names, rows);
+        readNotes(file, language, names, rows);
     }
   };
   addNotes(true);

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 
+#include "glyphorium/text/unicode_text.h"
+
 namespace glyph::generator {
 namespace {
 
@@ -22,13 +24,17 @@ void requireKnown(const std::vector<Language>& languages, const fs::path& file, 
 
 std::vector<Language> readLanguages(const fs::path& sources) {
   std::vector<Language> languages;
-  for (const SourceLine& line : readTable(sources / "languages.tsv", 3, 3)) {
+  for (const SourceLine& line : readTable(sources / "languages.tsv", 3, 5)) {
     const std::string& notes = line.columns[2];
     if (notes != "counted" && notes != "growing") line.fail("'" + notes + "' must be 'counted' or 'growing'");
     for (const Language& other : languages) {
       if (other.code == line.columns[0]) line.fail("stands twice");
     }
-    languages.push_back({line.columns[0], line.number(1), notes == "counted", line.place});
+    const auto characters = [&](std::size_t column) {
+      return column < line.columns.size() ? codePoints(line.columns[column]) : std::u32string();
+    };
+    languages.push_back(
+        {line.columns[0], line.number(1), notes == "counted", characters(3), characters(4), line.place});
   }
   for (const fs::path& file : fs::directory_iterator(sources / "enrichment" / "advice"))
     requireKnown(languages, file, file.stem());

@@ -14,6 +14,9 @@ struct Language {
   std::string code;  ///< BCP 47
   std::size_t annotationTexts;
   bool notesAreCounted;  ///< by the figures of the enrichment table
+  /// Characters with which a line of a note must not be broken: before those of the first text and behind
+  /// those of the second one, notes have no-break spaces or none.
+  std::u32string unbreakableBefore, unbreakableBehind;
   Place place;
 };
 
