@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/codes/code_formats.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "glyphorium/text/unicode_text.h"
@@ -58,7 +59,9 @@ std::string CodeFormats::getHex(std::int64_t from) const {
 }
 
 std::string CodeFormats::getHtmlHex(std::string_view from) const {
-  const std::size_t zeros = std::min(from.find_first_not_of('0'), from.size());
+  std::size_t zeros = std::min(from.find_first_not_of('0'), from.size());
+  // The last zero may combine with what follows: a zero with an accent is another character.
+  if (zeros > 0 && graphemeClusters(from.substr(zeros - 1)).front() != "0") --zeros;
   return "&#x" + lowercased(from.substr(zeros)) + ";";
 }
 

@@ -23,8 +23,8 @@ class GLYPHORIUM_EXPORT CodeFormats {
   /// 32 gives "0020": lower case, padded to four digits. A negative value counts as 0.
   std::string getHex(std::int64_t from) const;
 
-  /// "0020" gives "&#x20;": without leading zeros, in lower case. The digits are not checked; "0000" and the
-  /// empty text give "&#x;".
+  /// "0020" gives "&#x20;": without the leading characters "0", in lower case. The digits are not checked;
+  /// "0000" and the empty text give "&#x;".
   std::string getHtmlHex(std::string_view from) const;
 
   /// 32 gives "&#32;", -5 gives "&#-5;".

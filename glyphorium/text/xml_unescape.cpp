@@ -28,9 +28,8 @@ std::string referenced(std::string_view name) {
 }  // namespace
 
 std::string xmlUnescaped(std::string_view text) {
-  // The longest sensible reference; without a bound a run of "&" would be searched to its end from each of
-  // them.
-  constexpr std::size_t longest = 16;
+  // The characters of references. None is "&", so that no character is looked at twice.
+  constexpr std::string_view ofReferences = "#0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
   std::string result;
   result.reserve(text.size());
   while (!text.empty()) {
@@ -38,15 +37,15 @@ std::string xmlUnescaped(std::string_view text) {
     result += text.substr(0, ampersand);
     if (ampersand == std::string_view::npos) break;
     text.remove_prefix(ampersand);
-    const std::size_t semicolon = text.substr(0, longest).find(';');
+    const std::size_t end = text.find_first_not_of(ofReferences, 1);
     std::string replacement;
-    if (semicolon != std::string_view::npos) replacement = referenced(text.substr(1, semicolon - 1));
+    if (end != std::string_view::npos && text[end] == ';') replacement = referenced(text.substr(1, end - 1));
     if (replacement.empty()) {
       result += '&';
       text.remove_prefix(1);
     } else {
       result += replacement;
-      text.remove_prefix(semicolon + 1);
+      text.remove_prefix(end + 1);
     }
   }
   return result;

@@ -42,7 +42,11 @@ TEST(CodeFormats, References) {
   EXPECT_EQ(formats.getHtmlHex("00A9"), "&#xa9;");
   EXPECT_EQ(formats.getHtmlHex("0000"), "&#x;");
   EXPECT_EQ(formats.getHtmlHex("zz"), "&#xzz;");
-  EXPECT_EQ(formats.getAdvancedHtmlHex("0041,"), "&#x41;&#x;");
+  // A zero with an accent is a character of its own, a zero before an ill-formed byte is a zero.
+  EXPECT_EQ(formats.getHtmlHex("000\u03010A"), "&#x0\u03010a;");
+  EXPECT_EQ(formats.getHtmlHex("00\xCC"), "&#x\xCC;");
+  EXPECT_EQ(formats.getAdvancedHtmlHex("0041,0\u0301,"), "&#x41;&#x0\u0301;&#x;");
+  EXPECT_EQ(formats.getSymbol("&#x" + std::string(1000, '0') + "41;&#00000000000000000066;"), "AB");
   EXPECT_EQ(formats.getAdvancedHtmlHex("1000, 030A"), "&#x1000;&#x 030a;");
   EXPECT_EQ(formats.getHtmlDecimal(-5), "&#-5;");
   EXPECT_EQ(formats.getAdvancedHtmlDecimal({65, 778}), "&#65;&#778;");
