@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <simdjson.h>
 
+#include <algorithm>
 #include <array>
+#include <charconv>
 #include <new>
 
 #include "glyphorium/data/embedded_image.h"
@@ -157,6 +159,56 @@ void readRow(dom::element value, Record& record) {
   readObject(value, record);
 }
 
+// Whether the text is a number in JSON's grammar.
+bool isNumber(std::string_view text) {
+  const auto digits = [&] {
+    const std::size_t count = std::min(text.find_first_not_of("0123456789"), text.size());
+    text.remove_prefix(count);
+    return count;
+  };
+  const auto skip = [&](std::string_view characters) {
+    const bool found = !text.empty() && characters.find(text.front()) != std::string_view::npos;
+    text.remove_prefix(found);
+    return found;
+  };
+  skip("-");
+  if (!skip("0") && digits() == 0) return false;
+  if (skip(".") && digits() == 0) return false;
+  if (skip("eE")) {
+    skip("+-");
+    if (digits() == 0) return false;
+  }
+  return text.empty();
+}
+
+// The JSON text with 0.5 in the place of every number that is no 64-bit integer. No field takes one of those,
+// and the parser refuses a text with a number beyond its range, also in keys that are ignored.
+std::string withoutHugeNumbers(std::string_view json) {
+  std::string result;
+  while (!json.empty()) {
+    std::size_t length = std::min(json.find_first_of("\"-0123456789"), json.size());
+    result += json.substr(0, length);
+    json.remove_prefix(length);
+    if (json.empty()) break;
+    if (json.front() == '"') {
+      for (length = 1; length < json.size() && json[length] != '"'; ++length) {
+        if (json[length] == '\\') ++length;
+      }
+      length = std::min(length + 1, json.size());
+      result += json.substr(0, length);
+    } else {
+      length = std::min(json.find_first_not_of("+-.0123456789eE"), json.size());
+      const std::string_view number = json.substr(0, length);
+      std::int64_t value = 0;
+      const auto end = std::from_chars(number.data(), number.data() + length, value);
+      const bool small = end.ec == std::errc() && end.ptr == number.data() + length;
+      result += small || !isNumber(number) ? number : "0.5";
+    }
+    json.remove_prefix(length);
+  }
+  return result;
+}
+
 bool isEmbedded(std::string_view text) {
   const char* const begin = embeddedImage.data();
   const char* const end = begin + embeddedImage.size() - textPadding;
@@ -176,7 +228,8 @@ template <class Record>
 std::string TableDecoder::append(std::string_view json, std::vector<Record>& records) {
   dom::array rows;
   const bool copy = !isEmbedded(json);
-  const auto error = parser_->parser.parse(json.data(), json.size(), copy).get(rows);
+  auto error = parser_->parser.parse(json.data(), json.size(), copy).get(rows);
+  if (error == simdjson::NUMBER_ERROR) error = parser_->parser.parse(withoutHugeNumbers(json)).get(rows);
   if (error == simdjson::MEMALLOC) throw std::bad_alloc();  // not an error in the text
   if (error == simdjson::INCORRECT_TYPE) return "is no JSON array";
   if (error != simdjson::SUCCESS) return std::string("is no valid JSON: ") + simdjson::error_message(error);

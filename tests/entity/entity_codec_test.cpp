@@ -28,22 +28,28 @@ TEST(EntityCodec, OneFaultyRowFailsTheWholeTableAndIsReportedOnce) {
       table("\"hex\"", R"("extra":{"a":[1]},"hex")"),
       table("\"hex\"", R"("\u0068ex")"),  // an escaped key is the same key
       table("\"group\":\"g\"", R"("isSFSymbol":null,"group":"g")"),
+      // Numbers beyond every range in the value of an unknown key.
+      table("\"hex\"", R"("a\"1e400":["\\",-1e400,{"b":123456789012345678901234567890}],"hex")"),
   };
   const struct {
     std::string fault;  // a part of the diagnostic line
     std::vector<std::string> tables;
   } faulty[] = {
       {"JSON", {"", "not JSON", table("}]", "},]"), table() + " x"}},
-      {"JSON",
-       {table("\"hex\"", R"("ignored":tru,"hex")")}},  // a syntax error in the value of an unknown key
+      {"JSON",  // syntax errors in the value of an unknown key
+       {table("\"hex\"", R"("ignored":tru,"hex")"), table("\"hex\"", R"("ignored":[1e400,01],"hex")"),
+        table("\"hex\"", R"("ignored":1e400.5,"hex")"), table() + "1e400\""}},
       {"UTF-8", {table("\"A\"", "\"\xFF\"")}},
       {"array", {"{}"}},
       {"object", {"[1]"}},
       {"'fallbackName'", {table("\"fallbackName\":\"N\",")}},
       {"'group'", {table("}]", "},{") + table(",\"group\":\"g\"").substr(2)}},
       {"'hex'", {table("\"0041\"", "null")}},
-      {"'decimal'", {table("65,", "\"65\","), table("65,", "65.0,"), table("65,", "9223372036854775808,")}},
-      {"'isSFSymbol'", {table("\"hex\"", R"("isSFSymbol":1,"hex")")}},
+      {"'decimal'",
+       {table("65,", "\"65\","), table("65,", "65.0,"), table("65,", "9223372036854775808,"),
+        table("65,", "18446744073709551616,"), table("65,", "1e400,")}},
+      {"'isSFSymbol'",
+       {table("\"hex\"", R"("isSFSymbol":1,"hex")"), table("\"hex\"", R"("isSFSymbol":1e400,"hex")")}},
   };
   RecordedDiagnostics diagnostics;
   const Glyphorium catalog;
