@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <map>
 #include <mutex>
@@ -20,7 +21,7 @@ namespace {
 
 using glyph::Entity;
 
-// Keeps the first error of the requests made with it; they are answered on the index's own thread.
+// Keeps the first error of the requests made with it. Their completions run on the index's own thread.
 class Errors {
  public:
   glyph::SearchableIndex::Completion completion() {
@@ -39,7 +40,7 @@ class Errors {
   std::string first_;
 };
 
-// A bar on standard error where a person watches it.
+// A bar on standard error where that is a terminal.
 class ProgressBar {
  public:
   explicit ProgressBar(std::size_t total) : total_(total), shown_(isatty(STDERR_FILENO) && total > 500) {}
@@ -83,6 +84,13 @@ int carryOut(const std::vector<Element>& elements, Request request) {
   return notWritten;
 }
 
+// Says why the index could not be read, where it could not.
+bool complainOfReading(const glyph::SearchableIndexReader& reader) {
+  if (reader.error().empty()) return false;
+  complain("the search index cannot be read: " + reader.error());
+  return true;
+}
+
 // The entities of groups and characters, each code point once.
 bool collect(const std::vector<std::string>& arguments, bool all, std::vector<Entity>& entities) {
   glyph::Glyphorium& catalog = glyph::glyphorium();
@@ -121,7 +129,9 @@ bool collect(const std::vector<std::string>& arguments, bool all, std::vector<En
 
 int showIndexStatus(Output& output, bool json) {
   const bool enabled = glyph::EntityUserData::useSpotlightExtension();
-  const std::size_t count = glyph::SearchableIndexReader().count();
+  glyph::SearchableIndexReader reader;
+  const std::size_t count = reader.count();
+  if (complainOfReading(reader)) return notWritten;
   if (json) {
     output.printLine(nlohmann::ordered_json{{"enabled", enabled}, {"items", count}}.dump());
   } else {
@@ -162,26 +172,27 @@ int removeFromIndex(Output& output, const std::vector<std::string>& arguments, b
     });
   }
   if (exitCode != found) return exitCode;
-  output.printLine("Removed " + std::to_string(before - reader.count()) + " characters from the index");
+  const std::size_t after = std::min(before, reader.count());  // others may have added some meanwhile
+  output.printLine("Removed " + std::to_string(before - after) + " characters from the index");
   return found;
 }
 
 int searchIndex(Output& output, const std::vector<std::string>& words, int limit, bool json) {
-  const auto items = glyph::SearchableIndexReader().search(joined(words, " "), limit);
+  glyph::SearchableIndexReader reader;
+  const auto items = reader.search(joined(words, " "), limit);
+  if (complainOfReading(reader)) return notWritten;
   std::vector<std::string> objects;
   std::vector<std::vector<std::string>> rows;
   for (const glyph::SearchableItem& item : items) {
-    const std::size_t tab = item.title.find('\t');
-    const std::string name = item.title.substr(tab == std::string::npos ? 0 : tab + 1);
-    const glyph::ComputedEntity record = glyph::Unicode(item.uniqueIdentifier).computedEntity();
+    // A host may have indexed any bytes.
     objects.push_back(nlohmann::ordered_json{
-        {"hex", item.uniqueIdentifier}, {"name", name}, {"symbol", record.symbol}, {"group", item.genre}}
-                          .dump());
-    rows.push_back({output.accent(visibleSymbol(record.symbol)), output.faint(item.uniqueIdentifier), name,
-                    output.faint(item.genre)});
+        {"hex", item.uniqueIdentifier}, {"name", item.name()}, {"symbol", item.symbol}, {"group", item.genre}}
+                          .dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
+    rows.push_back({output.accent(visibleSymbol(item.symbol)), output.faint(item.uniqueIdentifier),
+                    item.name(), output.faint(item.genre)});
   }
   json ? printJsonArray(output, objects) : output.printTable(rows);
-  if (items.empty() && glyph::SearchableIndexReader().count() == 0) {
+  if (items.empty() && reader.count() == 0) {
     complain("the index is empty; 'glyphorium index add --all' puts the whole catalog into it");
   }
   return items.empty() ? nothingFound : found;

@@ -92,13 +92,18 @@ bool isChangeLine(std::string_view line) {
   return line.starts_with("didSet ") || line.starts_with("selectedGroupsHadChanged ");
 }
 
+// The lines that a person wants to read at once, whether the command succeeds or not.
+bool isUrgentLine(std::string_view line) {
+  return line.starts_with("Waiting for ") || line.starts_with("Search index put aside ");
+}
+
 }  // namespace
 
 void keepDiagnostics(bool verbose) {
   glyph::setDiagnosticsSink([verbose](std::string_view line) {
-    if (verbose) complain(line);
+    if (verbose || isUrgentLine(line)) return complain(line);
     const std::lock_guard lock(keptMutex);
-    if (!verbose && !isChangeLine(line)) keptLines.emplace_back(line);
+    if (!isChangeLine(line)) keptLines.emplace_back(line);
   });
 }
 

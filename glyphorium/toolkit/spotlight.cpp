@@ -24,7 +24,8 @@ SearchableItem EntityToolKit::searchableItem(const Entity& entity) const {
   item.domainIdentifier = applicationIdentifier();
   item.contentType = "Glyph";
   const std::string name = entity.name();
-  item.title = entity.computed.symbol + "\t" + name;
+  item.symbol = entity.computed.symbol;
+  item.title = item.symbol + "\t" + name;
   if (entity.additional) item.comment = entity.additional->localizedAdvice();
   item.genre = entity.computed.group;
   item.keywords = {entity.computed.symbol, name, "qv:", "qv: ", "entity"};

@@ -81,7 +81,7 @@ TEST_F(CustomAddedEntities, IndexItemsAreBuiltFromTheirEntities) {
                           ""};
   EXPECT_EQ(index->indexed[0],
             (SearchableItem{"0041", "org.glyphorium.Glyphorium", "Glyph", "A\tLatin Capital Letter A",
-                            std::nullopt, "latin basic", keywords}));
+                            std::nullopt, "latin basic", keywords, "A"}));
   EXPECT_EQ(index->indexed[1].title, "→\tRightwards Arrow");
   EXPECT_EQ(index->indexed[1].comment, "A note.");
   EXPECT_EQ(index->indexed[1].keywords.back(), "");

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include <nlohmann/json.hpp>
 #include <sstream>
 
 #include "glyphorium/data/embedded_texts.h"
+#include "glyphorium/services/search_index/sqlite_searchable_index.h"
 #include "tests/support/program.h"
 #include "tests/support/sandbox.h"
 
@@ -109,6 +111,27 @@ TEST(CommandLine, PrintsJsonOfTheRecordsFields) {
     ASSERT_EQ(json.size(), count) << arguments;
     if (count == 0) continue;
     EXPECT_EQ(json[0].value(key, ""), value) << arguments;
+  }
+}
+
+TEST(CommandLine, ShowsWhateverIsIndexedOrSaysWhyNot) {
+  const TemporaryDirectory home;
+  const std::string own = "HOME=" + home.path().string();
+  const auto file = home / ".local/share/org.glyphorium.Glyphorium/index.sqlite";
+  SqliteSearchableIndex index(file);
+  index.indexItems({{"0009", "", "", "\t\tTabulation", {}, "g", {}, "\t"},
+                    {"x", "", "", "\xFF\tIll-formed\xC3", {}, "g", {}, "\xFF"}},
+                   {});
+  ASSERT_TRUE(index.waitUntilIdle(std::chrono::minutes(1)));
+  EXPECT_EQ(run("index search tabulation", own).output, "␉\t0009\tTabulation\tg\n");
+  EXPECT_EQ(run("index search --json x", own).output,
+            "[{\"hex\":\"x\",\"name\":\"Ill-formed\uFFFD\",\"symbol\":\"\uFFFD\",\"group\":\"g\"}]\n");
+  std::filesystem::remove(file);
+  mkfifo(file.c_str(), 0600);
+  for (const char* const command : {"status", "search x", "add 2192", "reset"}) {
+    const ProgramResult result = run("2>&1 index " + std::string(command), own);
+    EXPECT_EQ(result.exitCode, 3) << command;
+    EXPECT_THAT(result.output, HasSubstr("no regular file")) << command;
   }
 }
 

@@ -12,6 +12,8 @@
 #include "glyphorium/entity/codec.h"
 #include "glyphorium/search/search.h"
 #include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/services/search_index/searchable_index_reader.h"
+#include "glyphorium/services/search_index/sqlite_searchable_index.h"
 #include "glyphorium/services/settings/memory_settings_store.h"
 #include "glyphorium/services/settings/sqlite_settings_store.h"
 #include "glyphorium/state/selected_entities.h"
@@ -136,6 +138,23 @@ TEST_F(ExhaustedMemory, LeavesACatalogThatCanBeConfigured) {
                   },
                   120);
   setSettingsStore(nullptr);
+}
+
+TEST_F(ExhaustedMemory, LetsTheIndexAnswerOrSayWhyNot) {
+  const TemporaryDirectory directory;
+  const auto file = directory / "index of more than a few letters";
+  SqliteSearchableIndex index(file);
+  index.indexItems({toolKit().searchableItem({Unicode("0041").computedEntity(), {}})}, {});
+  ASSERT_TRUE(index.waitUntilIdle(std::chrono::minutes(1)));
+  std::optional<SearchableIndexReader> reader;
+  std::size_t found = 0;
+  failAtEveryCall(
+      [&] {
+        reader.emplace(file);
+        found = reader->search("a", 10).size();
+        if (!reader->error().empty()) throw std::bad_alloc();
+      },
+      [&](bool succeeded) { EXPECT_TRUE(!succeeded || found == 1); });
 }
 
 TEST_F(ExhaustedMemory, LeavesTheOldChoiceOrTheNewOne) {

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <future>
 #include <random>
@@ -33,7 +34,7 @@ constexpr auto longEnough = 120s;
 
 SearchableItem glyphItem(const std::string& uid, const std::string& symbol, const std::string& name,
                          const std::vector<std::string>& more = {}, const std::string& genre = "other") {
-  SearchableItem item{uid, "org.example", "Glyph", symbol + "\t" + name, std::nullopt, genre, {}};
+  SearchableItem item{uid, "org.example", "Glyph", symbol + "\t" + name, std::nullopt, genre, {}, symbol};
   item.keywords = {symbol, name, "qv:", "qv: ", "entity"};
   item.keywords.insert(item.keywords.end(), more.begin(), more.end());
   return item;
@@ -80,7 +81,8 @@ TEST(SearchableIndex, FindsSymbolsAndWordsByWhatPeopleType) {
                                        glyphItem("00c1", "Á", "Latin Capital Letter A With Acute", {}, latin),
                                        glyphItem("0301", "\u0301", "Combining Acute Accent"),
                                        glyphItem("0022", "\"", "Quotation Mark", {"\"\""}, latin),
-                                       glyphItem("002c", ",", "Comma", {}, latin)};
+                                       glyphItem("002c", ",", "Comma", {}, latin),
+                                       glyphItem("0009", "\t", "Character Tabulation")};
   items[1].comment = "zeigt zurück";
   ASSERT_EQ(indexAndWait(index, items), "");
   std::string manyTerms;
@@ -112,7 +114,9 @@ TEST(SearchableIndex, FindsSymbolsAndWordsByWhatPeopleType) {
   for (const auto& [found, queries] : cases) {
     for (const auto& query : queries) EXPECT_EQ(identifiers(reader.search(query, 100)), found) << query;
   }
-  EXPECT_EQ(reader.search("qv:", 100).size(), 13u);
+  EXPECT_EQ(reader.search("qv:", 100).size(), std::size(items));
+  const SearchableItem tab = reader.search("tabulation", 1).at(0);
+  EXPECT_EQ(tab.symbol + "/" + tab.name(), "\t/Character Tabulation");
   EXPECT_EQ(identifiers(reader.search("qv:", 2)), "002c 1fa95");
   EXPECT_THAT(reader.search("qv:", -1), IsEmpty());
   EXPECT_THAT(diagnostics.take(), IsEmpty());
@@ -133,7 +137,7 @@ TEST(SearchableIndex, HoldsWhatTheSameRequestsLeaveInMemory) {
     std::vector<std::string> removed;
     for (auto count = number(6); count > 0; --count) {
       const std::string text = "\xff\0\t" + std::to_string(round);
-      items.push_back({identifier(), "d", "t", text, {}, "", {"", "1:a", "\n\0"s}});
+      items.push_back({identifier(), "d", "t", text, {}, "", {"", "1:a", "\n\0"s}, "\xff\0"s});
       if (number(2)) items.back().comment = "";
       removed.push_back(identifier());
     }
@@ -164,9 +168,9 @@ std::vector<SearchableItem> arrows(int count) {
   return items;
 }
 
-TEST(SearchableIndex, RepairsAndReportsUnusableFiles) {
+TEST(SearchableIndex, PutsDamagedFilesAsideAndKeepsWhatCanBeRead) {
   const TemporaryDirectory directory;
-  const auto file = directory / "index";
+  const auto file = directory / "index", aside = directory / "index.damaged";
   {
     SqliteSearchableIndex index(file);
     ASSERT_EQ(indexAndWait(index, arrows(500)), "");
@@ -176,45 +180,110 @@ TEST(SearchableIndex, RepairsAndReportsUnusableFiles) {
   const auto overwritten = [&](std::size_t at, std::size_t length) {
     return std::string(whole).replace(at, length, length, '\x5a');
   };
-  const std::string contents[] = {
-      overwritten(0, 100),  overwritten(4096, whole.size() - 4096),           whole.substr(0, 4096 * 3),
-      whole.substr(0, 600), std::string(whole).replace(60, 4, "\0\0\0\x63"s), std::string(20'000, 't')};
+  const std::string contents[] = {overwritten(0, 100),       overwritten(4096, whole.size() - 4096),
+                                  whole.substr(0, 4096 * 3), whole.substr(0, 600),
+                                  std::string(20'000, 't'),  "a diary"};
   for (const auto& content : contents) {
     SCOPED_TRACE(&content - contents);
     removeIndex(file);
+    std::filesystem::remove(aside);
     writeFile(file, content);
     RecordedDiagnostics diagnostics;
     SearchableIndexReader reader(file);
     for (int question = 0; question < 3; ++question) {
       EXPECT_THAT(reader.search("arrow", 10), IsEmpty());
-      EXPECT_EQ(reader.item("7"), std::nullopt);
+      EXPECT_NE(reader.error(), "");
     }
     EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("not readable")));
     SqliteSearchableIndex index(file);
-    EXPECT_EQ(indexAndWait(index, {glyphItem("7", "→", "Arrow")}), "");
-    EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("emptied")));
-    EXPECT_EQ(identifiers(reader.search("arrow", 10)), "7");
-    EXPECT_EQ(reader.count(), 1u);
+    EXPECT_EQ(indexAndWait(index, {glyphItem("new", "→", "Arrow")}), "");
+    EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("put aside")));
+    EXPECT_EQ(fileContent(aside), content);
+    EXPECT_TRUE(reader.item("new"));
+    EXPECT_EQ(reader.error(), "");
   }
 
   // Damage that only some questions meet, while another program keeps the file open.
-  for (const char* const damage : {"DELETE FROM token_data", "DROP TABLE token_docsize", "DROP TABLE item"}) {
+  removeIndex(file);
+  {
+    SqliteSearchableIndex index(file);
+    ASSERT_EQ(indexAndWait(index, arrows(500)), "");
+  }
+  const std::pair<const char*, std::size_t> damages[] = {
+      {"DELETE FROM token_data", 501}, {"DROP TABLE token_docsize", 501}, {"DROP TABLE item", 1}};
+  for (const auto& [damage, kept] : damages) {
     Database(file, SQLITE_OPEN_READWRITE).execute(damage);
     RecordedDiagnostics diagnostics;
     SearchableIndexReader bystander(file);
     bystander.count();
     diagnostics.take();
     SqliteSearchableIndex index(file);
-    EXPECT_EQ(indexAndWait(index, {glyphItem("7", "→", "Arrow")}), "") << damage;
-    EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("emptied"))) << damage;
-    EXPECT_EQ(identifiers(bystander.search("arrow", 10)), "7") << damage;
+    EXPECT_EQ(indexAndWait(index, {glyphItem("new", "→", "Arrow")}), "") << damage;
+    EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("put aside"))) << damage;
+    EXPECT_EQ(bystander.count(), kept) << damage;
+    EXPECT_EQ(bystander.search("arrow", 1000).size(), kept) << damage;
   }
   // A statement that is wrong in a whole file is no reason to lose what the file holds.
   Database(file, SQLITE_OPEN_READWRITE)
       .execute("CREATE TRIGGER faulty AFTER INSERT ON item BEGIN SELECT absent(); END");
   SqliteSearchableIndex index(file);
   EXPECT_THAT(indexAndWait(index, {glyphItem("8", "→", "Arrow")}), HasSubstr("absent"));
-  EXPECT_EQ(identifiers(SearchableIndexReader(file).search("arrow", 10)), "7");
+  EXPECT_EQ(identifiers(SearchableIndexReader(file).search("arrow", 10)), "new");
+}
+
+TEST(SearchableIndex, RepairsAFileOnceForAllWritersThatSeeItsDamage) {
+  for (int round = 0; round < 6; ++round) {
+    const TemporaryDirectory directory;
+    const auto file = directory / "index";
+    writeFile(file, std::string(20'000, 't'));
+    EXPECT_TRUE(inChildren(8, [&](int writer) -> int {
+      setDiagnosticsSink([](std::string_view) {});
+      SqliteSearchableIndex index(file);
+      for (int i = 0; i < 5; ++i) {
+        if (indexAndWait(index, {glyphItem(std::to_string(writer * 5 + i), "→", "Arrow")}) != "") return 1;
+      }
+      return 0;
+    }));
+    EXPECT_EQ(SearchableIndexReader(file).count(), 40u);
+  }
+}
+
+TEST(SearchableIndex, LeavesAloneWhatIsNotItsOwn) {
+  const TemporaryDirectory directory;
+  const auto file = directory / "index", foreign = directory / "foreign";
+  const auto execute = [](const std::filesystem::path& database, const char* sql) {
+    Database(database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE).execute(sql);
+  };
+  const struct {
+    const char* error;
+    std::function<void()> make;
+  } cases[] = {{"symbolic link", [&] { writeFile(foreign, std::string(3'000, 'd')); }},
+               {"symbolic link", [&] { execute(foreign, "CREATE TABLE note(text)"); }},
+               {"later version", [&] { execute(foreign, "CREATE TABLE item(id); PRAGMA user_version=2"); }},
+               {"later version", [&] { execute(file, "CREATE TABLE item(id); PRAGMA user_version=2"); }},
+               {"no regular file", [&] { mkfifo(file.c_str(), 0600); }},
+               {"no regular file", [&] { std::filesystem::create_directory(file); }},
+               {"no regular file", [&] { std::filesystem::create_symlink("/dev/zero", file); }}};
+  for (const auto& [expected, make] : cases) {
+    SCOPED_TRACE(&expected - &cases[0].error);
+    for (const auto& each : std::filesystem::directory_iterator(directory.path())) remove(each.path());
+    make();
+    std::error_code exists;
+    std::filesystem::create_symlink(foreign, file, exists);
+    const bool regular = std::filesystem::is_regular_file(file);
+    const std::string before = regular ? fileContent(file) : "";
+    RecordedDiagnostics diagnostics;
+    SearchableIndexReader reader(file);
+    EXPECT_EQ(reader.count(), 0u);
+    EXPECT_NE(reader.error(), "");
+    SqliteSearchableIndex index(file);
+    EXPECT_THAT(indexAndWait(index, {glyphItem("1", "→", "Arrow")}), HasSubstr(expected));
+    Outcomes outcomes;
+    index.deleteAllItems(noting(outcomes));
+    EXPECT_TRUE(index.waitUntilIdle(longEnough));
+    EXPECT_THAT(outcomes, ElementsAre(HasSubstr(expected)));
+    EXPECT_EQ(regular ? fileContent(file) : "", before);
+  }
 }
 
 TEST(SearchableIndex, TellsTheCompletionWhatTheDiskRefused) {
@@ -227,15 +296,27 @@ TEST(SearchableIndex, TellsTheCompletionWhatTheDiskRefused) {
   SearchableIndexReader reader(directory / "index");
   EXPECT_EQ(reader.count(), 0u);
   EXPECT_EQ(indexAndWait(index, {glyphItem("1", "→", "Arrow")}), "");
+  EXPECT_EQ(reader.count(), 1u);  // which leaves the log open
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
   const rlimit small{200'000, before.rlim_max};
   setrlimit(RLIMIT_FSIZE, &small);
   EXPECT_NE(indexAndWait(index, arrows(5'000)), "");
+  // What the failed request has written does not go on filling the disk.
+  EXPECT_EQ(std::filesystem::file_size(directory / "index-wal"), 0u);
   setrlimit(RLIMIT_FSIZE, &before);
   EXPECT_EQ(reader.count(), 1u);
   EXPECT_EQ(indexAndWait(index, arrows(5'000)), "");
   EXPECT_EQ(reader.count(), 5'000u);
+  const rlimit none{0, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &none);
+  Outcomes emptied;
+  index.deleteAllItems(noting(emptied));
+  EXPECT_TRUE(index.waitUntilIdle(longEnough));
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_THAT(emptied, ElementsAre(""));
+  EXPECT_EQ(reader.count(), 0u);
+  EXPECT_EQ(indexAndWait(index, {glyphItem("1", "→", "Arrow")}), "");
 
   // Somebody deletes the file while it is open on both sides.
   removeIndex(directory / "index");
@@ -243,16 +324,27 @@ TEST(SearchableIndex, TellsTheCompletionWhatTheDiskRefused) {
   EXPECT_EQ(indexAndWait(index, {glyphItem("2", "→", "Arrow")}), "");
   EXPECT_EQ(reader.count(), 1u);
 
-  // Another process keeps the file locked for longer than anybody waits.
-  Outcomes outcomes;
-  Database other(directory / "index", SQLITE_OPEN_READWRITE);
-  other.execute("BEGIN IMMEDIATE");
+}
+
+TEST(SearchableIndex, WaitsForALockOnceForAllRequests) {
+  const TemporaryDirectory directory;
   {
-    SqliteSearchableIndex blocked(directory / "index");
-    for (int i = 0; i < 600; ++i) blocked.deleteAllItems(noting(outcomes));
+    SqliteSearchableIndex index(directory / "index");
+    ASSERT_EQ(indexAndWait(index, {glyphItem("1", "→", "Arrow")}), "");
   }
-  EXPECT_THAT(outcomes, AllOf(SizeIs(600), Each(testing::Ne(""))));
-  EXPECT_EQ(reader.count(), 1u);
+  Outcomes outcomes;
+  RecordedDiagnostics diagnostics;
+  Database other(directory / "index", SQLITE_OPEN_READWRITE);
+  other.execute("PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE");
+  SqliteSearchableIndex blocked(directory / "index");
+  const auto begin = std::chrono::steady_clock::now();
+  blocked.deleteAllItems(noting(outcomes));
+  EXPECT_TRUE(eventually([&] { return !diagnostics.take().empty(); }));
+  for (int i = 0; i < 600; ++i) blocked.deleteAllItems(noting(outcomes));
+  EXPECT_TRUE(blocked.waitUntilIdle(longEnough));
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, 9s);
+  EXPECT_THAT(outcomes, AllOf(SizeIs(601), Each(HasSubstr("locked"))));
+  other.execute("ROLLBACK");
 }
 
 TEST(SearchableIndex, DrainsWhenProgramsEnd) {

@@ -8,14 +8,13 @@
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
-#include <chrono>
+#include <fstream>
 #include <system_error>
-#include <thread>
 #include <unordered_map>
+#include <utility>
 
 #include "glyphorium/services/application/application.h"
 #include "glyphorium/services/application/private_directory.h"
-#include "glyphorium/services/diagnostics/diagnostics.h"
 #include "glyphorium/services/search_index/index_tokens.h"
 #include "glyphorium/text/unicode_text.h"
 
@@ -28,15 +27,23 @@ constexpr const char* tokenTable =
     "CREATE VIRTUAL TABLE token USING fts5(tok, detail=none, prefix='1 2 3',"
     " tokenize=\"unicode61 remove_diacritics 0 categories 'L* M* N* P* S* Co Cf Cn'\")";
 
-// symbol and name are the title's parts, name in lower case, by which answers are ordered. An identifier is
-// unique by itself, since items are replaced and deleted by it alone.
+// The symbol and the name (in lower case) are the title's parts, by which answers are ordered. An identifier
+// is unique by itself, since items are replaced and deleted by it alone.
 constexpr const char* itemTable =
     "CREATE TABLE item(id INTEGER PRIMARY KEY, uid TEXT NOT NULL UNIQUE, domain TEXT NOT NULL,"
     " content_type TEXT NOT NULL, title TEXT NOT NULL, comment TEXT, genre TEXT NOT NULL,"
     " keywords TEXT NOT NULL, symbol TEXT, name TEXT NOT NULL)";
 
-constexpr auto busyLimit = std::chrono::seconds(5);
-constexpr auto busyPause = std::chrono::milliseconds(5);
+constexpr std::int64_t indexVersion = 1;
+
+// Of so many items and more, a transaction may fill the disk.
+constexpr std::size_t manyItems = 500;
+
+void prepareDirectory(const std::filesystem::path& file) {
+  const auto directory = file.parent_path();
+  if (directory.empty() || createPrivateDirectory(directory)) return;
+  throw SqliteError(SQLITE_CANTOPEN, directory.string() + ": " + std::generic_category().message(errno));
+}
 
 }  // namespace
 
@@ -65,77 +72,122 @@ std::vector<std::string> unpackTexts(std::string_view packed) {
   return texts;
 }
 
-std::optional<FileIdentity> fileIdentity(const std::filesystem::path& file) {
+SearchableItem itemOf(const Statement& row) {
+  SearchableItem item;
+  item.uniqueIdentifier = row.text(0);
+  item.domainIdentifier = row.text(1);
+  item.contentType = row.text(2);
+  item.title = row.text(3);
+  if (!row.isNull(4)) item.comment = row.text(4);
+  item.genre = row.text(5);
+  item.keywords = unpackTexts(row.text(6));
+  item.symbol = row.text(7);
+  return item;
+}
+
+std::optional<FileIdentity> regularFile(const std::filesystem::path& file) {
   struct stat status {};
   if (stat(file.c_str(), &status) != 0) return std::nullopt;
+  if (!S_ISREG(status.st_mode)) throw SqliteError(SQLITE_CANTOPEN, file.string() + " is no regular file");
   return FileIdentity{status.st_dev, status.st_ino};
 }
 
-IndexStore::IndexStore(const std::filesystem::path& file, const std::atomic<bool>& abandoned)
-    : file_(file), abandoned_(abandoned) {
-  prepareFile();
-  identity_ = fileIdentity(file);  // before opening it: a replacement in between shows in inPlace()
-  database_.emplace(file, SQLITE_OPEN_READWRITE);
-  sqlite3_busy_handler(database_->handle(), waitWhileBusy, this);
-  // Two processes that both create the file: SQLite does not call the busy handler for this switch.
-  for (int attempt = 0;; ++attempt) {
+bool isIndex(const Database& database) {
+  // In one statement, which sees either nothing or all of what another process creates just now.
+  Statement look(
+      database,
+      "SELECT (SELECT user_version FROM pragma_user_version), (SELECT count(*) FROM sqlite_schema),"
+      " (SELECT sql FROM sqlite_schema WHERE name = 'item')");
+  look.step();
+  const auto version = look.integer(0);
+  if (version == indexVersion && look.text(2) == itemTable) return true;
+  if (version == 0 && look.integer(1) == 0) return false;
+  if (version > indexVersion && look.integer(1) > 0) {
+    throw SqliteError(SQLITE_CANTOPEN, "it has the format " + std::to_string(version) +
+                                           " of a later version, this one knows " +
+                                           std::to_string(indexVersion) + " only");
+  }
+  throw SqliteError(SQLITE_NOTADB, "it is no search index");
+}
+
+bool beginsAsIndex(const std::filesystem::path& file) {
+  std::string page(4096, '\0');
+  std::ifstream(file, std::ios::binary).read(page.data(), static_cast<std::streamsize>(page.size()));
+  return page.starts_with("SQLite format 3") && page.find(itemTable) != std::string::npos;
+}
+
+IndexStore::IndexStore(std::filesystem::path file, LockWait& wait) : file_(std::move(file)), wait_(wait) {
+  prepareDirectory(file_);
+  open(DirectoryLock(file_, wait_));
+}
+
+IndexStore::IndexStore(std::filesystem::path file, LockWait& wait, const DirectoryLock& lock)
+    : file_(std::move(file)), wait_(wait) {
+  open(lock);
+}
+
+void IndexStore::open(const DirectoryLock&) {
+  identity_ = regularFile(file_);
+  if (!identity_) {
+    // SQLite would create it readable for others.
+    const int created = ::open(file_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (created >= 0) close(created);
+    identity_ = regularFile(file_);
+  }
+  database_.emplace(file_, SQLITE_OPEN_READWRITE);
+  sqlite3_busy_handler(database_->handle(), LockWait::whileBusy, &wait_);
+  const bool isNew = !isIndex(*database_);  // before anything is written: it may be somebody else's
+  for (;;) {
     try {
       database_->execute("PRAGMA journal_mode=WAL");
       break;
     } catch (const SqliteError& error) {
-      if (error.code() != SQLITE_BUSY || !waitWhileBusy(this, attempt)) throw;
+      // SQLite does not call the busy handler for this switch.
+      if (error.code() != SQLITE_BUSY || !wait_.pause()) throw;
     }
   }
   // Of the last moments before a power failure an index may lose a part: its file stays whole even so.
   database_->execute("PRAGMA synchronous=NORMAL");
-  prepareSchema();
+  if (isNew) createTables();
 }
 
-void IndexStore::prepareFile() {
-  const auto directory = file_.parent_path();
-  if (!directory.empty() && !createPrivateDirectory(directory)) {
-    throw SqliteError(SQLITE_CANTOPEN, directory.string() + ": " + std::generic_category().message(errno));
-  }
-  // SQLite would create it readable for others. Never opened when it exists: closing any descriptor of it
-  // would drop the locks that other connections of this process hold.
-  const int created = open(file_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-  if (created >= 0) close(created);
-}
-
-void IndexStore::prepareSchema() {
-  begin();
-  Statement version(*database_, "PRAGMA user_version");
-  version.step();
-  const auto found = version.integer(0);
-  version.bind();
-  if (found == indexVersion) {
-    database_->execute("ROLLBACK");
-    return;
-  }
-  if (found != 0) throw SqliteError(SQLITE_NOTADB, "version " + std::to_string(found));
+void IndexStore::createTables() {
+  begin(0);
   database_->execute(itemTable);
   database_->execute(tokenTable);
   database_->execute(("PRAGMA user_version=" + std::to_string(indexVersion)).c_str());
   commit();
+  // Now the file alone, without its log, is an index.
+  sqlite3_wal_checkpoint_v2(database_->handle(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
 }
 
-int IndexStore::waitWhileBusy(void* store, int attempt) {
-  if (attempt * busyPause >= busyLimit || static_cast<IndexStore*>(store)->abandoned_) return 0;
-  std::this_thread::sleep_for(busyPause);
-  return 1;
+IndexStore::~IndexStore() {
+  if (!unfinished_) return;
+  // What a failed transaction has written stays in the log, on a full disk all the room that was left. Once
+  // nothing else is in it, the log can be cut.
+  sqlite3_busy_handler(database_->handle(), nullptr, nullptr);
+  sqlite3_exec(database_->handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+  sqlite3_wal_checkpoint_v2(database_->handle(), nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr);
 }
 
 void IndexStore::continueUnlessAbandoned() const {
-  if (abandoned_) throw SqliteError(SQLITE_INTERRUPT, "the program ends");
+  if (wait_.abandoned()) throw SqliteError(SQLITE_INTERRUPT, "the program ends");
 }
 
-void IndexStore::begin() {
+void IndexStore::begin(std::size_t items) {
   continueUnlessAbandoned();
+  if (items >= manyItems) {
+    // Brings what the log holds into the file while there is room, so that the log can be cut after a
+    // failure.
+    sqlite3_wal_checkpoint_v2(database_->handle(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+  }
   database_->execute("BEGIN IMMEDIATE");
+  unfinished_ = true;
 }
 
 void IndexStore::commit() {
   database_->execute("COMMIT");
+  unfinished_ = false;
 }
 
 void IndexStore::add(const std::vector<SearchableItem>& items) {
@@ -157,12 +209,10 @@ void IndexStore::add(const std::vector<SearchableItem>& items) {
   for (const auto& identifier : identifiers) {
     continueUnlessAbandoned();
     const SearchableItem& item = *last.at(identifier);
-    const auto tab = item.title.find('\t');
-    const auto symbol = tab == std::string::npos ? std::nullopt : std::optional(item.title.substr(0, tab));
-    const auto name = lowercased(symbol ? item.title.substr(tab + 1) : item.title);
+    const auto name = lowercased(item.name());
     const auto keywords = packTexts(item.keywords);
     addItem.run(identifier, item.domainIdentifier, item.contentType, item.title, item.comment, item.genre,
-                keywords, symbol, name);
+                keywords, item.symbol, name);
     const auto tokens = indexTokens(item);
     addTokens.run(std::int64_t{sqlite3_last_insert_rowid(database_->handle())}, tokens);
   }
@@ -190,40 +240,6 @@ void IndexStore::clear() {
   // Quicker than deleting its rows one by one, and leaves nothing of them behind.
   database_->execute("DROP TABLE token");
   database_->execute(tokenTable);
-}
-
-void IndexStore::forsake() {
-  // On closing, SQLite would delete the write-ahead log by its name, which may be that of another file's now.
-  sqlite3_db_config(database_->handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
-}
-
-bool IndexStore::damaged(const std::filesystem::path& file, const SqliteError& error) {
-  if (error.code() != SQLITE_ERROR) {
-    return error.damage() || error.code() == SQLITE_CONSTRAINT || error.code() == SQLITE_MISMATCH;
-  }
-  try {
-    Database database(file, SQLITE_OPEN_READWRITE);
-    Statement item(database, "SELECT sql FROM sqlite_schema WHERE name = 'item'");
-    if (!item.step() || item.text(0) != itemTable) return true;
-    database.execute("INSERT INTO token(token) VALUES('integrity-check')");
-    return false;
-  } catch (const SqliteError& again) {
-    return again.damage() || again.code() == SQLITE_ERROR;
-  }
-}
-
-void IndexStore::empty(const std::filesystem::path& file, std::string_view reason) {
-  printDiagnostic("Search index emptied, its file cannot be used (" + std::string(reason) +
-                  "): " + file.string());
-  // In place and by SQLite itself, under its locks: other processes may have the file open.
-  Database database(file, SQLITE_OPEN_READWRITE);
-  sqlite3_busy_timeout(database.handle(), std::chrono::milliseconds(busyLimit).count());
-  // Makes SQLite notice the write-ahead log, whatever else it finds: else the reset would try to leave that
-  // mode, which it cannot while others have the file open.
-  sqlite3_table_column_metadata(database.handle(), nullptr, "sqlite_schema", nullptr, nullptr, nullptr,
-                                nullptr, nullptr, nullptr);
-  sqlite3_db_config(database.handle(), SQLITE_DBCONFIG_RESET_DATABASE, 1, nullptr);
-  database.execute("VACUUM");
 }
 
 }  // namespace glyph

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <atomic>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -9,13 +8,11 @@
 #include <string_view>
 #include <vector>
 
+#include "glyphorium/services/search_index/lock_wait.h"
 #include "glyphorium/services/search_index/searchable_index.h"
 #include "glyphorium/services/sqlite/sqlite.h"
 
 namespace glyph {
-
-/// The version that the index file carries as its user_version; 0 is a file without tables yet.
-inline constexpr std::int64_t indexVersion = 1;
 
 /// The index file in the application's data directory; nullopt where no home directory is known.
 std::optional<std::filesystem::path> defaultIndexFile();
@@ -24,47 +21,59 @@ std::optional<std::filesystem::path> defaultIndexFile();
 std::string packTexts(const std::vector<std::string>& texts);
 std::vector<std::string> unpackTexts(std::string_view packed);
 
-/// Which file a path names, to notice that it was deleted or replaced while it is open.
+/// The columns of the item table that itemOf() reads, in its order.
+#define GLYPHORIUM_ITEM_COLUMNS "uid, domain, content_type, title, comment, genre, keywords, symbol"
+SearchableItem itemOf(const Statement& row);
+
+/// Tells files apart that had the same path one after the other.
 struct FileIdentity {
   std::uint64_t device, inode;
   bool operator==(const FileIdentity&) const = default;
 };
-std::optional<FileIdentity> fileIdentity(const std::filesystem::path& file);
+/// The file that the path leads to; nullopt where there is none. Throws SqliteError for a FIFO, a device or a
+/// directory: SQLite would wait for ever until somebody writes into a FIFO. Opens nothing: to close any
+/// descriptor of a file takes all locks that the process holds on it.
+std::optional<FileIdentity> regularFile(const std::filesystem::path& file);
 
-/// The index file, open for writing. Throws SqliteError. Destroyed inside a transaction, it takes that back.
+/// Whether the open file is an index. False where it is empty, as a new one. Throws SqliteError for an index
+/// that a later version of this library has written, and with SQLITE_NOTADB for a database of others.
+bool isIndex(const Database& database);
+/// Whether the file's first page is that of an index. Unlike isIndex() this needs no room on the disk and no
+/// whole file. It takes all locks that the process holds on the file.
+bool beginsAsIndex(const std::filesystem::path& file);
+
+/// The index file, open for writing. Throws SqliteError. Not moved: it stays where it was made.
 class IndexStore {
  public:
-  /// Opens the file, or creates it, private to the user. A damaged file, or one of another version, is
-  /// emptied: it holds copies only. Once `abandoned` is true, operations end with an error instead of
-  /// waiting.
-  IndexStore(const std::filesystem::path& file, const std::atomic<bool>& abandoned);
+  /// Opens the file, or creates it with its directory, private to the user. The LockWait must outlive it.
+  IndexStore(std::filesystem::path file, LockWait& wait);
+  /// The same for a caller that holds the directory's lock.
+  IndexStore(std::filesystem::path file, LockWait& wait, const DirectoryLock& lock);
+  /// Inside a transaction, takes it back.
+  ~IndexStore();
+  IndexStore(const IndexStore&) = delete;
+  IndexStore& operator=(const IndexStore&) = delete;
 
-  void begin();
+  /// Begins the transaction that the other operations need. `items` is about how many it will change.
+  void begin(std::size_t items);
   void commit();
   void add(const std::vector<SearchableItem>& items);
   void remove(const std::vector<std::string>& identifiers);
   void clear();
 
-  /// Whether the path still names the open file.
-  bool inPlace() const { return fileIdentity(file_) == identity_; }
-  /// To be called when it does not: leaves alone what now stands at the path.
-  void forsake();
-  /// Whether the error shows that the file is damaged: those about its content do, for the statements are
-  /// known to be right. The general error does where the tables are not as they are created.
-  static bool damaged(const std::filesystem::path& file, const SqliteError& error);
-  /// Empties a damaged file, so that it can be opened again.
-  static void empty(const std::filesystem::path& file, std::string_view reason);
+  /// Whether the path still leads to the open file: another process may have deleted it or put it aside.
+  bool inPlace() const { return regularFile(file_) == identity_; }
 
  private:
-  static int waitWhileBusy(void* store, int attempt);
-  void prepareFile();
-  void prepareSchema();
+  void open(const DirectoryLock& lock);
+  void createTables();
   void continueUnlessAbandoned() const;
 
-  std::filesystem::path file_;
-  const std::atomic<bool>& abandoned_;
-  std::optional<Database> database_;
+  const std::filesystem::path file_;
+  LockWait& wait_;
   std::optional<FileIdentity> identity_;
+  std::optional<Database> database_;
+  bool unfinished_ = false;  // a transaction was begun and not committed
 };
 
 }  // namespace glyph

@@ -37,6 +37,10 @@ InPlace& inPlace() {
 
 }  // namespace
 
+std::string SearchableItem::name() const {
+  return title.starts_with(symbol + '\t') ? title.substr(symbol.size() + 1) : title;
+}
+
 SearchableIndex::~SearchableIndex() = default;
 
 std::shared_ptr<SearchableIndex> searchableIndex() {

@@ -19,10 +19,16 @@ struct SearchableItem {
   std::string uniqueIdentifier;  ///< the item's key: an item replaces the one before of the same identifier
   std::string domainIdentifier;
   std::string contentType;
-  std::string title;  ///< a symbol and its name, separated by a tab; without a tab it is all name
+  std::string title;  ///< a symbol, a tab and its name, or a name alone
   std::optional<std::string> comment;
   std::string genre;
   std::vector<std::string> keywords;
+  /// What the title begins with, before the tab; empty where the title is a name alone. The symbol may be a
+  /// tab itself, so the title alone does not tell where the symbol ends.
+  std::string symbol = {};
+
+  /// The title without the symbol and the tab behind it.
+  GLYPHORIUM_EXPORT std::string name() const;
 
   bool operator==(const SearchableItem&) const = default;
 };

@@ -10,66 +10,59 @@
 #include "glyphorium/services/search_index/index_tokens.h"
 
 namespace glyph {
-namespace {
-
-#define ITEM_COLUMNS "uid, domain, content_type, title, comment, genre, keywords"
-
-SearchableItem itemOf(const Statement& row) {
-  SearchableItem item;
-  item.uniqueIdentifier = row.text(0);
-  item.domainIdentifier = row.text(1);
-  item.contentType = row.text(2);
-  item.title = row.text(3);
-  if (!row.isNull(4)) item.comment = row.text(4);
-  item.genre = row.text(5);
-  item.keywords = unpackTexts(row.text(6));
-  return item;
-}
-
-}  // namespace
 
 class SearchableIndexReader::File {
  public:
   explicit File(std::optional<std::filesystem::path> path) : path_(std::move(path)) {}
 
-  // What `question` answers about the open file, else the empty answer.
+  // The question's answer about the open file; the empty answer where there is no file or it cannot be read.
   template <class Answer, class Question>
-  Answer ask(Question question) noexcept try {
-    if (!ready()) return {};
-    Answer answer = question(*database_);
-    reported_ = false;
-    return answer;
-  } catch (const std::exception& error) {
-    database_.reset();
-    if (!std::exchange(reported_, true)) {
-      printDiagnostic("Search index not readable (" + std::string(error.what()) + "): " + path_->string());
+  Answer ask(Question question) noexcept {
+    try {
+      error_.clear();
+      if (!ready()) return {};
+      Answer answer = question(*database_);
+      reported_ = false;
+      return answer;
+    } catch (const std::exception& error) {
+      database_.reset();
+      report(error);
     }
     return {};
   }
 
+  const std::string& error() const { return error_; }
+
  private:
+  void report(const std::exception& reason) noexcept {
+    try {
+      error_ = "no memory";  // short enough to need none
+      error_ = reason.what();
+      if (std::exchange(reported_, true)) return;
+      printDiagnostic("Search index not readable (" + error_ + "): " + path_->string());
+    } catch (const std::exception&) {  // then without a word
+    }
+  }
+
   bool ready() {
-    const auto identity = path_ ? fileIdentity(*path_) : std::nullopt;
+    const auto identity = path_ ? regularFile(*path_) : std::nullopt;
     if (!identity || identity != identity_) database_.reset();
     if (!identity) return false;
     if (database_) return true;
     identity_ = identity;
     database_.emplace(*path_, SQLITE_OPEN_READONLY);
-    // People wait for the answer as they type; writers never lock readers out for longer than a moment.
+    // People wait for the answer as they type; a writer locks readers out for a moment only.
     sqlite3_busy_timeout(database_->handle(), 500);
     sqlite3_db_config(database_->handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
-    Statement version(*database_, "PRAGMA user_version");
-    version.step();
-    const auto found = version.integer(0);
-    if (found == indexVersion) return true;
-    if (found != 0) throw SqliteError(SQLITE_NOTADB, "version " + std::to_string(found));
-    database_.reset();  // its writer has just created it
+    if (isIndex(*database_)) return true;
+    database_.reset();  // a writer has just created it
     return false;
   }
 
   std::optional<std::filesystem::path> path_;
   std::optional<FileIdentity> identity_;
   std::optional<Database> database_;
+  std::string error_;
   bool reported_ = false;
 };
 
@@ -79,6 +72,10 @@ SearchableIndexReader::SearchableIndexReader(std::filesystem::path file)
 SearchableIndexReader::~SearchableIndexReader() = default;
 SearchableIndexReader::SearchableIndexReader(SearchableIndexReader&&) noexcept = default;
 SearchableIndexReader& SearchableIndexReader::operator=(SearchableIndexReader&&) noexcept = default;
+
+const std::string& SearchableIndexReader::error() const {
+  return file_->error();
+}
 
 std::size_t SearchableIndexReader::count() {
   return file_->ask<std::size_t>([](const Database& database) {
@@ -90,7 +87,7 @@ std::size_t SearchableIndexReader::count() {
 
 std::optional<SearchableItem> SearchableIndexReader::item(std::string_view uniqueIdentifier) {
   return file_->ask<std::optional<SearchableItem>>([&](const Database& database) {
-    Statement find(database, "SELECT " ITEM_COLUMNS " FROM item WHERE uid = ?1");
+    Statement find(database, "SELECT " GLYPHORIUM_ITEM_COLUMNS " FROM item WHERE uid = ?1");
     return find.bind(uniqueIdentifier).step() ? std::optional(itemOf(find)) : std::nullopt;
   });
 }
@@ -100,7 +97,7 @@ std::vector<SearchableItem> SearchableIndexReader::search(std::string_view query
     std::vector<SearchableItem> found;
     const IndexQuery wanted = indexQuery(query);
     if (wanted.match.empty() || limit <= 0) return found;
-    Statement search(database, "SELECT " ITEM_COLUMNS
+    Statement search(database, "SELECT " GLYPHORIUM_ITEM_COLUMNS
                                " FROM token JOIN item ON item.id = token.rowid WHERE token MATCH ?1"
                                " ORDER BY CASE WHEN symbol = ?2 THEN 0 WHEN uid IN (?2, ?3) THEN 1"
                                " WHEN name = ?3 THEN 2 ELSE 3 END, length(name), length(uid), uid LIMIT ?4");

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,10 +14,11 @@
 
 namespace glyph {
 
-/// Reads the index file that a SqliteSearchableIndex writes, also in another process and meanwhile; it sees
-/// what is committed. A missing file is an empty index, and is looked for again on every question. One that
-/// is locked for long or damaged answers nothing and is reported once, until it answers again. Throws
-/// nothing. Used by one thread at a time.
+/// Reads the index file that a SqliteSearchableIndex writes, also while another process writes it; it sees
+/// what is committed. A missing file is an empty index, and is looked for again at every question. A file
+/// that cannot be read (locked for half a second, damaged, no index) gives empty answers; error() tells why,
+/// and a diagnostic line says so once until it can be read again. The questions throw nothing. Used by one
+/// thread at a time.
 class GLYPHORIUM_EXPORT SearchableIndexReader {
  public:
   /// The index of this application (applicationIdentifier()), or another file.
@@ -26,7 +28,12 @@ class GLYPHORIUM_EXPORT SearchableIndexReader {
   SearchableIndexReader(SearchableIndexReader&&) noexcept;
   SearchableIndexReader& operator=(SearchableIndexReader&&) noexcept;
 
+  /// Why the last question could not be answered, for people; empty where it was.
+  const std::string& error() const;
+
+  /// The number of items.
   std::size_t count();
+  /// The item of this identifier.
   std::optional<SearchableItem> item(std::string_view uniqueIdentifier);
 
   /// The items that hold every word of the query, which stands between white space, at the beginning of a

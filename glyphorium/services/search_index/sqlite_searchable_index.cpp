@@ -11,9 +11,11 @@
 #include <exception>
 #include <iterator>
 #include <list>
+#include <new>
 #include <thread>
 #include <utility>
 
+#include "glyphorium/services/search_index/index_repair.h"
 #include "glyphorium/services/search_index/index_store.h"
 
 namespace glyph {
@@ -44,14 +46,32 @@ void carryOut(const SearchableIndexRequest& request, IndexStore& store) {
 constexpr std::size_t batchRequests = 256;
 constexpr std::size_t batchItems = 20'000;
 
-void complete(const SearchableIndex::Completion& completion, Error error) noexcept {
+// The error's text; without memory for it, a short text that needs none.
+std::string text(const std::exception& error) noexcept {
   try {
-    if (completion) completion(std::move(error));
-  } catch (...) {  // the host's own; there is nobody here to tell
+    return error.what();
+  } catch (const std::bad_alloc&) {
+    return "no memory";
   }
 }
 
-// The host's signal handlers are to run on the host's threads, save those that a fault of this one raises.
+Error copied(const Error& error) noexcept {
+  try {
+    return error;
+  } catch (const std::bad_alloc&) {
+    return "no memory";
+  }
+}
+
+void complete(const SearchableIndex::Completion& completion, Error error) noexcept {
+  try {
+    if (completion) completion(std::move(error));
+  } catch (...) {  // an exception of the host's function, which nothing here can use
+  }
+}
+
+// Signals are left to the host's threads, where its handlers expect to run, but for those that a fault of
+// this thread raises.
 class BlockSignals {
  public:
   BlockSignals() {
@@ -72,8 +92,7 @@ class BlockSignals {
 
 }  // namespace
 
-// The queue and the thread. The thread shares its ownership, so that an index may be destroyed by a
-// completion.
+// The queue and the thread. The thread is one of its owners, so that a completion may destroy the index.
 class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker> {
  public:
   explicit Worker(std::optional<std::filesystem::path> file) : file_(std::move(file)) {}
@@ -86,7 +105,7 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
       pending_.requests += 1;
       pending_.items += queue_.back().items();
     } catch (const std::exception& error) {  // no thread or no memory; the request is as it was
-      complete(request.completion, error.what());
+      complete(request.completion, text(error));
       return;
     }
     arrived_.notify_one();
@@ -121,7 +140,7 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
     {
       const std::lock_guard lock(mutex_);
       ending_ = true;
-      abandoned_ = !byCompletion;
+      if (!byCompletion) wait_.abandon();
     }
     arrived_.notify_one();
     if (!thread_.joinable()) return;
@@ -159,12 +178,20 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
 
   void finish(std::list<Request>& batch) {
     int code = SQLITE_OK;
-    const Error all = perform(batch.begin(), batch.end(), code);
-    // A request that fails takes none of its neighbours with it; what another process holds up, it holds up
-    // for all of them.
-    const bool oneByOne = all && batch.size() > 1 && code != SQLITE_BUSY;
+    wait_.renew(file_.value_or(""));
+    Error all = perform(batch.begin(), batch.end(), code);
+    const bool forAll = code == SQLITE_BUSY || code == SQLITE_FULL;
+    if (forAll) {
+      // A lock that is not free in time and a full disk fail all requests that wait: else the next would wait
+      // as long again, or fill the disk to the last byte.
+      const std::lock_guard lock(mutex_);
+      batch.splice(batch.end(), queue_);
+    }
+    // A request that fails takes none of its neighbours with it.
+    const bool oneByOne = all && batch.size() > 1 && !forAll;
     for (auto request = batch.begin(); request != batch.end(); ++request) {
-      complete(request->completion, oneByOne ? perform(request, std::next(request), code) : all);
+      if (oneByOne) all = perform(request, std::next(request), code);
+      complete(request->completion, copied(all));
       const auto items = request->items();
       *request = {};  // the host's captures end before the request counts as done
       const std::lock_guard lock(mutex_);
@@ -177,37 +204,56 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
   using Position = std::list<Request>::iterator;
 
   // Carries the requests out in one transaction. After an error the file is closed, which takes the
-  // transaction back, and opened again by the next request: whatever was wrong may have passed.
-  Error perform(Position begin, Position end, int& code) noexcept try {
-    if (!file_) return "no home directory is known";
+  // transaction back, and opened again by the next request: the cause may have passed.
+  Error perform(Position begin, Position end, int& code) noexcept {
+    std::string reason;
     try {
-      performOrThrow(begin, end);
+      if (!file_) return "no home directory";
+      if (performAndRepair(begin, end)) return std::nullopt;
+      reason = "its file is replaced all the time";
+      code = SQLITE_BUSY;
     } catch (const SqliteError& error) {
-      store_.reset();
-      if (!IndexStore::damaged(*file_, error)) throw;
-      IndexStore::empty(*file_, error.what());
-      performOrThrow(begin, end);
+      code = error.code();
+      reason = text(error);
+    } catch (const std::exception& error) {
+      code = SQLITE_ERROR;
+      reason = text(error);
     }
-    return std::nullopt;
-  } catch (const SqliteError& error) {
     store_.reset();
-    code = error.code();
-    return error.what();
-  } catch (const std::exception& error) {
-    store_.reset();
-    code = SQLITE_ERROR;
-    return error.what();
+    return reason;
   }
 
-  void performOrThrow(Position begin, Position end) {
-    if (store_ && !store_->inPlace()) {
-      store_->forsake();
-      store_.reset();
+  // False where other processes put the file aside again and again.
+  bool performAndRepair(Position begin, Position end) {
+    for (int attempt = 0; attempt < 4; ++attempt) {
+      try {
+        if (performOnce(begin, end)) return true;
+      } catch (const SqliteError& error) {
+        store_.reset();
+        const bool full = error.code() == SQLITE_FULL || error.code() == SQLITE_IOERR;
+        const bool deletesAll = begin->what.kind == SearchableIndexRequest::Kind::deleteAllItems;
+        if (full && deletesAll && std::next(begin) == end) {
+          deleteIndex(*file_, wait_);
+          return true;
+        }
+        if (attempt > 0 || !mayBeDamage(error)) throw;
+        repairIndex(*file_, wait_);
+      }
     }
-    if (!store_) store_.emplace(*file_, abandoned_);
-    store_->begin();
+    return false;
+  }
+
+  // False where the file was put aside or deleted meanwhile: what was written to it is lost.
+  bool performOnce(Position begin, Position end) {
+    if (store_ && !store_->inPlace()) store_.reset();
+    if (!store_) store_.emplace(*file_, wait_);
+    std::size_t items = 0;
+    for (auto request = begin; request != end; ++request) items += request->items();
+    store_->begin(items);
+    if (!store_->inPlace()) return false;
     for (auto request = begin; request != end; ++request) carryOut(request->what, *store_);
     store_->commit();
+    return store_->inPlace();
   }
 
   std::mutex mutex_;
@@ -216,11 +262,11 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
   std::list<Request> queue_;
   PendingIndexWork pending_;
   bool ending_ = false;
-  std::atomic<bool> abandoned_ = false;
+  LockWait wait_;
   std::optional<std::filesystem::path> file_;
   std::atomic<pid_t> process_ = getpid();
   std::thread thread_;
-  std::optional<IndexStore> store_;  // the thread's own
+  std::optional<IndexStore> store_;  // used by the thread alone
 };
 
 SqliteSearchableIndex::SqliteSearchableIndex(std::optional<std::filesystem::path> file)

@@ -10,10 +10,13 @@
 
 namespace glyph {
 
-/// The index as a file of the application's own, which the desktop search provider reads in its process
+/// The index as a file of the application, which the desktop search provider reads in its own process
 /// (SearchableIndexReader). One thread, started by the first request, carries the requests out; requests that
 /// wait together share a transaction, and a completion is called only after its commit. Several processes of
-/// the application may write. A damaged file is emptied, which the diagnostics say.
+/// the application may write. Requests wait for locks of other processes for five seconds at most, then they
+/// fail; a diagnostic line says so after one second. A damaged file is put aside under another name, what can
+/// be read of it is kept, and a diagnostic line says so. A file that a later version has written, and one
+/// behind a symbolic link that is no index, are left alone: every request fails.
 /// Not to be used in a child process made by fork without exec.
 class GLYPHORIUM_EXPORT SqliteSearchableIndex final : public SearchableIndex {
  public:

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/services/search_index/index_repair.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <map>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+#include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/services/search_index/index_store.h"
+
+namespace glyph {
+namespace {
+
+namespace fs = std::filesystem;
+
+// What SQLite keeps beside a database. The file itself is the last, so that a process that is killed between
+// two of them leaves a damaged file in its place, which the next one finds again.
+constexpr const char* suffixes[] = {"-journal", "-wal", "-shm", ""};
+
+fs::path withSuffix(fs::path file, std::string_view suffix) {
+  return file += suffix;
+}
+
+[[noreturn]] void failBySystem(const fs::path& file) {
+  throw SqliteError(SQLITE_IOERR, file.string() + ": " + std::generic_category().message(errno));
+}
+
+// A symbolic link may lead to a file of somebody else's, of which this program knows nothing but that it is
+// no index.
+void refuseLink(const fs::path& file, std::string_view why) {
+  if (!fs::is_symlink(fs::symlink_status(file))) return;
+  throw SqliteError(SQLITE_CANTOPEN,
+                    std::string(why) + "; it is left alone, since " + file.string() + " is a symbolic link");
+}
+
+// What is wrong with the file, empty where nothing is. Unless the file is so damaged that nobody can, leaves
+// a transaction open: other processes that wait to write see in theirs that the file is not in place any
+// more.
+std::string damageOf(Database& database) try {
+  database.execute("BEGIN IMMEDIATE");
+  if (!isIndex(database)) return {};
+  Statement check(database, "PRAGMA integrity_check(1)");
+  check.step();
+  if (check.text(0) != "ok") return check.text(0);
+  database.execute("INSERT INTO token(token) VALUES('integrity-check')");
+  return {};
+} catch (const SqliteError& error) {
+  if (!mayBeDamage(error)) throw;
+  return error.what();
+}
+
+// The items that can be read, from the first one up to the damage and from the last one back to it.
+std::map<std::int64_t, SearchableItem> readableItems(const Database& database) {
+  std::map<std::int64_t, SearchableItem> items;
+  for (const char* const select : {"SELECT " GLYPHORIUM_ITEM_COLUMNS ", id FROM item ORDER BY id",
+                                   "SELECT " GLYPHORIUM_ITEM_COLUMNS ", id FROM item ORDER BY id DESC"}) {
+    try {
+      Statement row(database, select);
+      while (row.step()) {
+        SearchableItem item = itemOf(row);
+        if (packTexts(item.keywords) != row.text(6)) continue;  // not as it was written
+        // Pages that refer to each other would never come to an end.
+        if (!items.try_emplace(row.integer(8), std::move(item)).second) break;
+      }
+    } catch (const SqliteError&) {  // the damage, or no such table
+    }
+  }
+  return items;
+}
+
+fs::path putAside(const fs::path& file) {
+  auto aside = withSuffix(file, ".damaged");
+  for (int number = 2; fs::exists(fs::symlink_status(aside)); ++number) {
+    aside = withSuffix(file, ".damaged" + std::to_string(number));
+  }
+  for (const char* const suffix : suffixes) {
+    const auto from = withSuffix(file, suffix), to = withSuffix(aside, suffix);
+    if (rename(from.c_str(), to.c_str()) != 0 && errno != ENOENT) failBySystem(from);
+  }
+  return aside;
+}
+
+std::string repaired(const fs::path& file, LockWait& wait) {
+  const DirectoryLock lock(file, wait);
+  if (!regularFile(file)) return {};
+  std::string line;
+  std::vector<SearchableItem> kept;
+  {
+    Database database(file, SQLITE_OPEN_READWRITE);
+    sqlite3_busy_handler(database.handle(), LockWait::whileBusy, &wait);
+    sqlite3_db_config(database.handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    const std::string damage = damageOf(database);
+    if (damage.empty()) return {};
+    refuseLink(file, damage);
+    for (auto& [id, item] : readableItems(database)) kept.push_back(std::move(item));
+    line = "Search index put aside as " + putAside(file).string() + " (" + damage + "), ";
+  }
+  try {
+    IndexStore store(file, wait, lock);
+    store.begin(kept.size());
+    store.add(kept);
+    store.commit();
+    return line + std::to_string(kept.size()) + " characters of it kept";
+  } catch (const SqliteError& error) {
+    return line + "nothing of it kept: " + error.what();
+  }
+}
+
+}  // namespace
+
+bool mayBeDamage(const SqliteError& error) {
+  return error.damage() || error.code() == SQLITE_ERROR || error.code() == SQLITE_CONSTRAINT ||
+         error.code() == SQLITE_MISMATCH;
+}
+
+void repairIndex(const fs::path& file, LockWait& wait) {
+  // Said without the lock: the sink is the host's code.
+  if (const std::string line = repaired(file, wait); !line.empty()) printDiagnostic(line);
+}
+
+void deleteIndex(const fs::path& file, LockWait& wait) {
+  const DirectoryLock lock(file, wait);
+  if (!regularFile(file)) return;
+  refuseLink(file, "the disk is full");
+  if (!beginsAsIndex(file)) throw SqliteError(SQLITE_NOTADB, file.string() + " is no search index");
+  for (const char* const suffix : suffixes) {
+    const auto each = withSuffix(file, suffix);
+    if (unlink(each.c_str()) != 0 && errno != ENOENT) failBySystem(each);
+  }
+}
+
+}  // namespace glyph

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/services/search_index/lock_wait.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <string>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+#include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/services/sqlite/sqlite.h"
+
+namespace glyph {
+namespace {
+
+using std::chrono::steady_clock;
+using namespace std::chrono_literals;
+
+constexpr auto limit = 5s;
+constexpr auto longWait = 1s;
+constexpr auto oncePause = 5ms;
+
+}  // namespace
+
+void LockWait::renew(std::filesystem::path file) {
+  file_ = std::move(file);
+  since_.reset();
+  told_ = false;
+}
+
+bool LockWait::pause() noexcept {
+  if (abandoned_) return false;
+  const auto now = steady_clock::now();
+  if (!since_) since_ = now;
+  if (now - *since_ >= limit) return false;
+  if (now - *since_ >= longWait && !std::exchange(told_, true)) {
+    try {
+      printDiagnostic("Waiting for another program that has locked the search index: " + file_.string());
+    } catch (const std::bad_alloc&) {  // then without a word
+    }
+  }
+  std::this_thread::sleep_for(oncePause);
+  return true;
+}
+
+DirectoryLock::DirectoryLock(const std::filesystem::path& file, LockWait& wait) {
+  auto directory = file.parent_path();
+  if (directory.empty()) directory = ".";
+  const auto fail = [&](int code, int error) {
+    throw SqliteError(code, directory.string() + ": " + std::generic_category().message(error));
+  };
+  descriptor_ = open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor_ < 0) fail(SQLITE_CANTOPEN, errno);
+  while (flock(descriptor_, LOCK_EX | LOCK_NB) != 0) {
+    const int error = errno;
+    // Some network file systems have no such locks: there SQLite's own must do.
+    if (error != EWOULDBLOCK && error != EINTR) return;
+    if (wait.pause()) continue;
+    close(descriptor_);
+    fail(SQLITE_BUSY, EWOULDBLOCK);
+  }
+}
+
+DirectoryLock::~DirectoryLock() {
+  close(descriptor_);
+}
+
+}  // namespace glyph
