@@ -2,7 +2,6 @@
 // The decoding of tables beside a second reading of the same text, by another JSON library and a plain
 // repair.
 #include <algorithm>
-#include <cmath>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
@@ -20,18 +19,30 @@ using fuzzing::require;
 using nlohmann::json;
 using Type = json::value_t;
 
-// What the two libraries take differently by design, and ours is free to refuse: whole numbers beyond 64 bits
-// (the other rounds them), more than 1,000 levels of nesting, and a byte order mark (the other skips it).
+// What the other library takes and ours is free to refuse: more than 1,000 levels of nesting, and a byte
+// order mark.
 bool differsByDesign(std::string_view text) {
   bool found = text.starts_with("\xEF\xBB\xBF");
-  const auto look = [&](int depth, json::parse_event_t event, json& value) {
+  const auto look = [&](int depth, json::parse_event_t event, json&) {
     using Event = json::parse_event_t;
     if (event == Event::object_start || event == Event::array_start) found |= depth >= 1000;
-    if (event == Event::value && value.is_number_float()) found |= std::abs(value.get<double>()) >= 0x1p63;
     return true;
   };
   static_cast<void>(json::parse(text, look, /*allow_exceptions=*/false));
   return found;
+}
+
+// Whether the other library refuses the text because of a number beyond the range of floating point, which
+// ours ignores in keys that it does not know.
+bool holdsHugeNumber(std::string_view text) {
+  try {
+    static_cast<void>(json::parse(text));
+    return false;
+  } catch (const json::out_of_range&) {
+    return true;
+  } catch (const json::exception&) {
+    return false;
+  }
 }
 
 // The text's value. Ours takes the first of duplicate keys, the other the last: here the later ones are left
@@ -115,7 +126,8 @@ void compare(const std::optional<std::vector<Record>>& ours, std::string_view te
     for (const Record& record : records) array += (array.size() > 1 ? "," : "") + glyph::encode(record);
     return array + "]";
   };
-  require(json::parse(encoded(*ours)) == expected, "the table reads as by the other library");
+  require(json::parse(encoded(*ours)) == expected || holdsHugeNumber(text),
+          "the table reads as by the other library");
   const auto again = glyph::decodeOrReport<Record>(encoded(*ours));
   require(again && encoded(*again) == encoded(*ours), "what was decoded can be encoded and decoded");
 }

@@ -21,12 +21,6 @@
 namespace glyph {
 namespace {
 
-// Only white space separates tokens: by default the tokenizer drops symbols, and characters newer than its
-// tables. What else is to be a token of its own, indexTokens() splits off.
-constexpr const char* tokenTable =
-    "CREATE VIRTUAL TABLE token USING fts5(tok, detail=none, prefix='1 2 3',"
-    " tokenize=\"unicode61 remove_diacritics 0 categories 'L* M* N* P* S* Co Cf Cn'\")";
-
 // The symbol and the name (in lower case) are the title's parts, by which answers are ordered. An identifier
 // is unique by itself, since items are replaced and deleted by it alone.
 constexpr const char* itemTable =

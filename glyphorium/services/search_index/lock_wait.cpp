@@ -26,8 +26,8 @@ constexpr auto oncePause = 5ms;
 
 }  // namespace
 
-void LockWait::renew(std::filesystem::path file) {
-  file_ = std::move(file);
+void LockWait::renew(const std::filesystem::path& file) noexcept {
+  file_ = &file;
   since_.reset();
   told_ = false;
 }
@@ -39,7 +39,7 @@ bool LockWait::pause() noexcept {
   if (now - *since_ >= limit) return false;
   if (now - *since_ >= longWait && !std::exchange(told_, true)) {
     try {
-      printDiagnostic("Waiting for another program that has locked the search index: " + file_.string());
+      printDiagnostic("Waiting for another program that has locked the search index: " + file_->string());
     } catch (const std::bad_alloc&) {  // then without a word
     }
   }

@@ -12,8 +12,8 @@ namespace glyph {
 /// locks it needs. A diagnostic line says so once it has waited for a second.
 class LockWait {
  public:
-  /// Gives the next batch the whole time again. The file is the one that the diagnostic line names.
-  void renew(std::filesystem::path file);
+  /// Gives the next batch the whole time again. The diagnostic line names the file, which must outlive this.
+  void renew(const std::filesystem::path& file) noexcept;
   /// Sleeps for a moment. False without sleeping once the time is over or abandon() was called.
   bool pause() noexcept;
   /// The form of pause() that sqlite3_busy_handler() takes, with the LockWait as its first argument.
@@ -24,7 +24,7 @@ class LockWait {
   bool abandoned() const { return abandoned_; }
 
  private:
-  std::filesystem::path file_;
+  const std::filesystem::path* file_ = nullptr;
   std::optional<std::chrono::steady_clock::time_point> since_;  // the first pause of the batch
   bool told_ = false;
   std::atomic<bool> abandoned_ = false;

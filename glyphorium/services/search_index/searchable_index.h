@@ -33,10 +33,10 @@ struct SearchableItem {
   bool operator==(const SearchableItem&) const = default;
 };
 
-/// What an index has been given and not carried out yet.
+/// The requests that an index was given and has not carried out yet.
 struct PendingIndexWork {
   std::size_t requests = 0;
-  std::size_t items = 0;  ///< items and identifiers in those requests
+  std::size_t items = 0;  ///< the items and identifiers in those requests
 
   bool operator==(const PendingIndexWork&) const = default;
 };
@@ -59,9 +59,9 @@ class GLYPHORIUM_EXPORT SearchableIndex {
   /// Deletes every item of the application.
   virtual void deleteAllItems(Completion completion) = 0;
 
-  /// For programs that must not end before their requests are carried out: waits until all are, at the
-  /// longest `limit`, and tells `progress` on the calling thread what is left, first at once and then on
-  /// changes. True where nothing is left.
+  /// Waits until all requests are carried out, for `limit` at most: for programs that must not end before.
+  /// Calls `progress` on the calling thread with the work that is left, once at the beginning and then
+  /// whenever it has changed. True where nothing is left.
   virtual bool waitUntilIdle(std::chrono::milliseconds limit, const Progress& progress = {}) = 0;
 };
 
@@ -72,7 +72,7 @@ GLYPHORIUM_EXPORT std::shared_ptr<SearchableIndex> searchableIndex();
 /// Puts the host's index in place; null goes back to the default.
 GLYPHORIUM_EXPORT void setSearchableIndex(std::shared_ptr<SearchableIndex> replacement);
 
-/// What a MemorySearchableIndex was asked for.
+/// A request that a MemorySearchableIndex was given.
 struct SearchableIndexRequest {
   enum class Kind { indexItems, deleteItems, deleteAllItems };
 

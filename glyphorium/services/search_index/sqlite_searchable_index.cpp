@@ -178,7 +178,7 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
 
   void finish(std::list<Request>& batch) {
     int code = SQLITE_OK;
-    wait_.renew(file_.value_or(""));
+    if (file_) wait_.renew(*file_);
     Error all = perform(batch.begin(), batch.end(), code);
     const bool forAll = code == SQLITE_BUSY || code == SQLITE_FULL;
     if (forAll) {
@@ -225,6 +225,7 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
 
   // False where other processes put the file aside again and again.
   bool performAndRepair(Position begin, Position end) {
+    bool repaired = false;
     for (int attempt = 0; attempt < 4; ++attempt) {
       try {
         if (performOnce(begin, end)) return true;
@@ -236,7 +237,7 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
           deleteIndex(*file_, wait_);
           return true;
         }
-        if (attempt > 0 || !mayBeDamage(error)) throw;
+        if (std::exchange(repaired, true) || !mayBeDamage(error)) throw;
         repairIndex(*file_, wait_);
       }
     }
@@ -257,8 +258,8 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
   }
 
   std::mutex mutex_;
-  std::condition_variable arrived_;  // a request, or the end
-  std::condition_variable changed_;  // pending_ did
+  std::condition_variable arrived_;  // a request has come, or the end
+  std::condition_variable changed_;  // pending_ has changed
   std::list<Request> queue_;
   PendingIndexWork pending_;
   bool ending_ = false;

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+// The words of the search index, in an index in memory: whatever an item is named, its name finds it, and
+// whatever people type is an answer, no error. The first line of the input is what they type, the second a
+// symbol, the third a name.
+#include <algorithm>
+#include <cstdint>
+#include <exception>
+#include <string>
+#include <string_view>
+
+#include "fuzz/require.h"
+#include "glyphorium/services/search_index/index_store.h"
+#include "glyphorium/services/search_index/index_tokens.h"
+#include "glyphorium/text/unicode_text.h"
+
+namespace {
+
+using fuzzing::require;
+
+class MemoryIndex {
+ public:
+  MemoryIndex() : database_(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE) {
+    database_.execute(glyph::tokenTable);
+    add_.emplace(database_, "INSERT INTO token(rowid, tok) VALUES(1, ?1)");
+    remove_.emplace(database_, "DELETE FROM token");
+    find_.emplace(database_, "SELECT count(*) FROM token WHERE token MATCH ?1");
+  }
+  void hold(const std::string& tokens) {
+    remove_->run();
+    add_->run(tokens);
+  }
+  bool finds(const glyph::IndexQuery& query) {
+    if (query.match.empty()) return false;
+    find_->bind(query.match).step();
+    const bool found = find_->integer(0) > 0;
+    find_->bind(query.match);
+    return found;
+  }
+
+ private:
+  glyph::Database database_;
+  std::optional<glyph::Statement> add_, remove_, find_;
+};
+
+std::string_view line(std::string_view& text) {
+  const std::string_view first = text.substr(0, text.find('\n'));
+  text.remove_prefix(std::min(first.size() + 1, text.size()));
+  return first;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static MemoryIndex index;
+  std::string_view text(reinterpret_cast<const char*>(data), size);
+  const std::string_view typed = line(text), symbol = line(text), name = text;
+  glyph::SearchableItem item;
+  item.symbol = symbol;
+  item.title = item.symbol + "\t" + std::string(name);
+  item.keywords = {item.symbol, std::string(name), "qv:", "qv: ", "entity"};
+  require(item.name() == name, "an item has its name");
+  require(glyph::unpackTexts(glyph::packTexts(item.keywords)) == item.keywords, "keywords are read back");
+  glyph::unpackTexts(text);
+
+  const std::string tokens = glyph::indexTokens(item);
+  require(glyph::isWellFormedUtf8(tokens), "tokens are well-formed");
+  index.hold(tokens);
+  for (const std::string& query :
+       {std::string(typed), std::string(name), "qv:" + std::string(name), item.symbol, item.title}) {
+    const glyph::IndexQuery wanted = glyph::indexQuery(query);
+    require(glyph::isWellFormedUtf8(wanted.match), "an expression is well-formed");
+    require(wanted.exact.empty() || !wanted.match.empty(), "words are asked for");
+    require(wanted.lowered == glyph::lowercased(wanted.exact), "the lowered text is that of the exact one");
+    const bool found = index.finds(wanted);
+    require(query == typed || wanted.match.empty() || found, "an item is found by its texts");
+  }
+  return 0;
+}
