@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Name completion beside a plain search for the code in the decoded name table. A line of the input is a
 // record: its hex code, and after a blank its name and whether it is in the private use area.
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -9,7 +10,7 @@
 
 #include "fuzz/require.h"
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/state/structured_unicodes.h"
 #include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
@@ -20,6 +21,7 @@ using Records = std::vector<glyph::ComputedEntity>;
 
 const glyph::RawUnicodeEntity* entryOf(std::string_view hex) {
   static const auto* const entries = [] {
+    glyph::loadStructuredUnicodes();
     auto* const map = new std::unordered_map<std::string, const glyph::RawUnicodeEntity*>;
     for (const auto& entry : glyph::structuredUnicodes())
       map->try_emplace(glyph::lowercased(entry.hex), &entry);
