@@ -262,6 +262,11 @@ TEST(SearchableIndex, LeavesAloneWhatIsNotItsOwn) {
                {"later version", [&] { execute(foreign, "CREATE TABLE item(id); PRAGMA user_version=2"); }},
                {"later version", [&] { execute(file, "CREATE TABLE item(id); PRAGMA user_version=2"); }},
                {"no regular file", [&] { mkfifo(file.c_str(), 0600); }},
+               {"no regular file",
+                [&] {
+                  execute(file, "CREATE TABLE item(id)");
+                  mkfifo((file.string() + "-journal").c_str(), 0600);
+                }},
                {"no regular file", [&] { std::filesystem::create_directory(file); }},
                {"no regular file", [&] { std::filesystem::create_symlink("/dev/zero", file); }}};
   for (const auto& [expected, make] : cases) {
@@ -323,7 +328,6 @@ TEST(SearchableIndex, TellsTheCompletionWhatTheDiskRefused) {
   EXPECT_EQ(reader.count(), 0u);
   EXPECT_EQ(indexAndWait(index, {glyphItem("2", "→", "Arrow")}), "");
   EXPECT_EQ(reader.count(), 1u);
-
 }
 
 TEST(SearchableIndex, WaitsForALockOnceForAllRequests) {

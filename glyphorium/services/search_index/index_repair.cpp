@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -13,6 +14,7 @@
 
 #include "glyphorium/services/diagnostics/diagnostics.h"
 #include "glyphorium/services/search_index/index_store.h"
+#include "glyphorium/text/unicode_text.h"
 
 namespace glyph {
 namespace {
@@ -56,20 +58,27 @@ std::string damageOf(Database& database) try {
 }
 
 // The items that can be read, from the first one up to the damage and from the last one back to it.
-std::map<std::int64_t, SearchableItem> readableItems(const Database& database) {
-  std::map<std::int64_t, SearchableItem> items;
-  for (const char* const select : {"SELECT " GLYPHORIUM_ITEM_COLUMNS ", id FROM item ORDER BY id",
-                                   "SELECT " GLYPHORIUM_ITEM_COLUMNS ", id FROM item ORDER BY id DESC"}) {
+std::vector<SearchableItem> readableItems(const Database& database) {
+  std::map<std::int64_t, std::optional<SearchableItem>> rows;
+  for (const char* const select :
+       {"SELECT " GLYPHORIUM_ITEM_COLUMNS ", name, id FROM item ORDER BY id",
+        "SELECT " GLYPHORIUM_ITEM_COLUMNS ", name, id FROM item ORDER BY id DESC"}) {
     try {
       Statement row(database, select);
       while (row.step()) {
+        const auto [place, isNew] = rows.try_emplace(row.integer(9));
+        if (!isNew) break;  // damaged pages may refer to each other without end
         SearchableItem item = itemOf(row);
-        if (packTexts(item.keywords) != row.text(6)) continue;  // not as it was written
-        // Pages that refer to each other would never come to an end.
-        if (!items.try_emplace(row.integer(8), std::move(item)).second) break;
+        const bool asWritten =
+            packTexts(item.keywords) == row.text(6) && lowercased(item.name()) == row.text(8);
+        if (asWritten) place->second = std::move(item);
       }
     } catch (const SqliteError&) {  // the damage, or no such table
     }
+  }
+  std::vector<SearchableItem> items;
+  for (auto& [id, item] : rows) {
+    if (item) items.push_back(*std::move(item));
   }
   return items;
 }
@@ -92,13 +101,13 @@ std::string repaired(const fs::path& file, LockWait& wait) {
   std::string line;
   std::vector<SearchableItem> kept;
   {
-    Database database(file, SQLITE_OPEN_READWRITE);
+    Database database = openIndexFile(file, SQLITE_OPEN_READWRITE);
     sqlite3_busy_handler(database.handle(), LockWait::whileBusy, &wait);
     sqlite3_db_config(database.handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     const std::string damage = damageOf(database);
     if (damage.empty()) return {};
     refuseLink(file, damage);
-    for (auto& [id, item] : readableItems(database)) kept.push_back(std::move(item));
+    kept = readableItems(database);
     line = "Search index put aside as " + putAside(file).string() + " (" + damage + "), ";
   }
   try {

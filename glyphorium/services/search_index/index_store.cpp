@@ -86,6 +86,11 @@ std::optional<FileIdentity> regularFile(const std::filesystem::path& file) {
   return FileIdentity{status.st_dev, status.st_ino};
 }
 
+Database openIndexFile(const std::filesystem::path& file, int flags) {
+  for (const char* const suffix : {"-journal", "-wal", "-shm"}) regularFile(file.string() + suffix);
+  return Database(file, flags);
+}
+
 bool isIndex(const Database& database) {
   // In one statement, which sees either nothing or all of what another process creates just now.
   Statement look(
@@ -128,7 +133,7 @@ void IndexStore::open(const DirectoryLock&) {
     if (created >= 0) close(created);
     identity_ = regularFile(file_);
   }
-  database_.emplace(file_, SQLITE_OPEN_READWRITE);
+  database_ = openIndexFile(file_, SQLITE_OPEN_READWRITE);
   sqlite3_busy_handler(database_->handle(), LockWait::whileBusy, &wait_);
   const bool isNew = !isIndex(*database_);  // before anything is written: it may be somebody else's
   for (;;) {

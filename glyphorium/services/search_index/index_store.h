@@ -35,6 +35,10 @@ struct FileIdentity {
 /// descriptor of a file takes all locks that the process holds on it.
 std::optional<FileIdentity> regularFile(const std::filesystem::path& file);
 
+/// Opens the file. Throws SqliteError, also where SQLite's own files beside it (the log) are no regular
+/// files.
+Database openIndexFile(const std::filesystem::path& file, int flags);
+
 /// Whether the open file is an index. False where it is empty, as a new one. Throws SqliteError for an index
 /// that a later version of this library has written, and with SQLITE_NOTADB for a database of others.
 bool isIndex(const Database& database);

@@ -50,7 +50,7 @@ class SearchableIndexReader::File {
     if (!identity) return false;
     if (database_) return true;
     identity_ = identity;
-    database_.emplace(*path_, SQLITE_OPEN_READONLY);
+    database_ = openIndexFile(*path_, SQLITE_OPEN_READONLY);
     // People wait for the answer as they type; a writer locks readers out for a moment only.
     sqlite3_busy_timeout(database_->handle(), 500);
     sqlite3_db_config(database_->handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
