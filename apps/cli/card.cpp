@@ -84,14 +84,19 @@ std::string entityJson(const Entity& entity) {
 }
 
 void printJsonArray(Output& output, const std::vector<std::string>& objects) {
-  if (objects.empty()) {
-    output.printLine("[]");
-    return;
-  }
-  for (const std::string& object : objects) {
-    output.print((&object == &objects.front() ? "[" : ",\n ") + object);
-  }
-  output.printLine("]");
+  JsonArray array(output);
+  for (const std::string& object : objects) array.add(object);
+  array.end();
+}
+
+void JsonArray::add(const std::string& object) {
+  output_.print(empty_ ? "[" : ",\n ");
+  output_.print(output_.onTerminal() ? escapedJson(object) : object);
+  empty_ = false;
+}
+
+void JsonArray::end() {
+  output_.printLine(empty_ ? "[]" : "]");
 }
 
 }  // namespace cli

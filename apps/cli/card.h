@@ -21,6 +21,18 @@ void printCard(Output& output, const std::vector<glyph::Entity>& entitiesOfOneCh
 /// The JSON object of an entity: the record's own fields, `name`, and its enrichment under `additional`.
 std::string entityJson(const glyph::Entity& entity);
 
+/// Prints a JSON array of objects, one a line, as they come.
+class JsonArray {
+ public:
+  explicit JsonArray(Output& output) : output_(output) {}
+  void add(const std::string& object);
+  void end();
+
+ private:
+  Output& output_;
+  bool empty_ = true;
+};
+
 /// A JSON array of objects, one a line.
 void printJsonArray(Output& output, const std::vector<std::string>& objects);
 

@@ -43,6 +43,7 @@ int addToIndex(Output& output, const std::vector<std::string>& arguments, bool a
 int removeFromIndex(Output& output, const std::vector<std::string>& arguments, bool all);
 int searchIndex(Output& output, const std::vector<std::string>& words, int limit, bool json);
 int enableIndex(Output& output, bool enable);
+int desktopSearchScope(Output& output, const std::string& scope);  // "all", "mine"; empty: prints it
 
 // The embedded data as it stands.
 int listNames(Output& output, const std::vector<std::string>& hexCodes, bool json);

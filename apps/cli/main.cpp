@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The command line's grammar. What a command does stands in the file that commands.h names for it.
 #include <CLI/CLI.hpp>
+#include <cerrno>
+#include <csignal>
 #include <functional>
+#include <sstream>
+#include <system_error>
 
 #include "commands.h"
 #include "glyphorium/text/unicode_text.h"
@@ -184,6 +188,13 @@ void addIndexing(CLI::App& app, Options& options, Run& run) {
     };
   });
 
+  CLI::App* const scope =
+      index->add_subcommand("scope", "What the desktop's search shows: all characters or only yours");
+  scope->add_option("SCOPE", options.word, "all, or mine: what you added and what is in an index")
+      ->check(CLI::IsMember({"all", "mine"}));
+  scope->callback(
+      [&] { run = [&](cli::Output& output) { return cli::desktopSearchScope(output, options.word); }; });
+
   CLI::App* const enable = index->add_subcommand("enable", "Index the characters that you add");
   enable->callback([&] { run = [&](cli::Output& output) { return cli::enableIndex(output, true); }; });
   CLI::App* const disable = index->add_subcommand("disable", "Do not index the characters that you add");
@@ -220,9 +231,18 @@ std::string explanation(const CLI::App& app, const CLI::ParseError& error) {
          (names.empty() ? "" : "; did you mean '" + names.front() + "'?");
 }
 
+// The exit code, once all that was printed is written.
+int written(cli::Output& output, int exitCode) {
+  if (output.flush()) return exitCode;
+  cli::complain("the output could not be written: " + std::generic_category().message(errno));
+  return cli::notWritten;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  // A write beyond the limit of a file's size then fails like any other, which is told.
+  std::signal(SIGXFSZ, SIG_IGN);
   for (int i = 1; i < argc; ++i) {
     if (glyph::isWellFormedUtf8(argv[i])) continue;
     cli::complain("argument " + std::to_string(i) +
@@ -258,7 +278,11 @@ int main(int argc, char** argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::Success& request) {  // --help, --version
-    return app.exit(request);
+    std::ostringstream text;
+    app.exit(request, text, text);
+    cli::Output help(cli::Style::plain);
+    help.print(text.str());
+    return written(help, cli::found);
   } catch (const CLI::ParseError& error) {
     cli::complain(explanation(app, error) + "\nSee 'glyphorium --help', or --help behind a command.");
     return cli::wrongUse;
@@ -266,10 +290,5 @@ int main(int argc, char** argv) {
 
   cli::keepDiagnostics(options.verbose);
   cli::Output output(options.style);
-  const int exitCode = run(output);
-  if (!output.flush()) {
-    cli::complain("the output could not be written");
-    return cli::notWritten;
-  }
-  return exitCode;
+  return written(output, run(output));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "output.h"
 
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -9,9 +10,11 @@
 #include <cstdio>
 #include <cstdlib>
 #include <mutex>
+#include <span>
 
 #include "glyphorium/services/diagnostics/diagnostics.h"
 #include "glyphorium/text/unicode_text.h"
+#include "glyphorium/text/visible_symbol.h"
 
 namespace cli {
 namespace {
@@ -19,6 +22,38 @@ namespace {
 bool noColor() {
   const char* const value = std::getenv("NO_COLOR");
   return value && *value;
+}
+
+constexpr std::string_view styles[] = {"\x1b[0m", "\x1b[1m", "\x1b[2m", "\x1b[36m"};
+
+// The text with each control character and direction control replaced: a terminal takes them for commands, or
+// shows what follows in another order. Line breaks and tabs stay, and so do `allowed` escape sequences.
+template <class Replaced>
+std::string withoutControls(std::string_view text, std::span<const std::string_view> allowed,
+                            Replaced replaced) {
+  std::string result;
+  result.reserve(text.size());
+  while (!text.empty()) {
+    const auto at = [&](std::size_t i) {
+      return i < text.size() ? static_cast<unsigned char>(text[i]) : static_cast<unsigned char>(0);
+    };
+    const auto style = std::find_if(allowed.begin(), allowed.end(),
+                                    [&](std::string_view one) { return text.starts_with(one); });
+    std::size_t length = style == allowed.end() ? 1 : style->size();
+    bool control =
+        style == allowed.end() && (at(0) < 0x20 || at(0) == 0x7F) && at(0) != '\n' && at(0) != '\t';
+    if (at(0) == 0xC2 && at(1) >= 0x80 && at(1) <= 0x9F) control = (length = 2) > 0;  // U+0080 to U+009F
+    const bool embedding = at(1) == 0x80 && at(2) >= 0xAA && at(2) <= 0xAE;           // U+202A to U+202E
+    const bool isolate = at(1) == 0x81 && at(2) >= 0xA6 && at(2) <= 0xA9;             // U+2066 to U+2069
+    if (at(0) == 0xE2 && (embedding || isolate)) control = (length = 3) > 0;
+    result += control ? replaced(text.substr(0, length)) : std::string(text.substr(0, length));
+    text.remove_prefix(length);
+  }
+  return result;
+}
+
+std::string visibleControl(std::string_view control) {
+  return glyph::visibleSymbol(control);
 }
 
 // The columns that a text with colours takes: escape sequences take none.
@@ -43,7 +78,7 @@ Output::Output(Style style)
 
 std::string Output::coloured(const char* code, std::string_view text) const {
   if (!coloured_ || text.empty()) return std::string(text);
-  return std::string("\x1b[") + code + "m" + std::string(text) + "\x1b[0m";
+  return std::string("\x1b[") + code + "m" + withoutControls(text, {}, visibleControl) + "\x1b[0m";
 }
 
 void Output::printTable(const std::vector<std::vector<std::string>>& rows) {
@@ -66,20 +101,41 @@ void Output::printTable(const std::vector<std::vector<std::string>>& rows) {
 }
 
 bool Output::flush() {
+  if (onTerminal_) text_ = withoutControls(text_, styles, visibleControl);
   std::string_view rest = text_;
   while (!rest.empty()) {
     const ssize_t count = write(STDOUT_FILENO, rest.data(), rest.size());
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) return errno == EPIPE;
-    rest.remove_prefix(static_cast<std::size_t>(count));
+    if (count >= 0) {
+      rest.remove_prefix(static_cast<std::size_t>(count));
+      continue;
+    }
+    if (errno == EINTR) continue;
+    if (errno == EAGAIN) {  // a pipe that does not block and is full
+      pollfd ready{STDOUT_FILENO, POLLOUT, 0};
+      poll(&ready, 1, -1);
+      continue;
+    }
+    closed_ = errno == EPIPE;
+    if (closed_) break;
+    text_ = rest;
+    return false;
   }
   text_.clear();
   return true;
 }
 
 void complain(std::string_view message) {
-  const std::string line = "glyphorium: " + std::string(message) + "\n";
+  const std::string line = "glyphorium: " + withoutControls(message, {}, visibleControl) + "\n";
   std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+std::string escapedJson(std::string_view json) {
+  return withoutControls(json, {}, [](std::string_view control) {
+    char escape[8];
+    std::snprintf(escape, sizeof escape, "\\u%04x",
+                  static_cast<unsigned>(glyph::codePoints(control).front()));
+    return std::string(escape);
+  });
 }
 
 namespace {

@@ -11,7 +11,7 @@
 namespace cli {
 
 /// The exit codes of the program.
-enum ExitCode : int { found = 0, nothingFound = 1, wrongUse = 2, notWritten = 3 };
+enum ExitCode : int { found = 0, nothingFound = 1, wrongUse = 2, notWritten = 3, notRead = 3 };
 
 /// When to colour and align: on a terminal, never or always.
 enum class Style { automatic, plain, terminal };
@@ -34,18 +34,26 @@ class Output {
   std::string faint(std::string_view text) const { return coloured("2", text); }
   std::string accent(std::string_view text) const { return coloured("36", text); }
 
-  /// Writes all to standard output. False where that failed; a reader that went away is no failure.
+  /// Writes all that was printed so far to standard output, and waits where that takes no more at the moment.
+  /// False where it failed; a reader that went away is no failure. On a terminal control characters that are
+  /// none of this class's own are written in their visible form.
   bool flush();
+
+  /// Whether the reader went away: what is printed from now on is lost.
+  bool closed() const { return closed_; }
+
+  std::size_t size() const { return text_.size(); }  ///< bytes that wait to be written
 
  private:
   std::string coloured(const char* code, std::string_view text) const;
 
   bool onTerminal_;
   bool coloured_;
+  bool closed_ = false;
   std::string text_;
 };
 
-/// Tells the user what is wrong, on standard error.
+/// Tells the user what is wrong, on standard error, with control characters in their visible form.
 void complain(std::string_view message);
 
 /// The library's own lines go here from now on: to standard error with `verbose`, else they are kept.
@@ -53,6 +61,9 @@ void keepDiagnostics(bool verbose);
 
 /// Complains with the kept lines that speak of a failure, or with `otherwise` where there are none.
 void complainOfFailure(std::string_view otherwise);
+
+/// JSON in which control characters and direction controls are escaped, so that a terminal shows them.
+std::string escapedJson(std::string_view json);
 
 using glyph::joined;
 

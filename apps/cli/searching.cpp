@@ -1,17 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <iostream>
-#include <iterator>
-#include <nlohmann/json.hpp>
-#include <unordered_map>
-
 #include "card.h"
 #include "commands.h"
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/data/name_table.h"
 #include "glyphorium/search/catalog_search.h"
 #include "glyphorium/state/selected_entities.h"
-#include "glyphorium/text/unicode_text.h"
-#include "glyphorium/toolkit/entity_tool_kit.h"
 #include "lookup.h"
 
 namespace cli {
@@ -29,14 +21,6 @@ std::string highlighted(const Output& output, const std::string& name, const gly
     at = range.end;
   }
   return text + name.substr(at);
-}
-
-// "<control>" is no name, but says more than nothing.
-std::string nameOf(char32_t codePoint) {
-  std::string name = glyph::entityOf(codePoint).name();
-  if (!name.empty()) return name;
-  const auto entry = glyph::findName(glyph::toolKit().getHex(codePoint));
-  return std::string(entry ? entry->name : "(not in the Unicode 13.0 name table)");
 }
 
 // Where no group holds the character that was asked for, it may still be one.
@@ -102,44 +86,6 @@ int searchCatalog(Output& output, const SearchRequest& request, bool json) {
   }
   if (!request.copy) return cli::found;
   return copyEntities(output, {entityOf(found.results.front())}, "character");
-}
-
-int identifyText(Output& output, const std::vector<std::string>& texts, bool json) {
-  std::string text;
-  for (const std::string& one : texts) {
-    if (!text.empty()) text += ' ';
-    text += one == "-" ? std::string(std::istreambuf_iterator<char>(std::cin), {}) : one;
-  }
-  if (!glyph::isWellFormedUtf8(text)) {
-    complain("the text is not UTF-8; 'iconv' converts other encodings");
-    return wrongUse;
-  }
-  std::unordered_map<std::string, std::string> names;  // of the characters met
-  std::vector<std::string> objects;
-  std::vector<std::vector<std::string>> rows;
-  for (const std::string_view cluster : glyph::graphemeClusters(text)) {
-    const std::u32string points = glyph::codePoints(cluster);
-    // A character of several code points stands before its parts, which are set in.
-    if (points.size() > 1 && cluster != "\r\n") {
-      rows.push_back(
-          {output.accent(cluster), output.faint(std::to_string(points.size()) + " code points"), ""});
-    }
-    for (const char32_t point : points) {
-      const glyph::ComputedEntity record = glyph::Unicode(glyph::toolKit().getHex(point)).computedEntity();
-      const auto [known, isNew] = names.try_emplace(record.hex);
-      std::string& name = known->second;
-      if (isNew) name = nameOf(point);
-      if (json) {
-        objects.push_back(nlohmann::ordered_json{
-            {"hex", record.hex}, {"symbol", record.symbol}, {"name", name}, {"cluster", std::string(cluster)}}
-                              .dump());
-      }
-      const char* const indent = points.size() > 1 && cluster != "\r\n" ? "  " : "";
-      rows.push_back({indent + output.accent(visibleSymbol(record.symbol)), output.faint(record.hex), name});
-    }
-  }
-  json ? printJsonArray(output, objects) : output.printTable(rows);
-  return rows.empty() ? nothingFound : found;
 }
 
 }  // namespace cli

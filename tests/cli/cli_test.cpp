@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <nlohmann/json.hpp>
 #include <sstream>
 
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/services/search_index/sqlite_searchable_index.h"
+#include "glyphorium/services/settings/sqlite_settings_store.h"
 #include "tests/support/program.h"
 #include "tests/support/sandbox.h"
 
@@ -79,6 +83,10 @@ TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
       {"--version", 0, "glyphorium 1."},
       {"show \"$(printf 'a\\377')\"", 2, "not UTF-8"},
       {"groups >/dev/full", 3, "could not be written"},
+      {"--help >/dev/full", 3, "could not be written"},
+      {"--version >/dev/full", 3, "could not be written"},
+      {"identify - </", 3, "could not be read"},
+      {"show \"$(printf 'x\\033]0;y\\a\\302\\233')\"", 1, "no character is 'x␛]0;y␇⬚'"},
   };
   for (const auto& [arguments, exitCode, output] : cases) {
     const ProgramResult result = run("2>&1 " + arguments);
@@ -93,6 +101,70 @@ TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
   EXPECT_THAT(run("--color always show 2192", "NO_COLOR=1").output, testing::Not(HasSubstr("\x1b")));
   EXPECT_EQ(run("names 2>&1 | head -1").output,
             "0000\tNull character (Control)\n");  // a closed pipe is no error
+}
+
+TEST(CommandLine, IdentifiesATextOfAnyLengthHoweverItComes) {
+  const std::string text = "e\u0301👨\u200D👩\u200D👧🇩🇪🇫🇷\r\n→";
+  const TemporaryDirectory directory;
+  const std::string file = (directory / "text").string(), pieces = (directory / "pieces").string();
+  writeFile(file, text);
+  const std::string whole = run("identify - <" + file).output;
+  EXPECT_THAT(whole, HasSubstr("👨\u200D👩\u200D👧\t5 code points"));
+  for (std::size_t at = 1; at < text.size(); ++at) {
+    const std::string cut = std::to_string(at);
+    const std::string piecewise = "(head -c " + cut + " " + file + "; sleep 0.01; tail -c +" +
+                                  std::to_string(at + 1) + " " + file + ") | " PROGRAM " identify -";
+    EXPECT_EQ(runProgram(piecewise).output, whole) << cut;
+  }
+  // A text that would fill this address space if it were kept.
+  EXPECT_EQ(runProgram("(ulimit -v 200000; yes '" + std::string("a → e\u0301") +
+                       "' | head -c 4000000 | " PROGRAM " identify - | tail -n 1)")
+                .output,
+            "␊\t000a\tLine Feed (Control)\n");
+}
+
+TEST(CommandLine, WaitsForAFullPipeAndTellsOfAFullFile) {
+  int pipe[2];
+  ASSERT_EQ(pipe2(pipe, O_NONBLOCK), 0);
+  const pid_t child = fork();
+  if (child == 0) {
+    dup2(pipe[1], STDOUT_FILENO);
+    close(pipe[1]);
+    execl(PROGRAM, PROGRAM, "list", "--all", nullptr);
+    _exit(127);
+  }
+  close(pipe[1]);
+  std::size_t size = 0;
+  char buffer[4096];
+  for (ssize_t count; (count = read(pipe[0], buffer, sizeof buffer)) != 0;) {
+    if (count > 0) size += static_cast<std::size_t>(count);
+    usleep(100);
+  }
+  close(pipe[0]);
+  int status = -1;
+  waitpid(child, &status, 0);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(size, run("list --all").output.size());
+
+  const TemporaryDirectory directory;
+  const ProgramResult limited =
+      runProgram("(ulimit -f 1; " PROGRAM " list --all 2>&1 >" + (directory / "file").string() + ")");
+  EXPECT_EQ(limited.exitCode, 3);
+  EXPECT_THAT(limited.output, HasSubstr("could not be written"));
+}
+
+TEST(CommandLine, SendsATerminalNoControlsOfOthers) {
+  const TemporaryDirectory home;
+  SqliteSettingsStore(home / ".config/org.glyphorium.Glyphorium/settings.sqlite")
+      .set("displayedGroups", std::vector<std::string>{"\x1b]0;x\a\u009B"});
+  const std::string own = "HOME=" + home.path().string();
+  const auto shown = run("--color always display", own).output;
+  EXPECT_THAT(shown, HasSubstr("␛]0;x␇⬚"));
+  EXPECT_THAT(shown, testing::Not(HasSubstr("\x1b]")));
+  const auto json = run("--color always identify --json \"$(printf '\\302\\233\\342\\200\\256')\"").output;
+  EXPECT_THAT(json, testing::AllOf(HasSubstr("\\u009b"), HasSubstr("\\u202e"),
+                                   testing::Not(HasSubstr("\u009B")), testing::Not(HasSubstr("\u202E"))));
+  EXPECT_EQ(nlohmann::json::parse(json)[0].value("symbol", ""), "\u009B");
 }
 
 TEST(CommandLine, PrintsJsonOfTheRecordsFields) {
@@ -167,6 +239,9 @@ TEST(CommandLine, KeepsTheUsersChoices) {
       {"index add arrows 'smile nothing'", 2, "is no character"},
       {"index add arrows 2603", 0, "Indexed 113 characters\n"},
       {"index remove arrows", 0, "Removed 112 characters from the index\n"},
+      {"index scope", 0, "all: the desktop's search shows characters of the whole catalog\n"},
+      {"index scope mine", 0, "mine: the desktop's search shows what you added and what is in an index\n"},
+      {"index scope yours", 2, "mine"},
       {"index reset", 0, "Removed 2 characters from the index\n"},
       {"index add", 2, "needs groups, codes or --all"},
       {"copy 2192", 3, "no display"},

@@ -54,7 +54,7 @@ _glyphorium() {
       esac ;;
     index)
       case $part in
-        '') COMPREPLY=($(compgen -W 'status add remove reset search enable disable' -- "$current")) ;;
+        '') COMPREPLY=($(compgen -W 'status add remove reset search scope enable disable' -- "$current")) ;;
         add|remove) _glyphorium_names groups ;;
       esac ;;
   esac
