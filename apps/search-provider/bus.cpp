@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bus.h"
 
-#include <cstdlib>
+#include <algorithm>
 #include <system_error>
 
 #include "glyphorium/text/unicode_text.h"
@@ -13,14 +13,22 @@ int check(int result) {
   return result;
 }
 
+namespace {
+
+bool isRefused(char32_t c) {
+  return c == 0 || (c >= 0xFDD0 && c <= 0xFDEF) || (c & 0xFFFE) == 0xFFFE;
+}
+
+}  // namespace
+
 bool isBusText(std::string_view text) {
-  return text.find('\0') == std::string_view::npos && glyph::isWellFormedUtf8(text);
+  const std::u32string points = glyph::codePoints(text);
+  return glyph::isWellFormedUtf8(text) && std::none_of(points.begin(), points.end(), isRefused);
 }
 
 std::string busText(std::string_view text) {
-  if (isBusText(text)) return std::string(text);
   std::string result;
-  for (const char32_t c : glyph::codePoints(text)) result += glyph::utf8(c == 0 ? 0xFFFD : c);
+  for (const char32_t c : glyph::codePoints(text)) result += glyph::utf8(isRefused(c) ? 0xFFFD : c);
   return result;
 }
 
@@ -30,13 +38,18 @@ std::string readText(sd_bus_message* message) {
   return text;
 }
 
-std::vector<std::string> readTexts(sd_bus_message* message) {
+std::vector<std::string> readTexts(sd_bus_message* message, std::size_t most) {
   std::vector<std::string> texts;
   check(sd_bus_message_enter_container(message, 'a', "s"));
   const char* text = nullptr;
-  while (check(sd_bus_message_read_basic(message, 's', &text)) > 0) texts.emplace_back(text);
-  check(sd_bus_message_exit_container(message));
+  while (texts.size() < most && check(sd_bus_message_read_basic(message, 's', &text)) > 0)
+    texts.emplace_back(text);
+  if (texts.size() < most) check(sd_bus_message_exit_container(message));
   return texts;
+}
+
+void skipTexts(sd_bus_message* message) {
+  check(sd_bus_message_skip(message, "as"));
 }
 
 void append(sd_bus_message* message, const std::vector<std::string>& texts) {

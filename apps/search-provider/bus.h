@@ -27,13 +27,17 @@ struct CallError {
   std::string text;
 };
 
-/// A text as a D-Bus string may hold it: NUL and what is not UTF-8 become U+FFFD. A bus cuts the connection
-/// of whom it catches sending anything else.
+/// A text as sd-bus takes it into a message: NUL, noncharacters and what is not UTF-8 become U+FFFD. One text
+/// that it does not take would spoil the whole message.
 std::string busText(std::string_view text);
 bool isBusText(std::string_view text);
 
 std::string readText(sd_bus_message* message);
-std::vector<std::string> readTexts(sd_bus_message* message);
+
+/// The first `most` texts of the array that is read next. Behind them nothing more of the message can be
+/// read, unless the array held fewer.
+std::vector<std::string> readTexts(sd_bus_message* message, std::size_t most);
+void skipTexts(sd_bus_message* message);
 void append(sd_bus_message* message, const std::vector<std::string>& texts);
 
 /// One entry of an open a{sv}.

@@ -1,102 +1,183 @@
 // SPDX-License-Identifier: MIT
 #include "character_search.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
-#include <climits>
 #include <unordered_set>
 
 #include "character_text.h"
-#include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/search/search.h"
+#include "glyphorium/codes/code_parsing.h"
+#include "glyphorium/services/application/application.h"
+#include "glyphorium/state/desktop_search_scope.h"
+#include "glyphorium/text/text_pieces.h"
 #include "glyphorium/text/unicode_text.h"
 
 namespace provider {
 namespace {
 
-using glyph::SearchableItem;
-using std::chrono::steady_clock;
-using namespace std::chrono_literals;
+using glyph::Entity;
+using glyph::SearchField;
+using glyph::SearchResult;
 
 constexpr std::string_view scope = "qv:";
-constexpr std::string_view blanks = " \t\n\v\f\r";
 
 // Nobody types more. The index would split and sort every word of it while others wait.
 constexpr std::size_t longestQuery = 1000;
 
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(blanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+// Where the catalog is left out, so many of its ranked characters are looked up in the indexes.
+constexpr std::size_t mostLookUps = 200;
+
+// A word of fewer letters begins too many other things that people type.
+constexpr std::size_t fewestLetters = 3;
+
+// Of an everyday word, which others may mean in quite another way, only the likeliest characters.
+constexpr std::size_t mostByWord = 3;
+
+std::string_view withoutScope(std::string_view query) {
+  const std::string_view wanted = glyph::trimmed(query);
+  return isScoped(wanted) ? glyph::trimmed(wanted.substr(scope.size())) : wanted;
 }
 
-// Of the catalog's ranked characters so many are looked up in the index, which may hold but a few of them.
-constexpr std::size_t mostLookUps = 200;
-constexpr std::size_t mostMisses = 60;
+// "U+2192", "&rarr;", "\u2192", but nothing that may as well be a number, a word or the name of a file.
+bool isFullCode(std::string_view text) {
+  const std::u32string points = glyph::codePoints(text);
+  const bool marked = !points.empty() && !glyph::isAlphanumeric(points.front());
+  const bool plus = text.starts_with("U+") || text.starts_with("u+");
+  return (marked || plus) && !glyph::parseCodes(text).empty();
+}
 
-Exactness exactnessOf(const SearchableItem& item, std::string_view lowered) {
-  if (lowered.empty()) return Exactness::part;
-  if (glyph::lowercased(symbolOf(item)) == lowered || item.uniqueIdentifier == lowered)
-    return Exactness::code;
-  // The index keeps the keywords in lower case, names in HTML among them.
-  const std::string reference = "&" + std::string(lowered) + ";";
-  const bool named = glyph::lowercased(nameOf(item)) == lowered ||
-                     std::count(item.keywords.begin(), item.keywords.end(), reference) > 0;
-  return named ? Exactness::name : Exactness::part;
+// One character that is on no keyboard key of its own: whoever has it there does not look for it.
+bool isPastedCharacter(std::string_view text) {
+  return !text.empty() && static_cast<unsigned char>(text.front()) >= 0x80 &&
+         glyph::graphemeClusters(text).size() == 1;
+}
+
+// Letters, with blanks, hyphens and apostrophes between them: no calculation, address or file.
+bool isWords(std::string_view text) {
+  const std::u32string points = glyph::codePoints(text);
+  const auto letters = std::count_if(points.begin(), points.end(), [](char32_t c) {
+    return glyph::isAlphanumeric(c) && (c < '0' || c > '9');
+  });
+  const auto joints = std::count_if(points.begin(), points.end(), [](char32_t c) {
+    return c == ' ' || c == '-' || c == '\'' || c == U'’' || glyph::isCombining(c);
+  });
+  return static_cast<std::size_t>(letters) >= fewestLetters &&
+         static_cast<std::size_t>(letters + joints) == points.size();
+}
+
+// What was typed, and what it may be.
+struct Wanted {
+  explicit Wanted(std::string_view query)
+      : text(withoutScope(query)), lowered(glyph::lowercased(text)), fullCode(isFullCode(text)) {}
+
+  std::string_view text;
+  std::string lowered;
+  bool fullCode;
+};
+
+Exactness exactnessOf(const Wanted& wanted, const Entity& entity, const SearchResult& result) {
+  if (!result.exact) return Exactness::part;
+  const bool direct = result.field == SearchField::code || result.field == SearchField::character;
+  if (direct || wanted.fullCode) return Exactness::code;
+  if (glyph::lowercased(entity.name()) == wanted.lowered) return Exactness::name;
+  // A bare name in HTML is often another word or the beginning of one: "int", "top".
+  return result.field == SearchField::htmlName ? Exactness::part : Exactness::word;
+}
+
+// The same for what only an index has.
+Exactness exactnessOf(const Wanted& wanted, const Entity& entity) {
+  if (wanted.text.empty()) return Exactness::part;
+  if (entity.computed.symbol == wanted.text || entity.computed.hex == wanted.lowered) return Exactness::code;
+  return glyph::lowercased(entity.name()) == wanted.lowered ? Exactness::name : Exactness::part;
+}
+
+bool isPrivateUse(const Entity& entity) {
+  const std::u32string points = glyph::codePoints(entity.computed.symbol);
+  return points.size() == 1 && ((points[0] >= 0xE000 && points[0] <= 0xF8FF) || points[0] >= 0xF0000);
+}
+
+// Changes with every change of the settings' files.
+std::string settingsState() {
+  std::string state;
+  const auto directory = glyph::applicationConfigDirectory();
+  if (!directory) return state;
+  for (const char* const name : {"settings.sqlite", "settings.sqlite-wal"}) {
+    struct stat status {};
+    if (stat((*directory / name).c_str(), &status) == 0) {
+      for (const auto number : {static_cast<long>(status.st_ino), static_cast<long>(status.st_size),
+                                status.st_mtim.tv_sec, status.st_mtim.tv_nsec})
+        state += std::to_string(number) + " ";
+    }
+    state += ";";
+  }
+  return state;
 }
 
 }  // namespace
 
 bool isScoped(std::string_view query) {
-  return glyph::lowercased(trimmed(query).substr(0, scope.size())) == scope;
+  return glyph::lowercased(glyph::trimmed(query).substr(0, scope.size())) == scope;
 }
 
-// An index that another program holds locked costs the reader's whole patience. Those who asked meanwhile
-// are not made to wait as long again, one after the other: desktops ask at every key.
-template <class Answer, class Question>
-Answer CharacterSearch::ask(Question question) {
-  const auto begin = steady_clock::now();
-  if (begin < closedUntil_) return {};
-  Answer answer = question();
-  const auto end = steady_clock::now();
-  if (answer == Answer{} && end - begin > 400ms) closedUntil_ = end + 1s;
-  return answer;
+void CharacterSearch::readSettings() {
+  std::string state = settingsState();
+  if (search_ && state == settingsState_) return;
+  settingsState_ = std::move(state);
+  wholeCatalog_ = glyph::desktopSearchesCatalog();
+  if (!search_ || !search_->isCurrent()) search_.emplace();
 }
 
-std::optional<SearchableItem> CharacterSearch::item(std::string_view identifier) {
-  return ask<std::optional<SearchableItem>>([&] { return reader_.item(identifier); });
+std::optional<Entity> CharacterSearch::entity(std::string_view identifier) {
+  readSettings();
+  if (auto known = search_->entityOfHex(identifier)) return known;
+  const auto item = indexes_.item(identifier);
+  return item ? std::optional(entityOf(*item)) : std::nullopt;
 }
 
 std::vector<Found> CharacterSearch::find(std::string_view query, std::size_t limit) {
   if (query.size() > longestQuery) return {};
-  std::string_view wanted = trimmed(query);
-  if (isScoped(wanted)) wanted = trimmed(wanted.substr(scope.size()));
-  const std::string lowered = glyph::lowercased(wanted);
-
+  readSettings();
+  const Wanted wanted(query);
   std::vector<Found> found;
   std::unordered_set<std::string> seen;
-  const auto add = [&](SearchableItem one, Exactness exactness) {
-    if (seen.insert(one.uniqueIdentifier).second) found.push_back({std::move(one), exactness});
+  const auto add = [&](const std::string& identifier, Entity entity, Exactness exactness) {
+    if (seen.insert(identifier).second) found.push_back({identifier, std::move(entity), exactness});
   };
-  std::size_t misses = 0;
-  for (const glyph::SearchResult& result :
-       glyph::Search::ofCatalog().query(wanted, {mostLookUps, std::nullopt, {}}).results) {
-    if (found.size() == limit || misses == mostMisses) break;
-    auto one = item(glyph::buildInEntity(result.index)->computed.hex);
-    if (!one) {
-      ++misses;
-      continue;
-    }
-    const bool direct =
-        result.field == glyph::SearchField::code || result.field == glyph::SearchField::character;
-    const Exactness exactness = exactnessOf(*one, lowered);
-    add(*std::move(one), direct ? Exactness::code : exactness);
+  const std::size_t asked = wholeCatalog_ ? limit : std::max(limit, mostLookUps);
+  for (const SearchResult& result : search_->query(wanted.text, {asked, std::nullopt, {}}).results) {
+    if (found.size() == limit) break;
+    const Entity entity = search_->entity(result);
+    const std::string& hex = entity.computed.hex;
+    if (wholeCatalog_ || search_->isAdded(result) || indexes_.item(hex))
+      add(hex, entity, exactnessOf(wanted, entity, result));
   }
-  const int most = static_cast<int>(std::min<std::size_t>(limit, INT_MAX));
-  const auto indexed = ask<std::vector<SearchableItem>>([&] { return reader_.search(query, most); });
-  for (const SearchableItem& one : indexed) add(one, exactnessOf(one, lowered));
-  std::stable_sort(found.begin(), found.end(),
-                   [](const Found& a, const Found& b) { return a.exactness < b.exactness; });
+  for (const glyph::SearchableItem& item : indexes_.search(query, static_cast<int>(limit))) {
+    const Entity entity = entityOf(item);
+    add(item.uniqueIdentifier, entity, exactnessOf(wanted, entity));
+  }
+  std::stable_partition(found.begin(), found.end(),
+                        [](const Found& one) { return one.exactness != Exactness::part; });
   if (found.size() > limit) found.resize(limit);
+  return found;
+}
+
+std::vector<Found> CharacterSearch::findMeant(std::string_view query, std::size_t limit) {
+  if (isScoped(query)) return find(query, limit);
+  const std::string_view wanted = glyph::trimmed(query);
+  const bool direct = isFullCode(wanted) || isPastedCharacter(wanted);
+  if (!direct && !isWords(wanted)) return {};
+  if (isFullCode(wanted)) limit = std::min(limit, glyph::parseCodes(wanted).size());
+  std::vector<Found> found = find(wanted, limit);
+  std::erase_if(found, [&](const Found& one) {
+    return one.exactness == Exactness::part || (!direct && isPrivateUse(one.entity));
+  });
+  const bool named = std::any_of(found.begin(), found.end(),
+                                 [](const Found& one) { return one.exactness == Exactness::name; });
+  std::size_t words = 0;
+  std::erase_if(found, [&](const Found& one) {
+    return one.exactness == Exactness::word && (named || ++words > mostByWord);
+  });
   return found;
 }
 

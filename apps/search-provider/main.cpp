@@ -34,8 +34,9 @@ std::optional<microseconds> duration(const char* text) {
 int printHelp() {
   std::printf(
       "Usage: glyphorium-search-provider [OPTION]\n"
-      "Answers the desktop's own search with the characters that are in Glyphorium's index. The session bus\n"
-      "starts it when the desktop asks, as %s:\n"
+      "Answers the desktop's own search with characters: those of Glyphorium's catalog, those that the user\n"
+      "added and those in the indexes of hosts. 'glyphorium index scope mine' leaves the catalog's out. The\n"
+      "session bus starts the program when the desktop asks, as %s:\n"
       "  %s  org.gnome.Shell.SearchProvider2\n"
       "  /runner  org.kde.krunner1\n\n"
       "      --idle-seconds=SECONDS  leave that long after the last question; 0: never (default 30)\n"

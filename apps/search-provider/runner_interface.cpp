@@ -16,7 +16,7 @@ struct Action {
   const char* identifier;
   const char* text;
   const char* icon;  // of the freedesktop.org icon names
-  std::string (*copied)(const glyph::SearchableItem&);
+  std::string (*copied)(const glyph::Entity&);
 };
 
 // The first is what running a match does.
@@ -34,12 +34,12 @@ int categoryRelevance(Exactness exactness, bool scoped) {
 
 void appendMatch(sd_bus_message* reply, const Found& found, double relevance, bool scoped) {
   check(sd_bus_message_open_container(reply, 'r', "sssida{sv}"));
-  check(sd_bus_message_append(reply, "sssid", found.item.uniqueIdentifier.c_str(),
-                              busText(label(found.item)).c_str(), glyph::applicationIdentifier().c_str(),
+  check(sd_bus_message_append(reply, "sssid", found.identifier.c_str(), busText(label(found.entity)).c_str(),
+                              glyph::applicationIdentifier().c_str(),
                               categoryRelevance(found.exactness, scoped), relevance));
   check(sd_bus_message_open_container(reply, 'a', "{sv}"));
   appendEntry(reply, "category", "Characters");
-  appendEntry(reply, "subtext", busText(description(found.item)));
+  appendEntry(reply, "subtext", busText(description(found.entity)));
   check(sd_bus_message_open_container(reply, 'e', "sv"));
   check(sd_bus_message_append(reply, "s", "actions"));
   check(sd_bus_message_open_container(reply, 'v', "as"));
@@ -72,12 +72,8 @@ void RunnerInterface::addTo(sd_bus* bus) {
 void RunnerInterface::match(sd_bus_message* call) {
   service_.noteCall();
   const std::string query = readText(call);
-  std::vector<Found> found = service_.characters().find(query, matchLimit);
-  // A single letter is how most other queries begin.
-  const bool letter = query.size() == 1;
-  std::erase_if(found, [&](const Found& one) {
-    return !isBusText(one.item.uniqueIdentifier) || (letter && one.exactness != Exactness::code);
-  });
+  std::vector<Found> found = service_.characters().findMeant(query, matchLimit);
+  std::erase_if(found, [](const Found& one) { return !isBusText(one.identifier); });
 
   const Message reply = newReply(call);
   check(sd_bus_message_open_container(reply.get(), 'a', "(sssida{sv})"));

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 
+#include "application_interface.h"
 #include "character_text.h"
 #include "glyphorium/services/application/application.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
@@ -21,12 +22,6 @@ using namespace std::chrono_literals;
 // that had it, and calls to a closed one are lost.
 constexpr std::chrono::microseconds farewell = 1s;
 
-std::string applicationPath() {
-  std::string path = "/" + glyph::applicationIdentifier();
-  std::replace(path.begin(), path.end(), '.', '/');
-  return path;
-}
-
 // Delivered through the event loop, so that a call is never cut in the middle.
 void catchSignals() {
   sigset_t signals;
@@ -39,6 +34,12 @@ void catchSignals() {
 
 std::string busName() {
   return glyph::applicationIdentifier() + ".SearchProvider";
+}
+
+std::string applicationPath() {
+  std::string path = "/" + glyph::applicationIdentifier();
+  std::replace(path.begin(), path.end(), '.', '/');
+  return path;
 }
 
 std::string objectPath() {
@@ -68,15 +69,19 @@ void Service::run() {
   RunnerInterface runner(*this);
   shell.addTo(bus);
   runner.addTo(bus);
+  ApplicationInterface application(*this);
+  application.addTo(bus);
   // The name comes last: the bus holds back the call that started the program until it is taken.
   const int taken = sd_bus_request_name(bus, busName().c_str(), 0);
   if (taken == -EEXIST) throw CallError{SD_BUS_ERROR_FAILED, busName() + " runs already"};
   check(taken);
+  // The application's own name belongs to a window of it, while there is one.
+  sd_bus_request_name(bus, glyph::applicationIdentifier().c_str(),
+                      SD_BUS_NAME_ALLOW_REPLACEMENT | SD_BUS_NAME_QUEUE);
   check(sd_bus_attach_event(bus, loop, SD_EVENT_PRIORITY_NORMAL));
   patience_ = idleLimit_;
   noteCall();
   check(sd_event_loop(loop));  // its result tells only which way it ended
-  openSearches_.clear();       // each holds the bus
   quiet_.reset();
   bus_.reset();
 }
@@ -90,7 +95,10 @@ void Service::noteCall() {
 // The name goes back first, so that the bus starts the program anew for whoever calls it from now on, and
 // what the bus had sent here before is still answered.
 int Service::leave(std::chrono::microseconds patience) noexcept try {
-  if (!leaving_) check(sd_bus_release_name(bus_.get(), busName().c_str()));
+  if (!leaving_) {
+    check(sd_bus_release_name(bus_.get(), busName().c_str()));
+    sd_bus_release_name(bus_.get(), glyph::applicationIdentifier().c_str());
+  }
   leaving_ = true;
   patience_ = patience;
   noteCall();
@@ -101,43 +109,19 @@ int Service::leave(std::chrono::microseconds patience) noexcept try {
 
 int Service::onQuiet(sd_event_source*, std::uint64_t, void* self) noexcept {
   Service& service = *static_cast<Service*>(self);
-  const bool waits = !service.openSearches_.empty() && service.patience_ > 0s;
-  return service.leaving_ && !waits ? sd_event_exit(service.loop_.get(), 0) : service.leave(farewell);
+  return service.leaving_ ? sd_event_exit(service.loop_.get(), 0) : service.leave(farewell);
 }
 
 int Service::onSignal(sd_event_source*, const signalfd_siginfo*, void* self) noexcept {
   return static_cast<Service*>(self)->leave(0s);
 }
 
-void Service::copy(const std::string& identifier, std::string (*form)(const glyph::SearchableItem&)) {
-  const auto item = characters_.item(identifier);
-  if (!item) throw CallError{SD_BUS_ERROR_INVALID_ARGS, "No character is indexed as '" + identifier + "'"};
-  if (!glyph::toolKit().writeToPasteboard(form(*item), symbolOf(*item))) {
+void Service::copy(const std::string& identifier, std::string (*form)(const glyph::Entity&)) {
+  const auto entity = characters_.entity(identifier);
+  if (!entity) throw CallError{SD_BUS_ERROR_INVALID_ARGS, "No character is known as '" + identifier + "'"};
+  if (!glyph::toolKit().writeToPasteboard(form(*entity), character(*entity))) {
     throw CallError{SD_BUS_ERROR_FAILED, "The clipboard did not take the text"};
   }
-}
-
-// By the interface that applications of the desktop offer (desktop entries of freedesktop.org, D-Bus
-// activation). The bus starts the application where it is installed, which takes a while: others are answered
-// meanwhile.
-void Service::openSearch(sd_bus_message* call, const std::string& query) {
-  const auto search = openSearches_.insert(openSearches_.end(), {*this, Message(sd_bus_message_ref(call))});
-  const int asked = sd_bus_call_method_async(bus_.get(), nullptr, glyph::applicationIdentifier().c_str(),
-                                             applicationPath().c_str(), "org.freedesktop.Application",
-                                             "ActivateAction", &Service::onSearchOpened, &*search, "sava{sv}",
-                                             "search", 1, "s", query.c_str(), 0);
-  if (asked < 0) openSearches_.erase(search);
-  check(asked);
-}
-
-int Service::onSearchOpened(sd_bus_message* answer, void* self, sd_bus_error*) noexcept {
-  OpenSearch& search = *static_cast<OpenSearch*>(self);
-  const sd_bus_error* const error = sd_bus_message_get_error(answer);
-  // Not heard by whoever asked and has gone since.
-  const int sent = error ? sd_bus_reply_method_error(search.call.get(), error)
-                         : sd_bus_reply_method_return(search.call.get(), nullptr);
-  search.service.openSearches_.remove_if([&](const OpenSearch& one) { return &one == &search; });
-  return sent;
 }
 
 }  // namespace provider

@@ -4,7 +4,6 @@
 #include <systemd/sd-event.h>
 
 #include <chrono>
-#include <list>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -17,6 +16,9 @@ namespace provider {
 /// Bus name and object path of the application's search provider, made of the application identifier.
 std::string busName();
 std::string objectPath();
+
+/// Object path of the application itself, whose bus name is the application identifier.
+std::string applicationPath();
 
 using EventLoop = std::unique_ptr<sd_event, Releaser<sd_event, sd_event_unref>>;
 using EventSource =
@@ -37,22 +39,13 @@ class Service {
   /// Every method calls it first: the program stays for some time after the last.
   void noteCall();
 
-  /// Copies a form of the item to the clipboard. Throws CallError where there is no such item, and where the
-  /// clipboard does not take the text.
-  void copy(const std::string& identifier, std::string (*form)(const glyph::SearchableItem&));
-
-  /// Asks the application to show its own search for the query, and answers `call` with what that said.
-  void openSearch(sd_bus_message* call, const std::string& query);
+  /// Copies a form of the character to the clipboard. Throws CallError where there is no such character, and
+  /// where the clipboard does not take the text.
+  void copy(const std::string& identifier, std::string (*form)(const glyph::Entity&));
 
  private:
-  struct OpenSearch {
-    Service& service;
-    Message call;
-  };
-
   static int onQuiet(sd_event_source*, std::uint64_t, void* service) noexcept;
   static int onSignal(sd_event_source*, const signalfd_siginfo*, void* service) noexcept;
-  static int onSearchOpened(sd_bus_message* answer, void* search, sd_bus_error*) noexcept;
   int leave(std::chrono::microseconds patience) noexcept;
 
   const std::chrono::microseconds idleLimit_;
@@ -62,7 +55,6 @@ class Service {
   EventSource quiet_;                     // fires when nobody has called for `patience_`
   std::chrono::microseconds patience_{};  // zero: for ever while it serves, not at all while it is leaving
   bool leaving_ = false;
-  std::list<OpenSearch> openSearches_;  // not answered yet
 };
 
 }  // namespace provider

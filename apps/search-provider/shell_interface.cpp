@@ -1,28 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "shell_interface.h"
 
-#include <limits>
-#include <unordered_set>
-
 #include "character_text.h"
 #include "glyphorium/services/application/application.h"
+#include "glyphorium/text/text_pieces.h"
+#include "opened_search.h"
 
 namespace provider {
 namespace {
 
-// The shell shows five. The others serve the search for more words within these results.
-constexpr std::size_t resultLimit = 100;
+// The shell shows five.
+constexpr std::size_t resultLimit = 20;
 
-std::string joined(const std::vector<std::string>& terms) {
-  std::string query;
-  for (const std::string& term : terms) query += (query.empty() ? "" : " ") + term;
-  return query;
+// What a shell asks for at once, with a reserve. Whoever asks for more makes all others wait.
+constexpr std::size_t mostIdentifiers = 200;
+constexpr std::size_t mostTerms = 100;
+
+std::string readQuery(sd_bus_message* call) {
+  return glyph::joined(readTexts(call, mostTerms), " ");
 }
 
 std::vector<std::string> identifiers(const std::vector<Found>& found) {
   std::vector<std::string> result;
   for (const Found& one : found) {
-    if (isBusText(one.item.uniqueIdentifier)) result.push_back(one.item.uniqueIdentifier);
+    if (isBusText(one.identifier)) result.push_back(one.identifier);
   }
   return result;
 }
@@ -60,38 +61,31 @@ void ShellInterface::addTo(sd_bus* bus) {
 
 void ShellInterface::getInitialResultSet(sd_bus_message* call) {
   service_.noteCall();
-  sendIdentifiers(call, identifiers(service_.characters().find(joined(readTexts(call)), resultLimit)));
+  sendIdentifiers(call, identifiers(service_.characters().find(readQuery(call), resultLimit)));
 }
 
+// What was found before does not bound what is found now: the last letters of a code, of a mistyped or of a
+// foreign word find what the first ones could not.
 void ShellInterface::getSubsearchResultSet(sd_bus_message* call) {
   service_.noteCall();
-  const std::vector<std::string> previous = readTexts(call);
-  const std::string query = joined(readTexts(call));
-  // Previous results that were cut short may lack the very ones that people narrow the search down to.
-  if (previous.size() >= resultLimit) {
-    return sendIdentifiers(call, identifiers(service_.characters().find(query, resultLimit)));
-  }
-  const std::unordered_set<std::string> within(previous.begin(), previous.end());
-  std::vector<Found> found;
-  if (!within.empty()) found = service_.characters().find(query, std::numeric_limits<int>::max());
-  std::erase_if(found, [&](const Found& one) { return !within.contains(one.item.uniqueIdentifier); });
-  sendIdentifiers(call, identifiers(found));
+  skipTexts(call);
+  sendIdentifiers(call, identifiers(service_.characters().find(readQuery(call), resultLimit)));
 }
 
 void ShellInterface::getResultMetas(sd_bus_message* call) {
   service_.noteCall();
   const Message reply = newReply(call);
   check(sd_bus_message_open_container(reply.get(), 'a', "a{sv}"));
-  for (const std::string& identifier : readTexts(call)) {
-    const auto item = service_.characters().item(identifier);
-    if (!item) continue;
+  for (const std::string& identifier : readTexts(call, mostIdentifiers)) {
+    const auto entity = service_.characters().entity(identifier);
+    if (!entity) continue;
     check(sd_bus_message_open_container(reply.get(), 'a', "{sv}"));
     appendEntry(reply.get(), "id", identifier);
-    appendEntry(reply.get(), "name", busText(label(*item)));
-    appendEntry(reply.get(), "description", busText(description(*item)));
+    appendEntry(reply.get(), "name", busText(label(*entity)));
+    appendEntry(reply.get(), "description", busText(description(*entity)));
     appendEntry(reply.get(), "gicon", glyph::applicationIdentifier());
     // The shell copies this one itself. What it could not copy as it is, only activateResult() does.
-    const std::string text = character(*item);
+    const std::string text = character(*entity);
     if (isBusText(text)) appendEntry(reply.get(), "clipboardText", text);
     check(sd_bus_message_close_container(reply.get()));
   }
@@ -107,7 +101,8 @@ void ShellInterface::activateResult(sd_bus_message* call) {
 
 void ShellInterface::launchSearch(sd_bus_message* call) {
   service_.noteCall();
-  service_.openSearch(call, joined(readTexts(call)));
+  openSearch(readQuery(call));
+  send(newReply(call));
 }
 
 }  // namespace provider

@@ -14,8 +14,9 @@
 
 namespace glyph {
 
-/// A desktop session of its own: a bus that starts the program from its service file, an empty data home, and
-/// a clipboard that is a file. What the program is called by is read from the files that the desktops read.
+/// A desktop session of its own: a bus that starts the program from its service file, an empty data home and
+/// config home, a clipboard that is a file, and a terminal that writes its arguments into a file. What the
+/// program is called by is read from the files that the desktops read.
 class Session {
  public:
   explicit Session(const std::string& idleSeconds = "30") {
@@ -25,11 +26,16 @@ class Session {
     writeProgram(directory_ / "program", "echo started >>" + path("starts") +
                                              "\n" SEARCH_PROVIDER " --idle-seconds=" + idleSeconds +
                                              "\necho $? >>" + path("ends") + "\n");
+    writeProgram(directory_ / "bin/terminal", "printf '%s\\n' \"$@\" >" + path("terminal.new") + "; mv " +
+                                                  path("terminal.new") + " " + path("terminal") + "\n");
+    writeProgram(directory_ / "bin/glyphorium", "");
     writeProgram(directory_ / "bin/xclip", "exec cat >" + path("clipboard") + "\n");
-    std::string service =
-        fileContent(INSTALLED_SHARE "/dbus-1/services/org.glyphorium.Glyphorium.SearchProvider.service");
-    service.replace(service.find("Exec="), std::string::npos, "Exec=" + path("program") + "\n");
-    writeFile(directory_ / "share/dbus-1/services/provider.service", service);
+    for (const std::string name : {"org.glyphorium.Glyphorium", "org.glyphorium.Glyphorium.SearchProvider"}) {
+      const std::string file = "dbus-1/services/" + name + ".service";
+      std::string service = fileContent(INSTALLED_SHARE "/" + file);
+      service.replace(service.find("Exec="), std::string::npos, "Exec=" + path("program") + "\n");
+      writeFile(directory_ / "share" / file, service);
+    }
 
     // The bus ends with the pipe's other end.
     bus_ = popen(("exec dbus-run-session -- sh -c 'echo $DBUS_SESSION_BUS_ADDRESS >" + path("new") + "; mv " +
@@ -64,8 +70,8 @@ class Session {
   std::size_t ends() const { return lines("ends"); }
   std::string log() const { return fileContent(directory_ / "log"); }
 
-  /// Puts a few characters into the index, as the application does.
-  void index() {
+  /// Puts a few characters into an index, as a host does; without a file into the application's.
+  void index(const std::filesystem::path& file = {}) {
     const struct {
       std::string hex, name, group, html;
     } characters[] = {{"2192", "Rightwards Arrow", "arrows", "&rarr;"},
@@ -77,6 +83,7 @@ class Session {
                       {"05d0", "Hebrew Letter Alef", "hebrew", ""},
                       {"2028", "Line Separator", "spaces", ""},
                       {"0041,030a", "A With Ring", "custom", ""},
+                      {"ffff", "Refused By The Bus", "custom", ""},
                       {"2764", "Heavy Black Heart", "dingbats", ""}};
     std::vector<Entity> entities;
     for (const auto& [hex, name, group, html] : characters) {
@@ -88,7 +95,7 @@ class Session {
         entity.additional->htmlNamed = html;
       }
     }
-    setSearchableIndex(std::make_shared<SqliteSearchableIndex>(indexFile()));
+    setSearchableIndex(std::make_shared<SqliteSearchableIndex>(file.empty() ? indexFile() : file));
     toolKit().addToSpotlight(entities);
     EXPECT_TRUE(searchableIndex()->waitUntilIdle(std::chrono::seconds(60)));
     setSearchableIndex(nullptr);
@@ -115,6 +122,9 @@ class Session {
 
   TemporaryDirectory directory_;
   ScopedVariable dataHome_{"XDG_DATA_HOME", (directory_ / "data").string()};
+  ScopedVariable configHome_{"XDG_CONFIG_HOME", (directory_ / "config").string()};
+  ScopedVariable language_{"LC_ALL", "C.UTF-8"},
+      terminal_{"TERMINAL", (directory_ / "bin/terminal").string()};
   ScopedVariable dataDirectories_{"XDG_DATA_DIRS", (directory_ / "share").string()};
   ScopedVariable programs_{"PATH", (directory_ / "bin").string() + ":" + getenv("PATH")};
   ScopedVariable x11_{"DISPLAY", ":none"}, wayland_{"WAYLAND_DISPLAY", std::nullopt};

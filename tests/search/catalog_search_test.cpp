@@ -49,7 +49,6 @@ TEST(CatalogSearch, FindsTheUsersCharactersWhereOneSearchOverAllWould) {
                                   "replacment",
                                   "face",
                                   "smile",
-                                  "group:arrows",
                                   "letter",
                                   "qqqqqq",
                                   ""}) {
