@@ -3,7 +3,7 @@
 JOBS ?= $(shell nproc)
 ARGS ?=
 
-.PHONY: run test asan tsan fuzz bench install clean
+.PHONY: run test asan tsan fuzz attack bench install clean
 
 run: build/release/.configured-run
 	@cmake --build build/release -j $(JOBS) --target glyphorium-cli >build/release/build.log 2>&1 \
@@ -30,6 +30,13 @@ fuzz:
 	cmake --preset fuzz -DGLYPHORIUM_FUZZ_SECONDS=$(FUZZ_SECONDS)
 	cmake --build --preset fuzz -j $(JOBS)
 	ctest --preset fuzz -j $(JOBS)
+
+# Attacks on what the user has stored: ARGS="settings 2000 kills" makes 2,000 of one kind.
+attack:
+	@scripts/bootstrap test
+	cmake --preset test
+	cmake --build --preset test -j $(JOBS)
+	@scripts/attack $(ARGS)
 
 bench:
 	@scripts/bootstrap bench
