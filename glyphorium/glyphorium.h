@@ -28,6 +28,7 @@
 #include "glyphorium/services/settings/memory_settings_store.h"
 #include "glyphorium/services/settings/settings_store.h"
 #include "glyphorium/services/settings/sqlite_settings_store.h"
+#include "glyphorium/services/sqlite/lock_wait.h"
 #include "glyphorium/state/desktop_search_scope.h"
 #include "glyphorium/state/selected_entities.h"
 #include "glyphorium/state/settings.h"

@@ -3,6 +3,7 @@
 
 #include <sqlite3.h>
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -13,11 +14,11 @@
 
 namespace glyph {
 
-/// What SQLite refused. Stays inside the platform: the users of these classes catch it.
+/// An error that SQLite returned. The users of these classes catch it; it never reaches a host.
 class SqliteError : public std::runtime_error {
  public:
   SqliteError(int code, const std::string& message) : std::runtime_error(message), code_(code & 0xff) {}
-  /// Why the connection's last call gave the code; the connection is null where there was no memory for one.
+  /// Takes the message of the connection's last error; the connection is null if there was no memory for one.
   SqliteError(int code, sqlite3* connection);
   /// The primary result code.
   int code() const { return code_; }
@@ -27,6 +28,10 @@ class SqliteError : public std::runtime_error {
  private:
   int code_;
 };
+
+/// For an operation that has waited so long for a locked file: asks the LockWaitPolicy and, if it says so,
+/// sleeps for a few milliseconds. False: give up.
+bool waitForLock(std::chrono::milliseconds waited) noexcept;
 
 /// A connection; used by one thread at a time.
 class Database {

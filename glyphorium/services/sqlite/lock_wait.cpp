@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/services/sqlite/lock_wait.h"
+
+#include <memory>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+#include "glyphorium/services/sqlite/sqlite.h"
+
+namespace glyph {
+namespace {
+
+using std::chrono::milliseconds;
+
+struct InPlace {
+  std::mutex mutex;
+  std::shared_ptr<const LockWaitPolicy> policy;  // none: the default
+};
+
+InPlace& inPlace() {
+  static auto* const instance = new InPlace;  // never destroyed: settings may be saved while the process ends
+  return *instance;
+}
+
+}  // namespace
+
+void setLockWaitPolicy(LockWaitPolicy policy) {
+  auto replacement = policy ? std::make_shared<const LockWaitPolicy>(std::move(policy)) : nullptr;
+  const std::lock_guard lock(inPlace().mutex);
+  inPlace().policy.swap(replacement);
+}
+
+bool waitForLock(milliseconds waited) noexcept try {
+  std::shared_ptr<const LockWaitPolicy> policy;
+  {
+    const std::lock_guard lock(inPlace().mutex);
+    policy = inPlace().policy;
+  }
+  if (!(policy ? (*policy)(waited) : waited < milliseconds(5000))) return false;
+  // Most locks are held for a few milliseconds only. Short pauses at first, then longer ones.
+  std::this_thread::sleep_for(waited < milliseconds(50) ? milliseconds(1) : milliseconds(10));
+  return true;
+} catch (...) {  // the policy is the host's code
+  return false;
+}
+
+}  // namespace glyph
