@@ -6,8 +6,11 @@
 #include <sys/mount.h>
 #include <sys/stat.h>
 
+#include <atomic>
+#include <clocale>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <iostream>
 #include <thread>
@@ -15,7 +18,9 @@
 #include "glyphorium/services/application/application.h"
 #include "glyphorium/services/settings/memory_settings_store.h"
 #include "glyphorium/services/settings/sqlite_settings_store.h"
+#include "glyphorium/services/sqlite/lock_wait.h"
 #include "glyphorium/services/sqlite/sqlite.h"
+#include "tests/support/program.h"
 #include "tests/support/recorded_diagnostics.h"
 #include "tests/support/sandbox.h"
 
@@ -111,12 +116,13 @@ TEST_F(SettingsStoreTest, LeavesAloneWhatOthersHaveStored) {
     execute("UPDATE setting SET value = 'found' WHERE key = 'foreign' AND value = '" + text + "'");
     EXPECT_EQ(stored("foreign"), SettingValue(RawJson{"found"})) << "it was rewritten";
   }
+  EXPECT_THAT(diagnostics.take(), IsEmpty());
+  // A database that is not ours.
   execute("DROP TABLE setting; CREATE TABLE other (x)");
-  EXPECT_EQ(stored("own"), std::nullopt);
   SqliteSettingsStore(file).set("own", true);
   EXPECT_EQ(stored("own"), SettingValue(true));
-  execute("SELECT x FROM other");
-  EXPECT_THAT(diagnostics.take(), IsEmpty());
+  Database(file.string() + ".damaged", SQLITE_OPEN_READONLY).execute("SELECT x FROM other");
+  EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("kept in")));
 }
 
 TEST_F(SettingsStoreTest, IsCreatedPrivateByTheFirstWrite) {
@@ -187,6 +193,7 @@ TEST_F(SettingsStoreTest, KeepsADamagedFileAsideOnTheNextWrite) {
                                                               {"SQ", ""},
                                                               {std::string(8192, '\0'), ""},
                                                               {corrupt, ""},
+                                                              {good.substr(0, good.size() - 1), ""},
                                                               {corrupt, log}};
   for (const auto& [bytes, pending] : filesAndLogs) {
     SCOPED_TRACE(bytes.substr(0, 20) + " of " + std::to_string(bytes.size()));
@@ -203,6 +210,7 @@ TEST_F(SettingsStoreTest, KeepsADamagedFileAsideOnTheNextWrite) {
     {
       SqliteSettingsStore reader(file);
       for (int read = 0; read < 2; ++read) EXPECT_EQ(reader.object("key"), std::nullopt);
+      EXPECT_THAT(reader.readFailure("key").value_or(""), HasSubstr("damaged"));
     }
     EXPECT_EQ(fileContent(real), bytes);
     EXPECT_EQ(fileContent(real.string() + "-wal"), pending);
@@ -226,10 +234,10 @@ TEST_F(SettingsStoreTest, KeepsADamagedFileAsideOnTheNextWrite) {
   }
 }
 
-TEST_F(SettingsStoreTest, SurvivesEveryCutAndFlippedByte) {
+TEST_F(SettingsStoreTest, SurvivesCutsAndFlippedBytes) {
   SqliteSettingsStore(file).set("key", List(300, "a value of several pages"));
   const std::string good = fileContent(file);
-  for (std::size_t i = 0; i < good.size(); i += i < 100 ? 1 : 127) {
+  for (std::size_t i = 0; i < good.size(); i += i < 100 ? 9 : 1021) {
     std::string flipped = good;
     flipped[i] = static_cast<char>(flipped[i] ^ 0x55);
     // Two bytes number versions of the format: a file of a newer one is not to be written.
@@ -264,6 +272,118 @@ TEST_F(SettingsStoreTest, FollowsTheFileInPlace) {
     EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("forked"), HasSubstr("forked")));
   });
   EXPECT_EQ(sqlite.object("key"), SettingValue("new"));
+}
+
+// What becomes of a value that could not be stored, once it can be.
+TEST_F(SettingsStoreTest, StoresNoValueThatWasComputedFromAnotherThanTheStoredOne) {
+  std::atomic<int> asked = 0;
+  setLockWaitPolicy([&](std::chrono::milliseconds) { return ++asked % 3 != 0; });
+  const auto append = [](const Value& present) -> Value {
+    List list = present ? std::get<List>(*present) : List{};
+    list.emplace_back("new");
+    return list;
+  };
+  enum class How { set, update };
+  const struct {
+    const char* lock;  // exclusive ones keep others even from reading
+    How how;
+    bool otherStores;
+    bool storable;
+  } cases[] = {
+      {"PRAGMA locking_mode=exclusive; BEGIN EXCLUSIVE", How::set, false, true},
+      {"PRAGMA locking_mode=exclusive; BEGIN EXCLUSIVE", How::update, false, false},
+      {"BEGIN IMMEDIATE", How::set, true, true},
+      {"BEGIN IMMEDIATE", How::update, false, true},
+      {"BEGIN IMMEDIATE", How::update, true, false},
+  };
+  for (const auto& [lock, how, otherStores, storable] : cases) {
+    for (const bool atTheEnd : {false, true}) {
+      SCOPED_TRACE(std::string(lock) + (how == How::set ? " set" : " update") +
+                   (otherStores ? " other" : "") + (atTheEnd ? " at the end" : ""));
+      SqliteSettingsStore(file).set("key", List{"old"});
+      std::optional<SqliteSettingsStore> store(file);
+      {
+        Database other(file, SQLITE_OPEN_READWRITE);
+        other.execute(lock);
+        how == How::set ? store->set("key", List{"old", "new"}) : store->update("key", append);
+        // The next operation does not wait once more.
+        const int before = asked;
+        EXPECT_GT(before, 0);
+        EXPECT_FALSE(store->synchronize());
+        EXPECT_EQ(asked, before);
+        if (otherStores) other.execute("UPDATE setting SET value = '[\"other\"]'");
+        other.execute("COMMIT");
+      }
+      if (atTheEnd) {
+        store.reset();
+      } else {
+        EXPECT_EQ(store->synchronize(), storable);
+        EXPECT_EQ(store->synchronize(), storable) << "it changed its mind";
+      }
+      EXPECT_EQ(stored("key"), SettingValue(storable      ? List{"old", "new"}
+                                            : otherStores ? List{"other"}
+                                                          : List{"old"}));
+      if (atTheEnd) continue;
+      EXPECT_EQ(store->object("key"), stored("key"));
+      EXPECT_EQ(store->readFailure("key"), std::nullopt);
+      store->set("key", List{});
+      EXPECT_TRUE(store->synchronize());
+    }
+  }
+  setLockWaitPolicy(nullptr);
+}
+
+// At exit the library stores what it could not store before; functions that run still later can use settings.
+TEST_F(SettingsStoreTest, WorksUntilTheProcessEnds) {
+  const ScopedVariable home("XDG_CONFIG_HOME", directory.path().string());
+  file = *applicationConfigDirectory() / "settings.sqlite";
+  SqliteSettingsStore(file).set("before", true);
+  int locked[2], unlocked[2];
+  ASSERT_EQ(pipe(locked) | pipe(unlocked), 0);
+  const pid_t child = fork();
+  if (child == 0) {
+    char byte;
+    std::atexit([] {
+      if (settingsStore()->object("late") != SettingValue("stored")) _exit(4);
+      settingsStore()->set("later", true);
+      _exit(settingsStore()->synchronize() ? 0 : 5);
+    });
+    if (read(locked[0], &byte, 1) != 1) _exit(2);
+    setLockWaitPolicy([](auto) { return false; });
+    settingsStore()->set("late", "stored");
+    if (settingsStore()->synchronize() || write(unlocked[1], "", 1) != 1 || read(locked[0], &byte, 1) != 1) {
+      _exit(3);
+    }
+    std::exit(1);
+  }
+  char byte;
+  {
+    Database other(file, SQLITE_OPEN_READWRITE);
+    other.execute("BEGIN IMMEDIATE");
+    EXPECT_EQ(write(locked[1], "", 1), 1);
+    EXPECT_EQ(read(unlocked[0], &byte, 1), 1);
+  }
+  EXPECT_EQ(write(locked[1], "", 1), 1);
+  int status = 0;
+  waitpid(child, &status, 0);
+  EXPECT_EQ(WEXITSTATUS(status), 0);
+  EXPECT_EQ(stored("late"), SettingValue("stored"));
+  EXPECT_EQ(stored("later"), SettingValue(true));
+  for (const int end : {locked[0], locked[1], unlocked[0], unlocked[1]}) close(end);
+}
+
+TEST_F(SettingsStoreTest, ReadsNumbersWhateverTheLocaleIs) {
+  const ScopedVariable place("LOCPATH", directory.path().string());
+  writeFile(directory / "source",
+            "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \"\"\ngrouping -1\nEND LC_NUMERIC\n");
+  const std::string source = (directory / "source").string(), locale = (directory / "comma").string();
+  runProgram("localedef -c -i " + source + " -f ANSI_X3.4-1968 " + locale + " >/dev/null 2>&1");
+  ASSERT_NE(setlocale(LC_NUMERIC, "comma"), nullptr) << "the Debian package locales is needed";
+  ASSERT_EQ(std::to_string(0.5).substr(0, 3), "0,5");
+  sqlite.set("number", 1234.5);
+  const Value read = sqlite.object("number");
+  setlocale(LC_NUMERIC, "C");
+  EXPECT_EQ(read, SettingValue(1234.5));
 }
 
 // Each obstacle keeps settings from being saved until it goes away.

@@ -25,7 +25,7 @@ Identifier& identifier() {
   return *instance;
 }
 
-// An absolute path in the environment variable; relative ones are invalid and count as unset.
+// The absolute path in the environment variable; nullopt if it is unset or holds a relative path.
 std::optional<std::filesystem::path> absolutePath(const char* variable) {
   const char* const value = std::getenv(variable);
   if (!value || value[0] != '/') return std::nullopt;

@@ -17,14 +17,14 @@ inline constexpr std::string_view defaultApplicationIdentifier = "org.glyphorium
 /// search index and is the domain of its items in that index.
 GLYPHORIUM_EXPORT std::string applicationIdentifier();
 
-/// Sets the identifier; call it before first use of settings, clipboard or index. A text that is no file name
-/// (empty, ".", "..", or holding "/" or NUL) is ignored and reported as a diagnostic.
+/// Sets the identifier. Call it before the first use of settings, clipboard or index. A text that is no file
+/// name (empty, ".", "..", or with "/" or NUL in it) is ignored, and a diagnostic line says so.
 GLYPHORIUM_EXPORT void setApplicationIdentifier(std::string_view identifier);
 
-/// The application's own directory below $XDG_CONFIG_HOME (else ~/.config) and $XDG_DATA_HOME (else
-/// ~/.local/share), by the XDG base directory rules of freedesktop.org: a relative path in those
-/// variables is ignored. With HOME unset the home directory is that of the user database. Nothing is created;
-/// nullopt where no home directory is known.
+/// The application's own directory below $XDG_CONFIG_HOME (by default ~/.config) and below $XDG_DATA_HOME (by
+/// default ~/.local/share), by the XDG base directory rules of freedesktop.org: a relative path in those
+/// variables is ignored. If HOME is unset, the user database gives the home directory. Nothing is created;
+/// nullopt if no home directory is known.
 GLYPHORIUM_EXPORT std::optional<std::filesystem::path> applicationConfigDirectory();
 GLYPHORIUM_EXPORT std::optional<std::filesystem::path> applicationDataDirectory();
 

@@ -37,7 +37,7 @@ void printDiagnostic(std::string_view line) noexcept {
       const std::lock_guard lock(destination().mutex);
       sink = destination().sink;
     }
-    // The sink runs without the lock, so it may itself change the sink or print.
+    // The sink runs without the lock, so it may change the sink or print a line.
     if (sink) {
       (*sink)(line);
       return;
@@ -45,7 +45,7 @@ void printDiagnostic(std::string_view line) noexcept {
     std::string text(line);
     text += '\n';
     std::fwrite(text.data(), 1, text.size(), stdout);
-  } catch (...) {  // a diagnostic must never become a failure of what it reports on
+  } catch (...) {  // an operation must not fail because its diagnostic could not be printed
   }
 }
 

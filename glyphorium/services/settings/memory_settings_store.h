@@ -10,7 +10,7 @@
 
 namespace glyph {
 
-/// Settings that end with the store: for tests, and for hosts that must leave no trace.
+/// Keeps settings only as long as the store exists: for tests, and for hosts that must leave no trace.
 class MemorySettingsStore final : public SettingsStore {
  public:
   std::optional<SettingValue> object(std::string_view key) override {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/services/settings/setting_json.h"
 
+#include <locale.h>
+
 #include <limits>
 #include <nlohmann/json.hpp>
 
@@ -12,12 +14,29 @@ using nlohmann::json;
 
 namespace {
 
-// A NUL byte is nowhere in JSON, but the parser would take it for the end of the text.
+// While it lives, this thread reads numbers as JSON spells them. The parser uses strtod(), which expects the
+// decimal point of the locale that the host has set.
+class JsonNumbers {
+ public:
+  JsonNumbers() : before_(uselocale(classic())) {}
+  ~JsonNumbers() { uselocale(before_); }
+  JsonNumbers(const JsonNumbers&) = delete;
+  JsonNumbers& operator=(const JsonNumbers&) = delete;
+
+ private:
+  static locale_t classic() {
+    static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
+    return locale;  // null, which changes nothing, if there was no memory for it
+  }
+  locale_t before_;
+};
+
+// JSON holds no NUL byte, but the parser would take one for the end of the text.
 bool holdsNul(std::string_view text) {
   return text.find('\0') != std::string_view::npos;
 }
 
-// Takes over a value that has a type of its own, and stops the parser at any other.
+// Keeps a value for which SettingValue has a type, and stops the parser at any other.
 class Reader : public nlohmann::json_sax<json> {
  public:
   std::optional<SettingValue> value;
@@ -67,6 +86,7 @@ class Reader : public nlohmann::json_sax<json> {
 
 std::optional<std::string> settingToJson(const SettingValue& value) {
   if (const auto* const raw = std::get_if<RawJson>(&value)) {
+    const JsonNumbers numbers;
     return !holdsNul(raw->text) && json::accept(raw->text) ? std::optional(raw->text) : std::nullopt;
   }
   return std::visit(
@@ -84,6 +104,7 @@ std::optional<std::string> settingToJson(const SettingValue& value) {
 }
 
 SettingValue settingFromJson(std::string_view text) {
+  const JsonNumbers numbers;
   Reader reader;
   if (!holdsNul(text) && json::sax_parse(text, &reader) && reader.value) return *std::move(reader.value);
   return RawJson{std::string(text)};

@@ -10,11 +10,11 @@
 namespace glyph {
 
 /// The value as JSON text. Ill-formed UTF-8 becomes U+FFFD, and a number that JSON does not know (infinity)
-/// null; nullopt for raw JSON that is no JSON.
+/// becomes null. nullopt for RawJson whose text is no JSON.
 std::optional<std::string> settingToJson(const SettingValue& value);
 
-/// The value of the text, of whatever type it is. What is no JSON is raw JSON nevertheless, so that a value
-/// that somebody else has damaged is carried like any other of an unknown type.
+/// The value of a JSON text. A text that is no JSON, perhaps damaged, becomes RawJson too, so that it can be
+/// carried like any other value of an unknown type.
 SettingValue settingFromJson(std::string_view text);
 
 }  // namespace glyph

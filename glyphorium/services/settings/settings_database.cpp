@@ -6,7 +6,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <iterator>
 #include <optional>
 #include <system_error>
 
@@ -16,7 +18,11 @@
 namespace glyph {
 namespace {
 
-constexpr int busyTimeoutMilliseconds = 5000;
+// After a wait for a lock that was in vain, this process does not wait again for so long: the waits of
+// several operations in a row must not add up.
+constexpr auto impatience = std::chrono::seconds(30);
+
+constexpr const char* companions[] = {"-journal", "-wal", "-shm"};
 
 // Where the file really is, also when it does not exist yet.
 std::filesystem::path followLinks(std::filesystem::path file) {
@@ -49,18 +55,35 @@ class FileDescriptor {
 
 using Outcome = SettingsDatabase::Outcome;
 
-Outcome select(const Database& database, const std::string& key, std::string& json) {
-  std::optional<Statement> find;
+// Whether the table of settings exists. A new file has no tables at all; one with other tables only is not
+// ours, or its list of tables is damaged.
+bool hasTable(const Database& database) {
   try {
-    find.emplace(database, "SELECT value FROM setting WHERE key = ?1");
+    Statement(database, "SELECT key, value FROM setting");
+    return true;
   } catch (const SqliteError& error) {
-    // The general error: there is no such table, so somebody has created the file but not written to it yet.
-    if (error.code() == SQLITE_ERROR) return Outcome::absent;
-    throw;
+    if (error.code() != SQLITE_ERROR) throw;  // the general error: there is no such table or column
   }
-  if (!find->bind(key).step() || find->isNull(0)) return Outcome::absent;
-  json = find->text(0);
+  if (Statement(database, "SELECT 1 FROM sqlite_schema").step()) {
+    throw SqliteError(SQLITE_CORRUPT, "the file has no table of settings");
+  }
+  return false;
+}
+
+Outcome select(const Database& database, const std::string& key, std::string& json) {
+  if (!hasTable(database)) return Outcome::absent;
+  Statement find(database, "SELECT value FROM setting WHERE key = ?1");
+  if (!find.bind(key).step() || find.isNull(0)) return Outcome::absent;
+  json = find.text(0);
   return Outcome::done;
+}
+
+// Whether the file ends within a page. SQLite would read zeros for the missing part.
+bool isCut(const Database& database, const std::filesystem::path& file) {
+  struct stat status {};
+  if (stat(file.c_str(), &status) != 0) return false;
+  Statement pageSize(database, "PRAGMA page_size");  // known once the file has been read
+  return pageSize.step() && status.st_size % pageSize.integer(0) != 0;
 }
 
 }  // namespace
@@ -78,7 +101,7 @@ template <class Step>
 Outcome SettingsDatabase::attempt(Step step) try {
   return step();
 } catch (const SqliteError& error) {
-  error_ = error.what();
+  error_ = error.code() == SQLITE_BUSY ? "another program keeps the file locked" : error.what();
   if (!error.damage()) return Outcome::failed;
   damaged_ = true;
   return Outcome::damaged;
@@ -93,7 +116,40 @@ void SettingsDatabase::close() {
     sqlite3_db_config(connection_->handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
   }
   connection_.reset();
-  configured_ = damaged_ = false;
+  checked_ = configured_ = damaged_ = false;
+}
+
+int SettingsDatabase::waitWhileBusy(void* self, int attempt) {
+  return static_cast<SettingsDatabase*>(self)->goOnWaiting(attempt == 0);
+}
+
+bool SettingsDatabase::goOnWaiting(bool first) {
+  const auto now = Clock::now();
+  if (first) waitBegan_ = now;
+  if (gaveUpWaiting_ && now - *gaveUpWaiting_ < impatience) return false;
+  if (waitForLock(std::chrono::duration_cast<std::chrono::milliseconds>(now - waitBegan_))) return true;
+  gaveUpWaiting_ = now;
+  return false;
+}
+
+void SettingsDatabase::connect() {
+  process_ = getpid();
+  // The caller's lock guards the connection, so SQLite need not.
+  connection_ = std::make_unique<Database>(file_, SQLITE_OPEN_READWRITE);
+  sqlite3_busy_handler(connection_->handle(), waitWhileBusy, this);
+}
+
+// Throws SqliteError for a damaged file. SQLite alone notices damage only on the pages that it happens to
+// read, and not all damage there: a row that got lost would read as absent, and be overwritten.
+void SettingsDatabase::check(Database& database) const {
+  Statement check(database, "PRAGMA quick_check(1)");
+  if (check.step() && check.text(0) != "ok") throw SqliteError(SQLITE_CORRUPT, check.text(0));
+  if (isCut(database, file_)) {
+    // After a crash of the machine, the rest of the page may still be in the log.
+    sqlite3_wal_checkpoint_v2(database.handle(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+    if (isCut(database, file_)) throw SqliteError(SQLITE_CORRUPT, "the end of the file is missing");
+  }
+  hasTable(database);
 }
 
 bool SettingsDatabase::moved() const {
@@ -135,10 +191,7 @@ Outcome SettingsDatabase::open(bool createMissing) {
     if (!createMissing) return Outcome::absent;
     if (const Outcome created = create(); created != Outcome::done) return created;
   }
-  process_ = getpid();
-  // The caller's lock guards the connection, so SQLite need not.
-  connection_ = std::make_unique<Database>(file_, SQLITE_OPEN_READWRITE);
-  sqlite3_busy_timeout(connection_->handle(), busyTimeoutMilliseconds);
+  connect();
   return Outcome::done;
 }
 
@@ -150,17 +203,23 @@ bool SettingsDatabase::readOnly() const {
 Outcome SettingsDatabase::read(const std::string& key, std::string& json) {
   return attempt([&] {
     if (const Outcome opened = open(false); opened != Outcome::done) return opened;
-    // Reading needs files beside the database. A read-only directory has no room for them, and beside a
-    // read-only file they become read-only too and would keep it from being written when it may be. Without
-    // a log of pending pages the file alone is all there is, and may be read as it lies.
+    // Reading needs files beside the database. A read-only directory and a full disk have no room for them,
+    // and beside a read-only file they become read-only too and would keep it from being written when it may
+    // be. Without pending pages in other files the file alone is complete, and may be read as it lies.
     std::error_code error;
-    const auto logSize = std::filesystem::file_size(withSuffix(file_, "-wal"), error);
-    const bool complete = error || logSize == 0;
+    const auto empty = [&](const char* suffix) {
+      const auto size = std::filesystem::file_size(withSuffix(file_, suffix), error);
+      return error || size == 0;
+    };
+    const bool complete = empty("-wal") && empty("-journal");
     if (complete && readOnly()) return readAlone(key, json);
     try {
+      if (!checked_ || isCut(*connection_, file_)) check(*connection_);
+      checked_ = true;
       return select(*connection_, key, json);
     } catch (const SqliteError& failure) {
-      const bool noRoom = failure.code() == SQLITE_CANTOPEN || failure.code() == SQLITE_READONLY;
+      const bool noRoom = failure.code() == SQLITE_CANTOPEN || failure.code() == SQLITE_READONLY ||
+                          failure.code() == SQLITE_IOERR || failure.code() == SQLITE_FULL;
       if (!complete || !noRoom) throw;
     }
     return readAlone(key, json);
@@ -172,7 +231,9 @@ Outcome SettingsDatabase::readAlone(const std::string& key, std::string& json) {
   for (const char c : file_.native()) {
     uri += c == '%' ? "%25" : c == '?' ? "%3f" : c == '#' ? "%23" : std::string(1, c);
   }
-  return select(Database(uri + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI), key, json);
+  Database database(uri + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+  check(database);
+  return select(database, key, json);
 }
 
 Outcome SettingsDatabase::begin() {
@@ -180,6 +241,8 @@ Outcome SettingsDatabase::begin() {
     if (const Outcome opened = open(true); opened != Outcome::done) return opened;
     if (damaged_) return Outcome::damaged;
     if (readOnly()) return fail("the file may not be written");
+    if (!checked_ || isCut(*connection_, file_)) check(*connection_);
+    checked_ = true;
     if (!configured_) {
       // EXTRA is FULL, and still so where a write-ahead log is impossible (some network file systems) or
       // another process keeps it from being switched on just now: both are no reason to fail.
@@ -195,6 +258,7 @@ Outcome SettingsDatabase::begin() {
         "BEGIN IMMEDIATE;"
         "CREATE TABLE IF NOT EXISTS setting (key TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL) WITHOUT "
         "ROWID");
+    gaveUpWaiting_.reset();
     return Outcome::done;
   });
 }
@@ -223,26 +287,42 @@ void SettingsDatabase::rollback() {
 }
 
 Outcome SettingsDatabase::putAside(std::filesystem::path& name) {
+  name.clear();
   // The lock keeps a second process, which has found the damage too, from putting aside the new file.
   const FileDescriptor directory(::open(file_.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (directory.get() < 0 || flock(directory.get(), LOCK_EX) != 0) return failBySystem();
-  name.clear();
-  const bool done = !connection_ || moved();
+  if (directory.get() < 0) return failBySystem();
+  for (bool first = true; flock(directory.get(), LOCK_EX | LOCK_NB) != 0; first = false) {
+    if (errno != EWOULDBLOCK || !goOnWaiting(first)) return failBySystem();
+  }
+  const bool replaced = !connection_ || moved();
   close();
-  if (done) return Outcome::done;
+  if (replaced) return Outcome::done;
+  // A second look, for what seemed to be damage may have been a file that another program was writing.
+  const Outcome again = attempt([&] {
+    connect();
+    check(*connection_);
+    return Outcome::done;
+  });
+  close();
+  if (again != Outcome::damaged) return again;
 
-  auto aside = withSuffix(file_, ".damaged");
   std::error_code error;
-  for (int number = 2; std::filesystem::exists(std::filesystem::symlink_status(aside, error)); ++number) {
+  const auto taken = [&](const std::filesystem::path& file) {
+    return std::filesystem::exists(std::filesystem::symlink_status(file, error));
+  };
+  auto aside = withSuffix(file_, ".damaged");
+  for (int number = 2;
+       taken(aside) || std::any_of(std::begin(companions), std::end(companions),
+                                   [&](auto suffix) { return taken(withSuffix(aside, suffix)); });
+       ++number) {
     aside = withSuffix(file_, ".damaged" + std::to_string(number));
   }
-  // The file itself last: without it, what belongs to it would be taken for the new one's.
-  for (const char* const suffix : {"-journal", "-wal", "-shm", ""}) {
-    if (rename(withSuffix(file_, suffix).c_str(), withSuffix(aside, suffix).c_str()) != 0 &&
-        errno != ENOENT) {
-      return failBySystem();
-    }
-  }
+  const auto move = [&](const char* suffix) {
+    return rename(withSuffix(file_, suffix).c_str(), withSuffix(aside, suffix).c_str()) == 0 ||
+           errno == ENOENT;
+  };
+  // The file itself last: without it, the files that belong to it would be taken for the new one's.
+  if (!std::all_of(std::begin(companions), std::end(companions), move) || !move("")) return failBySystem();
   name = aside;
   return Outcome::done;
 }

@@ -31,9 +31,13 @@ void SettingsStore::update(std::string_view key, const Change& change) {
   }
 }
 
+std::optional<std::string> SettingsStore::readFailure(std::string_view) {
+  return std::nullopt;
+}
+
 std::shared_ptr<SettingsStore> settingsStore() {
-  // At the end of the process the file is closed, so that it lies there complete, with no log beside it.
-  // Whoever uses the settings still later opens it again.
+  // At the end of the process the store is destroyed: it stores what it could not store before, and closes
+  // the file, so that no log lies beside it. Code that runs still later makes a new store.
   static const struct AtExit {
     ~AtExit() { setSettingsStore(nullptr); }
   } atExit;

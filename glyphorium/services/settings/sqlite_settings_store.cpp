@@ -22,16 +22,14 @@ struct SqliteSettingsStore::Impl {
   // A value that is not on the disk yet.
   struct Unsaved {
     std::string json;
-    // It was made of the setting's present value while that could not be read.
-    bool blind;
-  };
-  struct Present {
-    std::optional<std::string> json;
-    bool blind;
+    // Of a value that was set. One that was computed may only replace the value that it was computed from
+    // (none where that was absent or could not be read), or it would undo what others have stored.
+    bool replacesAnything;
+    std::optional<std::string> computedFrom;
   };
 
-  // Holds the lock. What there is to tell is told after it: the sink is the host's code. The outermost one,
-  // which an exception may end, leaves no transaction open that others would have to wait for.
+  // Holds the lock. Diagnostics are printed after its end, for the sink is the host's code. The end of the
+  // outermost session, which an exception may bring about, leaves no transaction open that others wait for.
   class Session {
    public:
     explicit Session(Impl& impl) : impl_(impl) {
@@ -39,14 +37,14 @@ struct SqliteSettingsStore::Impl {
       ++impl_.sessions;
     }
     ~Session() {
-      std::vector<std::string> untold;
+      std::vector<std::string> lines;
       if (--impl_.sessions == 0) {
-        untold.swap(impl_.lines);
+        lines.swap(impl_.lines);
         impl_.updating = false;
         impl_.database.rollback();
       }
       impl_.mutex.unlock();
-      for (const std::string& line : untold) printDiagnostic(line);
+      for (const std::string& line : lines) printDiagnostic(line);
     }
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -55,58 +53,55 @@ struct SqliteSettingsStore::Impl {
     Impl& impl_;
   };
 
-  Present present(const std::string& key);
+  std::optional<std::string> present(const std::string& key);
   bool begin();
   void save();
+  Outcome dropOutdated();
   Outcome writeUnsaved();
-  bool put(const std::string& key, const SettingValue& value, bool blind);
-  void tell(std::string line);
+  std::optional<std::string> encode(const std::string& key, const SettingValue& value);
+  void print(std::string line);
   std::string location() const;
 
   std::recursive_mutex mutex;  // a change may use the store
   SettingsDatabase database;
   std::map<std::string, Unsaved> unsaved;
+  std::set<std::string> lost;                     // keys with a computed value that could not be stored
+  std::map<std::string, std::string> unreadable;  // why the last read of the key failed
   bool updating = false;
   int sessions = 0;
-  std::set<std::string> told;  // since the last write that succeeded
+  std::set<std::string> printed;  // since the last write that succeeded
   std::vector<std::string> lines;
 };
 
-void SqliteSettingsStore::Impl::tell(std::string line) {
-  if (told.insert(line).second) lines.push_back(std::move(line));
+void SqliteSettingsStore::Impl::print(std::string line) {
+  if (printed.insert(line).second) lines.push_back(std::move(line));
 }
 
 std::string SqliteSettingsStore::Impl::location() const {
   return database.file().empty() ? std::string("Settings") : "Settings in " + database.file().string();
 }
 
-SqliteSettingsStore::Impl::Present SqliteSettingsStore::Impl::present(const std::string& key) {
-  if (const auto found = unsaved.find(key); found != unsaved.end()) {
-    return {found->second.json, found->second.blind};
-  }
+std::optional<std::string> SqliteSettingsStore::Impl::present(const std::string& key) {
+  if (const auto found = unsaved.find(key); found != unsaved.end()) return found->second.json;
   std::string json;
-  switch (database.read(key, json)) {
-    case Outcome::done:
-      return {std::move(json), false};
-    case Outcome::absent:
-      break;
-    case Outcome::damaged:
-      tell(location() + " are damaged and read as empty: " + database.error());
-      return {std::nullopt, true};
-    case Outcome::failed:
-      tell(location() + " cannot be read: " + database.error());
-      return {std::nullopt, true};
+  const Outcome outcome = database.read(key, json);
+  if (outcome == Outcome::done || outcome == Outcome::absent) {
+    unreadable.erase(key);
+    return outcome == Outcome::done ? std::optional(std::move(json)) : std::nullopt;
   }
-  return {std::nullopt, false};
+  std::string line =
+      location() + (outcome == Outcome::damaged ? " are damaged and read as empty: " : " cannot be read: ") +
+      database.error();
+  unreadable.insert_or_assign(key, line);
+  print(std::move(line));
+  return std::nullopt;
 }
 
-bool SqliteSettingsStore::Impl::put(const std::string& key, const SettingValue& value, bool blind) {
-  if (auto json = settingToJson(value)) {
-    unsaved.insert_or_assign(key, Unsaved{*std::move(json), blind});
-    return true;
-  }
-  tell("Setting '" + key + "' is not set: its value is no JSON");
-  return false;
+std::optional<std::string> SqliteSettingsStore::Impl::encode(const std::string& key,
+                                                             const SettingValue& value) {
+  auto json = settingToJson(value);
+  if (!json) print("Setting '" + key + "' is not set: its value is no JSON");
+  return json;
 }
 
 // Begins a transaction, in a new file where the one in place is damaged.
@@ -117,31 +112,48 @@ bool SqliteSettingsStore::Impl::begin() {
     if (begun == Outcome::done) return true;
     database.rollback();
     if (begun != Outcome::damaged) break;
+    const std::string damage = database.error();
     std::filesystem::path name;
     begun = database.putAside(name);
     if (begun != Outcome::done) break;
-    if (!name.empty()) tell("The damaged settings are kept in " + name.string());
+    if (!name.empty()) print("The damaged settings are kept in " + name.string() + ": " + damage);
   }
-  tell(location() + " cannot be saved and last only until the program ends: " + database.error());
+  print(location() + " cannot be saved and last only until the program ends: " + database.error());
   return false;
 }
 
-Outcome SqliteSettingsStore::Impl::writeUnsaved() {
+// Forgets each value that was computed from another one than is stored now.
+Outcome SqliteSettingsStore::Impl::dropOutdated() {
   for (auto item = unsaved.begin(); item != unsaved.end();) {
     const auto& [key, value] = *item;
-    if (value.blind) {
-      std::string stored;
-      const Outcome found = database.read(key, stored);
+    std::optional<std::string> stored;
+    if (!value.replacesAnything) {
+      std::string json;
+      const Outcome found = database.read(key, json);
       if (found == Outcome::done) {
-        // It would replace a value that it does not take into account.
-        tell("Setting '" + key + "' is as stored again: it could not be read when it was changed");
-        item = unsaved.erase(item);
-        continue;
+        stored = std::move(json);
+      } else if (found != Outcome::absent) {
+        return found;
       }
-      if (found != Outcome::absent) return found;
     }
+    if (value.replacesAnything || stored == value.computedFrom) {
+      ++item;
+      continue;
+    }
+    if (stored != value.json) {
+      lost.insert(key);
+      print("A change of the setting '" + key +
+            "' is lost: it could not be saved, and another program has stored another value");
+    }
+    item = unsaved.erase(item);
+  }
+  return Outcome::done;
+}
+
+Outcome SqliteSettingsStore::Impl::writeUnsaved() {
+  if (const Outcome checked = dropOutdated(); checked != Outcome::done) return checked;
+  for (const auto& [key, value] : unsaved) {
     if (const Outcome written = database.write(key, value.json); written != Outcome::done) return written;
-    ++item;
   }
   return database.commit();
 }
@@ -152,7 +164,7 @@ void SqliteSettingsStore::Impl::save() {
     const Outcome written = writeUnsaved();
     if (written == Outcome::done && !database.moved()) {
       unsaved.clear();
-      told.clear();
+      printed.clear();
       return;
     }
     database.rollback();
@@ -161,7 +173,7 @@ void SqliteSettingsStore::Impl::save() {
     if (!begin()) return;
   }
   database.rollback();
-  tell(location() + " cannot be saved and last only until the program ends: " + database.error());
+  print(location() + " cannot be saved and last only until the program ends: " + database.error());
 }
 
 SqliteSettingsStore::SqliteSettingsStore() : impl_(std::make_unique<Impl>(std::filesystem::path())) {}
@@ -169,41 +181,62 @@ SqliteSettingsStore::SqliteSettingsStore() : impl_(std::make_unique<Impl>(std::f
 SqliteSettingsStore::SqliteSettingsStore(std::filesystem::path file)
     : impl_(std::make_unique<Impl>(std::move(file))) {}
 
-SqliteSettingsStore::~SqliteSettingsStore() = default;
+SqliteSettingsStore::~SqliteSettingsStore() {
+  try {
+    synchronize();
+  } catch (...) {  // no memory for a last attempt
+  }
+}
 
 std::optional<SettingValue> SqliteSettingsStore::object(std::string_view key) {
   const Impl::Session session(*impl_);
-  const auto present = impl_->present(std::string(key));
-  return present.json ? std::optional(settingFromJson(*present.json)) : std::nullopt;
+  const auto json = impl_->present(std::string(key));
+  return json ? std::optional(settingFromJson(*json)) : std::nullopt;
 }
 
 void SqliteSettingsStore::set(std::string_view key, SettingValue value) {
   const Impl::Session session(*impl_);
-  if (!impl_->put(std::string(key), value, false)) return;
+  const std::string name(key);
+  auto json = impl_->encode(name, value);
+  if (!json) return;
+  impl_->unsaved.insert_or_assign(name, Impl::Unsaved{*std::move(json), true, std::nullopt});
+  impl_->lost.erase(name);
   // Within a change, the update that called it saves.
   if (!impl_->updating && impl_->begin()) impl_->save();
 }
 
 bool SqliteSettingsStore::synchronize() {
   const Impl::Session session(*impl_);
-  return impl_->unsaved.empty();
+  if (!impl_->updating && !impl_->unsaved.empty() && impl_->begin()) impl_->save();
+  return impl_->unsaved.empty() && impl_->lost.empty();
 }
 
 void SqliteSettingsStore::update(std::string_view key, const Change& change) {
   const Impl::Session session(*impl_);
   const std::string name(key);
   const bool outermost = !std::exchange(impl_->updating, true);
+  const bool begun = outermost && impl_->begin();
+  if (begun) impl_->dropOutdated();
   auto unsavedBefore = impl_->unsaved;
   try {
-    const bool begun = outermost && impl_->begin();
-    const auto [json, blind] = impl_->present(name);
-    auto changed = change(json ? std::optional(settingFromJson(*json)) : std::nullopt);
-    if (changed) impl_->put(name, *changed, blind);
+    const auto present = impl_->present(name);
+    const auto changed = change(present ? std::optional(settingFromJson(*present)) : std::nullopt);
+    if (auto json = changed ? impl_->encode(name, *changed) : std::nullopt) {
+      // What was computed from an unsaved value depends on the same stored one as that.
+      const auto [place, isNew] = impl_->unsaved.try_emplace(name, Impl::Unsaved{{}, false, present});
+      place->second.json = *std::move(json);
+    }
     if (begun && !impl_->unsaved.empty()) impl_->save();
   } catch (...) {
     impl_->unsaved.swap(unsavedBefore);
     throw;
   }
+}
+
+std::optional<std::string> SqliteSettingsStore::readFailure(std::string_view key) {
+  const Impl::Session session(*impl_);
+  const auto found = impl_->unreadable.find(std::string(key));
+  return found == impl_->unreadable.end() ? std::nullopt : std::optional(found->second);
 }
 
 }  // namespace glyph
