@@ -90,15 +90,23 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   /// EntityUserData::useSpotlightExtension() is on, the search index.
   void setCustomAddedEntityUnicodes(std::vector<std::string> codes);
 
-  /// Reads the stored codes, changes them and stores them as one step, with the same effects.
+  /// Changes the stored codes, with the same effects. `change` gets the present list. It is called again,
+  /// with the new list, if another process has stored one in the meantime. No lock is held while it runs.
   void modifyCustomAddedEntityUnicodes(const std::function<void(std::vector<std::string>&)>& change);
 
   /// Appends the lower-cased code unless the list holds it, adds "custom" to the displayed groups and counts
   /// the groups again. Has the effects of setCustomAddedEntityUnicodes() in any case.
   void addCustomAddedEntity(std::string_view unicode);
 
+  /// Does the same for several codes as one change: all of them are stored or none, and each effect happens
+  /// once. Takes time in proportion to their number. Does nothing for an empty list.
+  void addCustomAddedEntities(const std::vector<std::string>& unicodes);
+
   /// Removes the lower-cased code, with the same effects. The group "custom" stays displayed.
   void removeCustomAddedEntity(std::string_view unicode);
+
+  /// Does the same for several codes as one change.
+  void removeCustomAddedEntities(const std::vector<std::string>& unicodes);
 
   /// Builds the displayed list and assigns it to selectedEntities(), which posts "contentHasChanged" once.
   /// The list holds the entities of the displayed groups (group names in upper or lower case) in code-point
@@ -124,6 +132,7 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   void setEntityGroupNamesWithCount();
   std::vector<Entity> getCustomEntities() const;
   std::vector<Entity> buildSelectedEntities() const;
+  bool changeCustomAddedEntityUnicodes(const std::function<bool(std::vector<std::string>&)>& change);
   void changeSelectedGroups(const std::function<bool(std::vector<std::string>&)>& change);
 
   std::vector<std::string_view> entityData_;  // the texts of the configured group tables

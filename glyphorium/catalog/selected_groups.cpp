@@ -35,16 +35,14 @@ void Glyphorium::modifySelectedGroups(const std::function<void(std::vector<std::
   });
 }
 
-// Stores what `change` makes of the list, as one step; nothing where it returns false.
+// Stores the list that `change` has changed, as one step; nothing if it returns false.
 void Glyphorium::changeSelectedGroups(const std::function<bool(std::vector<std::string>&)>& change) {
-  bool changed = false;
-  settingsStore()->update(UserInfluencedEntityKey::displayedGroups.rawValue(),
-                          [&](const auto& stored) -> std::optional<SettingValue> {
-                            Names groups = valueOr(stored, Names{std::string(customGroup)});
-                            changed = change(groups);
-                            if (!changed) return std::nullopt;
-                            return normalised(std::move(groups));
-                          });
+  const bool changed = changeUserDefaults(UserInfluencedEntityKey::displayedGroups.rawValue(),
+                                          Names{std::string(customGroup)}, [&](Names& groups) {
+                                            const bool result = change(groups);
+                                            if (result) groups = normalised(std::move(groups));
+                                            return result;
+                                          });
   if (changed) selectedGroupsHadChanged = true;
 }
 

@@ -11,13 +11,13 @@
 namespace glyph {
 namespace {
 
-void printSettingLine(const char* what, std::string_view key, const SettingValue* value) {
+void printSettingLine(const char* event, std::string_view key, const SettingValue* value) {
   const std::time_t now = std::time(nullptr);
   std::tm utc{};
   gmtime_r(&now, &utc);
   char date[32];
   std::strftime(date, sizeof date, "%Y-%m-%d %H:%M:%S +0000", &utc);
-  std::string line = std::string(date) + "\tUserDefaults: " + what + " key '" + std::string(key);
+  std::string line = std::string(date) + "\tUserDefaults: " + event + " key '" + std::string(key);
   line += value ? "', object: '" + settingToJson(*value).value_or("") + "'" : "' without results.";
   printDiagnostic(line);
 }
@@ -37,9 +37,30 @@ void saveToUserDefaults(SettingValue value, std::string_view key, bool verbose) 
   if (verbose) printSettingLine("Saved", key, &value);
 }
 
+std::string keepUnderAnotherKey(SettingsStore& store, std::string_view key, const SettingValue& value) {
+  std::string name = std::string(key) + ".damaged";
+  for (int number = 2; store.object(name); ++number) {
+    name = std::string(key) + ".damaged" + std::to_string(number);
+  }
+  // A store takes no RawJson that is no JSON, so such a text is kept as a string.
+  const auto* const raw = std::get_if<RawJson>(&value);
+  store.set(name, raw && !settingToJson(value) ? SettingValue(raw->text) : value);
+  return name;
+}
+
+void printKeptValue(std::string_view key, const std::string& keptAs) {
+  printDiagnostic("The setting '" + std::string(key) +
+                  "' had a value of an unexpected type, which is kept as '" + keptAs + "'");
+}
+
 std::vector<std::string> storedDisplayedGroups() {
   return valueOr(loadFromUserDefaults(UserInfluencedEntityKey::displayedGroups.rawValue(), false),
                  std::vector<std::string>{std::string(customGroup)});
+}
+
+std::vector<std::string> storedCustomCodes() {
+  return valueOr(loadFromUserDefaults(UserInfluencedEntityKey::customAddedEntities.rawValue(), false),
+                 std::vector<std::string>());
 }
 
 bool EntityUserData::useSpotlightExtension() {
@@ -51,10 +72,9 @@ void EntityUserData::setUseSpotlightExtension(bool use) {
 }
 
 void EntityUserData::modifyUseSpotlightExtension(const std::function<void(bool&)>& change) {
-  settingsStore()->update(EntityUserDataKey::useSpotlightExtension.rawValue(), [&](const auto& stored) {
-    bool use = valueOr(stored, true);
+  changeUserDefaults(EntityUserDataKey::useSpotlightExtension.rawValue(), true, [&](bool& use) {
     change(use);
-    return SettingValue(use);
+    return true;
   });
 }
 

@@ -37,8 +37,9 @@ class GLYPHORIUM_EXPORT EntityToolKit : public CodeFormats {
   /// comment the usage note, its genre the group; its keywords are the parts of the search string.
   SearchableItem searchableItem(const Entity& entity) const;
 
-  /// Hands searchableIndex() one request to add or replace the items of the entities. Does not wait for it.
-  void addToSpotlight(const std::vector<Entity>& entities) const;
+  /// Hands searchableIndex() one request to add or replace the items of the entities. Does not wait for it;
+  /// the index calls the completion when the request is done.
+  void addToSpotlight(const std::vector<Entity>& entities, SearchableIndex::Completion completion = {}) const;
 
   /// Hands searchableIndex() one request to delete the items with the entities' hex codes. Does not wait for
   /// it.

@@ -33,14 +33,12 @@ SearchableItem EntityToolKit::searchableItem(const Entity& entity) const {
   return item;
 }
 
-// These requests have no completion handler. A host that needs the outcome calls searchableIndex() itself,
-// with searchableItem().
-
-void EntityToolKit::addToSpotlight(const std::vector<Entity>& entities) const {
+void EntityToolKit::addToSpotlight(const std::vector<Entity>& entities,
+                                   SearchableIndex::Completion completion) const {
   std::vector<SearchableItem> items;
   items.reserve(entities.size());
   for (const Entity& entity : entities) items.push_back(searchableItem(entity));
-  searchableIndex()->indexItems(std::move(items), {});
+  searchableIndex()->indexItems(std::move(items), std::move(completion));
 }
 
 void EntityToolKit::removeFromSpotlight(const std::vector<Entity>& entities) const {

@@ -1,13 +1,21 @@
 // SPDX-License-Identifier: MIT
+#include <future>
+#include <set>
+
+#include "glyphorium/services/settings/sqlite_settings_store.h"
 #include "glyphorium/state/settings.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 #include "tests/support/catalog_fixture.h"
+#include "tests/support/sandbox.h"
 
 namespace glyph {
 namespace {
 
 using testing::ElementsAre;
-using CustomAddedEntities = CatalogFixture;
+class CustomAddedEntities : public CatalogFixture {
+ protected:
+  static Names customCodes() { return Glyphorium().customAddedEntityUnicodes(); }
+};
 
 TEST_F(CustomAddedEntities, AddingAndRemovingHaveTheirEffectsInOrder) {
   Glyphorium catalog;
@@ -58,6 +66,96 @@ TEST_F(CustomAddedEntities, StoredCodesAreComparedAsStored) {
   EXPECT_EQ(custom[0].name(), "Latin Small Letter E With Acute");
   EXPECT_EQ(custom[0].computed.group, "custom");
   EXPECT_EQ(custom[0].additional->htmlNamed, "&eacute;");
+}
+
+// Has an item for each code of its list, and lets another process act during a request.
+class SharedIndex final : public SearchableIndex {
+ public:
+  void indexItems(std::vector<SearchableItem> items, Completion completion) override {
+    for (const SearchableItem& item : items) codes.insert(item.uniqueIdentifier);
+    finish(whileIndexing, completion);
+  }
+  void deleteItems(std::vector<std::string> identifiers, Completion completion) override {
+    for (const std::string& identifier : identifiers) codes.erase(identifier);
+    finish(whileDeleting, completion);
+  }
+  void deleteAllItems(Completion) override {}
+  bool waitUntilIdle(std::chrono::milliseconds, const Progress&) override { return true; }
+
+  std::set<std::string> codes;
+  std::function<void()> whileIndexing, whileDeleting;
+
+ private:
+  static void finish(std::function<void()>& other, const Completion& completion) {
+    if (const auto once = std::exchange(other, nullptr)) once();
+    if (completion) completion(std::nullopt);
+  }
+};
+
+TEST_F(CustomAddedEntities, TheIndexAgreesWithTheListWhateverOtherProcessesDo) {
+  const auto shared = std::make_shared<SharedIndex>();
+  setSearchableIndex(shared);
+  Glyphorium catalog;
+  catalog.addCustomAddedEntities({"2190", "2191", "2190", "2192"});
+  EXPECT_EQ(customCodes(), (Names{"2190", "2191", "2192"}));
+  EXPECT_THAT(shared->codes, ElementsAre("2190", "2191", "2192"));
+  // Another process removes a character that this one is just indexing.
+  shared->whileIndexing = [&] { store("customAddedEntities", Names{"2190", "2192", "2193"}); };
+  catalog.addCustomAddedEntity("2193");
+  EXPECT_THAT(shared->codes, ElementsAre("2190", "2192", "2193"));
+  // Another process, which knows an old list, indexes a character that this one is just removing.
+  shared->whileDeleting = [&] { shared->codes.insert("2192"); };
+  catalog.removeCustomAddedEntities({"2192", "2190"});
+  EXPECT_THAT(shared->codes, ElementsAre("2193"));
+  // Another process adds again what this one takes out of the index because it was removed.
+  shared->whileIndexing = [&] {
+    store("customAddedEntities", Names{});
+    shared->whileDeleting = [&] { store("customAddedEntities", Names{"2193"}); };
+  };
+  catalog.removeCustomAddedEntity("2190");
+  EXPECT_THAT(shared->codes, ElementsAre("2193"));
+  // A change of the host's sees what another process has stored while it ran.
+  int calls = 0;
+  catalog.modifyCustomAddedEntityUnicodes([&](Names& codes) {
+    if (++calls == 1) store("customAddedEntities", Names{"2194"});
+    codes.push_back("2195");
+  });
+  EXPECT_EQ(customCodes(), (Names{"2194", "2195"}));
+}
+
+// A host may hand each callback to another thread and wait for it, so none may come while settings are
+// locked.
+TEST_F(CustomAddedEntities, CallbacksCanWaitForAThreadThatReadsSettings) {
+  class Waiting {
+   public:
+    void read() {
+      const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(1);
+      auto reading =
+          std::async(std::launch::async, [] { return settingsStore()->object("displayedGroups"); });
+      if (reading.wait_until(until) != std::future_status::ready) ++hung;
+      ++calls;
+    }
+    int calls = 0, hung = 0;
+  } waiting;
+  const auto shared = std::make_shared<SharedIndex>();
+  setSearchableIndex(shared);
+  const TemporaryDirectory directory;
+  for (const std::shared_ptr<SettingsStore>& one :
+       {std::shared_ptr<SettingsStore>(std::make_shared<MemorySettingsStore>()),
+        std::shared_ptr<SettingsStore>(
+            std::make_shared<SqliteSettingsStore>(directory / "settings.sqlite"))}) {
+    setSettingsStore(one);
+    one->set("displayedGroups", Names{});
+    one->set("customAddedEntities", RawJson{"5"});
+    setDiagnosticsSink([&](std::string_view) { waiting.read(); });
+    shared->whileDeleting = shared->whileIndexing = [&] { waiting.read(); };
+    Glyphorium catalog;
+    catalog.addCustomAddedEntity("2190");
+    catalog.modifyCustomAddedEntityUnicodes([&](Names&) { waiting.read(); });
+    setDiagnosticsSink(nullptr);
+  }
+  EXPECT_GT(waiting.calls, 10);
+  EXPECT_EQ(waiting.hung, 0);
 }
 
 TEST_F(CustomAddedEntities, IndexItemsAreBuiltFromTheirEntities) {

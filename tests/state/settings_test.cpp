@@ -31,6 +31,25 @@ TEST_F(SettingsTest, WrongTypesReadAsDefaultsAndStayStored) {
   }
 }
 
+TEST_F(SettingsTest, ChangesKeepAValueOfAWrongTypeUnderAnotherKey) {
+  const SettingValue wrong[] = {RawJson{R"(["2192",5])"}, "arrows", RawJson{"no json"}};
+  const std::pair<const char*, std::function<void(Glyphorium&)>> changes[] = {
+      {"customAddedEntities", [](auto& catalog) { catalog.addCustomAddedEntity("2193"); }},
+      {"displayedGroups", [](auto& catalog) { catalog.addSelectedGroup("dingbats"); }},
+      {"useSpotlightExtension", [](auto&) { EntityUserData::modifyUseSpotlightExtension([](bool&) {}); }}};
+  for (const auto& [key, change] : changes) {
+    for (std::size_t i = 0; i < std::size(wrong); ++i) {
+      store(key, wrong[i]);
+      taken();
+      Glyphorium catalog;
+      change(catalog);
+      const std::string name = std::string(key) + ".damaged" + (i == 0 ? "" : std::to_string(i + 1));
+      EXPECT_EQ(stored(name), i == 2 ? SettingValue("no json") : wrong[i]) << name;
+      EXPECT_THAT(taken(), testing::Contains(testing::HasSubstr("kept as '" + name + "'")).Times(1));
+    }
+  }
+}
+
 TEST_F(SettingsTest, EachChangeIsOneReadAndOneSynchronizedWrite) {
   EntityUserData::setUseSpotlightExtension(false);
   EXPECT_FALSE(EntityUserData::useSpotlightExtension());
