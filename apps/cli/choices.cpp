@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <nlohmann/json.hpp>
+#include <unordered_set>
 
 #include "card.h"
 #include "commands.h"
@@ -16,11 +17,27 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-// What was chosen must outlive the program, or the user must hear that it does not.
-int saved() {
-  if (glyph::settingsStore()->synchronize()) return found;
-  complainOfFailure("the choice could not be saved");
-  return notWritten;
+using Key = glyph::UserInfluencedEntityKey;
+
+// Whether the list stored under the key could be read. If not, complains: its default must not pass for it.
+bool isReadable(Key key) {
+  const auto store = glyph::settingsStore();
+  if (const auto failure = store->readFailure(key.rawValue())) {  // when the catalog read it
+    complainOfFailure(*failure);
+    return false;
+  }
+  const auto value = store->object(key.rawValue());
+  if (!value || std::holds_alternative<Names>(*value)) return true;
+  complain("the stored setting '" + std::string(key.rawValue()) + "' is damaged: it is no list of texts");
+  return false;
+}
+
+// Whether the choice is stored. Otherwise the user must hear why not.
+bool isSaved() {
+  const bool saved = glyph::settingsStore()->synchronize();
+  // Also after a success there may be something to tell: a damaged file was put aside.
+  complainOfFailure(saved ? "" : "the choice could not be saved");
+  return saved;
 }
 
 void printDisplayed(Output& output, bool json) {
@@ -35,6 +52,12 @@ void printDisplayed(Output& output, bool json) {
     rows.push_back({group, output.faint(std::to_string(count))});
   }
   json ? printJsonArray(output, objects) : output.printTable(rows);
+}
+
+void printAdded(Output& output, bool json) {
+  std::vector<const glyph::Entity*> entities;
+  for (const glyph::Entity& entity : glyph::glyphorium().allCustomEntities) entities.push_back(&entity);
+  printEntities(output, entities, json);
 }
 
 // The named code points closest to one that names nothing.
@@ -84,6 +107,8 @@ bool readCodes(const Names& arguments, Names& codes) {
 int displayGroups(Output& output, Choice choice, const Names& groups, bool json) {
   glyph::Glyphorium& catalog = glyph::glyphorium();
   catalog.configure();
+  const bool needed = choice == Choice::show || choice == Choice::remove;
+  if (needed && !isReadable(Key::displayedGroups)) return notWritten;
   const Names displayed = catalog.selectedGroups();
   const auto isDisplayed = [&](const std::string& name) {
     return std::any_of(displayed.begin(), displayed.end(),
@@ -107,8 +132,9 @@ int displayGroups(Output& output, Choice choice, const Names& groups, bool json)
     if (choice == Choice::add) catalog.addSelectedGroup(name);
     if (choice == Choice::remove) catalog.removeSelectedGroup(name);
   }
+  if (choice != Choice::show && !isSaved()) return notWritten;
   printDisplayed(output, json);
-  return choice == Choice::show ? found : saved();
+  return found;
 }
 
 int addCharacters(Output& output, const Names& arguments) {
@@ -116,22 +142,25 @@ int addCharacters(Output& output, const Names& arguments) {
   catalog.configure();
   Names codes;
   if (!readCodes(arguments, codes)) return wrongUse;
-  for (const std::string& code : codes) catalog.addCustomAddedEntity(code);
-  listAdded(output, false);
-  return saved();
+  catalog.addCustomAddedEntities(codes);
+  if (!isSaved()) return notWritten;
+  printAdded(output, false);
+  return found;
 }
 
 int removeCharacters(Output& output, const Names& arguments) {
   glyph::Glyphorium& catalog = glyph::glyphorium();
   catalog.configure();
+  if (!isReadable(Key::customAddedEntities)) return notWritten;
   Names codes;
+  const Names added = catalog.customAddedEntityUnicodes();
+  const std::unordered_set<std::string> known(added.begin(), added.end());
   for (const std::string& argument : arguments) {
-    const Names added = catalog.customAddedEntityUnicodes();
-    // What is stored may be removed as it is spelled, whatever it is.
-    const bool asStored = std::find(added.begin(), added.end(), glyph::lowercased(argument)) != added.end();
+    // A stored code may be removed as it is spelled, whatever it is.
+    const bool asStored = known.contains(glyph::lowercased(argument));
     const auto codePoint = codeOrCharacter(argument);
     const std::string code = asStored || !codePoint ? argument : glyph::toolKit().getHex(*codePoint);
-    if (std::find(added.begin(), added.end(), glyph::lowercased(code)) == added.end()) {
+    if (!known.contains(glyph::lowercased(code))) {
       const Names near = nearestTexts(code, added);
       complain("'" + argument + "' is not among the added characters" +
                (near.empty() ? std::string() : "; did you mean '" + near.front() + "'?"));
@@ -139,18 +168,17 @@ int removeCharacters(Output& output, const Names& arguments) {
     }
     codes.push_back(code);
   }
-  for (const std::string& code : codes) catalog.removeCustomAddedEntity(code);
-  listAdded(output, false);
-  return saved();
+  catalog.removeCustomAddedEntities(codes);
+  if (!isSaved()) return notWritten;
+  printAdded(output, false);
+  return found;
 }
 
 int listAdded(Output& output, bool json) {
-  glyph::Glyphorium& catalog = glyph::glyphorium();
-  catalog.configure();
-  std::vector<const glyph::Entity*> entities;
-  for (const glyph::Entity& entity : catalog.allCustomEntities.get()) entities.push_back(&entity);
-  printEntities(output, entities, json);
-  return entities.empty() ? nothingFound : found;
+  glyph::glyphorium().configure();
+  if (!isReadable(Key::customAddedEntities)) return notWritten;
+  printAdded(output, json);
+  return glyph::glyphorium().allCustomEntities.empty() ? nothingFound : found;
 }
 
 }  // namespace cli

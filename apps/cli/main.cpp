@@ -12,6 +12,7 @@
 #include "glyphorium/toolkit/copy_forms.h"
 #include "glyphorium/version.h"
 #include "lookup.h"
+#include "waiting.h"
 
 namespace {
 
@@ -289,6 +290,7 @@ int main(int argc, char** argv) {
   }
 
   cli::keepDiagnostics(options.verbose);
+  cli::limitLockWaits();
   cli::Output output(options.style);
   return written(output, run(output));
 }

@@ -165,7 +165,7 @@ void keepDiagnostics(bool verbose) {
 
 void complainOfFailure(std::string_view otherwise) {
   const std::lock_guard lock(keptMutex);
-  if (keptLines.empty()) complain(otherwise);
+  if (keptLines.empty() && !otherwise.empty()) complain(otherwise);
   for (const std::string& line : keptLines) complain(line);
   keptLines.clear();
 }

@@ -59,7 +59,8 @@ void complain(std::string_view message);
 /// The library's own lines go here from now on: to standard error with `verbose`, else they are kept.
 void keepDiagnostics(bool verbose);
 
-/// Complains with the kept lines that speak of a failure, or with `otherwise` where there are none.
+/// Complains with the kept lines that speak of a failure, or with `otherwise` (unless it is empty) if there are
+/// none.
 void complainOfFailure(std::string_view otherwise);
 
 /// JSON in which control characters and direction controls are escaped, so that a terminal shows them.

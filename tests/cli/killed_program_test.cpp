@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <cstdlib>
+#include <functional>
 #include <random>
 #include <set>
 
@@ -53,14 +54,15 @@ TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
   const char* const asked = std::getenv("GLYPHORIUM_KILL_ROUNDS");
   const int rounds = asked ? std::atoi(asked) : 60;
   std::mt19937 random(20260101);
-  // One change after the other, round and round. Adding also displays the group "custom": both are one step,
-  // or a killed program would leave one without the other.
+  // One change after the other, round and round. Adding first displays the group "custom", so a program
+  // killed between the two leaves that group without the new characters. Several characters are one change.
   const struct {
     Names arguments;
-    State after;
-  } changes[] = {{{"add", "2603"}, {{"custom", "arrows"}, {"2603"}}},
-                 {{"display", "set", "arrows"}, {{"arrows"}, {"2603"}}},
-                 {{"remove", "2603"}, {{"arrows"}, {}}}};
+    State halfway, after;
+  } changes[] = {
+      {{"add", "2603", "2604"}, {{"custom", "arrows"}, {}}, {{"custom", "arrows"}, {"2603", "2604"}}},
+      {{"display", "set", "arrows"}, {}, {{"arrows"}, {"2603", "2604"}}},
+      {{"remove", "2603", "2604"}, {}, {{"arrows"}, {}}}};
   State before{{"arrows"}, {}};
   // How long an undisturbed run takes here and now, so that the kills fall before and after its change.
   const auto begin = std::chrono::steady_clock::now();
@@ -69,14 +71,14 @@ TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
   std::uniform_real_distribution<> moment(0, 2 * usual.count());
   std::size_t changed = 0;
   for (int round = 0; round < rounds; ++round) {
-    const auto& [arguments, after] = changes[changed % std::size(changes)];
+    const auto& [arguments, halfway, after] = changes[changed % std::size(changes)];
     const pid_t child = start(arguments);
     ASSERT_GT(child, 0);
     usleep(static_cast<useconds_t>(moment(random)));
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     const State now = stored(config);
-    ASSERT_TRUE(now == before || now == after)
+    ASSERT_TRUE(now == before || now == halfway || now == after)
         << "round " << round << ": " << testing::PrintToString(now.groups)
         << testing::PrintToString(now.codes);
     if (now == after) ++changed;
@@ -107,6 +109,40 @@ TEST(SeveralPrograms, LoseNothingOfEachOther) {
   }
   const Names codes = stored(config).codes;
   EXPECT_EQ(std::set<std::string>(codes.begin(), codes.end()), wanted);
+}
+
+TEST(UnreadableChoices, AreToldFromEmptyOnes) {
+  const TemporaryDirectory home;
+  const ScopedVariable configHome("XDG_CONFIG_HOME", home.path().string());
+  const ScopedVariable dataHome("XDG_DATA_HOME", home.path().string());
+  const auto file = home / "org.glyphorium.Glyphorium/settings.sqlite";
+  const auto wrongElement = [&] {
+    SqliteSettingsStore store(file);
+    for (const char* const key : {"customAddedEntities", "displayedGroups"}) {
+      store.set(key, RawJson{R"(["2192",5])"});
+    }
+  };
+  // In this order: only the last two commands change anything, and only where something can be changed.
+  constexpr const char* commands[] = {"added",    "remove 2192",       "display", "display remove arrows",
+                                      "add 2192", "display add arrows"};
+  const struct {
+    const char* name;
+    std::function<void()> spoil;
+    int exitCodes[std::size(commands)];
+  } cases[] = {{"damaged", [&] { writeFile(file, "no database"); }, {3, 3, 3, 3, 0, 0}},
+               {"wrong type", wrongElement, {3, 3, 3, 3, 0, 0}},
+               {"no file", [&] { std::filesystem::create_directory(file); }, {3, 3, 3, 3, 3, 3}},
+               {"sound", [] {}, {1, 1, 0, 1, 0, 0}}};
+  for (const auto& [name, spoil, exitCodes] : cases) {
+    std::filesystem::remove_all(file.parent_path());
+    std::filesystem::create_directory(file.parent_path());
+    spoil();
+    for (std::size_t i = 0; i < std::size(commands); ++i) {
+      const auto result = runProgram(std::string(PROGRAM " ") + commands[i] + " 2>&1 >/dev/null");
+      EXPECT_EQ(result.exitCode, exitCodes[i]) << name << ": " << commands[i] << ": " << result.output;
+      EXPECT_TRUE(exitCodes[i] == 0 || i == 0 || !result.output.empty()) << name << ": " << commands[i];
+    }
+  }
 }
 
 }  // namespace
