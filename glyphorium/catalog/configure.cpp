@@ -16,6 +16,13 @@ std::size_t configuredRows() {
   return rows;
 }
 
+std::string nameOf(std::string_view table) {
+  for (const EmbeddedText& text : embeddedTexts()) {
+    if (text.text.data() == table.data()) return std::string(text.constant);
+  }
+  return {};
+}
+
 }  // namespace
 
 void Glyphorium::configure() {
@@ -26,7 +33,7 @@ void Glyphorium::configure() {
     for (const std::string_view table : entityData_) {
       const std::optional<std::string> repaired = repairedTable(table);
       const std::string error = decoder.append(repaired ? *repaired : table, entities);
-      if (!error.empty()) printDiagnostic("Group table not decoded: " + error);
+      if (!error.empty()) printDiagnostic("Group table '" + nameOf(table) + "' not decoded: " + error);
     }
   }
   if (const auto enrichment = getAdditionalDataFrom(additionalJson)) enrich(entities, *enrichment);

@@ -49,8 +49,8 @@ std::string keepUnderAnotherKey(SettingsStore& store, std::string_view key, cons
 }
 
 void printKeptValue(std::string_view key, const std::string& keptAs) {
-  printDiagnostic("The setting '" + std::string(key) +
-                  "' had a value of an unexpected type, which is kept as '" + keptAs + "'");
+  printProblem("The setting '" + std::string(key) +
+               "' had a value of an unexpected type, which is kept as '" + keptAs + "'");
 }
 
 std::vector<std::string> storedDisplayedGroups() {

@@ -12,6 +12,7 @@
 #include "glyphorium/state/structured_unicodes.h"
 #include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
+#include "tests/support/catalog_figures.h"
 
 namespace glyph {
 namespace {
@@ -85,7 +86,7 @@ TEST(NameTable, FindsEveryFirstEntryAndDecodesWhole) {
   loadStructuredUnicodes();
   loadStructuredUnicodes();
   const std::vector<RawUnicodeEntity>& entries = structuredUnicodes();
-  ASSERT_EQ(entries.size(), 35469u);
+  ASSERT_EQ(entries.size(), figures::names);
   EXPECT_EQ(entries.front().name, "Null character (Control)");
   EXPECT_EQ(entries[33796].hex, "10FFFD");
   EXPECT_EQ(entries.back().hex, "1006E2");

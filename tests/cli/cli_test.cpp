@@ -11,6 +11,7 @@
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/services/search_index/sqlite_searchable_index.h"
 #include "glyphorium/services/settings/sqlite_settings_store.h"
+#include "tests/support/catalog_figures.h"
 #include "tests/support/program.h"
 #include "tests/support/sandbox.h"
 
@@ -96,7 +97,7 @@ TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
     EXPECT_THAT(result.output, testing::Not(HasSubstr("\x1b"))) << arguments;
   }
   EXPECT_THAT(run("groups --verbose 2>&1 >/dev/null").output,
-              HasSubstr("didSet ↘ allBuildInEntities '17532'"));
+              HasSubstr("didSet ↘ allBuildInEntities '" + std::to_string(figures::entities) + "'"));
   EXPECT_THAT(run("--color always show 2192").output, HasSubstr("\x1b["));
   EXPECT_THAT(run("--color always show 2192", "NO_COLOR=1").output, testing::Not(HasSubstr("\x1b")));
   EXPECT_EQ(run("names 2>&1 | head -1").output,
@@ -172,11 +173,14 @@ TEST(CommandLine, PrintsJsonOfTheRecordsFields) {
     std::string arguments;
     std::size_t count;
     std::string key, value;
-  } cases[] = {
-      {"groups --json", 113, "name", "custom"},           {"list --all --json", 17532, "name", "Space"},
-      {"list arrows --json", 112, "htmlHex", "&#x2190;"}, {"show 0027 --json", 1, "name", "False Apostrophe"},
-      {"show 2603 --json", 1, "fallbackName", "Snowman"}, {"names --json", 35469, "hex", "0000"},
-      {"table --json", 122, "name", "latinBasicJson"},    {"list custom --json", 0, "", ""}};
+  } cases[] = {{"groups --json", figures::groups + 1, "name", "custom"},
+               {"list --all --json", figures::entities, "name", "Space"},
+               {"list arrows --json", figures::arrows, "htmlHex", "&#x2190;"},
+               {"show 0027 --json", 1, "name", "False Apostrophe"},
+               {"show 2603 --json", 1, "fallbackName", "Snowman"},
+               {"names --json", figures::names, "hex", "0000"},
+               {"table --json", 122, "name", "latinBasicJson"},
+               {"list custom --json", 0, "", ""}};
   for (const auto& [arguments, count, key, value] : cases) {
     const auto json = nlohmann::json::parse(run(arguments).output, nullptr, false);
     ASSERT_TRUE(json.is_array()) << arguments;

@@ -66,7 +66,7 @@ void setApplicationIdentifier(std::string_view text) {
   const bool fileName = !text.empty() && text != "." && text != ".." &&
                         text.find('/') == std::string_view::npos && text.find('\0') == std::string_view::npos;
   if (!fileName) {
-    printDiagnostic("Application identifier ignored: it is no file name: '" + std::string(text) + "'");
+    printProblem("Application identifier ignored: it is no file name: '" + std::string(text) + "'");
     return;
   }
   const std::lock_guard lock(identifier().mutex);

@@ -22,15 +22,7 @@ Destination& destination() {
   return *instance;
 }
 
-}  // namespace
-
-void setDiagnosticsSink(DiagnosticsSink sink) {
-  auto replacement = sink ? std::make_shared<const DiagnosticsSink>(std::move(sink)) : nullptr;
-  const std::lock_guard lock(destination().mutex);
-  destination().sink.swap(replacement);
-}
-
-void printDiagnostic(std::string_view line) noexcept {
+void print(std::string_view line, std::FILE* withoutSink) noexcept {
   try {
     std::shared_ptr<const DiagnosticsSink> sink;
     {
@@ -44,9 +36,25 @@ void printDiagnostic(std::string_view line) noexcept {
     }
     std::string text(line);
     text += '\n';
-    std::fwrite(text.data(), 1, text.size(), stdout);
+    std::fwrite(text.data(), 1, text.size(), withoutSink);
   } catch (...) {  // an operation must not fail because its diagnostic could not be printed
   }
+}
+
+}  // namespace
+
+void setDiagnosticsSink(DiagnosticsSink sink) {
+  auto replacement = sink ? std::make_shared<const DiagnosticsSink>(std::move(sink)) : nullptr;
+  const std::lock_guard lock(destination().mutex);
+  destination().sink.swap(replacement);
+}
+
+void printDiagnostic(std::string_view line) noexcept {
+  print(line, stdout);
+}
+
+void printProblem(std::string_view line) noexcept {
+  print(line, stderr);
 }
 
 }  // namespace glyph

@@ -49,7 +49,7 @@ struct NotificationToken::Registry {
 namespace {
 
 void report(const Notification& notification, const char* what) {
-  printDiagnostic("An observer of the notification '" + notification.name.rawValue() + "' failed: " + what);
+  printProblem("An observer of the notification '" + notification.name.rawValue() + "' failed: " + what);
 }
 
 }  // namespace

@@ -104,10 +104,10 @@ std::string handOver(std::string_view text, std::chrono::milliseconds limit, con
 bool DesktopPasteboard::setPlainText(std::string_view text) try {
   const std::string problem =
       handOver(text, limit_, ownerProgram_.empty() ? installedOwnerProgram() : ownerProgram_);
-  if (!problem.empty()) printDiagnostic("Clipboard unchanged (" + problem + ")");
+  if (!problem.empty()) printProblem("Clipboard unchanged (" + problem + ")");
   return problem.empty();
 } catch (const std::exception&) {  // out of memory
-  printDiagnostic("Clipboard unchanged (out of memory)");
+  printProblem("Clipboard unchanged (out of memory)");
   return false;
 }
 

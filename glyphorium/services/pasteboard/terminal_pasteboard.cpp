@@ -71,10 +71,10 @@ bool TerminalPasteboard::setPlainText(std::string_view text) try {
     }
     close(terminal);
   }
-  if (problem) printDiagnostic(std::string("Clipboard unchanged (") + problem + ")");
+  if (problem) printProblem(std::string("Clipboard unchanged (") + problem + ")");
   return !problem;
 } catch (const std::exception&) {  // out of memory
-  printDiagnostic("Clipboard unchanged (out of memory)");
+  printProblem("Clipboard unchanged (out of memory)");
   return false;
 }
 

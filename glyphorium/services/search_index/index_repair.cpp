@@ -130,7 +130,7 @@ bool mayBeDamage(const SqliteError& error) {
 
 void repairIndex(const fs::path& file, LockWait& wait) {
   // Said without the lock: the sink is the host's code.
-  if (const std::string line = repaired(file, wait); !line.empty()) printDiagnostic(line);
+  if (const std::string line = repaired(file, wait); !line.empty()) printProblem(line);
 }
 
 void deleteIndex(const fs::path& file, LockWait& wait) {

@@ -39,7 +39,7 @@ bool LockWait::pause() noexcept {
   if (now - *since_ >= limit) return false;
   if (now - *since_ >= longWait && !std::exchange(told_, true)) {
     try {
-      printDiagnostic("Waiting for another program that has locked the search index: " + file_->string());
+      printProblem("Waiting for another program that has locked the search index: " + file_->string());
     } catch (const std::bad_alloc&) {  // then without a word
     }
   }

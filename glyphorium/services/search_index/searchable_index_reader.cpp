@@ -39,7 +39,7 @@ class SearchableIndexReader::File {
       error_ = "no memory";  // short enough to need none
       error_ = reason.what();
       if (std::exchange(reported_, true)) return;
-      printDiagnostic("Search index not readable (" + error_ + "): " + path_->string());
+      printProblem("Search index not readable (" + error_ + "): " + path_->string());
     } catch (const std::exception&) {  // then without a word
     }
   }

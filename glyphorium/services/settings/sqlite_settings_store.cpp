@@ -44,7 +44,7 @@ struct SqliteSettingsStore::Impl {
         impl_.database.rollback();
       }
       impl_.mutex.unlock();
-      for (const std::string& line : lines) printDiagnostic(line);
+      for (const std::string& line : lines) printProblem(line);
     }
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;

@@ -11,8 +11,8 @@ namespace glyph {
 /// Decides whether an operation on the settings goes on waiting for a file that another process has locked.
 /// `waited` is how long this operation has waited so far; false gives up, and the operation fails.
 ///
-/// The policy is asked many times a second on the waiting thread, while the library holds its own locks: it may
-/// print or count, but must not use the library.
+/// The policy is asked many times a second on the waiting thread, while the library holds its own locks: it
+/// may print or count, but must not use the library.
 using LockWaitPolicy = std::function<bool(std::chrono::milliseconds waited)>;
 
 /// Replaces the policy, for a program that must end within a certain time or that tells its user why it
