@@ -118,10 +118,10 @@ std::string EmbeddedImage::searchFactDefinitions() const {
             view(facts.index) + "}, " + view(facts.texts) + "},\n";
   }
   text += "};\nconstinit const std::size_t searchFactCount = " + std::to_string(searchFacts_.size()) +
-          ";\n\nconst SearchLanguage languages[] = {\n" + searchLanguages_ +
+          ";\n\nconstinit const SearchLanguage languages[] = {\n" + searchLanguages_ +
           "};\nconstinit const std::span<const SearchLanguage> searchLanguages{languages};\n" +
           definition("std::string_view", "searchStopWords", stopWords_) +
-          "\nconst GroupWithKind groups[] = {\n";
+          "\nconstinit const GroupWithKind groups[] = {\n";
   for (const auto& [group, kind] : groupKinds_)
     text += "    {\"" + group + "\", GroupKind::" + enumerator(kind) + "},\n";
   return text + "};\nconstinit const std::span<const GroupWithKind> groupKinds{groups};\n";
