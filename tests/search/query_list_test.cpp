@@ -48,7 +48,6 @@ std::size_t placeOf(const ListedQuery& query, const std::vector<std::string>& fo
 const std::map<std::string, std::size_t> knownMisses{
     {"aproximately equal", 2},
     {"box corner top left", 2},
-    {"checkbox", 2},
     {"gear", 2},
     {"race finish flag", 2},
     {"skull", 2},
