@@ -66,7 +66,7 @@ TEST(Generator, StopsTheBuildAtAFaultySourceWithFileAndLine) {
        "control-names.tsv:34: error: is not well-formed UTF-8"},
       {"groups.tsv", "\tprivate-use\n", "\tprivate\n", "'private' is not a kind of group"},
       {"languages.tsv", "en\t5897", "en\t5898",
-       "languages.tsv:5: error: annotations.en.tsv holds 5897 texts"},
+       "languages.tsv:7: error: annotations.en.tsv holds 5897 texts"},
       {"languages.tsv", "es\t", "pt\t", "es.md: error: 'es' is not a language of languages.tsv"},
       {"search/grammar.de.tsv", "spelling\tae\ta", "spelling\tä\ta",
        "'ä' is not a word of lower-case letters"},
