@@ -14,10 +14,9 @@ std::string copied(const glyph::Entity& entity, const char* form) {
 }  // namespace
 
 glyph::Entity entityOf(const glyph::SearchableItem& item) {
-  const auto tab = item.title.find('\t', item.title.starts_with("\t\t") ? 1 : 0);  // the tab is a symbol too
   glyph::Entity entity = glyph::Unicode(item.uniqueIdentifier).computedEntity().generateEntity();
-  entity.computed.symbol = item.title.substr(0, tab);
-  entity.computed.fallbackName = tab == std::string::npos ? item.title : item.title.substr(tab + 1);
+  entity.computed.symbol = item.symbol.empty() ? item.title : item.symbol;
+  entity.computed.fallbackName = item.name();
   entity.computed.group = item.genre;
   return entity;
 }

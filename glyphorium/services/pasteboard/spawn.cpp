@@ -15,25 +15,12 @@
 #include <system_error>
 #include <thread>
 
+#include "glyphorium/services/application/file_descriptor.h"
+
 namespace glyph {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  ~Descriptor() {
-    if (number_ >= 0) close(number_);
-  }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  int number() const { return number_; }
-  bool open() const { return number_ >= 0; }
-
- private:
-  int number_;
-};
 
 SpawnResult failure(const char* what, int error) {
   return {SpawnEnd::failed, std::string(what) + ": " + std::generic_category().message(error)};
@@ -43,8 +30,8 @@ SpawnResult failure(const char* what, int error) {
 // never blocks and raises no SIGPIPE. Its number is above the standard streams, where the host may have
 // closed one, so that setting up one stream of the child does not overwrite another.
 int memoryFile() {
-  const Descriptor file(memfd_create("clipboard", MFD_CLOEXEC));
-  return file.open() ? fcntl(file.number(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1) : -1;
+  const FileDescriptor file(memfd_create("clipboard", MFD_CLOEXEC));
+  return file.isOpen() ? fcntl(file.get(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1) : -1;
 }
 
 bool fill(int file, std::string_view input) {
@@ -95,13 +82,13 @@ class SpawnSettings {
 // Waits until the child has ended, and leaves its exit code to be collected. False at the deadline.
 bool awaitEnd(pid_t child, Clock::time_point deadline) {
   // The C library's own pidfd_open cannot be linked from C++ in glibc 2.36.
-  const Descriptor handle(static_cast<int>(syscall(SYS_pidfd_open, child, 0)));
-  if (!handle.open() && errno == ESRCH) return true;  // ended, and the host has collected the exit code
+  const FileDescriptor handle(static_cast<int>(syscall(SYS_pidfd_open, child, 0)));
+  if (!handle.isOpen() && errno == ESRCH) return true;  // ended, and the host has collected the exit code
   for (;;) {
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
     const int wait = static_cast<int>(std::clamp<decltype(left)>(left, 0, 3'600'000));
-    if (handle.open()) {
-      pollfd ended{handle.number(), POLLIN, 0};
+    if (handle.isOpen()) {
+      pollfd ended{handle.get(), POLLIN, 0};
       if (poll(&ended, 1, wait) > 0) return true;
     } else {  // an old kernel, or a sandbox without this call
       siginfo_t information{};
@@ -140,11 +127,11 @@ std::string firstLine(int file) {
 }  // namespace
 
 SpawnResult runProgram(const Program& program, std::string_view input, Clock::time_point deadline) {
-  const Descriptor file(memoryFile());
-  if (!file.open() || !fill(file.number(), input)) return failure("no memory for the text", errno);
-  const Descriptor output(program.word.empty() ? -1 : memoryFile());
-  if (!program.word.empty() && !output.open()) return failure("no memory for the answer", errno);
-  const SpawnSettings settings(file.number(), output.number());
+  const FileDescriptor file(memoryFile());
+  if (!file.isOpen() || !fill(file.get(), input)) return failure("no memory for the text", errno);
+  const FileDescriptor output(program.word.empty() ? -1 : memoryFile());
+  if (!program.word.empty() && !output.isOpen()) return failure("no memory for the answer", errno);
+  const SpawnSettings settings(file.get(), output.get());
   if (settings.error) return failure("not started", settings.error);
 
   std::vector<char*> arguments;
@@ -166,7 +153,7 @@ SpawnResult runProgram(const Program& program, std::string_view input, Clock::ti
   }
   std::string problem = exitProblem(child);
   if (!program.word.empty()) {
-    const std::string said = firstLine(output.number());
+    const std::string said = firstLine(output.get());
     if (said == program.word) return {SpawnEnd::succeeded, {}};
     if (!said.empty()) problem = said;
     if (problem.empty()) problem = "no answer";

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "glyphorium/text/text_pieces.h"
 #include "glyphorium/text/unicode_text.h"
 
 namespace glyph {
@@ -53,15 +54,6 @@ void appendTokens(std::vector<std::string>& tokens, std::string_view text) {
   }
 }
 
-std::string joined(const std::vector<std::string>& parts) {
-  std::string result;
-  for (const std::string& part : parts) {
-    if (!result.empty()) result += ' ';
-    result += part;
-  }
-  return result;
-}
-
 }  // namespace
 
 std::string indexTokens(const SearchableItem& item) {
@@ -72,7 +64,7 @@ std::string indexTokens(const SearchableItem& item) {
   for (const auto& keyword : item.keywords) appendTokens(tokens, keyword);
   std::sort(tokens.begin(), tokens.end());
   tokens.erase(std::unique(tokens.begin(), tokens.end()), tokens.end());
-  return joined(tokens);
+  return joined(tokens, " ");
 }
 
 IndexQuery indexQuery(std::string_view text) {
@@ -84,7 +76,7 @@ IndexQuery indexQuery(std::string_view text) {
     if (terms.front().empty()) terms.erase(terms.begin());
   }
   IndexQuery query;
-  query.exact = joined(terms);
+  query.exact = joined(terms, " ");
   query.lowered = lowercased(query.exact);
 
   auto wanted = pieces(query.lowered);

@@ -13,6 +13,7 @@
 #include <system_error>
 
 #include "glyphorium/services/application/application.h"
+#include "glyphorium/services/application/file_descriptor.h"
 #include "glyphorium/services/application/private_directory.h"
 
 namespace glyph {
@@ -38,20 +39,6 @@ std::filesystem::path followLinks(std::filesystem::path file) {
 std::filesystem::path withSuffix(std::filesystem::path file, std::string_view suffix) {
   return file += suffix;
 }
-
-class FileDescriptor {
- public:
-  explicit FileDescriptor(int descriptor) : descriptor_(descriptor) {}
-  ~FileDescriptor() {
-    if (descriptor_ >= 0) ::close(descriptor_);
-  }
-  FileDescriptor(const FileDescriptor&) = delete;
-  FileDescriptor& operator=(const FileDescriptor&) = delete;
-  int get() const { return descriptor_; }
-
- private:
-  const int descriptor_;
-};
 
 using Outcome = SettingsDatabase::Outcome;
 
