@@ -23,9 +23,13 @@ struct DrainAtExit {
     std::shared_ptr<SearchableIndex> last;
     {
       const std::lock_guard lock(inPlace().mutex);
-      last.swap(inPlace().index);
+      last = inPlace().index;
     }
-    if (last) last->waitUntilIdle(std::chrono::seconds(5));
+    if (!last) return;
+    // The index stays in place meanwhile: completions may make further requests of it.
+    last->waitUntilIdle(std::chrono::seconds(5));
+    const std::lock_guard lock(inPlace().mutex);
+    if (inPlace().index == last) inPlace().index.reset();
   }
 };
 
