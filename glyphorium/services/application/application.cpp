@@ -25,7 +25,8 @@ Identifier& identifier() {
   return *instance;
 }
 
-// The absolute path in the environment variable; nullopt if it is unset or holds a relative path.
+// Returns the absolute path in the environment variable, or nullopt if the variable is unset or contains a
+// relative path.
 std::optional<std::filesystem::path> absolutePath(const char* variable) {
   const char* const value = std::getenv(variable);
   if (!value || value[0] != '/') return std::nullopt;

@@ -14,7 +14,7 @@ namespace {
 
 struct Destination {
   std::mutex mutex;
-  std::shared_ptr<const DiagnosticsSink> sink;  // none: standard output
+  std::shared_ptr<const DiagnosticsSink> sink;  // null means standard output or standard error
 };
 
 Destination& destination() {
@@ -29,7 +29,7 @@ void print(std::string_view line, std::FILE* withoutSink) noexcept {
       const std::lock_guard lock(destination().mutex);
       sink = destination().sink;
     }
-    // The sink runs without the lock, so it may change the sink or print a line.
+    // The mutex is unlocked while the sink runs, so the sink may set another sink or print a line.
     if (sink) {
       (*sink)(line);
       return;

@@ -8,23 +8,25 @@
 
 namespace glyph {
 
-/// Receives one diagnostic line at a time, UTF-8, without its line feed. The library calls it from any
-/// thread, also from several at once, and holds no lock during the call: the sink may use the library.
+/// Receives one diagnostic line in UTF-8, without a line feed. The library may call the sink on any thread,
+/// and on several threads at the same time. Its mutexes are unlocked during the call, so the sink may call
+/// the library.
 using DiagnosticsSink = std::function<void(std::string_view line)>;
 
-/// Sends every diagnostic line of the library to `sink` from now on. Until the first call, and after a call
-/// with an empty function, changes of the catalog and decoding errors go to standard output, and problems
-/// (see printProblem()) to standard error. May be called from any thread. A line that another thread is
-/// printing at the moment may still go to the previous sink.
+/// Sends every further diagnostic line of the library to `sink`. Before the first call, and after a call with
+/// an empty function, there is no sink: then changes of the catalog and decoding errors go to standard
+/// output, and problems (see printProblem()) go to standard error. May be called from any thread. A line that
+/// another thread is printing at the same time may still go to the previous sink.
 GLYPHORIUM_EXPORT void setDiagnosticsSink(DiagnosticsSink sink);
 
-/// Hands one line (without a line feed) to the sink, or to standard output if there is none. An exception
-/// that the sink throws is ignored.
+/// Passes one line (without a line feed) to the sink, or to standard output if no sink is set. An exception
+/// that the sink throws is ignored. May be called from any thread.
 GLYPHORIUM_EXPORT void printDiagnostic(std::string_view line) noexcept;
 
-/// Reports a problem outside of the catalog, such as a damaged settings file: hands one line (without a line
-/// feed) to the sink, or to standard error if there is none. A host that has not asked for such lines finds
-/// none in its standard output. An exception that the sink throws is ignored.
+/// Reports a problem outside of the catalog, such as a damaged settings file. Passes one line (without a line
+/// feed) to the sink, or to standard error if no sink is set. Standard error keeps such lines out of the
+/// output of a host that has not set a sink. An exception that the sink throws is ignored. May be called from
+/// any thread.
 GLYPHORIUM_EXPORT void printProblem(std::string_view line) noexcept;
 
 }  // namespace glyph

@@ -21,8 +21,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// What SQLite keeps beside a database. The file itself is the last, so that a process that is killed between
-// two of them leaves a damaged file in its place, which the next one finds again.
+// The suffixes of the files that belong to a database. The database itself is the last. If a process is
+// killed while it renames these files, the damaged database is still in place, and the next process finds the
+// damage again.
 constexpr const char* suffixes[] = {"-journal", "-wal", "-shm", ""};
 
 fs::path withSuffix(fs::path file, std::string_view suffix) {
@@ -33,17 +34,16 @@ fs::path withSuffix(fs::path file, std::string_view suffix) {
   throw SqliteError(SQLITE_IOERR, file.string() + ": " + std::generic_category().message(errno));
 }
 
-// A symbolic link may lead to a file of somebody else's, of which this program knows nothing but that it is
-// no index.
+// Throws if the path is a symbolic link, because the link's target may belong to another program.
 void refuseLink(const fs::path& file, std::string_view why) {
   if (!fs::is_symlink(fs::symlink_status(file))) return;
   throw SqliteError(SQLITE_CANTOPEN,
                     std::string(why) + "; it is left alone, since " + file.string() + " is a symbolic link");
 }
 
-// What is wrong with the file, empty where nothing is. Unless the file is so damaged that nobody can, leaves
-// a transaction open: other processes that wait to write see in theirs that the file is not in place any
-// more.
+// Returns a description of the damage, or an empty text if the file is intact. Leaves a transaction open,
+// unless the damage prevents this. The transaction keeps other processes from writing until the file has been
+// renamed. They notice the renaming when they begin their own transactions.
 std::string damageOf(Database& database) try {
   database.execute("BEGIN IMMEDIATE");
   if (!isIndex(database)) return {};
@@ -57,7 +57,8 @@ std::string damageOf(Database& database) try {
   return error.what();
 }
 
-// The items that can be read, from the first one up to the damage and from the last one back to it.
+// Returns the items that can be read: forwards from the first item to the damage, and backwards from the last
+// item to the damage.
 std::vector<SearchableItem> readableItems(const Database& database) {
   std::map<std::int64_t, std::optional<SearchableItem>> rows;
   for (const char* const select :
@@ -67,13 +68,13 @@ std::vector<SearchableItem> readableItems(const Database& database) {
       Statement row(database, select);
       while (row.step()) {
         const auto [place, isNew] = rows.try_emplace(row.integer(9));
-        if (!isNew) break;  // damaged pages may refer to each other without end
+        if (!isNew) break;  // damaged pages may form an endless loop
         SearchableItem item = itemOf(row);
         const bool asWritten =
             packTexts(item.keywords) == row.text(6) && lowercased(item.name()) == row.text(8);
         if (asWritten) place->second = std::move(item);
       }
-    } catch (const SqliteError&) {  // the damage, or no such table
+    } catch (const SqliteError&) {  // the damage is reached, or the table is missing
     }
   }
   std::vector<SearchableItem> items;
@@ -129,7 +130,7 @@ bool mayBeDamage(const SqliteError& error) {
 }
 
 void repairIndex(const fs::path& file, LockWait& wait) {
-  // Said without the lock: the sink is the host's code.
+  // The line is printed after the lock is released, because the diagnostics sink is the host's code.
   if (const std::string line = repaired(file, wait); !line.empty()) printProblem(line);
 }
 

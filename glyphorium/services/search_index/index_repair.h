@@ -8,18 +8,19 @@
 
 namespace glyph {
 
-/// Whether a damaged file may be the cause of the error. The statements are known to be right, so errors
-/// about the content may show damage, also the general one ("no such table").
+/// Whether a damaged file may be the cause of the error. The library's SQL statements are known to be
+/// correct. So even SQLite's general error, such as "no such table", may be a sign of damage.
 bool mayBeDamage(const SqliteError& error);
 
-/// Examines the index file under the locks. Where it is damaged, or no index at all, it gets another name
-/// ("index.sqlite.damaged"), and a new index takes its place with the items that can still be read, which a
-/// diagnostic line says. A whole file stays as it is: another process has repaired it meanwhile. Throws
-/// SqliteError for a damaged file behind a symbolic link, which may be somebody else's, and leaves it alone.
+/// Locks and checks the index file. If the file is damaged or is not an index, renames it (for example to
+/// "index.sqlite.damaged"), creates a new index with the items that can still be read, and prints a
+/// diagnostic line. Does nothing if the file is intact, because another process may have repaired it already.
+/// Throws SqliteError, without changing the file, if it was written by a later version, or if it is damaged
+/// and its path is a symbolic link: such a file may belong to another program.
 void repairIndex(const std::filesystem::path& file, LockWait& wait);
 
-/// Deletes the index file, where nothing can be written any more because the disk is full. Throws SqliteError
-/// for a file that is no index.
+/// Deletes the index file. Used when the disk is full, so that the items cannot be deleted in a transaction.
+/// Throws SqliteError, without deleting the file, if it is not an index or if its path is a symbolic link.
 void deleteIndex(const std::filesystem::path& file, LockWait& wait);
 
 }  // namespace glyph

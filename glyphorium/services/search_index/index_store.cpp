@@ -21,8 +21,8 @@
 namespace glyph {
 namespace {
 
-// The symbol and the name (in lower case) are the title's parts, by which answers are ordered. An identifier
-// is unique by itself, since items are replaced and deleted by it alone.
+// `symbol` and `name` (in lower case) are the two parts of the title. Search results are ordered by them.
+// `uid` alone must be unique, because items are replaced and deleted by their identifier alone.
 constexpr const char* itemTable =
     "CREATE TABLE item(id INTEGER PRIMARY KEY, uid TEXT NOT NULL UNIQUE, domain TEXT NOT NULL,"
     " content_type TEXT NOT NULL, title TEXT NOT NULL, comment TEXT, genre TEXT NOT NULL,"
@@ -30,7 +30,7 @@ constexpr const char* itemTable =
 
 constexpr std::int64_t indexVersion = 1;
 
-// Of so many items and more, a transaction may fill the disk.
+// A transaction of at least this many items is large enough to fill the disk.
 constexpr std::size_t manyItems = 500;
 
 void prepareDirectory(const std::filesystem::path& file) {
@@ -59,7 +59,7 @@ std::vector<std::string> unpackTexts(std::string_view packed) {
     std::size_t length = 0;
     const auto [end, error] = std::from_chars(packed.data(), packed.data() + packed.size(), length);
     packed.remove_prefix(static_cast<std::size_t>(end - packed.data()));
-    if (error != std::errc() || packed.size() <= length) break;  // not as packed: a damaged file
+    if (error != std::errc() || packed.size() <= length) break;  // the file is damaged
     texts.emplace_back(packed.substr(1, length));
     packed.remove_prefix(1 + length);
   }
@@ -92,7 +92,8 @@ Database openIndexFile(const std::filesystem::path& file, int flags) {
 }
 
 bool isIndex(const Database& database) {
-  // In one statement, which sees either nothing or all of what another process creates just now.
+  // Another process may be creating the tables at this moment. A single statement sees either all of the
+  // tables or none.
   Statement look(
       database,
       "SELECT (SELECT user_version FROM pragma_user_version), (SELECT count(*) FROM sqlite_schema),"
@@ -128,24 +129,25 @@ IndexStore::IndexStore(std::filesystem::path file, LockWait& wait, const Directo
 void IndexStore::open(const DirectoryLock&) {
   identity_ = regularFile(file_);
   if (!identity_) {
-    // SQLite would create it readable for others.
+    // If SQLite created the file, other users could read it.
     const int created = ::open(file_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (created >= 0) close(created);
     identity_ = regularFile(file_);
   }
   database_ = openIndexFile(file_, SQLITE_OPEN_READWRITE);
   sqlite3_busy_handler(database_->handle(), LockWait::whileBusy, &wait_);
-  const bool isNew = !isIndex(*database_);  // before anything is written: it may be somebody else's
+  const bool isNew = !isIndex(*database_);  // checked before writing: it may not be our file
   for (;;) {
     try {
       database_->execute("PRAGMA journal_mode=WAL");
       break;
     } catch (const SqliteError& error) {
-      // SQLite does not call the busy handler for this switch.
+      // SQLite does not call the busy handler while it switches the journal mode.
       if (error.code() != SQLITE_BUSY || !wait_.pause()) throw;
     }
   }
-  // Of the last moments before a power failure an index may lose a part: its file stays whole even so.
+  // With this setting, a power failure may undo the latest transactions, but it does not damage the file.
+  // This is acceptable for an index.
   database_->execute("PRAGMA synchronous=NORMAL");
   if (isNew) createTables();
 }
@@ -156,14 +158,14 @@ void IndexStore::createTables() {
   database_->execute(tokenTable);
   database_->execute(("PRAGMA user_version=" + std::to_string(indexVersion)).c_str());
   commit();
-  // Now the file alone, without its log, is an index.
+  // Copies the tables from the log into the file. After that, the file is an index even without the log.
   sqlite3_wal_checkpoint_v2(database_->handle(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
 }
 
 IndexStore::~IndexStore() {
   if (!unfinished_) return;
-  // What a failed transaction has written stays in the log, on a full disk all the room that was left. Once
-  // nothing else is in it, the log can be cut.
+  // The pages of a failed transaction stay in the log. If the disk is full, they occupy all the space that
+  // was left. After the rollback, the checkpoint truncates the log if no other process uses it.
   sqlite3_busy_handler(database_->handle(), nullptr, nullptr);
   sqlite3_exec(database_->handle(), "ROLLBACK", nullptr, nullptr, nullptr);
   sqlite3_wal_checkpoint_v2(database_->handle(), nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr);
@@ -176,8 +178,8 @@ void IndexStore::continueUnlessAbandoned() const {
 void IndexStore::begin(std::size_t items) {
   continueUnlessAbandoned();
   if (items >= manyItems) {
-    // Brings what the log holds into the file while there is room, so that the log can be cut after a
-    // failure.
+    // Copies the content of the log into the file while there is still space on the disk. Otherwise the log
+    // could not be truncated after a failure.
     sqlite3_wal_checkpoint_v2(database_->handle(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
   }
   database_->execute("BEGIN IMMEDIATE");
@@ -197,7 +199,8 @@ void IndexStore::add(const std::vector<SearchableItem>& items) {
       identifiers.push_back(item.uniqueIdentifier);
     }
   }
-  // All deletions before all insertions: the token table writes itself out whenever row numbers step back.
+  // All deletions come before all insertions, because the token table flushes its buffer to the file whenever
+  // a row number is lower than the previous one.
   remove(identifiers);
 
   Statement addItem(
@@ -236,7 +239,7 @@ void IndexStore::remove(const std::vector<std::string>& identifiers) {
 
 void IndexStore::clear() {
   database_->execute("DELETE FROM item");
-  // Quicker than deleting its rows one by one, and leaves nothing of them behind.
+  // Dropping the table is faster than deleting its rows one by one, and no traces of the rows remain.
   database_->execute("DROP TABLE token");
   database_->execute(tokenTable);
 }

@@ -10,11 +10,13 @@
 namespace glyph {
 namespace {
 
-// A keyword of every item. People type it to search among these items only, often with no space after it.
+// A keyword of every item. Users type it to search only among the items of this application, often without a
+// space after it.
 constexpr std::string_view scope = "qv:";
 
-// Whether the index's tokenizer separates at the code point: the categories Cc and Z. A term of a query must
-// hold none, since the index knows no phrases.
+// Whether the index's tokenizer treats the code point as a separator. These are the code points of the
+// categories Cc and Z. A term of a query must not contain a separator: the tokenizer would make a phrase of
+// it, and the index does not support phrases.
 bool separates(char32_t c) {
   return c <= 0x20 || (c >= 0x7f && c <= 0xa0) || c == 0x1680 || c == 0x180e ||
          (c >= 0x2000 && c <= 0x200a) || c == 0x2028 || c == 0x2029 || c == 0x202f || c == 0x205f ||
@@ -25,8 +27,8 @@ bool isAsciiPunctuation(char c) {
   return (c >= '!' && c <= '/') || (c >= ':' && c <= '@') || (c >= '[' && c <= '`') || (c >= '{' && c <= '~');
 }
 
-// The pieces between separators. Ill-formed bytes become U+FFFD, as the tokenizer would read some of them as
-// separators.
+// Splits the text at separators. Ill-formed bytes become U+FFFD, because the tokenizer would treat some of
+// them as separators.
 std::vector<std::string> pieces(std::string_view text) {
   std::vector<std::string> result;
   bool inside = false;

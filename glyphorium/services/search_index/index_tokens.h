@@ -8,23 +8,23 @@
 
 namespace glyph {
 
-/// The table of what items are found by. Only white space separates tokens: by default the tokenizer drops
-/// symbols, and characters newer than its tables. What else is to be a token of its own, indexTokens() splits
-/// off.
+/// The SQL statement that creates the full-text table of the items' tokens. By default, the tokenizer drops
+/// symbols, and characters that are newer than its Unicode tables. With these categories it keeps them, and
+/// only white space and control characters separate tokens. indexTokens() does all further splitting.
 inline constexpr const char* tokenTable =
     "CREATE VIRTUAL TABLE token USING fts5(tok, detail=none, prefix='1 2 3',"
     " tokenize=\"unicode61 remove_diacritics 0 categories 'L* M* N* P* S* Co Cf Cn'\")";
 
-/// The tokens by which an item is found, separated by spaces: each piece between white space of its texts, in
-/// lower case, as it is and again split at ASCII punctuation ("&amp;" also as "amp"). Symbols are pieces like
-/// words.
+/// Returns the tokens by which an item is found, in lower case and separated by spaces. The item's texts are
+/// split at white space. Each piece is a token, whether it is a word or a symbol. If a piece contains ASCII
+/// punctuation, the parts between the punctuation are tokens too: "&amp;" gives "&amp;" and "amp".
 std::string indexTokens(const SearchableItem& item);
 
-/// A query as people type it, made ready for the index.
+/// A query in the forms that the index needs. indexQuery() makes it from the text that a user has typed.
 struct IndexQuery {
-  std::string match;    ///< the FTS5 expression; empty where the query holds no word
-  std::string exact;    ///< the text that an exact symbol equals
-  std::string lowered;  ///< the same in lower case, that an exact identifier or name equals
+  std::string match;    ///< the FTS5 expression; empty if the query has no words
+  std::string exact;    ///< the words without the prefix "qv:"; compared with an item's symbol and identifier
+  std::string lowered;  ///< `exact` in lower case; compared with an item's identifier and name
 };
 IndexQuery indexQuery(std::string_view text);
 

@@ -40,7 +40,7 @@ bool LockWait::pause() noexcept {
   if (now - *since_ >= longWait && !std::exchange(told_, true)) {
     try {
       printProblem("Waiting for another program that has locked the search index: " + file_->string());
-    } catch (const std::bad_alloc&) {  // then without a word
+    } catch (const std::bad_alloc&) {  // then the line is not printed
     }
   }
   std::this_thread::sleep_for(oncePause);
@@ -57,7 +57,7 @@ DirectoryLock::DirectoryLock(const std::filesystem::path& file, LockWait& wait) 
   if (descriptor_ < 0) fail(SQLITE_CANTOPEN, errno);
   while (flock(descriptor_, LOCK_EX | LOCK_NB) != 0) {
     const int error = errno;
-    // Some network file systems have no such locks: there SQLite's own must do.
+    // Some network file systems do not support flock(). There, only SQLite's own locks protect the index.
     if (error != EWOULDBLOCK && error != EINTR) return;
     if (wait.pause()) continue;
     close(descriptor_);

@@ -8,32 +8,35 @@
 
 namespace glyph {
 
-/// The time that one batch of requests waits for locks of other processes: five seconds in all, however many
-/// locks it needs. A diagnostic line says so once it has waited for a second.
+/// Limits the time for which a batch of requests waits for locks of other processes. The limit is five
+/// seconds in total for all locks that the batch needs. After one second, a diagnostic line is printed. Only
+/// one thread may use a LockWait, except that any thread may call abandon() and abandoned().
 class LockWait {
  public:
-  /// Gives the next batch the whole time again. The diagnostic line names the file, which must outlive this.
+  /// Starts the time limit anew, for the next batch. `file` is the path that the diagnostic line names. The
+  /// LockWait keeps a pointer to `file`.
   void renew(const std::filesystem::path& file) noexcept;
-  /// Sleeps for a moment. False without sleeping once the time is over or abandon() was called.
+  /// Sleeps for a few milliseconds and returns true. Returns false immediately if the time limit is reached
+  /// or abandon() was called.
   bool pause() noexcept;
-  /// The form of pause() that sqlite3_busy_handler() takes, with the LockWait as its first argument.
+  /// pause() as a callback for sqlite3_busy_handler(). The first argument is a pointer to the LockWait.
   static int whileBusy(void* lockWait, int) noexcept { return static_cast<LockWait*>(lockWait)->pause(); }
 
-  /// From now on nothing waits. Any thread may call this.
+  /// Stops all waiting: from now on, pause() returns false. Any thread may call this.
   void abandon() { abandoned_ = true; }
   bool abandoned() const { return abandoned_; }
 
  private:
   const std::filesystem::path* file_ = nullptr;
-  std::optional<std::chrono::steady_clock::time_point> since_;  // the first pause of the batch
+  std::optional<std::chrono::steady_clock::time_point> since_;  // the time of the batch's first pause
   bool told_ = false;
   std::atomic<bool> abandoned_ = false;
 };
 
-/// The lock of the directory of the index file, which must exist. While a process opens the index or puts it
-/// aside, it holds this lock: so nobody opens a file whose companions (the log) are just being renamed, and
-/// of several processes that see the same damage one repairs it. Throws SqliteError where the lock is not
-/// free in time.
+/// An exclusive lock on the directory of the index file. A process has this lock while it opens, renames or
+/// deletes the index. Thus no process opens an index while another process renames its files (the database
+/// and its write-ahead log), and only one of several processes that detect the same damage repairs the file.
+/// The constructor throws SqliteError if the directory does not exist, or if the lock is not free in time.
 class DirectoryLock {
  public:
   DirectoryLock(const std::filesystem::path& file, LockWait& wait);

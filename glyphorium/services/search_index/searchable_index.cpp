@@ -17,7 +17,8 @@ struct InPlace {
 
 InPlace& inPlace();
 
-// A request counts as carried out once it is handed over, so the program does not end in the middle of it.
+// A host expects that every request is carried out. Therefore the program waits for the current index before
+// it ends.
 struct DrainAtExit {
   ~DrainAtExit() {
     std::shared_ptr<SearchableIndex> last;

@@ -15,7 +15,8 @@ class SearchableIndexReader::File {
  public:
   explicit File(std::optional<std::filesystem::path> path) : path_(std::move(path)) {}
 
-  // The question's answer about the open file; the empty answer where there is no file or it cannot be read.
+  // Calls `question` with the open database and returns its result. Returns an empty result if the file is
+  // missing or cannot be read.
   template <class Answer, class Question>
   Answer ask(Question question) noexcept {
     try {
@@ -36,11 +37,11 @@ class SearchableIndexReader::File {
  private:
   void report(const std::exception& reason) noexcept {
     try {
-      error_ = "no memory";  // short enough to need none
+      error_ = "no memory";  // this short text needs no allocation
       error_ = reason.what();
       if (std::exchange(reported_, true)) return;
       printProblem("Search index not readable (" + error_ + "): " + path_->string());
-    } catch (const std::exception&) {  // then without a word
+    } catch (const std::exception&) {  // then the line is not printed
     }
   }
 
@@ -51,11 +52,12 @@ class SearchableIndexReader::File {
     if (database_) return true;
     identity_ = identity;
     database_ = openIndexFile(*path_, SQLITE_OPEN_READONLY);
-    // People wait for the answer as they type; a writer locks readers out for a moment only.
+    // The timeout is short, because users wait for the answer while they type. A writer locks out readers
+    // only briefly.
     sqlite3_busy_timeout(database_->handle(), 500);
     sqlite3_db_config(database_->handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     if (isIndex(*database_)) return true;
-    database_.reset();  // a writer has just created it
+    database_.reset();  // a writer has just created the file, which has no tables yet
     return false;
   }
 

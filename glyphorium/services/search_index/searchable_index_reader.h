@@ -14,32 +14,39 @@
 
 namespace glyph {
 
-/// Reads the index file that a SqliteSearchableIndex writes, also while another process writes it; it sees
-/// what is committed. A missing file is an empty index, and is looked for again at every question. A file
-/// that cannot be read (locked for half a second, damaged, no index) gives empty answers; error() tells why,
-/// and a diagnostic line says so once until it can be read again. The questions throw nothing. Used by one
-/// thread at a time.
+/// Reads the index file that a SqliteSearchableIndex writes, even while another process writes to it. It sees
+/// only committed changes. A missing file counts as an empty index, and each call looks for the file again.
+/// If the file cannot be read (it is locked for half a second, damaged or not an index), calls return empty
+/// results, and error() returns the reason. A diagnostic line is then printed once, and again only if the
+/// file was readable in the meantime. count(), item() and search() do not throw. Only one thread at a time
+/// may use a reader.
 class GLYPHORIUM_EXPORT SearchableIndexReader {
  public:
-  /// The index of this application (applicationIdentifier()), or another file.
+  /// Reads the index of this application; see applicationIdentifier().
   SearchableIndexReader();
+  /// Reads the index in the given file.
   explicit SearchableIndexReader(std::filesystem::path file);
   ~SearchableIndexReader();
   SearchableIndexReader(SearchableIndexReader&&) noexcept;
   SearchableIndexReader& operator=(SearchableIndexReader&&) noexcept;
 
-  /// Why the last question could not be answered, for people; empty where it was.
+  /// Returns a message that says why the last call could not read the file. Empty if the call succeeded or
+  /// the file is missing.
   const std::string& error() const;
 
-  /// The number of items.
+  /// Returns the number of items.
   std::size_t count();
-  /// The item of this identifier.
+  /// Returns the item with this identifier, or nullopt if there is no such item.
   std::optional<SearchableItem> item(std::string_view uniqueIdentifier);
 
-  /// The items that hold every word of the query, which stands between white space, at the beginning of a
-  /// word of theirs or of a part of it between ASCII punctuation; case is ignored, and nothing in a query is
-  /// an operator. "qv:" at its front may stand without a space. First those whose symbol, identifier or name
-  /// is the query; then shorter names first, then shorter and lower identifiers. At most `limit`.
+  /// Returns at most `limit` items that match all words of the query. The query is split into words at white
+  /// space. A query word matches if a word of the item, or a part of such a word after ASCII punctuation,
+  /// begins with it. Case is ignored. A query has no operators. Users type the keyword "qv:" to find only
+  /// items of this application. At the beginning of a query, it needs no space after it.
+  ///
+  /// The order is: items whose symbol equals the query, then those whose identifier does, then those whose
+  /// name does, then all others. Within each of these groups, items are ordered by the length of the name,
+  /// then by the length of the identifier, then by the identifier. An empty query has no results.
   std::vector<SearchableItem> search(std::string_view query, int limit);
 
  private:

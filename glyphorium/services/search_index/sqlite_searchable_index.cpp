@@ -41,12 +41,13 @@ void carryOut(const SearchableIndexRequest& request, IndexStore& store) {
   }
 }
 
-// How many waiting requests share a transaction: enough to save most of the commits, few enough for
-// completions to come steadily.
+// Limits for the waiting requests that share a transaction. A batch is full when it has this many requests,
+// or at least this many items. The limits are large enough to save most of the commits, and small enough that
+// completions are called regularly.
 constexpr std::size_t batchRequests = 256;
 constexpr std::size_t batchItems = 20'000;
 
-// The error's text; without memory for it, a short text that needs none.
+// Returns the error's message. If there is no memory for it, returns a short text that needs no allocation.
 std::string text(const std::exception& error) noexcept {
   try {
     return error.what();
@@ -66,12 +67,13 @@ Error copied(const Error& error) noexcept {
 void complete(const SearchableIndex::Completion& completion, Error error) noexcept {
   try {
     if (completion) completion(std::move(error));
-  } catch (...) {  // an exception of the host's function, which nothing here can use
+  } catch (...) {  // the host's function has thrown, and there is no caller to inform
   }
 }
 
-// Signals are left to the host's threads, where its handlers expect to run, but for those that a fault of
-// this thread raises.
+// Blocks signals in the calling thread while the worker thread is started. The worker thread inherits this,
+// so the host's signal handlers run only on the host's own threads, as the host expects. Signals that are
+// raised by a fault of the worker thread are not blocked.
 class BlockSignals {
  public:
   BlockSignals() {
@@ -92,7 +94,8 @@ class BlockSignals {
 
 }  // namespace
 
-// The queue and the thread. The thread is one of its owners, so that a completion may destroy the index.
+// The queue of requests and the thread that carries them out. The thread shares ownership of the Worker, so
+// that a completion may destroy the index.
 class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker> {
  public:
   explicit Worker(std::optional<std::filesystem::path> file) : file_(std::move(file)) {}
@@ -104,7 +107,7 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
       queue_.push_back(std::move(request));
       pending_.requests += 1;
       pending_.items += queue_.back().items();
-    } catch (const std::exception& error) {  // no thread or no memory; the request is as it was
+    } catch (const std::exception& error) {  // no thread or no memory; the request was not moved
       complete(request.completion, text(error));
       return;
     }
@@ -112,7 +115,7 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
   }
 
   bool waitUntilIdle(std::chrono::milliseconds limit, const Progress& progress) {
-    if (process_ != getpid()) return false;  // a forked child has no such thread, and perhaps a locked mutex
+    if (process_ != getpid()) return false;  // a forked child lacks the thread; its mutex may be locked
     constexpr std::chrono::milliseconds longest = std::chrono::hours(24 * 365);
     const auto deadline = std::chrono::steady_clock::now() + std::min(limit, longest);
     std::unique_lock lock(mutex_);
@@ -182,18 +185,18 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
     Error all = perform(batch.begin(), batch.end(), code);
     const bool forAll = code == SQLITE_BUSY || code == SQLITE_FULL;
     if (forAll) {
-      // A lock that is not free in time and a full disk fail all requests that wait: else the next would wait
-      // as long again, or fill the disk to the last byte.
+      // If a lock is not free in time or the disk is full, all waiting requests fail. Otherwise the next
+      // batch would wait just as long again, or use up the last space on the disk.
       const std::lock_guard lock(mutex_);
       batch.splice(batch.end(), queue_);
     }
-    // A request that fails takes none of its neighbours with it.
+    // If a batch fails, its requests are carried out one by one, so that only the faulty requests fail.
     const bool oneByOne = all && batch.size() > 1 && !forAll;
     for (auto request = batch.begin(); request != batch.end(); ++request) {
       if (oneByOne) all = perform(request, std::next(request), code);
       complete(request->completion, copied(all));
       const auto items = request->items();
-      *request = {};  // the host's captures end before the request counts as done
+      *request = {};  // destroys the host's captures before the request counts as done
       const std::lock_guard lock(mutex_);
       pending_.requests -= 1;
       pending_.items -= items;
@@ -203,8 +206,8 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
 
   using Position = std::list<Request>::iterator;
 
-  // Carries the requests out in one transaction. After an error the file is closed, which takes the
-  // transaction back, and opened again by the next request: the cause may have passed.
+  // Carries out the requests in one transaction. An error closes the file, which rolls back the transaction.
+  // The next request opens the file again, because the cause of the error may be gone by then.
   Error perform(Position begin, Position end, int& code) noexcept {
     std::string reason;
     try {
@@ -223,7 +226,7 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
     return reason;
   }
 
-  // False where other processes put the file aside again and again.
+  // Returns false if other processes renamed or deleted the file at every attempt.
   bool performAndRepair(Position begin, Position end) {
     bool repaired = false;
     for (int attempt = 0; attempt < 4; ++attempt) {
@@ -244,7 +247,7 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
     return false;
   }
 
-  // False where the file was put aside or deleted meanwhile: what was written to it is lost.
+  // Returns false if another process renamed or deleted the file in the meantime. The changes are then lost.
   bool performOnce(Position begin, Position end) {
     if (store_ && !store_->inPlace()) store_.reset();
     if (!store_) store_.emplace(*file_, wait_);
@@ -258,7 +261,7 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
   }
 
   std::mutex mutex_;
-  std::condition_variable arrived_;  // a request has come, or the end
+  std::condition_variable arrived_;  // a request has arrived, or the index is being destroyed
   std::condition_variable changed_;  // pending_ has changed
   std::list<Request> queue_;
   PendingIndexWork pending_;
@@ -267,7 +270,7 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
   std::optional<std::filesystem::path> file_;
   std::atomic<pid_t> process_ = getpid();
   std::thread thread_;
-  std::optional<IndexStore> store_;  // used by the thread alone
+  std::optional<IndexStore> store_;  // used only by the worker thread
 };
 
 SqliteSearchableIndex::SqliteSearchableIndex(std::optional<std::filesystem::path> file)

@@ -10,19 +10,26 @@
 
 namespace glyph {
 
-/// The index as a file of the application, which the desktop search provider reads in its own process
-/// (SearchableIndexReader). One thread, started by the first request, carries the requests out; requests that
-/// wait together share a transaction, and a completion is called only after its commit. Several processes of
-/// the application may write. Requests wait for locks of other processes for five seconds at most, then they
-/// fail; a diagnostic line says so after one second. A damaged file is put aside under another name, what can
-/// be read of it is kept, and a diagnostic line says so. A file that a later version has written, and one
-/// behind a symbolic link that is no index, are left alone: every request fails.
-/// Not to be used in a child process made by fork without exec.
+/// An index in a file of the application. The desktop search provider reads this file in its own process,
+/// with a SearchableIndexReader.
+///
+/// A single thread carries out the requests; the first request starts it. Waiting requests share a
+/// transaction, and a completion is called only after the commit. Several processes of the application may
+/// write to the file. Requests wait at most five seconds for the locks of other processes and then fail. A
+/// diagnostic line is printed after one second.
+///
+/// A damaged file is renamed, the items that can still be read are copied into a new file, and a diagnostic
+/// line is printed. Two kinds of files are never changed, so that every request fails: a file that a later
+/// version has written, and a file that is not an index and is reached through a symbolic link.
+///
+/// A child process that was created by fork() without exec() must not use this object.
 class GLYPHORIUM_EXPORT SqliteSearchableIndex final : public SearchableIndex {
  public:
-  /// Without a file: "index.sqlite" in the application's data directory, as named at the first request.
+  /// nullopt means "index.sqlite" in the application's data directory. The path of this directory is
+  /// determined at the first request.
   explicit SqliteSearchableIndex(std::optional<std::filesystem::path> file = std::nullopt);
-  /// Carries out what it was given, for a few seconds at most; completions of the rest then get an error.
+  /// Waits a few seconds at most until all requests are carried out. The completions of the remaining
+  /// requests then get an error.
   ~SqliteSearchableIndex() override;
   SqliteSearchableIndex(const SqliteSearchableIndex&) = delete;
   SqliteSearchableIndex& operator=(const SqliteSearchableIndex&) = delete;

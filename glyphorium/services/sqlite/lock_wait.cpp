@@ -15,11 +15,11 @@ using std::chrono::milliseconds;
 
 struct InPlace {
   std::mutex mutex;
-  std::shared_ptr<const LockWaitPolicy> policy;  // none: the default
+  std::shared_ptr<const LockWaitPolicy> policy;  // null means the default
 };
 
 InPlace& inPlace() {
-  static auto* const instance = new InPlace;  // never destroyed: settings may be saved while the process ends
+  static auto* const instance = new InPlace;  // never destroyed: settings may be saved during exit
   return *instance;
 }
 
@@ -38,10 +38,10 @@ bool waitForLock(milliseconds waited) noexcept try {
     policy = inPlace().policy;
   }
   if (!(policy ? (*policy)(waited) : waited < milliseconds(5000))) return false;
-  // Most locks are held for a few milliseconds only. Short pauses at first, then longer ones.
+  // Most locks last only a few milliseconds. So the first pauses are short, and later ones are longer.
   std::this_thread::sleep_for(waited < milliseconds(50) ? milliseconds(1) : milliseconds(10));
   return true;
-} catch (...) {  // the policy is the host's code
+} catch (...) {  // the policy is the host's code and may throw
   return false;
 }
 

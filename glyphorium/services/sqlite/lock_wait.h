@@ -8,16 +8,17 @@
 
 namespace glyph {
 
-/// Decides whether an operation on the settings goes on waiting for a file that another process has locked.
-/// `waited` is how long this operation has waited so far; false gives up, and the operation fails.
+/// Decides whether an operation on the settings continues to wait for a file that another process has locked.
+/// `waited` is the time that this operation has waited so far. If the policy returns false or throws, the
+/// operation fails.
 ///
-/// The policy is asked many times a second on the waiting thread, while the library holds its own locks: it
-/// may print or count, but must not use the library.
+/// The policy is called many times a second on the waiting thread. The library has locked its own mutexes
+/// during the call, so the policy may print or count, but must not call the library.
 using LockWaitPolicy = std::function<bool(std::chrono::milliseconds waited)>;
 
-/// Replaces the policy, for a program that must end within a certain time or that tells its user why it
-/// waits. The default, which an empty function restores, gives up after five seconds. May be called from any
-/// thread.
+/// Replaces the policy. This is useful for a program that must end within a certain time, or that informs its
+/// user why it waits. The default policy stops waiting after five seconds; an empty function restores it. May
+/// be called from any thread.
 GLYPHORIUM_EXPORT void setLockWaitPolicy(LockWaitPolicy policy);
 
 }  // namespace glyph

@@ -14,26 +14,29 @@
 
 namespace glyph {
 
-/// An error that SQLite returned. The users of these classes catch it; it never reaches a host.
+/// An error that SQLite returned. The library catches it, so a host never sees it.
 class SqliteError : public std::runtime_error {
  public:
   SqliteError(int code, const std::string& message) : std::runtime_error(message), code_(code & 0xff) {}
-  /// Takes the message of the connection's last error; the connection is null if there was no memory for one.
+  /// Uses the message of the connection's last error. If `connection` is null, because there was no memory to
+  /// open it, uses the general message for the code.
   SqliteError(int code, sqlite3* connection);
-  /// The primary result code.
+  /// Returns SQLite's primary result code.
   int code() const { return code_; }
-  /// Whether the file is damaged or never was a database.
+  /// Whether the error says that the file is damaged or is not a database.
   bool damage() const { return code_ == SQLITE_CORRUPT || code_ == SQLITE_NOTADB; }
 
  private:
   int code_;
 };
 
-/// For an operation that has waited so long for a locked file: asks the LockWaitPolicy and, if it says so,
-/// sleeps for a few milliseconds. False: give up.
+/// Called repeatedly by an operation that waits for a locked file. `waited` is the time that it has waited so
+/// far. Asks the LockWaitPolicy whether to continue. If so, sleeps for a few milliseconds and returns true.
+/// Otherwise returns false, and the operation must fail.
 bool waitForLock(std::chrono::milliseconds waited) noexcept;
 
-/// A connection; used by one thread at a time.
+/// A connection to a database file. Only one thread at a time may use it. Its functions throw SqliteError.
+/// `flags` are those of sqlite3_open_v2().
 class Database {
  public:
   Database(const std::filesystem::path& file, int flags);
@@ -48,13 +51,13 @@ class Database {
   std::unique_ptr<sqlite3, Close> connection_;
 };
 
-/// A prepared statement.
+/// A prepared statement. Its constructor, bind(), step() and run() throw SqliteError.
 class Statement {
  public:
   Statement(const Database& database, const char* sql);
 
-  /// Binds the values to ?1, ?2 … anew. The statement reads texts where they are: they must outlive its
-  /// steps.
+  /// Resets the statement and binds the values to ?1, ?2 and so on. Texts are not copied: they must stay
+  /// valid until the last call of step().
   template <class... Values>
   Statement& bind(const Values&... values) {
     sqlite3_reset(statement_.get());
@@ -62,9 +65,9 @@ class Statement {
     (bindAt(++at, values), ...);
     return *this;
   }
-  /// Whether there is a further row.
+  /// Moves to the next row. Returns false if there are no more rows.
   bool step();
-  /// Binds the values and runs to the end, without an interest in rows.
+  /// Binds the values and runs the statement to its end. Rows are ignored.
   template <class... Values>
   void run(const Values&... values) {
     bind(values...);
