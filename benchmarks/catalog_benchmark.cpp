@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Decoding and joining the catalog, compared with parsing the same bytes only.
+// Measures decoding and joining the catalog, compared with only parsing the same bytes.
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 #include <simdjson.h>
@@ -28,7 +28,7 @@ std::vector<std::string_view> configuredTables() {
   return tables;
 }
 
-// The raw limit: parsing without making records.
+// The lower limit of the time: parsing without creating records.
 void bareParse(benchmark::State& state) {
   const auto tables = configuredTables();
   simdjson::dom::parser parser;
@@ -43,7 +43,7 @@ void bareParse(benchmark::State& state) {
 }
 BENCHMARK(bareParse)->Unit(benchmark::kMillisecond);
 
-// The steps of configure().
+// Decodes the tables in the same steps as configure().
 std::vector<Entity> decodedRows() {
   std::vector<Entity> records;
   records.reserve(17532);
@@ -59,7 +59,7 @@ std::vector<Entity> decodedRows() {
   return records;
 }
 
-// Destroying the entities is not measured: a catalog is filled once and kept.
+// Measures `make`, but not the destruction of its result: a program fills its catalog once and keeps it.
 template <class Make>
 void measureMaking(benchmark::State& state, Make make) {
   for (auto _ : state) {
@@ -108,7 +108,8 @@ void joinAlone(benchmark::State& state) {
 }
 BENCHMARK(joinAlone)->Unit(benchmark::kMillisecond);
 
-// Name completion of as many records, compared with decoding the name table once.
+// Completes the names of the given number of records. Compare this with decodeNameTable, which decodes the
+// name table once.
 void completeNames(benchmark::State& state) {
   std::vector<ComputedEntity> records(static_cast<std::size_t>(state.range(0)));
   for (std::size_t i = 0; i < records.size(); ++i) {
@@ -126,8 +127,8 @@ BENCHMARK(decodeNameTable)->Unit(benchmark::kMicrosecond);
 }  // namespace
 
 int main(int argc, char** argv) {
-  // Keep freed memory, as the parser does. Otherwise the time that the kernel takes for new pages would
-  // decide the comparison. (A new process needs about 1 ms for 4 MB of pages, once.)
+  // The parser keeps its memory, so let malloc() keep freed memory too. Otherwise the comparison would mainly
+  // measure the time that the kernel needs for new pages. (A new process needs about 1 ms for 4 MB, once.)
   mallopt(M_TRIM_THRESHOLD, 1 << 30);
   mallopt(M_MMAP_THRESHOLD, 1 << 30);
   benchmark::Initialize(&argc, argv);

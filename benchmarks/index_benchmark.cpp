@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The desktop's search index: the whole catalog is indexed, replaced, queried and deleted. The limit to
-// compare with is writing the same texts into one plain SQLite table.
+// Measures the desktop's search index: indexing, replacing, querying and deleting the whole catalog. The
+// lower limit for comparison is writing the same texts into a plain SQLite table.
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
@@ -61,7 +61,7 @@ void indexAll(benchmark::State& state) {
 }
 BENCHMARK(indexAll)->Unit(benchmark::kMillisecond);
 
-// An index that holds the whole catalog, made once.
+// Returns an index that contains the whole catalog. Fills the index if it is not complete.
 SqliteSearchableIndex& filledIndex() {
   static SqliteSearchableIndex index(folder / "index.sqlite");
   if (SearchableIndexReader(folder / "index.sqlite").count() != wholeCatalog().size()) {
@@ -124,7 +124,7 @@ void clear(benchmark::State& state) {
 }
 BENCHMARK(clear)->Unit(benchmark::kMillisecond);
 
-// The raw limit: the same titles and keywords as rows of a table without a word index.
+// The lower limit of the time: writes the same titles and keywords into a table without a full-text index.
 void plainTable(benchmark::State& state) {
   for (auto _ : state) {
     state.PauseTiming();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The time that the search of the whole catalog takes: to build it, and for a query, beside other ways to
-// find the same words. Compare only figures of one run, because other programs run on the same machine.
+// Measures the search of the whole catalog: building it, and answering a query. Other ways to find the same
+// words are measured for comparison. Compare only figures from the same run, because other programs run on
+// the same machine.
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <malloc.h>
@@ -59,7 +60,8 @@ struct ListedQuery {
   SearchOptions options;
 };
 
-// The list of everyday queries. If `typed` is set, every beginning of each.
+// Returns the queries from the list of everyday queries. If `typed` is true, returns all prefixes of each
+// query instead, as if the user typed it letter by letter.
 std::vector<ListedQuery> listedQueries(bool typed) {
   std::vector<ListedQuery> queries;
   std::ifstream file(SEARCH_QUERY_LIST);
@@ -87,8 +89,8 @@ void buildingSearch(benchmark::State& state) {
 }
 BENCHMARK(buildingSearch)->Unit(benchmark::kMillisecond);
 
-// Measures each query by itself, because users notice the slow ones and not the mean. The time of a query is
-// the median of its runs, which other processes disturb little.
+// Measures each query separately, because users notice slow queries rather than the mean. The time of a query
+// is the median of its runs, because other processes have little influence on the median.
 void measureQueries(benchmark::State& state, bool typed) {
   using Clock = std::chrono::steady_clock;
   const std::vector<ListedQuery> queries = listedQueries(typed);
@@ -125,7 +127,7 @@ void oneWord(benchmark::State& state) {
 }
 BENCHMARK(oneWord)->Unit(benchmark::kMicrosecond);
 
-// The following find "arrow" in the names, and do not rank.
+// The following benchmarks find "arrow" in the names, without ranking.
 
 UBool countArrow(void* count, UChar32, UCharNameChoice, const char* name, int32_t) {
   *static_cast<int*>(count) += std::strstr(name, "ARROW") != nullptr;
@@ -172,7 +174,8 @@ void memmemOverNames(benchmark::State& state) {
 }
 BENCHMARK(memmemOverNames)->Unit(benchmark::kMicrosecond);
 
-// An FTS5 table of the names, in memory; the query of a user who types, best hundred.
+// An FTS5 table of the names, in memory. A query returns the best 100 matches, as the search does for a user
+// who is typing.
 class FullTextTable {
  public:
   FullTextTable() {
@@ -227,7 +230,8 @@ void fullTextQuery(benchmark::State& state, const char* match) {
 BENCHMARK_CAPTURE(fullTextQuery, arrow, "arrow*")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(fullTextQuery, let, "let*")->Unit(benchmark::kMicrosecond);
 
-// A program that shows results and needs nothing else of the catalog does this.
+// Decodes only the entities of the results. A program that shows results and needs nothing else from the
+// catalog does the same.
 void decodingTwentyResults(benchmark::State& state) {
   const auto results = Search::ofCatalog().query("arrow", {20, {{"en"}}, {}}).results;
   for (auto _ : state) {
@@ -236,7 +240,7 @@ void decodingTwentyResults(benchmark::State& state) {
 }
 BENCHMARK(decodingTwentyResults)->Unit(benchmark::kMicrosecond);
 
-// Whole programs from start to end, without stored settings.
+// Measures a whole program from its start to its end, without stored settings.
 void wholeProcess(benchmark::State& state, std::vector<std::string> command) {
   std::vector<char*> arguments;
   for (std::string& argument : command) arguments.push_back(argument.data());

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The desktop search provider on a private bus, with the whole catalog indexed: a call that starts it, calls
-// while it runs and, to compare with, a round trip to the bus itself.
+// Measures the desktop search provider on a private bus, with the whole catalog indexed: a call that starts
+// the provider, and calls while it runs. For comparison, it also measures a call to the bus itself.
 #include <benchmark/benchmark.h>
 #include <signal.h>
 #include <sys/wait.h>
@@ -35,7 +35,8 @@ sd_bus* bus() {
   return connection;
 }
 
-// Returns the results, so that an empty answer is not taken for a quick one.
+// Returns the number of results. Callers check this number, because an empty answer would be misleadingly
+// fast.
 std::size_t search(const char* word) {
   sd_bus_message* reply = nullptr;
   std::size_t results = 0;
@@ -81,7 +82,7 @@ BENCHMARK_CAPTURE(callProvider, symbol, "→");
 BENCHMARK_CAPTURE(callProvider, name, "rightwards arrow");
 BENCHMARK_CAPTURE(callProvider, everyItem, "qv:");
 
-// From the call that starts the program to its answer.
+// Measures the time from the call that starts the provider to its answer.
 void startProvider(benchmark::State& state) {
   for (auto _ : state) {
     if (const pid_t running = process()) {
@@ -95,7 +96,8 @@ void startProvider(benchmark::State& state) {
 }
 BENCHMARK(startProvider)->UseManualTime()->Iterations(50)->Unit(benchmark::kMillisecond);
 
-// Runs this program again in a session of its own, in which the catalog is indexed.
+// Indexes the catalog and runs this program again in a separate bus session, in which the provider finds this
+// index.
 int runInSession(char** arguments) {
   std::string folder = std::filesystem::temp_directory_path() / "glyphorium-XXXXXX";
   if (!mkdtemp(folder.data())) return 1;
@@ -114,7 +116,7 @@ int runInSession(char** arguments) {
   const pid_t child = fork();
   if (child == 0) {
     setenv("GLYPHORIUM_BENCHMARK_SESSION", "1", 1);
-    if (!freopen("/dev/null", "w", stderr)) _exit(1);  // the bus writes two lines there for each start
+    if (!freopen("/dev/null", "w", stderr)) _exit(1);  // the bus prints two lines for each start
     std::string session = "dbus-run-session", end = "--";
     std::string program = std::filesystem::read_symlink("/proc/self/exe");
     std::vector<char*> command{session.data(), end.data(), program.data()};

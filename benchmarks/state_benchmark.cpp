@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Building the displayed list and adding a character, compared with configuring the catalog and with a plain
-// sort and copy.
+// Measures building the displayed list and adding a character. For comparison, it also measures configuring
+// the catalog, and a plain sort and copy.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -45,7 +45,7 @@ void buildAllGroups(benchmark::State& state) {
 }
 BENCHMARK(buildAllGroups)->Unit(benchmark::kMillisecond);
 
-// The raw limit: the same entities copied and sorted, without any rule.
+// The lower limit of the time: the same entities are only sorted and copied.
 void plainSortAndCopy(benchmark::State& state) {
   displayAllGroups(configuredCatalog());
   configuredCatalog().setSelectedEntities();
@@ -63,7 +63,8 @@ void plainSortAndCopy(benchmark::State& state) {
 }
 BENCHMARK(plainSortAndCopy)->Unit(benchmark::kMillisecond);
 
-// With the store on disk or in memory, and a few displayed groups.
+// Adds and removes a character while a few groups are displayed. With the argument 0 the settings are stored
+// in memory, with 1 on disk.
 void addOneCharacter(benchmark::State& state) {
   Glyphorium& catalog = configuredCatalog();
   const auto folder = std::filesystem::temp_directory_path() / "glyphorium-state-benchmark";

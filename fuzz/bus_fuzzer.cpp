@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Texts as arguments of calls on the desktop's bus, in messages that no bus carries: every text can be sent,
-// and what is read is what was sent. Each line of the input is a text.
+// Writes texts into D-Bus messages as arguments of calls, and reads them back. Every text can be written, and
+// is read back unchanged. The messages are never sent. Each line of the input is a text.
 #include <sys/socket.h>
 #include <systemd/sd-bus.h>
 
@@ -24,7 +24,7 @@ provider::Message newMessage() {
   static const provider::Bus bus = [] {
     sd_bus* made = nullptr;
     provider::check(sd_bus_new(&made));
-    // Messages are made for a connection; nothing is ever sent on this one.
+    // A message needs a connection. Nothing is ever sent on this connection.
     int ends[2];
     provider::check(socketpair(AF_UNIX, SOCK_STREAM, 0, ends));
     provider::check(sd_bus_set_fd(made, ends[0], ends[0]));
@@ -36,7 +36,7 @@ provider::Message newMessage() {
   return provider::Message(message);
 }
 
-// As the bus has it once the message is complete.
+// Completes the message, so that it can be read as the receiver would read it.
 sd_bus_message* sent(const provider::Message& message) {
   provider::check(sd_bus_message_seal(message.get(), 1, 0));
   return message.get();
@@ -51,26 +51,27 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::size_t end = std::min(all.find('\n', begin), all.size());
     const std::string_view text = all.substr(begin, end - begin);
     texts.push_back(provider::busText(text));
-    require(provider::isBusText(texts.back()), "every text can be made one for the bus");
-    require(!provider::isBusText(text) || texts.back() == text, "a text for the bus stays as it is");
+    require(provider::isBusText(texts.back()), "busText() makes a text that the bus accepts");
+    require(!provider::isBusText(text) || texts.back() == text,
+            "busText() does not change a text that the bus accepts");
     begin = end + 1;
   }
   try {
     const provider::Message list = newMessage();
     provider::append(list.get(), texts);
-    require(provider::readTexts(sent(list), texts.size()) == texts, "texts are read as they were sent");
+    require(provider::readTexts(sent(list), texts.size()) == texts, "a list of texts is read back unchanged");
 
     const provider::Message single = newMessage();
     provider::check(sd_bus_message_append(single.get(), "s", texts.front().c_str()));
-    require(provider::readText(sent(single)) == texts.front(), "so is one text");
+    require(provider::readText(sent(single)) == texts.front(), "a single text is read back unchanged");
   } catch (const std::system_error&) {
-    require(false, "the bus takes every such text");
+    require(false, "the bus accepts every text from busText()");
   }
   try {
     const provider::Message number = newMessage();
     provider::check(sd_bus_message_append(number.get(), "u", 1U));
     provider::readTexts(sent(number), 1);
-    require(false, "a number is no list of texts");
+    require(false, "reading a number as a list of texts fails");
   } catch (const std::system_error&) {
   }
   return 0;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Codes in every notation, the code formats and XML references: what a format writes is read back the same,
-// and well-formed text stays well-formed.
+// Tests codes in every notation, the code formats and XML references. Every written code is read back
+// unchanged, and well-formed text stays well-formed.
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
@@ -21,17 +21,17 @@ constexpr glyph::CodeFormats formats;
 
 void parseAndWriteAgain(std::string_view text) {
   const auto codes = glyph::parseCodes(text);
-  require(codes.size() <= text.size(), "a code takes a byte at least");
+  require(codes.size() <= text.size(), "each code occupies at least one byte");
   std::string written;
   for (const glyph::ParsedCode& code : codes) {
     const bool named = !code.htmlName.empty();
     require(std::all_of(code.htmlName.begin(), code.htmlName.end(), glyph::ascii::isAlphanumeric),
-            "names in HTML are ASCII");
-    require(!named || code.codePoint == 0, "a code is a name or a number");
+            "HTML names are ASCII letters and digits");
+    require(!named || code.codePoint == 0, "a code has either a name or a number");
     if (!written.empty()) written += ' ';
     written += named ? "&" + code.htmlName + ";" : formats.getHtmlHex(formats.getHex(code.codePoint));
   }
-  // U+0000 loses its last digit on the way.
+  // getHtmlHex() removes leading zeros, so the reference for U+0000 has no digits and cannot be read back.
   if (std::any_of(codes.begin(), codes.end(),
                   [](const auto& code) { return code.htmlName.empty() && code.codePoint == 0; })) {
     return;
@@ -46,28 +46,32 @@ void parseAndWriteAgain(std::string_view text) {
 
 void formatNumber(std::int64_t number) {
   const std::string hex = formats.getHex(number);
-  require(formats.getDecimal(hex) == std::max<std::int64_t>(number, 0), "a hex code is read back");
-  require(formats.getAdvancedDecimal(hex) == std::vector{formats.getDecimal(hex)}, "also as a list of one");
+  require(formats.getDecimal(hex) == std::max<std::int64_t>(number, 0),
+          "a hex code is converted back to its number");
+  require(formats.getAdvancedDecimal(hex) == std::vector{formats.getDecimal(hex)},
+          "a list of one hex code is converted to the same number");
   const std::string symbol = formats.getAdvancedSymbol(hex);
-  require(symbol == glyph::utf8(formats.getDecimal(hex)), "a hex code gives its character");
+  require(symbol == glyph::utf8(formats.getDecimal(hex)), "a hex code is converted to its character");
   if (symbol.empty()) return;
-  require(formats.getSymbol(formats.getHtmlDecimal(formats.getDecimal(hex))) == symbol, "a reference, too");
-  require(hex == "0000" || formats.getSymbol(formats.getHtmlHex(hex)) == symbol, "and in hexadecimal");
+  require(formats.getSymbol(formats.getHtmlDecimal(formats.getDecimal(hex))) == symbol,
+          "a decimal reference is converted to the character");
+  require(hex == "0000" || formats.getSymbol(formats.getHtmlHex(hex)) == symbol,
+          "a hexadecimal reference is converted to the character");
 }
 
 void formatText(std::string_view text, bool wellFormed) {
   const auto characters = glyph::graphemeClusters(text);
-  if (characters.size() < 3) require(formats.getDecimal(text) == 0, "three characters are needed");
+  if (characters.size() < 3) require(formats.getDecimal(text) == 0, "fewer than three characters give 0");
 
   const std::string html = formats.getHtmlHex(text);
-  require(html.starts_with("&#x") && html.ends_with(";"), "a reference has its frame");
+  require(html.starts_with("&#x") && html.ends_with(";"), "a reference begins with &#x and ends with ;");
   const std::string inner = html.substr(3, html.size() - 4);
-  require(inner.empty() || glyph::graphemeClusters(inner).front() != "0", "no character 0 leads");
-  require(formats.getHtmlHex(inner) == html, "a shortened code stays");
+  require(inner.empty() || glyph::graphemeClusters(inner).front() != "0", "a reference has no leading zeros");
+  require(formats.getHtmlHex(inner) == html, "a code without leading zeros gives the same reference");
   std::size_t zeros = 0;
   while (zeros < characters.size() && characters[zeros] == "0") ++zeros;
-  require(inner == glyph::lowercased(text.substr(zeros)), "only characters 0 are left out");
-  require(!wellFormed || glyph::isWellFormedUtf8(html), "a reference is well-formed");
+  require(inner == glyph::lowercased(text.substr(zeros)), "only leading zeros are removed");
+  require(!wellFormed || glyph::isWellFormedUtf8(html), "the reference is well-formed UTF-8");
 
   std::string ofComponents;
   for (std::size_t begin = 0; begin <= text.size();) {
@@ -75,15 +79,15 @@ void formatText(std::string_view text, bool wellFormed) {
     ofComponents += formats.getHtmlHex(text.substr(begin, end - begin));
     begin = end + 1;
   }
-  require(formats.getAdvancedHtmlHex(text) == ofComponents, "a list is its components");
-  require(glyph::isWellFormedUtf8(formats.getAdvancedSymbol(text)), "symbols are well-formed");
+  require(formats.getAdvancedHtmlHex(text) == ofComponents, "a list is converted component by component");
+  require(glyph::isWellFormedUtf8(formats.getAdvancedSymbol(text)), "symbols are well-formed UTF-8");
 }
 
 void unescape(std::string_view text, bool wellFormed) {
   const std::string plain = glyph::xmlUnescaped(text);
-  require(plain.size() <= text.size(), "a reference is longer than its character");
-  require(text.find('&') != std::string_view::npos || plain == text, "other text stays");
-  require(!wellFormed || glyph::isWellFormedUtf8(plain), "well-formed text stays so");
+  require(plain.size() <= text.size(), "unescaping never makes a text longer");
+  require(text.find('&') != std::string_view::npos || plain == text, "a text without & is not changed");
+  require(!wellFormed || glyph::isWellFormedUtf8(plain), "well-formed text stays well-formed");
   std::string escaped, references;
   for (const char c : text) escaped += c == '&' ? std::string("&amp;") : std::string(1, c);
   require(glyph::xmlUnescaped(escaped) == text, "escaped text is read back");
@@ -92,7 +96,7 @@ void unescape(std::string_view text, bool wellFormed) {
     const std::string zeros(c % 40, '0');
     references += "&#" + zeros + std::to_string(static_cast<std::uint32_t>(c)) + ";";
   }
-  require(glyph::xmlUnescaped(references) == text, "references with zeros are read back");
+  require(glyph::xmlUnescaped(references) == text, "references with leading zeros are read back");
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The words of the search index, in an index in memory: whatever an item is named, its name finds it, and
-// whatever people type is an answer, no error. The first line of the input is what they type, the second a
-// symbol, the third a name.
+// Tests the words of the search index, with an index in memory. Every item is found by its name, and no query
+// causes an error. The first line of the input is a query, the second line is the item's symbol, and the rest
+// is the item's name.
 #include <algorithm>
 #include <cstdint>
 #include <exception>
@@ -58,21 +58,23 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   item.symbol = symbol;
   item.title = item.symbol + "\t" + std::string(name);
   item.keywords = {item.symbol, std::string(name), "qv:", "qv: ", "entity"};
-  require(item.name() == name, "an item has its name");
+  require(item.name() == name, "name() returns the name from the title");
   require(glyph::unpackTexts(glyph::packTexts(item.keywords)) == item.keywords, "keywords are read back");
   glyph::unpackTexts(text);
 
   const std::string tokens = glyph::indexTokens(item);
-  require(glyph::isWellFormedUtf8(tokens), "tokens are well-formed");
+  require(glyph::isWellFormedUtf8(tokens), "tokens are well-formed UTF-8");
   index.hold(tokens);
   for (const std::string& query :
        {std::string(typed), std::string(name), "qv:" + std::string(name), item.symbol, item.title}) {
     const glyph::IndexQuery wanted = glyph::indexQuery(query);
-    require(glyph::isWellFormedUtf8(wanted.match), "an expression is well-formed");
-    require(wanted.exact.empty() || !wanted.match.empty(), "words are asked for");
-    require(wanted.lowered == glyph::lowercased(wanted.exact), "the lowered text is that of the exact one");
+    require(glyph::isWellFormedUtf8(wanted.match), "the FTS5 expression is well-formed UTF-8");
+    require(wanted.exact.empty() || !wanted.match.empty(), "a query with words has an FTS5 expression");
+    require(wanted.lowered == glyph::lowercased(wanted.exact),
+            "the lowered text is the exact text in lower case");
     const bool found = index.finds(wanted);
-    // "qv:" in front of a query is no part of what is looked for.
+    // The typed query need not match. A "qv:" at the beginning of a query is not searched for, so a text with
+    // "qv:" need not find its item either.
     if (query == typed || wanted.match.empty() ||
         glyph::lowercased(item.title).find("qv:") != std::string::npos) {
       continue;

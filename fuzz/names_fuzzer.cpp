@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Name completion beside a plain search for the code in the decoded name table. A line of the input is a
-// record: its hex code, and after a blank its name and whether it is in the private use area.
+// Compares name completion with a plain look-up of the hex code in the decoded name table. Each line of the
+// input is a record: its hex code, a space and its name. A name that ends with "!" puts the record into the
+// private use area.
 #include <algorithm>
 #include <cstdint>
 #include <string>
@@ -54,17 +55,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto* const entry = entryOf(record.hex);
     const std::string name = glyph::lowercased(entry ? entry->name : record.fallbackName);
     if (name.empty() || name == "<control>" || record.group == "Private Use Area") continue;
-    require(next != named.end() && next->hex == record.hex, "the others stay, in their order");
-    require(glyph::lowercased(next->fallbackName) == name, "the name is the table's, else the record's");
+    require(next != named.end() && next->hex == record.hex, "records with a usable name keep their order");
+    require(glyph::lowercased(next->fallbackName) == name,
+            "the name is from the table, or from the record if the table lacks the code");
     require(entry ? next->isSFSymbol == entry->isSFSymbol : !next->isSFSymbol,
-            "so is the mark of SF Symbols");
+            "isSFSymbol is from the table, or false if the table lacks the code");
     ++next;
   }
-  require(next == named.end(), "nothing comes twice");
+  require(next == named.end(), "the result has no additional records");
   const Records again = glyph::toolKit().addNames(named);
-  require(again.size() == named.size(), "named records stay");
+  require(again.size() == named.size(), "a second completion keeps all records");
   for (std::size_t i = 0; i < again.size(); ++i) {
-    require(again[i].fallbackName == named[i].fallbackName, "a name stays");
+    require(again[i].fallbackName == named[i].fallbackName, "a second completion keeps all names");
   }
   return 0;
 }

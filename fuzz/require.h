@@ -6,7 +6,8 @@
 
 namespace fuzzing {
 
-/// Ends the fuzzer, which then keeps its input as a finding, unless the condition holds.
+/// Aborts the fuzzer if the condition is false. The fuzzer then saves its input as a finding. `what`
+/// describes the condition and is printed.
 inline void require(bool condition, const char* what) {
   if (condition) return;
   std::fprintf(stderr, "Not so: %s\n", what);

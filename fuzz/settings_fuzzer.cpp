@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Stored values: every text has a value, and every value comes back as it was stored.
+// Every text can be read as the stored form of a setting, and every stored value is read back unchanged.
 #include <cmath>
 #include <cstdint>
 #include <cstring>
@@ -21,9 +21,9 @@ using glyph::SettingValue;
 void store(const SettingValue& value) {
   const auto json = glyph::settingToJson(value);
   require(json.has_value(), "a plain value can be stored");
-  require(nlohmann::json::accept(*json), "what is stored is JSON");
-  require(glyph::isWellFormedUtf8(*json), "and well-formed");
-  require(glyph::settingFromJson(*json) == value, "a value comes back as it was stored");
+  require(nlohmann::json::accept(*json), "the stored text is JSON");
+  require(glyph::isWellFormedUtf8(*json), "the stored text is well-formed UTF-8");
+  require(glyph::settingFromJson(*json) == value, "a stored value is read back unchanged");
 }
 
 }  // namespace
@@ -32,9 +32,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string text(reinterpret_cast<const char*>(data), size);
   const SettingValue read = glyph::settingFromJson(text);
   if (const auto* const raw = std::get_if<glyph::RawJson>(&read)) {
-    require(raw->text == text, "what has no type of its own is carried as it is");
+    require(raw->text == text, "RawJson contains the original text");
   } else {
-    require(nlohmann::json::accept(text), "what is no JSON has no type");
+    require(nlohmann::json::accept(text), "a text that is not JSON is read as RawJson");
     store(read);
   }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The decoding of tables beside a second reading of the same text, by another JSON library and a plain
-// repair.
+// Compares the decoding of tables with a second decoder, which uses another JSON library and a simple repair
+// of the text.
 #include <algorithm>
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -19,8 +19,8 @@ using fuzzing::require;
 using nlohmann::json;
 using Type = json::value_t;
 
-// What the other library takes and ours is free to refuse: more than 1,000 levels of nesting, and a byte
-// order mark.
+// Whether the text has a feature that the other library accepts and our decoder may reject: at least 1,000
+// levels of nesting, or a byte order mark.
 bool differsByDesign(std::string_view text) {
   bool found = text.starts_with("\xEF\xBB\xBF");
   const auto look = [&](int depth, json::parse_event_t event, json&) {
@@ -32,8 +32,8 @@ bool differsByDesign(std::string_view text) {
   return found;
 }
 
-// Whether the other library refuses the text because of a number beyond the range of floating point, which
-// ours ignores in keys that it does not know.
+// Whether the other library rejects the text because a number exceeds the range of floating point. Our
+// decoder ignores such a number if it does not know the key.
 bool holdsHugeNumber(std::string_view text) {
   try {
     static_cast<void>(json::parse(text));
@@ -45,8 +45,9 @@ bool holdsHugeNumber(std::string_view text) {
   }
 }
 
-// The text's value. Ours takes the first of duplicate keys, the other the last: here the later ones are left
-// out. The other also takes a NUL byte for the end, where ours sees a byte that JSON does not know.
+// Parses the text with the other library, but follows the rules of our decoder. If a key occurs twice in an
+// object, our decoder uses the first value and the other library the last, so later values are skipped here.
+// The other library treats a NUL byte as the end of the text, but our decoder rejects it as invalid JSON.
 json strictlyRead(std::string_view text) {
   if (text.find('\0') != std::string_view::npos) return json(Type::discarded);
   std::vector<std::vector<std::string>> keysOfLevel;
@@ -70,7 +71,7 @@ struct Field {
   const char* name;
   Type type;
   bool required = false;
-  std::vector<Field> ofItems = {};  // of an array of objects; else its items are texts
+  std::vector<Field> ofItems = {};  // the fields of an array's objects; empty if its items are texts
 };
 const std::vector<Field> computedFields = {
     {"hex", Type::string, true},     {"decimal", Type::number_integer, true},
@@ -88,7 +89,7 @@ const std::vector<Field> additionalFields = {
 
 struct WrongRow {};
 
-// The table with the known fields alone.
+// Returns the table with only the known fields. Throws WrongRow if a row does not have the form of `fields`.
 json rowsOf(const json& table, const std::vector<Field>& fields) {
   if (!table.is_array()) throw WrongRow();
   json rows = json::array();
@@ -119,7 +120,7 @@ void compare(const std::optional<std::vector<Record>>& ours, std::string_view te
   } catch (const WrongRow&) {
   }
   if (!ours) {
-    return require(expected.is_discarded() || differsByDesign(text), "a table is refused for a fault");
+    return require(expected.is_discarded() || differsByDesign(text), "only a faulty table is rejected");
   }
   const auto encoded = [](const std::vector<Record>& records) {
     std::string array = "[";
@@ -127,9 +128,9 @@ void compare(const std::optional<std::vector<Record>>& ours, std::string_view te
     return array + "]";
   };
   require(json::parse(encoded(*ours)) == expected || holdsHugeNumber(text),
-          "the table reads as by the other library");
+          "both decoders give the same table");
   const auto again = glyph::decodeOrReport<Record>(encoded(*ours));
-  require(again && encoded(*again) == encoded(*ours), "what was decoded can be encoded and decoded");
+  require(again && encoded(*again) == encoded(*ours), "a decoded table can be encoded and decoded again");
 }
 
 void replaceAll(std::string& text, std::string_view what, std::string_view with) {
@@ -143,7 +144,7 @@ void replaceAll(std::string& text, std::string_view what, std::string_view with)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view text(reinterpret_cast<const char*>(data), size);
   static const glyph::Glyphorium catalog;
-  // Most inputs are faulty, and each would be reported.
+  // Most inputs are faulty. Without this, the decoder would print a line for each of them.
   glyph::setDiagnosticsSink([](std::string_view) {});
 
   std::string repaired(text);

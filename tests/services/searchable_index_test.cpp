@@ -40,13 +40,13 @@ SearchableItem glyphItem(const std::string& uid, const std::string& symbol, cons
   return item;
 }
 
-// What the completions of an index are called with, in order: that of the requests.
+// The errors that the completions received, in the order of the calls. An empty text means success.
 using Outcomes = std::vector<std::string>;
 SearchableIndex::Completion noting(Outcomes& outcomes) {
   return [&](std::optional<std::string> error) { outcomes.push_back(error.value_or("")); };
 }
 
-// Hands the request over and waits; what its completion said.
+// Indexes the items and waits. Returns the error that the completion received, or an empty text.
 std::string indexAndWait(SearchableIndex& index, std::vector<SearchableItem> items) {
   Outcomes outcomes;
   index.indexItems(std::move(items), noting(outcomes));
@@ -65,7 +65,7 @@ void removeIndex(const std::filesystem::path& file) {
   for (const char* const suffix : {"", "-wal", "-shm"}) std::filesystem::remove(file.string() + suffix);
 }
 
-TEST(SearchableIndex, FindsSymbolsAndWordsByWhatPeopleType) {
+TEST(SearchableIndex, FindsItemsByTypedSymbolsAndWords) {
   const TemporaryDirectory directory;
   SqliteSearchableIndex index(directory / "index");
   const std::string latin = "latin basic";
@@ -101,11 +101,11 @@ TEST(SearchableIndex, FindsSymbolsAndWordsByWhatPeopleType) {
       {"0301", {"\u0301"}},
       {"0022", {"\""}},
       {"002c", {",", "latin basic comma"}},
-      // The character itself, then shorter names, then lower identifiers.
+      // The order of the results: the typed character itself, then shorter names, then lower identifiers.
       {"2190 2192 100202", {"qv:arrow"}},
       {"0026 0061 0041 00c1", {"a latin"}},
       {"0041 0026 2190 2192 100202 0061 0301 00c1", {"A"}},
-      // No operators, and nothing that breaks out of the query.
+      // A query has no operators, and no text can break out of the FTS5 expression.
       {"",
        {"arrow OR comma", "tok:arrow", "arrow*", "-comma", "arr\" OR \"comma", "(", "';DROP TABLE item;--"}},
       {"", {"", "\0"s, "\xff\x80\xa0", " \t\u00a0\u3000\u180e", std::string(100'000, '"'), manyTerms}}};
@@ -122,7 +122,7 @@ TEST(SearchableIndex, FindsSymbolsAndWordsByWhatPeopleType) {
   EXPECT_THAT(diagnostics.take(), IsEmpty());
 }
 
-TEST(SearchableIndex, HoldsWhatTheSameRequestsLeaveInMemory) {
+TEST(SearchableIndex, HasTheSameItemsAsAnIndexInMemoryAfterTheSameRequests) {
   const TemporaryDirectory directory;
   SqliteSearchableIndex index(directory / "index");
   MemorySearchableIndex memory;
@@ -168,7 +168,7 @@ std::vector<SearchableItem> arrows(int count) {
   return items;
 }
 
-TEST(SearchableIndex, PutsDamagedFilesAsideAndKeepsWhatCanBeRead) {
+TEST(SearchableIndex, PutsDamagedFilesAsideAndKeepsReadableItems) {
   const TemporaryDirectory directory;
   const auto file = directory / "index", aside = directory / "index.damaged";
   {
@@ -203,7 +203,7 @@ TEST(SearchableIndex, PutsDamagedFilesAsideAndKeepsWhatCanBeRead) {
     EXPECT_EQ(reader.error(), "");
   }
 
-  // Damage that only some questions meet, while another program keeps the file open.
+  // Damage that only some queries detect, while another program has the file open.
   removeIndex(file);
   {
     SqliteSearchableIndex index(file);
@@ -223,7 +223,7 @@ TEST(SearchableIndex, PutsDamagedFilesAsideAndKeepsWhatCanBeRead) {
     EXPECT_EQ(bystander.count(), kept) << damage;
     EXPECT_EQ(bystander.search("arrow", 1000).size(), kept) << damage;
   }
-  // A statement that is wrong in a whole file is no reason to lose what the file holds.
+  // A statement that fails in an intact file must not cause the file to be replaced.
   Database(file, SQLITE_OPEN_READWRITE)
       .execute("CREATE TRIGGER faulty AFTER INSERT ON item BEGIN SELECT absent(); END");
   SqliteSearchableIndex index(file);
@@ -231,7 +231,7 @@ TEST(SearchableIndex, PutsDamagedFilesAsideAndKeepsWhatCanBeRead) {
   EXPECT_EQ(identifiers(SearchableIndexReader(file).search("arrow", 10)), "new");
 }
 
-TEST(SearchableIndex, RepairsAFileOnceForAllWritersThatSeeItsDamage) {
+TEST(SearchableIndex, OnlyOneOfSeveralWritersRepairsADamagedFile) {
   for (int round = 0; round < 6; ++round) {
     const TemporaryDirectory directory;
     const auto file = directory / "index";
@@ -248,7 +248,7 @@ TEST(SearchableIndex, RepairsAFileOnceForAllWritersThatSeeItsDamage) {
   }
 }
 
-TEST(SearchableIndex, LeavesAloneWhatIsNotItsOwn) {
+TEST(SearchableIndex, DoesNotChangeFilesOfOtherPrograms) {
   const TemporaryDirectory directory;
   const auto file = directory / "index", foreign = directory / "foreign";
   const auto execute = [](const std::filesystem::path& database, const char* sql) {
@@ -291,7 +291,7 @@ TEST(SearchableIndex, LeavesAloneWhatIsNotItsOwn) {
   }
 }
 
-TEST(SearchableIndex, TellsTheCompletionWhatTheDiskRefused) {
+TEST(SearchableIndex, PassesDiskErrorsToTheCompletion) {
   const TemporaryDirectory directory;
   writeFile(directory / "file", "");
   SqliteSearchableIndex nowhere(directory / "file/index");
@@ -301,13 +301,13 @@ TEST(SearchableIndex, TellsTheCompletionWhatTheDiskRefused) {
   SearchableIndexReader reader(directory / "index");
   EXPECT_EQ(reader.count(), 0u);
   EXPECT_EQ(indexAndWait(index, {glyphItem("1", "→", "Arrow")}), "");
-  EXPECT_EQ(reader.count(), 1u);  // which leaves the log open
+  EXPECT_EQ(reader.count(), 1u);  // the reader now has the log open
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
   const rlimit small{200'000, before.rlim_max};
   setrlimit(RLIMIT_FSIZE, &small);
   EXPECT_NE(indexAndWait(index, arrows(5'000)), "");
-  // What the failed request has written does not go on filling the disk.
+  // The data that the failed request wrote must not stay on the disk.
   EXPECT_EQ(std::filesystem::file_size(directory / "index-wal"), 0u);
   setrlimit(RLIMIT_FSIZE, &before);
   EXPECT_EQ(reader.count(), 1u);
@@ -323,14 +323,14 @@ TEST(SearchableIndex, TellsTheCompletionWhatTheDiskRefused) {
   EXPECT_EQ(reader.count(), 0u);
   EXPECT_EQ(indexAndWait(index, {glyphItem("1", "→", "Arrow")}), "");
 
-  // Somebody deletes the file while it is open on both sides.
+  // The file is deleted while both the index and the reader have it open.
   removeIndex(directory / "index");
   EXPECT_EQ(reader.count(), 0u);
   EXPECT_EQ(indexAndWait(index, {glyphItem("2", "→", "Arrow")}), "");
   EXPECT_EQ(reader.count(), 1u);
 }
 
-TEST(SearchableIndex, WaitsForALockOnceForAllRequests) {
+TEST(SearchableIndex, AllWaitingRequestsShareOneWaitForALock) {
   const TemporaryDirectory directory;
   {
     SqliteSearchableIndex index(directory / "index");
@@ -351,7 +351,7 @@ TEST(SearchableIndex, WaitsForALockOnceForAllRequests) {
   other.execute("ROLLBACK");
 }
 
-TEST(SearchableIndex, DrainsWhenProgramsEnd) {
+TEST(SearchableIndex, CarriesOutAllRequestsBeforeTheProgramEnds) {
   const TemporaryDirectory directory;
   const ScopedVariable data("XDG_DATA_HOME", directory / "data");
   EXPECT_TRUE(inChildren(3, [](int program) -> int {
@@ -366,8 +366,8 @@ TEST(SearchableIndex, DrainsWhenProgramsEnd) {
   EXPECT_EQ(mode(*applicationDataDirectory() / "index.sqlite"), std::filesystem::perms(0600));
 }
 
-TEST(SearchableIndex, MayBeUsedAndEndedByACompletion) {
-  std::thread([] {}).join();  // with the first thread a sanitizer starts one of its own, which stays
+TEST(SearchableIndex, ACompletionMayUseAndDestroyTheIndex) {
+  std::thread([] {}).join();  // a sanitizer starts a permanent thread along with the first one
   const auto threads = [] {
     return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
   };
@@ -384,17 +384,17 @@ TEST(SearchableIndex, MayBeUsedAndEndedByACompletion) {
   });
   EXPECT_EQ(done.get_future().wait_for(longEnough), std::future_status::ready);
   EXPECT_EQ(SearchableIndexReader(directory / "index").count(), 2u);
-  // Its thread ends by itself, too.
+  // The thread of the destroyed index must end, too.
   EXPECT_TRUE(eventually([&] { return threads() == before; }));
 }
 
-TEST(SearchableIndex, KeepsWhatItAcknowledgedWhenItsProcessIsKilled) {
+TEST(SearchableIndex, KeepsAcknowledgedRequestsWhenItsProcessIsKilled) {
   const TemporaryDirectory directory;
   const auto file = directory / "index";
   SearchableIndexReader reader(file);
   RecordedDiagnostics diagnostics;
   std::size_t kept = 0;
-  // Item n in request n, and one item that every request replaces.
+  // Request n adds item n and replaces the item "last".
   const auto writeForEver = [&](int acknowledgements) {
     SqliteSearchableIndex index(file);
     const auto acknowledge = [&](const auto& error) {
@@ -408,7 +408,7 @@ TEST(SearchableIndex, KeepsWhatItAcknowledgedWhenItsProcessIsKilled) {
     }
   };
   for (int round = killRounds(20); round > 0; --round) {
-    if (kept > 20'000) {  // else many rounds take their time
+    if (kept > 20'000) {  // keeps many rounds from becoming slow
       removeIndex(file);
       kept = 0;
     }
