@@ -5,8 +5,8 @@
 
 namespace glyph {
 
-/// Owns a file descriptor and closes it. A negative number, as a failed system call returns it, is no
-/// descriptor and is not closed.
+/// Owns a file descriptor and closes it in the destructor. A negative number, which system calls return after
+/// a failure, counts as not open and is not closed.
 class FileDescriptor {
  public:
   explicit FileDescriptor(int number) : number_(number) {}
