@@ -68,7 +68,7 @@ int showCharacters(Output& output, const std::vector<std::string>& arguments, bo
       complain(unknownCharacter(argument));
       exitCode = nothingFound;
     }
-    // An argument that repeats a character, as joined emoji do, shows it once.
+    // An argument may contain a character several times, as joined emoji do. Show such a character once.
     for (auto one = resolved.begin(); one != resolved.end(); ++one) {
       const bool isShown = std::any_of(
           resolved.begin(), one, [&](const Character& earlier) { return earlier.front() == one->front(); });

@@ -12,16 +12,19 @@ namespace cli {
 
 using glyph::visibleSymbol;
 
-/// Entities as a list: symbol, hex, name and HTML name, or their JSON objects.
+/// Prints one row per entity: symbol, hex code, name and HTML name. If `json` is true, prints a JSON array of
+/// the objects that entityJson() returns.
 void printEntities(Output& output, const std::vector<const glyph::Entity*>& entities, bool json);
 
-/// Everything about one character: all its entities differ in their groups only.
+/// Prints everything that is known about one character. The list must not be empty. Its entities differ only
+/// in their groups.
 void printCard(Output& output, const std::vector<glyph::Entity>& entitiesOfOneCharacter);
 
-/// The JSON object of an entity: the record's own fields, `name`, and its enrichment under `additional`.
+/// Returns the JSON object of an entity: the fields of the record, `name`, and the enrichment under
+/// `additional` if there is one.
 std::string entityJson(const glyph::Entity& entity);
 
-/// Prints a JSON array of objects, one a line, as they come.
+/// Prints a JSON array with one object per line. Call add() for each object, then end() once.
 class JsonArray {
  public:
   explicit JsonArray(Output& output) : output_(output) {}
@@ -33,7 +36,7 @@ class JsonArray {
   bool empty_ = true;
 };
 
-/// A JSON array of objects, one a line.
+/// Prints a JSON array with one object per line.
 void printJsonArray(Output& output, const std::vector<std::string>& objects);
 
 }  // namespace cli

@@ -19,10 +19,11 @@ using Names = std::vector<std::string>;
 
 using Key = glyph::UserInfluencedEntityKey;
 
-// Whether the list stored under the key could be read. If not, complains: its default must not pass for it.
+// Returns whether the list stored under the key could be read. If not, prints the reason: the user must not
+// mistake the default list for the stored list.
 bool isReadable(Key key) {
   const auto store = glyph::settingsStore();
-  if (const auto failure = store->readFailure(key.rawValue())) {  // when the catalog read it
+  if (const auto failure = store->readFailure(key.rawValue())) {  // why the catalog could not read it
     complainOfFailure(*failure);
     return false;
   }
@@ -32,10 +33,10 @@ bool isReadable(Key key) {
   return false;
 }
 
-// Whether the choice is stored. Otherwise the user must hear why not.
+// Returns whether the choice is stored. If not, prints the reason.
 bool isSaved() {
   const bool saved = glyph::settingsStore()->synchronize();
-  // Also after a success there may be something to tell: a damaged file was put aside.
+  // There may be lines to print even after a success, for example that a damaged file was quarantined.
   complainOfFailure(saved ? "" : "the choice could not be saved");
   return saved;
 }
@@ -60,7 +61,8 @@ void printAdded(Output& output, bool json) {
   printEntities(output, entities, json);
 }
 
-// The named code points closest to one that names nothing.
+// Returns the end of a message: the code points before and after `codePoint` that have a name and are closest
+// to it. Empty if there are no such code points nearby.
 std::string nearestCodes(char32_t codePoint) {
   Names near;
   for (const int step : {-1, 1}) {
@@ -76,14 +78,14 @@ std::string nearestCodes(char32_t codePoint) {
   return "; the nearest that do are " + near.front() + (near.size() > 1 ? " and " + near.back() : "");
 }
 
-// The code point of a code, or of the one character that the argument is.
+// Returns the code point of an argument that is a single code point or a code. Otherwise returns nullopt.
 std::optional<char32_t> codeOrCharacter(const std::string& argument) {
   const std::u32string points = glyph::codePoints(argument);
   return points.size() == 1 ? std::optional(points.front()) : codePointOf(argument);
 }
 
-// The codes of the arguments as the catalog stores them. False, after a complaint, where one names no
-// character.
+// Appends the codes of the arguments to `codes`, in the form that the catalog stores. Returns false, after an
+// error message, if an argument is not a character.
 bool readCodes(const Names& arguments, Names& codes) {
   for (const std::string& argument : arguments) {
     const auto codePoint = codeOrCharacter(argument);
@@ -156,7 +158,7 @@ int removeCharacters(Output& output, const Names& arguments) {
   const Names added = catalog.customAddedEntityUnicodes();
   const std::unordered_set<std::string> known(added.begin(), added.end());
   for (const std::string& argument : arguments) {
-    // A stored code may be removed as it is spelled, whatever it is.
+    // The user can remove any stored code by its stored spelling, even a code that is not valid.
     const bool asStored = known.contains(glyph::lowercased(argument));
     const auto codePoint = codeOrCharacter(argument);
     const std::string code = asStored || !codePoint ? argument : glyph::toolKit().getHex(*codePoint);

@@ -7,7 +7,7 @@
 #include "glyphorium/entity/records.h"
 #include "output.h"
 
-/// The commands, each a function of its arguments that prints to `output` and returns the exit code.
+/// The commands. Each function prints to `output` and returns the exit code of the program.
 namespace cli {
 
 // Browsing the catalog.
@@ -18,10 +18,10 @@ int showCharacters(Output& output, const std::vector<std::string>& arguments, bo
 // Searching.
 struct SearchRequest {
   std::vector<std::string> words;
-  std::vector<std::string> groups;  // only in these; none: in all
+  std::vector<std::string> groups;  // search only in these groups; empty means all groups
   int limit = 20;
-  bool displayed = false;  // only what the user displays, not the whole catalog
-  bool copy = false;       // the first result
+  bool displayed = false;  // search only in the displayed groups
+  bool copy = false;       // copy the first result to the clipboard
 };
 int searchCatalog(Output& output, const SearchRequest& request, bool json);
 int identifyText(Output& output, const std::vector<std::string>& texts, bool json);
@@ -33,7 +33,7 @@ int addCharacters(Output& output, const std::vector<std::string>& codes);
 int removeCharacters(Output& output, const std::vector<std::string>& codes);
 int listAdded(Output& output, bool json);
 
-// The clipboard. The forms are identifiers of glyph::copyForms().
+// The clipboard. `form` is an identifier from glyph::copyForms().
 int copyCharacter(Output& output, const std::string& argument, const std::string& form, bool throughTerminal);
 int copyEntities(Output& output, const std::vector<glyph::Entity>& entities, const std::string& form);
 
@@ -43,9 +43,9 @@ int addToIndex(Output& output, const std::vector<std::string>& arguments, bool a
 int removeFromIndex(Output& output, const std::vector<std::string>& arguments, bool all);
 int searchIndex(Output& output, const std::vector<std::string>& words, int limit, bool json);
 int enableIndex(Output& output, bool enable);
-int desktopSearchScope(Output& output, const std::string& scope);  // "all", "mine"; empty: prints it
+int desktopSearchScope(Output& output, const std::string& scope);  // "all" or "mine"; empty prints it
 
-// The embedded data as it stands.
+// The embedded data, unchanged.
 int listNames(Output& output, const std::vector<std::string>& hexCodes, bool json);
 int printTable(Output& output, const std::string& constant, bool json);
 

@@ -12,7 +12,7 @@ namespace {
 
 using glyph::Entity;
 
-// Why a character may have no such form.
+// Returns the reason why a character does not have the form.
 std::string whyMissing(std::string_view form) {
   if (form == "html") return "it has no HTML name; '--as html-hex' always works";
   if (form == "swiftui") return "only SF Symbols have a SwiftUI snippet";
@@ -39,7 +39,7 @@ int copyCharacter(Output& output, const std::string& argument, const std::string
 
 int copyEntities(Output& output, const std::vector<Entity>& entities, const std::string& formName) {
   const glyph::CopyForm* const form = glyph::copyForm(formName);
-  if (!form) return wrongUse;  // the grammar lets none through
+  if (!form) return wrongUse;  // cannot happen: the parser accepts only known forms
   std::vector<std::string> texts, shown, names;
   for (const Entity& entity : entities) {
     const auto text = form->text(entity);

@@ -17,15 +17,17 @@
 namespace cli {
 namespace {
 
-// Rows of a terminal's table are aligned with so many others.
+// The table is printed in portions of this many rows. On a terminal, columns are aligned within a portion.
 constexpr std::size_t rowsAtOnce = 2000;
 
+// Size of one read, and size of the collected output at which it is written.
 constexpr std::size_t bytesAtOnce = 1 << 16;
 
-// Nothing that people read as one character is longer. What is, is shown in parts.
+// In bytes. No real grapheme cluster is longer. A longer sequence is shown in several parts.
 constexpr std::size_t longestCluster = 4096;
 
-// "<control>" is no name, but says more than nothing.
+// Returns the name of the code point. If there is no name, returns the entry of the name table: a label such
+// as "<control>" says more than an empty text.
 std::string nameOf(char32_t codePoint) {
   std::string name = glyph::entityOf(codePoint).name();
   if (!name.empty()) return name;
@@ -33,23 +35,23 @@ std::string nameOf(char32_t codePoint) {
   return std::string(entry ? entry->name : "(not in the Unicode 13.0 name table)");
 }
 
-// How many bytes at the end of the text begin a code point that is not complete yet.
+// Returns how many bytes at the end of the text belong to a code point that is not complete yet.
 std::size_t unfinishedBytes(std::string_view text) {
   for (std::size_t length = 1; length <= std::min<std::size_t>(3, text.size()); ++length) {
     const auto byte = static_cast<unsigned char>(text[text.size() - length]);
-    if ((byte & 0xC0) == 0x80) continue;  // inside of a code point
+    if ((byte & 0xC0) == 0x80) continue;  // not the first byte of a code point
     const std::size_t needed = byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : byte >= 0xC0 ? 2 : 1;
     return needed > length ? length : 0;
   }
   return 0;
 }
 
-// Names the characters of a text that comes in pieces, however they are cut.
+// Names the characters of a text that arrives in pieces. A piece may end anywhere, even within a code point.
 class Identification {
  public:
   Identification(Output& output, bool json) : output_(output), array_(output), json_(json) {}
 
-  // False, after a complaint, where the text is not UTF-8; also where the output could not be written.
+  // Returns false if the text is not UTF-8 (after an error message) or if the output cannot be written.
   bool add(std::string_view piece) {
     pending_ += piece;
     const std::size_t whole = pending_.size() - unfinishedBytes(pending_);
@@ -72,7 +74,7 @@ class Identification {
       return false;
     }
     std::vector<std::string_view> clusters = glyph::graphemeClusters(text);
-    // The next piece may continue the last one.
+    // The next piece may continue the last grapheme cluster.
     const bool keepsLast = !isEnd && !clusters.empty() && clusters.back().size() < longestCluster;
     if (keepsLast) clusters.pop_back();
     std::size_t size = 0;
@@ -92,7 +94,7 @@ class Identification {
   void identifyCluster(std::string_view cluster) {
     any_ = true;
     const std::u32string points = glyph::codePoints(cluster);
-    // A character of several code points stands before its parts, which are set in.
+    // A character of several code points has its own row. Indented rows with its code points follow.
     const bool several = points.size() > 1 && cluster != "\r\n";
     if (several && !json_) {
       rows_.push_back(
@@ -118,9 +120,9 @@ class Identification {
   JsonArray array_;
   const bool json_;
   bool any_ = false;
-  std::string pending_;  // what may be part of a longer character
+  std::string pending_;  // text at the end that the next piece may continue
   std::vector<std::vector<std::string>> rows_;
-  std::unordered_map<char32_t, std::string> names_;  // of the code points met
+  std::unordered_map<char32_t, std::string> names_;  // names of the code points seen so far
 };
 
 enum class Reading { done, stopped, failed };

@@ -21,7 +21,8 @@ namespace {
 
 using glyph::Entity;
 
-// Keeps the first error of the requests made with it. Their completions run on the index's own thread.
+// Keeps the first error of all requests that were given its completion(). The completions run on the index's
+// own thread.
 class Errors {
  public:
   glyph::SearchableIndex::Completion completion() {
@@ -40,7 +41,7 @@ class Errors {
   std::string first_;
 };
 
-// A bar on standard error where that is a terminal.
+// A progress bar on standard error. It is shown only on a terminal and for more than 500 elements.
 class ProgressBar {
  public:
   explicit ProgressBar(std::size_t total) : total_(total), shown_(isatty(STDERR_FILENO) && total > 500) {}
@@ -64,11 +65,12 @@ class ProgressBar {
   bool shown_;
 };
 
-// Makes the requests in portions, so that the bar moves, and waits for them.
+// Calls `request` with portions of the elements, so that the progress bar moves, and waits until the index
+// has finished. Returns the exit code.
 template <class Element, class Request>
 int carryOut(const std::vector<Element>& elements, Request request) {
   constexpr std::size_t portion = 1000;
-  static Errors errors;  // outlives the program's last request
+  static Errors errors;  // static, because completions may run after a timeout
   for (std::size_t begin = 0; begin < elements.size(); begin += portion) {
     const std::size_t end = std::min(begin + portion, elements.size());
     request(std::vector<Element>(elements.begin() + static_cast<std::ptrdiff_t>(begin),
@@ -84,14 +86,16 @@ int carryOut(const std::vector<Element>& elements, Request request) {
   return notWritten;
 }
 
-// Says why the index could not be read, where it could not.
+// If the index could not be read, prints the reason and returns true.
 bool complainOfReading(const glyph::SearchableIndexReader& reader) {
   if (reader.error().empty()) return false;
   complain("the search index cannot be read: " + reader.error());
   return true;
 }
 
-// The entities of groups and characters, each code point once.
+// Appends the entities of the groups and characters in `arguments` to `entities`, each code point once. If
+// `all` is true, appends the whole catalog. Returns false, after an error message, if an argument is neither
+// a group nor a character.
 bool collect(const std::vector<std::string>& arguments, bool all, std::vector<Entity>& entities) {
   glyph::Glyphorium& catalog = glyph::glyphorium();
   catalog.configure();
@@ -172,7 +176,7 @@ int removeFromIndex(Output& output, const std::vector<std::string>& arguments, b
     });
   }
   if (exitCode != found) return exitCode;
-  const std::size_t after = std::min(before, reader.count());  // others may have added some meanwhile
+  const std::size_t after = std::min(before, reader.count());  // another program may have added some
   output.printLine("Removed " + std::to_string(before - after) + " characters from the index");
   return found;
 }
@@ -184,7 +188,7 @@ int searchIndex(Output& output, const std::vector<std::string>& words, int limit
   std::vector<std::string> objects;
   std::vector<std::vector<std::string>> rows;
   for (const glyph::SearchableItem& item : items) {
-    // A host may have indexed any bytes.
+    // A host may have indexed bytes that are not UTF-8. They are replaced, because dump() would throw.
     objects.push_back(nlohmann::ordered_json{
         {"hex", item.uniqueIdentifier}, {"name", item.name()}, {"symbol", item.symbol}, {"group", item.genre}}
                           .dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));

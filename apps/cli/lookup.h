@@ -7,7 +7,7 @@
 #include "glyphorium/search/resolving.h"
 #include "glyphorium/text/nearest_texts.h"
 
-/// What the commands say where a text means no character and no group.
+/// Error messages for arguments that are not a character or not a group.
 namespace cli {
 
 using glyph::Character;
@@ -17,10 +17,11 @@ using glyph::nearestTexts;
 using glyph::resolve;
 using glyph::ResolvedText;
 
-/// A sentence that offers what a search finds for an argument that is no character's exact name.
+/// Returns a message that the argument is not a character. If a search for the argument finds characters, the
+/// message suggests the first of them.
 std::string unknownCharacter(const std::string& argument);
 
-/// A sentence that offers the nearest group names.
+/// Returns a message that there is no such group. The message suggests the group names that are most similar.
 std::string unknownGroup(std::string_view name);
 
 }  // namespace cli

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The command line's grammar. What a command does stands in the file that commands.h names for it.
+// The grammar of the command line. commands.h declares the functions that carry out the commands.
 #include <CLI/CLI.hpp>
 #include <cerrno>
 #include <csignal>
@@ -218,7 +218,8 @@ void addEmbeddedData(CLI::App& app, Options& options, Run& run) {
   });
 }
 
-// CLI11 says only that a command is missing, also where a misspelt one stands.
+// Returns the message for a parse error. For a misspelt command, CLI11 says only that a command is missing,
+// so the message is made here.
 std::string explanation(const CLI::App& app, const CLI::ParseError& error) {
   const std::vector<std::string> rest = app.remaining();
   if (error.get_name() != "RequiredError" || !app.get_subcommands().empty() || rest.empty())
@@ -232,7 +233,7 @@ std::string explanation(const CLI::App& app, const CLI::ParseError& error) {
          (names.empty() ? "" : "; did you mean '" + names.front() + "'?");
 }
 
-// The exit code, once all that was printed is written.
+// Writes the collected output. Returns `exitCode`, or notWritten if writing failed.
 int written(cli::Output& output, int exitCode) {
   if (output.flush()) return exitCode;
   cli::complain("the output could not be written: " + std::generic_category().message(errno));
@@ -242,7 +243,7 @@ int written(cli::Output& output, int exitCode) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // A write beyond the limit of a file's size then fails like any other, which is told.
+  // A write beyond the file size limit would kill the program. Now the write fails, and the user is told.
   std::signal(SIGXFSZ, SIG_IGN);
   for (int i = 1; i < argc; ++i) {
     if (glyph::isWellFormedUtf8(argv[i])) continue;

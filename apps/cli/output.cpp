@@ -26,8 +26,9 @@ bool noColor() {
 
 constexpr std::string_view styles[] = {"\x1b[0m", "\x1b[1m", "\x1b[2m", "\x1b[36m"};
 
-// The text with each control character and direction control replaced: a terminal takes them for commands, or
-// shows what follows in another order. Line breaks and tabs stay, and so do `allowed` escape sequences.
+// Returns the text with each control character and direction control replaced by `replaced(control)`. A
+// terminal would execute control characters as commands, and direction controls would reorder the text that
+// follows. Line breaks, tabs and the escape sequences in `allowed` are kept.
 template <class Replaced>
 std::string withoutControls(std::string_view text, std::span<const std::string_view> allowed,
                             Replaced replaced) {
@@ -56,7 +57,7 @@ std::string visibleControl(std::string_view control) {
   return glyph::visibleSymbol(control);
 }
 
-// The columns that a text with colours takes: escape sequences take none.
+// Returns the display width of a text in columns. Escape sequences for colours have no width.
 int visibleWidth(std::string_view text) {
   int width = 0;
   while (!text.empty()) {
@@ -110,7 +111,7 @@ bool Output::flush() {
       continue;
     }
     if (errno == EINTR) continue;
-    if (errno == EAGAIN) {  // a pipe that does not block and is full
+    if (errno == EAGAIN) {  // a non-blocking pipe that is full
       pollfd ready{STDOUT_FILENO, POLLOUT, 0};
       poll(&ready, 1, -1);
       continue;
@@ -140,15 +141,15 @@ std::string escapedJson(std::string_view json) {
 
 namespace {
 
-std::mutex keptMutex;  // lines come from the index's thread too
+std::mutex keptMutex;  // the index's thread also adds lines
 std::vector<std::string> keptLines;
 
-// The lines that only say that something has changed.
+// Returns true if the line only reports that a value has changed.
 bool isChangeLine(std::string_view line) {
   return line.starts_with("didSet ") || line.starts_with("selectedGroupsHadChanged ");
 }
 
-// The lines that a person wants to read at once, whether the command succeeds or not.
+// Returns true if the user should read the line at once, even if the command succeeds.
 bool isUrgentLine(std::string_view line) {
   return line.starts_with("Waiting for ") || line.starts_with("Search index put aside ");
 }

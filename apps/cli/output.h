@@ -7,42 +7,45 @@
 
 #include "glyphorium/text/text_pieces.h"
 
-/// What the commands print: collected, then written once, so that a failing command leaves no half output.
+/// The output of the commands. The text is collected and written at the end, so that a command that fails
+/// does not leave incomplete output.
 namespace cli {
 
 /// The exit codes of the program.
 enum ExitCode : int { found = 0, nothingFound = 1, wrongUse = 2, notWritten = 3, notRead = 3 };
 
-/// When to colour and align: on a terminal, never or always.
+/// When to colour and align the output: only on a terminal, never, or always.
 enum class Style { automatic, plain, terminal };
 
 class Output {
  public:
   explicit Output(Style style);
 
-  /// Whether text goes to a person's terminal: aligned, and coloured unless NO_COLOR is set.
+  /// Whether the output is formatted for a terminal: aligned, and coloured unless NO_COLOR is set.
   bool onTerminal() const { return onTerminal_; }
 
   void print(std::string_view text) { text_ += text; }
   void printLine(std::string_view text = {}) { (text_ += text) += '\n'; }
 
-  /// Rows of columns: aligned by display width on a terminal, else separated by tabs.
+  /// Prints rows of columns. On a terminal the columns are aligned by display width. Otherwise they are
+  /// separated by tabs.
   void printTable(const std::vector<std::vector<std::string>>& rows);
 
-  /// The text in a terminal's colour; as it is where nothing is coloured.
+  /// These functions return the text with escape sequences for its colour, or unchanged if the output is not
+  /// coloured.
   std::string strong(std::string_view text) const { return coloured("1", text); }
   std::string faint(std::string_view text) const { return coloured("2", text); }
   std::string accent(std::string_view text) const { return coloured("36", text); }
 
-  /// Writes all that was printed so far to standard output, and waits where that takes no more at the moment.
-  /// False where it failed; a reader that went away is no failure. On a terminal control characters that are
-  /// none of this class's own are written in their visible form.
+  /// Writes everything printed so far to standard output, and waits if standard output is not ready. Returns
+  /// false if writing failed; errno has the reason. A pipe that its reader has closed is not a failure. On a
+  /// terminal, control characters are written in their visible form, except the colours of this class.
   bool flush();
 
-  /// Whether the reader went away: what is printed from now on is lost.
+  /// Whether the reader has closed the pipe. Everything printed afterwards is lost.
   bool closed() const { return closed_; }
 
-  std::size_t size() const { return text_.size(); }  ///< bytes that wait to be written
+  std::size_t size() const { return text_.size(); }  ///< number of bytes not yet written
 
  private:
   std::string coloured(const char* code, std::string_view text) const;
@@ -53,25 +56,29 @@ class Output {
   std::string text_;
 };
 
-/// Tells the user what is wrong, on standard error, with control characters in their visible form.
+/// Prints an error message on standard error, with control characters in their visible form.
 void complain(std::string_view message);
 
-/// The library's own lines go here from now on: to standard error with `verbose`, else they are kept.
+/// Replaces the library's diagnostics sink. If `verbose` is true, prints all diagnostic lines on standard
+/// error. Otherwise prints only the urgent lines, and keeps those that report failures for
+/// complainOfFailure().
 void keepDiagnostics(bool verbose);
 
-/// Complains with the kept lines that speak of a failure, or with `otherwise` (unless it is empty) if there are
-/// none.
+/// Prints the kept diagnostic lines, which report failures, on standard error. If there are no such lines,
+/// prints `otherwise`, unless it is empty.
 void complainOfFailure(std::string_view otherwise);
 
-/// JSON in which control characters and direction controls are escaped, so that a terminal shows them.
+/// Returns the JSON text with control characters and direction controls escaped, so that a terminal shows the
+/// escapes and does not execute the controls.
 std::string escapedJson(std::string_view json);
 
 using glyph::joined;
 
-/// The columns of the terminal behind standard output, 80 where it does not say.
+/// Returns the number of columns of the terminal on standard output, or 80 if it is unknown.
 int terminalWidth();
 
-/// The text broken into lines of at most `width` columns at blanks; its own line breaks stay.
+/// Breaks the text at spaces into lines of at most `width` columns. A longer word is not broken. Line breaks
+/// in the text are kept.
 std::vector<std::string> wrapped(std::string_view text, int width);
 
 }  // namespace cli

@@ -11,7 +11,7 @@ namespace {
 
 using glyph::Entity;
 
-// The name with what the query matched of it made strong.
+// Returns the name. The parts that match the query are highlighted.
 std::string highlighted(const Output& output, const std::string& name, const glyph::SearchResult& result) {
   std::string text;
   std::size_t at = 0;
@@ -23,13 +23,13 @@ std::string highlighted(const Output& output, const std::string& name, const gly
   return text + name.substr(at);
 }
 
-// Where no group holds the character that was asked for, it may still be one.
+// Returns the end of a message for a query that is a character outside all groups. Empty for other queries.
 std::string beyondTheCatalog(const std::string& query) {
   const std::vector<Character> characters = resolve(query).characters;
   if (characters.empty()) return {};
   const Entity& entity = characters.front().front();
   const auto codePoint = static_cast<char32_t>(entity.computed.decimal);
-  // What a group holds was left out by the request.
+  // The catalog contains the character, but the request excludes its group.
   if (entity.name().empty() || glyph::Search::ofCatalog().indexOf(codePoint)) return {};
   return "; no group holds " + entity.computed.hex + " (" + entity.name() + "), but 'glyphorium show " +
          entity.computed.hex + "' describes it";

@@ -10,8 +10,8 @@ namespace cli {
 
 void limitLockWaits() {
   glyph::setLockWaitPolicy([](std::chrono::milliseconds waited) {
-    static std::atomic<std::int64_t> total = 0;     // of all waits, in milliseconds
-    thread_local std::chrono::milliseconds before;  // the present wait of this thread, as last seen
+    static std::atomic<std::int64_t> total = 0;     // of all waits so far, in milliseconds
+    thread_local std::chrono::milliseconds before;  // value of `waited` at the last call
     const auto longer = waited >= before ? waited - before : waited;
     before = waited;
     const std::int64_t until = total += longer.count();

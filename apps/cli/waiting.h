@@ -3,8 +3,8 @@
 
 namespace cli {
 
-/// From now on, all waits of this program for locked settings share five seconds, and after one second the user is
-/// told why the program waits.
+/// Limits the time that this program waits for locked settings to five seconds, all waits together. After one
+/// second, a message on standard error explains why the program is waiting.
 void limitLockWaits();
 
 }  // namespace cli

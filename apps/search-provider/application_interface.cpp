@@ -36,7 +36,8 @@ void ApplicationInterface::open(sd_bus_message*) {
   throw CallError{SD_BUS_ERROR_NOT_SUPPORTED, "Glyphorium opens no files"};
 }
 
-// The only action is "search", with the text as its parameter.
+// The only action is "search". Its parameter is the text to search for. Without a text, it shows the whole
+// catalog.
 void ApplicationInterface::activateAction(sd_bus_message* call) {
   service_.noteCall();
   const std::string action = readText(call);

@@ -7,8 +7,9 @@ namespace provider {
 
 class Service;
 
-/// org.freedesktop.Application (desktop entries of freedesktop.org, D-Bus activation), under the application
-/// identifier: opens the search in a window, because the application has no process of its own on the bus.
+/// The interface org.freedesktop.Application (desktop entries of freedesktop.org, D-Bus activation). Its bus
+/// name is the application identifier. Its methods open the search in a window. This program offers the
+/// interface because the application has no other process on the bus.
 class ApplicationInterface {
  public:
   explicit ApplicationInterface(Service& service) : service_(service) {}

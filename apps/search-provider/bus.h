@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// sd-bus as this program uses it: owned pointers, and failures as exceptions that end at the method called.
+// Helpers for sd-bus: owning pointers, and errors as exceptions. A method that throws sends an error reply.
 #pragma once
 
 #include <systemd/sd-bus.h>
@@ -18,36 +18,42 @@ struct Releaser {
 using Bus = std::unique_ptr<sd_bus, Releaser<sd_bus, sd_bus_flush_close_unref>>;
 using Message = std::unique_ptr<sd_bus_message, Releaser<sd_bus_message, sd_bus_message_unref>>;
 
-/// Throws std::system_error for the negative error numbers of libsystemd.
+/// Throws std::system_error if the result of a libsystemd function is a negative error number. Otherwise
+/// returns the result.
 int check(int result);
 
-/// What a caller gets in place of an answer.
+/// An exception. A D-Bus method that throws it sends this error to its caller.
 struct CallError {
   const char* name;  ///< a D-Bus error name
   std::string text;
 };
 
-/// A text as sd-bus takes it into a message: NUL, noncharacters and what is not UTF-8 become U+FFFD. One text
-/// that it does not take would spoil the whole message.
+/// Returns the text in a form that sd-bus accepts: NUL, noncharacters and bytes that are not UTF-8 become
+/// U+FFFD. A single text that sd-bus rejects would make the whole message invalid.
 std::string busText(std::string_view text);
+
+/// Whether sd-bus accepts the text unchanged.
 bool isBusText(std::string_view text);
 
 std::string readText(sd_bus_message* message);
 
-/// The first `most` texts of the array that is read next. Behind them nothing more of the message can be
-/// read, unless the array held fewer.
+/// Reads the next argument of the message, an array of texts, and returns its first `most` texts. If it
+/// returns `most` texts, the following arguments of the message can no longer be read.
 std::vector<std::string> readTexts(sd_bus_message* message, std::size_t most);
 void skipTexts(sd_bus_message* message);
 void append(sd_bus_message* message, const std::vector<std::string>& texts);
 
-/// One entry of an open a{sv}.
+/// Appends one entry to the open container of type a{sv}.
 void appendEntry(sd_bus_message* message, const char* key, const std::string& text);
 
 Message newReply(sd_bus_message* call);
 void send(const Message& reply);
 
-/// Makes a C++ method of `Object` the handler of a D-Bus method: `method(call)` sends the reply itself.
+/// Stores the exception that is being handled in `error`. Call it only in a catch block.
 int reportFailure(sd_bus_error* error) noexcept;
+
+/// Adapts a C++ method of `Object` to a handler of a D-Bus method. The C++ method sends the reply itself. If
+/// it throws, the caller gets an error.
 template <class Object, void (Object::*method)(sd_bus_message*)>
 int handle(sd_bus_message* call, void* object, sd_bus_error* error) noexcept try {
   (static_cast<Object*>(object)->*method)(call);

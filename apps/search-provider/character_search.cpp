@@ -22,16 +22,19 @@ using glyph::SearchResult;
 
 constexpr std::string_view scope = "qv:";
 
-// Nobody types more. The index would split and sort every word of it while others wait.
+// In bytes. No one types a longer query. The index would split and sort all its words while other callers
+// wait.
 constexpr std::size_t longestQuery = 1000;
 
-// Where the catalog is left out, so many of its ranked characters are looked up in the indexes.
+// If the user leaves the catalog out, this many of the best characters of the catalog are looked up in the
+// indexes.
 constexpr std::size_t mostLookUps = 200;
 
-// A word of fewer letters begins too many other things that people type.
+// A query with fewer letters is ignored, because too many other words begin with these letters.
 constexpr std::size_t fewestLetters = 3;
 
-// Of an everyday word, which others may mean in quite another way, only the likeliest characters.
+// Maximum number of results for an everyday word. Only the best characters are shown, because the user may
+// not be looking for a character at all.
 constexpr std::size_t mostByWord = 3;
 
 std::string_view withoutScope(std::string_view query) {
@@ -39,7 +42,8 @@ std::string_view withoutScope(std::string_view query) {
   return isScoped(wanted) ? glyph::trimmed(wanted.substr(scope.size())) : wanted;
 }
 
-// "U+2192", "&rarr;", "\u2192", but nothing that may as well be a number, a word or the name of a file.
+// Whether the text is a code in an unmistakable form, such as "U+2192", "&rarr;" or "\u2192". A text that may
+// also be a number, a word or a file name is not such a code.
 bool isFullCode(std::string_view text) {
   const std::u32string points = glyph::codePoints(text);
   const bool marked = !points.empty() && !glyph::isAlphanumeric(points.front());
@@ -47,13 +51,15 @@ bool isFullCode(std::string_view text) {
   return (marked || plus) && !glyph::parseCodes(text).empty();
 }
 
-// One character that is on no keyboard key of its own: whoever has it there does not look for it.
+// Whether the text is a single character outside ASCII. ASCII characters have their own keys on the keyboard,
+// so users do not search for them.
 bool isPastedCharacter(std::string_view text) {
   return !text.empty() && static_cast<unsigned char>(text.front()) >= 0x80 &&
          glyph::graphemeClusters(text).size() == 1;
 }
 
-// Letters, with blanks, hyphens and apostrophes between them: no calculation, address or file.
+// Whether the text consists of at least `fewestLetters` letters and of nothing else except spaces, hyphens,
+// apostrophes and marks. Calculations, addresses and file names contain other characters.
 bool isWords(std::string_view text) {
   const std::u32string points = glyph::codePoints(text);
   const auto letters = std::count_if(points.begin(), points.end(), [](char32_t c) {
@@ -66,7 +72,7 @@ bool isWords(std::string_view text) {
          static_cast<std::size_t>(letters + joints) == points.size();
 }
 
-// What was typed, and what it may be.
+// A query without its "qv:", and what is computed from it.
 struct Wanted {
   explicit Wanted(std::string_view query)
       : text(withoutScope(query)), lowered(glyph::lowercased(text)), fullCode(isFullCode(text)) {}
@@ -81,11 +87,11 @@ Exactness exactnessOf(const Wanted& wanted, const Entity& entity, const SearchRe
   const bool direct = result.field == SearchField::code || result.field == SearchField::character;
   if (direct || wanted.fullCode) return Exactness::code;
   if (glyph::lowercased(entity.name()) == wanted.lowered) return Exactness::name;
-  // A bare name in HTML is often another word or the beginning of one: "int", "top".
+  // An HTML name without "&" and ";" is often an ordinary word or the beginning of a word: "int", "top".
   return result.field == SearchField::htmlName ? Exactness::part : Exactness::word;
 }
 
-// The same for what only an index has.
+// The same for a character that only an index contains.
 Exactness exactnessOf(const Wanted& wanted, const Entity& entity) {
   if (wanted.text.empty()) return Exactness::part;
   if (entity.computed.symbol == wanted.text || entity.computed.hex == wanted.lowered) return Exactness::code;
@@ -97,7 +103,7 @@ bool isPrivateUse(const Entity& entity) {
   return points.size() == 1 && ((points[0] >= 0xE000 && points[0] <= 0xF8FF) || points[0] >= 0xF0000);
 }
 
-// Changes with every change of the settings' files.
+// Returns a text that changes whenever the settings files change.
 std::string settingsState() {
   std::string state;
   const auto directory = glyph::applicationConfigDirectory();

@@ -14,12 +14,12 @@
 
 namespace provider {
 
-/// How much of what was typed a character is.
+/// How well a character matches the query.
 enum class Exactness {
-  code,  ///< all of it is the character itself, its code or its HTML reference
-  name,  ///< all of it is the character's name
-  word,  ///< all of it is something else that the character is called
-  part,
+  code,  ///< the whole query is the character itself, its code or its HTML reference
+  name,  ///< the whole query is the character's name
+  word,  ///< the whole query is another term for the character
+  part,  ///< every other match
 };
 
 struct Found {
@@ -28,21 +28,22 @@ struct Found {
   Exactness exactness;
 };
 
-/// What people look for from the desktop: the characters of the catalog, those that the user added, and what
-/// hosts put into their indexes. A stored choice of the user's leaves the catalog's out, see
-/// glyph::desktopSearchesCatalog(). Throws nothing but for want of memory.
+/// The search that the desktop uses. It finds characters of the catalog, characters that the user added, and
+/// items that hosts put into their indexes. The user can leave out the catalog, see
+/// glyph::desktopSearchesCatalog(). The methods throw only if memory runs out.
 class CharacterSearch {
  public:
-  /// The best characters, at most `limit`, ranked as glyph::CatalogSearch does; what only an index has comes
-  /// behind those that are just what was typed, or among them.
+  /// Returns the best characters, at most `limit`. Characters that match the whole query come first, then all
+  /// others (Exactness::part). Within each of these two parts, the characters found by glyph::CatalogSearch
+  /// come first, in its order, then those that only an index contains.
   std::vector<Found> find(std::string_view query, std::size_t limit);
 
-  /// Only what the query means for certain, for desktops that ask every program about everything: the
-  /// character itself, a code or HTML reference in its full form, a name or an everyday word as a whole. With
-  /// "qv:" in front of the query all that find() gives.
+  /// Returns only characters that the query certainly means, for desktops that send every query to every
+  /// program. Such a query is the character itself, a full code or HTML reference, a whole name or a whole
+  /// everyday word. If the query begins with "qv:", returns the same as find().
   std::vector<Found> findMeant(std::string_view query, std::size_t limit);
 
-  /// The character of a result's identifier.
+  /// Returns the character with the identifier of a result, or nullopt if there is no such character.
   std::optional<glyph::Entity> entity(std::string_view identifier);
 
  private:
@@ -51,10 +52,10 @@ class CharacterSearch {
   HostIndexes indexes_;
   std::optional<glyph::CatalogSearch> search_;
   bool wholeCatalog_ = true;
-  std::string settingsState_;  // of the settings' files when they were last read
+  std::string settingsState_;  // state of the settings files at the last read
 };
 
-/// Whether the query asks for these characters alone ("qv:" in front).
+/// Whether the query begins with "qv:". With this prefix the user asks only for Glyphorium's characters.
 bool isScoped(std::string_view query);
 
 }  // namespace provider

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A character as people read and copy it from the desktop's search.
+// The texts that the desktop's search shows for a character, and the texts that the user can copy.
 #pragma once
 
 #include <string>
@@ -9,20 +9,21 @@
 
 namespace provider {
 
-/// The item of an index as an entity: its hex code is the identifier, its symbol and name are those of the
-/// title, its group is the genre.
+/// Converts an item of an index to an entity. The hex code is the item's identifier and the group is its
+/// genre. The symbol and the name are those of the item. An item without a symbol gets its title as the
+/// symbol.
 glyph::Entity entityOf(const glyph::SearchableItem& item);
 
-/// Symbol and name, such as "→ Rightwards Arrow": the symbol in its visible form, and written so that it does
-/// not turn the direction of the line.
+/// Returns the symbol in its visible form and the name, such as "→ Rightwards Arrow". U+200E precedes a
+/// symbol that is written from right to left, so that the line still runs from left to right.
 std::string label(const glyph::Entity& entity);
 
-/// Group and code, such as "arrows · U+2192".
+/// Returns the group and the code, such as "arrows · U+2192".
 std::string description(const glyph::Entity& entity);
 
-/// What is copied.
+/// These functions return the text to copy, or an empty text if the character does not have this form.
 std::string character(const glyph::Entity& entity);      ///< the symbol
-std::string htmlReference(const glyph::Entity& entity);  ///< "&rarr;", or "&#x2798;" without a name
-std::string codePoint(const glyph::Entity& entity);      ///< "U+2192", several separated by a blank
+std::string htmlReference(const glyph::Entity& entity);  ///< "&rarr;", or "&#x2798;" if it has no HTML name
+std::string codePoint(const glyph::Entity& entity);      ///< "U+2192", or several separated by spaces
 
 }  // namespace provider

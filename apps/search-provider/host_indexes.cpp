@@ -17,11 +17,13 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Nobody has more hosts, and a directory of others' making must not keep people waiting.
+// The maximum numbers of indexes and of directory entries that are read. Real users have fewer hosts. Other
+// programs also create entries in the directory, so a huge directory must not delay the search.
 constexpr std::size_t mostIndexes = 16;
 constexpr int mostEntries = 2000;
 
-// Opening a FIFO would wait for its writer, and a link leads to what its maker chose.
+// Whether the file is a regular file of this user. Other files are not opened: a FIFO would block until it
+// has a writer, and a symbolic link may lead anywhere.
 bool isOwnRegularFile(const std::filesystem::path& file) {
   struct stat status {};
   return lstat(file.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == geteuid();
@@ -59,9 +61,9 @@ void HostIndexes::lookForFiles() {
   });
 }
 
-// Asks one index after the other until `question` says that it needs no more answers. An index that another
-// program keeps locked is waited for, up to half a second. Desktops ask at every key: an index that has just
-// taken so long is left out for a second, or each question of a queue would wait as long.
+// Calls `question` for one index after the other until it returns true. If another program has locked an
+// index, the reader waits up to half a second. Desktops send a query for every key. An index that caused such
+// a wait is therefore left out for the next second. Otherwise, each waiting query would take as long.
 void HostIndexes::ask(const std::function<bool(glyph::SearchableIndexReader&)>& question) {
   lookForFiles();
   for (const std::filesystem::path& file : files_) {

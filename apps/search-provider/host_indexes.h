@@ -13,30 +13,32 @@
 
 namespace provider {
 
-/// The search indexes of all hosts of this user: the file index.sqlite in the directory that a host's
-/// application identifier names in $XDG_DATA_HOME. Only regular files that belong to the user are read, a
-/// bounded number of them, those of this project's own hosts first. Throws nothing but for want of memory; an
-/// index that cannot be read is empty.
+/// The search indexes of all hosts of this user. The index of a host is the file index.sqlite in the
+/// directory of $XDG_DATA_HOME that has the host's application identifier as its name. Only regular files
+/// that belong to the user are read, and only a limited number of them. The index of this application comes
+/// first. An index that cannot be read counts as empty. The methods throw only if memory runs out.
 class HostIndexes {
  public:
-  /// The item of that identifier in the first index that has one.
+  /// Returns the item with the identifier from the first index that contains such an item. nullopt if there
+  /// is no such index.
   std::optional<glyph::SearchableItem> item(std::string_view identifier);
 
-  /// What each index finds, one index after the other, at most `limit` items of each.
+  /// Returns the items that the indexes find: at most `limit` items of the first index, then those of the
+  /// next.
   std::vector<glyph::SearchableItem> search(std::string_view query, int limit);
 
  private:
   using Clock = std::chrono::steady_clock;
   struct Index {
     glyph::SearchableIndexReader reader;
-    Clock::time_point closedUntil{};
+    Clock::time_point closedUntil{};  // the index is not read before this time
   };
 
   void lookForFiles();
   void ask(const std::function<bool(glyph::SearchableIndexReader&)>& question);
 
   std::map<std::filesystem::path, Index> indexes_;
-  std::vector<std::filesystem::path> files_;  // of indexes_, in the order to ask them
+  std::vector<std::filesystem::path> files_;  // the index files, in the order in which they are searched
   Clock::time_point lookAgainAt_{};
 };
 

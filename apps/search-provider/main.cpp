@@ -22,7 +22,7 @@ void complain(std::string_view text) {
   std::fprintf(stderr, "glyphorium-search-provider: %.*s\n", static_cast<int>(text.size()), text.data());
 }
 
-// Seconds, as a decimal number, of a year at most.
+// Parses a decimal number of seconds between 0 and one year. Returns nullopt for other texts.
 std::optional<microseconds> duration(const char* text) {
   double seconds = 0;
   const char* const end = text + std::strlen(text);
@@ -69,7 +69,7 @@ int main(int argc, char** argv) {
   for (int found; (found = getopt_long(argc, argv, "h", options, nullptr)) != -1;) {
     if (found == help) return printHelp();
     if (found == version) return std::printf("glyphorium-search-provider %s\n", GlyphoriumVersionString) < 0;
-    if (found != idleSeconds) return wrongUse;  // getopt has said why
+    if (found != idleSeconds) return wrongUse;  // getopt_long() has printed the reason
     const auto wanted = duration(optarg);
     if (!wanted) {
       complain(std::string("--idle-seconds takes a number of seconds, not '") + optarg + "'");
@@ -82,7 +82,8 @@ int main(int argc, char** argv) {
     return wrongUse;
   }
 
-  // To the journal, with what the bus itself has to say about its services.
+  // The journal receives the standard error of programs that the bus starts, and the bus's own messages about
+  // these programs.
   glyph::setDiagnosticsSink(complain);
   std::signal(SIGPIPE, SIG_IGN);
   return serve(idleLimit);

@@ -18,12 +18,13 @@ namespace {
 
 using Command = std::vector<std::string>;
 
-// Shown through a pager, which keeps the terminal open and answers to the keys that people know.
+// The output goes through a pager, which keeps the terminal open and has the usual keys for scrolling.
 constexpr const char* script =
     "if [ -n \"$1\" ]; then glyphorium --color always search --limit 500 -- \"$1\" 2>&1; "
     "else glyphorium --color always list --all; fi | LESS= less -R";
 
-// The program's file, looked for in PATH unless it is one; empty where there is none.
+// Returns the path of the executable file. A name without a slash is looked up in PATH. Empty if there is no
+// such file.
 std::string programFile(const std::string& name) {
   const auto isProgram = [](const std::string& file) {
     std::error_code ignored;
@@ -42,8 +43,9 @@ std::string programFile(const std::string& name) {
   }
 }
 
-// The terminal with the options behind which the command stands: the user's choice, the desktop's, the
-// system's, and the one that any system may have. Debian's policy has each terminal take -e.
+// Returns the terminal program and the option that precedes the command to run. Tries the terminals in this
+// order: the user's choice, the desktop's choice, the system's choice, and a common one. Debian's policy
+// requires that every terminal accepts -e.
 Command terminal() {
   const char* const chosen = std::getenv("TERMINAL");
   const Command terminals[] = {
@@ -55,7 +57,8 @@ Command terminal() {
   throw CallError{SD_BUS_ERROR_FAILED, "No terminal is installed to show the search in"};
 }
 
-// A process of its own session, which init adopts: it outlives this program, and nobody has to wait for it.
+// Starts the command in a session of its own. Because of the second fork, init becomes the parent: the
+// command may run longer than this program, and this program need not wait for it.
 void startDetached(const Command& command) {
   std::vector<char*> arguments;
   for (const std::string& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));

@@ -5,9 +5,9 @@
 
 namespace provider {
 
-/// Opens a window with the search for the query, and does not wait for it: the browser's, where
-/// glyphorium-browser is installed, else the command line's in a terminal. An empty query shows the whole
-/// catalog. Throws CallError where there is no terminal or no command line.
+/// Opens a window that searches for the query, and returns at once. The window is glyphorium-browser if that
+/// program is installed, otherwise a terminal with the command-line program. An empty query shows the whole
+/// catalog. Throws CallError if the terminal or the command-line program is needed but not installed.
 void openSearch(const std::string& query);
 
 }  // namespace provider

@@ -9,24 +9,25 @@
 namespace provider {
 namespace {
 
-// Few, as they stand among what others found for the same words.
+// A small number, because the desktop shows the matches among the results of other programs.
 constexpr std::size_t matchLimit = 12;
 
 struct Action {
   const char* identifier;
   const char* text;
-  const char* icon;  // of the freedesktop.org icon names
+  const char* icon;  // a freedesktop.org icon name
   std::string (*copied)(const glyph::Entity&);
 };
 
-// The first is what running a match does.
+// The first action is the default.
 constexpr Action allActions[] = {
     {"character", "Copy Character", "edit-copy", character},
     {"html", "Copy HTML Reference", "text-html", htmlReference},
     {"code-point", "Copy Code Point", "accessories-character-map", codePoint},
 };
 
-// The numbers mean the same to the fifth and the sixth generation of the desktop's libraries.
+// Returns the category relevance of a match. These numbers have the same meaning in versions 5 and 6 of the
+// desktop's libraries.
 int categoryRelevance(Exactness exactness, bool scoped) {
   if (exactness == Exactness::code) return 100;
   return exactness == Exactness::name || scoped ? 70 : 30;
@@ -80,7 +81,7 @@ void RunnerInterface::match(sd_bus_message* call) {
   double relevance = 1;
   for (const Found& one : found) {
     appendMatch(reply.get(), one, relevance, isScoped(query));
-    relevance -= 0.5 / matchLimit;  // keeps the order
+    relevance -= 0.5 / matchLimit;  // keeps the matches in this order
   }
   check(sd_bus_message_close_container(reply.get()));
   send(reply);
@@ -110,7 +111,7 @@ void RunnerInterface::run(sd_bus_message* call) {
   send(newReply(call));
 }
 
-// The end of a search; nothing is kept for one.
+// The desktop calls this at the end of a search. There is nothing to clean up.
 void RunnerInterface::teardown(sd_bus_message* call) {
   service_.noteCall();
   send(newReply(call));

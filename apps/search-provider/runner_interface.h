@@ -5,8 +5,8 @@
 
 namespace provider {
 
-/// org.kde.krunner1, as KRunner and what is built on its library ask it: for matches with all that is shown
-/// of them, and to run one, by default or by one of its actions.
+/// The interface org.kde.krunner1. KRunner and other programs that use its library call it to get matches
+/// with the texts and icons to show, and to run a match with its default action or another action.
 class RunnerInterface {
  public:
   explicit RunnerInterface(Service& service) : service_(service) {}

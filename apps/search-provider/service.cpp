@@ -18,11 +18,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Long enough for clients to hear that the name has no owner any more: until then they call the connection
-// that had it, and calls to a closed one are lost.
+// How long an idle program stays on the bus after it has released its names. Clients need some time to learn
+// that a name no longer has an owner. Until then they send calls to the old connection. If the connection
+// were closed, these calls would be lost.
 constexpr std::chrono::microseconds farewell = 1s;
 
-// Delivered through the event loop, so that a call is never cut in the middle.
+// Blocks the signals. The event loop handles them instead, so that a signal does not interrupt a call.
 void catchSignals() {
   sigset_t signals;
   sigemptyset(&signals);
@@ -57,7 +58,7 @@ void Service::run() {
   sd_event_source* quiet = nullptr;
   check(sd_event_add_time_relative(loop, &quiet, CLOCK_MONOTONIC, 0, 1000, &Service::onQuiet, this));
   quiet_.reset(quiet);
-  // After everything that waits on the bus.
+  // The timer comes after all messages that are waiting on the bus.
   check(sd_event_source_set_priority(quiet, SD_EVENT_PRIORITY_IDLE));
   check(sd_event_source_set_enabled(quiet, SD_EVENT_OFF));
 
@@ -71,17 +72,18 @@ void Service::run() {
   runner.addTo(bus);
   ApplicationInterface application(*this);
   application.addTo(bus);
-  // The name comes last: the bus holds back the call that started the program until it is taken.
+  // The name is requested last. Until the program owns it, the bus holds back the call that started the
+  // program.
   const int taken = sd_bus_request_name(bus, busName().c_str(), 0);
   if (taken == -EEXIST) throw CallError{SD_BUS_ERROR_FAILED, busName() + " runs already"};
   check(taken);
-  // The application's own name belongs to a window of it, while there is one.
+  // If the application has an open window, the window owns the application's own name.
   sd_bus_request_name(bus, glyph::applicationIdentifier().c_str(),
                       SD_BUS_NAME_ALLOW_REPLACEMENT | SD_BUS_NAME_QUEUE);
   check(sd_bus_attach_event(bus, loop, SD_EVENT_PRIORITY_NORMAL));
   patience_ = idleLimit_;
   noteCall();
-  check(sd_event_loop(loop));  // its result tells only which way it ended
+  check(sd_event_loop(loop));  // the result is only an exit code
   quiet_.reset();
   bus_.reset();
 }
@@ -92,8 +94,8 @@ void Service::noteCall() {
   check(sd_event_source_set_enabled(quiet_.get(), SD_EVENT_ONESHOT));
 }
 
-// The name goes back first, so that the bus starts the program anew for whoever calls it from now on, and
-// what the bus had sent here before is still answered.
+// Releases the names first and ends the program only later. The bus starts the program again for new calls,
+// and calls that the bus has already sent to this process still get an answer.
 int Service::leave(std::chrono::microseconds patience) noexcept try {
   if (!leaving_) {
     check(sd_bus_release_name(bus_.get(), busName().c_str()));
@@ -103,7 +105,7 @@ int Service::leave(std::chrono::microseconds patience) noexcept try {
   patience_ = patience;
   noteCall();
   return 0;
-} catch (...) {  // the bus is gone
+} catch (...) {  // the connection to the bus is lost
   return sd_event_exit(loop_.get(), 0);
 }
 

@@ -13,34 +13,37 @@
 
 namespace provider {
 
-/// Bus name and object path of the application's search provider, made of the application identifier.
+/// These functions return the bus name and the object path of the application's search provider. Both are
+/// derived from the application identifier.
 std::string busName();
 std::string objectPath();
 
-/// Object path of the application itself, whose bus name is the application identifier.
+/// Returns the object path of the application itself. Its bus name is the application identifier.
 std::string applicationPath();
 
 using EventLoop = std::unique_ptr<sd_event, Releaser<sd_event, sd_event_unref>>;
 using EventSource =
     std::unique_ptr<sd_event_source, Releaser<sd_event_source, sd_event_source_disable_unref>>;
 
-/// The program's place on the session bus: it takes the name there, answers, and leaves when nobody has
-/// called for a while, when it is told to, or when the bus ends. The bus starts it again at the next call.
+/// The program on the session bus. It acquires its names and answers calls. It exits if there has been no
+/// call for a while, if it receives SIGTERM, SIGINT or SIGHUP, or if the bus ends. The bus starts it again
+/// for the next call.
 class Service {
  public:
-  /// Zero: it stays until it is told to leave.
+  /// The program exits if there is no call for `idleLimit`. Zero means that it does not exit when idle.
   explicit Service(std::chrono::microseconds idleLimit) : idleLimit_(idleLimit) {}
 
-  /// Returns when the program is to end. Throws std::system_error, or CallError where the name is taken.
+  /// Runs until the program should exit. Throws CallError if another process owns the bus name, and
+  /// std::system_error for other failures.
   void run();
 
   CharacterSearch& characters() { return characters_; }
 
-  /// Every method calls it first: the program stays for some time after the last.
+  /// Restarts the idle time. Every D-Bus method calls it first.
   void noteCall();
 
-  /// Copies a form of the character to the clipboard. Throws CallError where there is no such character, and
-  /// where the clipboard does not take the text.
+  /// Copies a form of the character to the clipboard. Throws CallError if there is no such character or if
+  /// the clipboard does not accept the text.
   void copy(const std::string& identifier, std::string (*form)(const glyph::Entity&));
 
  private:
@@ -52,9 +55,9 @@ class Service {
   CharacterSearch characters_;
   EventLoop loop_;
   Bus bus_;
-  EventSource quiet_;                     // fires when nobody has called for `patience_`
-  std::chrono::microseconds patience_{};  // zero: for ever while it serves, not at all while it is leaving
-  bool leaving_ = false;
+  EventSource quiet_;                     // fires if there has been no call for `patience_`
+  std::chrono::microseconds patience_{};  // zero: no limit before the names are released, no wait afterwards
+  bool leaving_ = false;                  // true after the names are released
 };
 
 }  // namespace provider

@@ -9,10 +9,11 @@
 namespace provider {
 namespace {
 
-// The shell shows five.
+// The shell itself shows only five results.
 constexpr std::size_t resultLimit = 20;
 
-// What a shell asks for at once, with a reserve. Whoever asks for more makes all others wait.
+// The maximum numbers of identifiers and terms that are read from one call. Shells send fewer. Any further
+// ones are ignored, because they would delay other callers.
 constexpr std::size_t mostIdentifiers = 200;
 constexpr std::size_t mostTerms = 100;
 
@@ -64,8 +65,8 @@ void ShellInterface::getInitialResultSet(sd_bus_message* call) {
   sendIdentifiers(call, identifiers(service_.characters().find(readQuery(call), resultLimit)));
 }
 
-// What was found before does not bound what is found now: the last letters of a code, of a mistyped or of a
-// foreign word find what the first ones could not.
+// Ignores the previous results and searches again. The first letters of a code, a mistyped word or a foreign
+// word often do not find the character that the complete text finds.
 void ShellInterface::getSubsearchResultSet(sd_bus_message* call) {
   service_.noteCall();
   skipTexts(call);
@@ -84,7 +85,7 @@ void ShellInterface::getResultMetas(sd_bus_message* call) {
     appendEntry(reply.get(), "name", busText(label(*entity)));
     appendEntry(reply.get(), "description", busText(description(*entity)));
     appendEntry(reply.get(), "gicon", glyph::applicationIdentifier());
-    // The shell copies this one itself. What it could not copy as it is, only activateResult() does.
+    // The shell copies this text itself. If the bus cannot carry the text, only activateResult() can copy it.
     const std::string text = character(*entity);
     if (isBusText(text)) appendEntry(reply.get(), "clipboardText", text);
     check(sd_bus_message_close_container(reply.get()));

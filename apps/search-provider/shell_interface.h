@@ -5,8 +5,9 @@
 
 namespace provider {
 
-/// org.gnome.Shell.SearchProvider2, as GNOME Shell's overview asks it: for results as identifiers while
-/// people type, for what to show of the few that fit, and for what to do with the one chosen.
+/// The interface org.gnome.Shell.SearchProvider2. The overview of GNOME Shell calls it for the identifiers of
+/// the results while the user types, for the texts of the few results that it shows, and when the user
+/// chooses one.
 class ShellInterface {
  public:
   explicit ShellInterface(Service& service) : service_(service) {}

@@ -20,7 +20,8 @@ namespace {
 
 using testing::HasSubstr;
 
-// The program in a home directory of its own, in a plain environment.
+// Runs the program in a plain environment without a home directory. `environment` is a list of assignments,
+// such as "HOME=/home/user".
 ProgramResult run(const std::string& arguments, const std::string& environment = "") {
   return runProgram("export HOME=/nonexistent XDG_CONFIG_HOME= XDG_DATA_HOME= LC_ALL=C NO_COLOR=; " +
                     environment + " " PROGRAM " " + arguments);
@@ -38,7 +39,7 @@ TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
   const struct {
     std::string arguments;
     int exitCode;
-    std::string output;  // somewhere in standard output and error
+    std::string output;  // a part of standard output or standard error
   } cases[] = {
       {"show U+2192", 0, "&rarr;"},
       {"show '→'", 0, "Rightwards Arrow"},
@@ -48,7 +49,7 @@ TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
       {"show 200b", 0, "⬚"},
       {"show 0301", 0, "◌\u0301"},
       {"show U+4E01", 0, "not in the Unicode 13.0 name table"},
-      {"show 'U+2192 &foo;'", 1, "no character is 'U+2192 &foo;'"},  // all of it or none
+      {"show 'U+2192 &foo;'", 1, "no character is 'U+2192 &foo;'"},  // all parts of the text must be known
       {"show U+D800", 1, "no character is 'U+D800'"},
       {"show nbsp", 1, "no character is 'nbsp'; did you mean 00a0 (Non-Breaking Space)?"},
       {"show 'qqqq qqqq'", 1, "no character is 'qqqq qqqq'\n"},
@@ -67,7 +68,7 @@ TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
       {"search '&rarr;' --json", 0, "\"name\":\"Rightwards Arrow\""},
       {"search 'replacement character'", 1, "'glyphorium show fffd' describes it"},
       {"show chevron.right 'REPLACEMENT character' 'null CHARACTER (control)'", 0, "U+10018A"},
-      {"search → --group emoji", 1, "nothing found for '→'\n"},  // other groups hold it
+      {"search → --group emoji", 1, "nothing found for '→'\n"},  // the character is in another group
       {"search U+FFFD", 1, "no group holds fffd (Replacement Character)"},
       {"search LETTER --group 'LATIN basic' --limit 1", 0, "latin basic\n"},
       {"search letter --group latn", 2, "did you mean"},
@@ -101,7 +102,7 @@ TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
   EXPECT_THAT(run("--color always show 2192").output, HasSubstr("\x1b["));
   EXPECT_THAT(run("--color always show 2192", "NO_COLOR=1").output, testing::Not(HasSubstr("\x1b")));
   EXPECT_EQ(run("names 2>&1 | head -1").output,
-            "0000\tNull character (Control)\n");  // a closed pipe is no error
+            "0000\tNull character (Control)\n");  // a closed pipe is not an error
 }
 
 TEST(CommandLine, IdentifiesATextOfAnyLengthHoweverItComes) {
@@ -117,7 +118,7 @@ TEST(CommandLine, IdentifiesATextOfAnyLengthHoweverItComes) {
                                   std::to_string(at + 1) + " " + file + ") | " PROGRAM " identify -";
     EXPECT_EQ(runProgram(piecewise).output, whole) << cut;
   }
-  // A text that would fill this address space if it were kept.
+  // The limit of the address space is too small to keep the whole text in memory.
   EXPECT_EQ(runProgram("(ulimit -v 200000; yes '" + std::string("a → e\u0301") +
                        "' | head -c 4000000 | " PROGRAM " identify - | tail -n 1)")
                 .output,
@@ -217,7 +218,7 @@ TEST(CommandLine, KeepsTheUsersChoices) {
   const struct {
     std::string arguments;
     int exitCode;
-    std::string output;  // all of standard output, or for a failure a part of standard error
+    std::string output;  // the whole standard output; after a failure, a part of the output
   } steps[] = {
       {"list", 1, "display add GROUP"},
       {"added", 1, ""},
@@ -229,7 +230,7 @@ TEST(CommandLine, KeepsTheUsersChoices) {
       {"display --json", 0, "[{\"name\":\"custom\",\"count\":0},\n {\"name\":\"arrows\",\"count\":112}]\n"},
       {"add 0378", 2, "0377 (GREEK SMALL LETTER PAMPHYLIAN DIGAMMA)"},
       {"add 21d0 U+110000", 2, "is no code of a character"},
-      {"added", 1, ""},  // of several codes all are added or none
+      {"added", 1, ""},  // if one code is invalid, no code is added
       {"add 21D0 é", 0,
        "⇐\t21d0\tLeftwards Double Arrow\t&lArr;\né\t00e9\tLatin Small Letter E With Acute\t&eacute;\n"},
       {"index status --json", 0, "{\"enabled\":true,\"items\":2}\n"},
@@ -262,14 +263,14 @@ TEST(CommandLine, KeepsTheUsersChoices) {
       EXPECT_THAT(result.output, HasSubstr(output)) << arguments;
     }
   }
-  // A choice that cannot be saved is told: here a file stands where the directory would be.
+  // The program reports a choice that cannot be saved. Here, a file is in the place of the directory.
   const ProgramResult unsaved = run("2>&1 display add emoji", own + " XDG_CONFIG_HOME=/dev/null");
   EXPECT_EQ(unsaved.exitCode, 3);
   EXPECT_THAT(unsaved.output, HasSubstr("cannot be saved"));
 }
 
-// Every command stands in the manual page and in the completions of each shell, and those that complete names
-// offer the catalog's.
+// The manual page and the completions for each shell contain every command. The completions of group and
+// table names come from the catalog.
 TEST(CommandLine, IsDocumentedAndCompletedWhole) {
   const std::string folder = CLI_SOURCES;
   const std::string manual = fileContent(folder + "/glyphorium.1");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user's choices when the program that changes them is killed, or runs several times at once.
+// Checks the user's choices after the program that changes them is killed or runs several times at once.
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <signal.h>
@@ -19,7 +19,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-// Starts the program in the environment of this process, without output.
+// Starts the program with the environment of this process and without output. Returns its process identifier.
 pid_t start(Names arguments) {
   const pid_t child = fork();
   if (child != 0) return child;
@@ -54,8 +54,9 @@ TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
   const char* const asked = std::getenv("GLYPHORIUM_KILL_ROUNDS");
   const int rounds = asked ? std::atoi(asked) : 60;
   std::mt19937 random(20260101);
-  // One change after the other, round and round. Adding first displays the group "custom", so a program
-  // killed between the two leaves that group without the new characters. Several characters are one change.
+  // The test makes these changes in turn and starts again after the last. The command "add" first displays
+  // the group "custom" and then adds all its characters in one step. If it is killed between the two steps,
+  // the group is displayed but the characters are missing: this is the state `halfway`.
   const struct {
     Names arguments;
     State halfway, after;
@@ -64,7 +65,7 @@ TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
       {{"display", "set", "arrows"}, {}, {{"arrows"}, {"2603", "2604"}}},
       {{"remove", "2603", "2604"}, {}, {{"arrows"}, {}}}};
   State before{{"arrows"}, {}};
-  // How long an undisturbed run takes here and now, so that the kills fall before and after its change.
+  // Measures a run that is not killed, so that some kills happen before the change and some after it.
   const auto begin = std::chrono::steady_clock::now();
   ASSERT_EQ(runProgram(PROGRAM " display set arrows").exitCode, 0);
   const std::chrono::duration<double, std::micro> usual = std::chrono::steady_clock::now() - begin;
@@ -85,8 +86,8 @@ TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
     before = now;
   }
   RecordProperty("changed", static_cast<int>(changed));
-  EXPECT_GT(changed, 0u);                                // some were killed after their change,
-  EXPECT_LT(changed, static_cast<std::size_t>(rounds));  // some before
+  EXPECT_GT(changed, 0u);                                // some programs were killed after their change
+  EXPECT_LT(changed, static_cast<std::size_t>(rounds));  // and some before it
 }
 
 TEST(SeveralPrograms, LoseNothingOfEachOther) {
@@ -122,7 +123,7 @@ TEST(UnreadableChoices, AreToldFromEmptyOnes) {
       store.set(key, RawJson{R"(["2192",5])"});
     }
   };
-  // In this order: only the last two commands change anything, and only where something can be changed.
+  // The order matters: only the last two commands can change the stored choices.
   constexpr const char* commands[] = {"added",    "remove 2192",       "display", "display remove arrows",
                                       "add 2192", "display add arrows"};
   const struct {

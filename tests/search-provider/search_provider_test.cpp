@@ -34,7 +34,7 @@ TEST_F(SearchProvider, AnswersTheShell) {
   } cases[] = {
       {"GetInitialResultSet \"['→']\"", "(['2192'],)\n"},
       {"GetInitialResultSet \"['rightwards', 'ARROW']\"", StartsWith("(['2192', ")},
-      {"GetInitialResultSet \"['a', 'with', 'ring']\"", HasSubstr("'0041,030a'")},  // only in the index
+      {"GetInitialResultSet \"['a', 'with', 'ring']\"", HasSubstr("'0041,030a'")},  // found only in the index
       {"GetInitialResultSet \"['refused by the bus']\"", StartsWith("(['ffff'")},
       {"GetInitialResultSet \"['❤\uFE0F']\"", "(['2764'],)\n"},
       {"GetInitialResultSet \"['', ' ']\"", none},
@@ -49,7 +49,7 @@ TEST_F(SearchProvider, AnswersTheShell) {
       {"GetResultMetas \"['0301']\"", HasSubstr("'name': <'◌\u0301 Combining Acute Accent'>")},
       {"GetResultMetas \"['05d0']\"", HasSubstr("'name': <'\\u200eא Hebrew Letter Alef'>")},
       {"GetResultMetas \"['2028']\"", HasSubstr("'name': <'⬚ Line Separator'>")},
-      // What the bus does not take spoils no other result.
+      // A result that the bus rejects does not affect the other results.
       {"GetResultMetas \"['ffff', '2192']\"",
        testing::AllOf(HasSubstr("{'id': <'ffff'>"), HasSubstr("{'id': <'2192'>"))},
       {"ActivateResult 2192 \"['arrow']\" 0", "()\n"},
@@ -60,8 +60,8 @@ TEST_F(SearchProvider, AnswersTheShell) {
   EXPECT_EQ(session.starts(), 1u) << session.log();
 }
 
-// The shell asks anew at every letter, within what it found before: that must not leave out what only the
-// last letters tell.
+// The shell sends a query after every letter, together with the results of the previous query. The search
+// must not be limited to these results, because the last letters may identify another character.
 TEST_F(SearchProvider, FindsLetterByLetterWhatItFindsAtOnce) {
   Session session;
   for (const std::string query : {"U+2192", "\\\\u2192", "arow", "pfeil", "&rarr;"}) {
@@ -88,7 +88,7 @@ TEST_F(SearchProvider, FindsWhatTheUserAndAllHostsHave) {
   settings.set("customAddedEntities", std::vector<std::string>{"fffd"});
   EXPECT_EQ(identifiers("replacement character"), "(['fffd'],)\n");
   EXPECT_THAT(session.shell("GetResultMetas \"['fffd']\""), HasSubstr("custom · U+FFFD"));
-  // The user's wish.
+  // The user leaves out the catalog.
   settings.set("desktopSearchesCatalog", false);
   EXPECT_EQ(identifiers("snowman"), "(@as [],)\n");
   EXPECT_EQ(identifiers("rightwards arrow"), "(['2192', '21d2', '27f9'],)\n");
@@ -143,7 +143,7 @@ TEST_F(SearchProvider, AnswersTheRunner) {
   const std::string actions = "'actions': <['character', 'html', 'code-point']>}";
   const std::string noMatch = "(@a(sssida{sv}) [],)\n", icon = "', 'org.glyphorium.Glyphorium', ";
   const struct {
-    std::string call, answer;  // as it starts: a match up to its category relevance
+    std::string call, answer;  // the beginning of the answer, up to the category relevance of the first match
   } cases[] = {
       {"Match →", "([('2192', '→ Rightwards Arrow" + icon +
                       "100, 1.0, {'category': <'Characters'>, 'subtext': <'arrows · U+2192'>, " + actions +
@@ -161,7 +161,7 @@ TEST_F(SearchProvider, AnswersTheRunner) {
       {"Teardown", "()\n"},
   };
   for (const auto& [call, answer] : cases) EXPECT_THAT(session.runner(call), StartsWith(answer)) << call;
-  // It is asked about everything that people type.
+  // The runner sends everything that users type. These texts should not find a character.
   for (const std::string other : {"l", "5", "5+5", "2192", "0x2192", "konsole", "https://example.org/arrow",
                                   "arrow.txt", "/home", "rarr", "int", "less-than sig", "a <", "?", "arow"}) {
     EXPECT_EQ(session.runner("Match '" + other + "'"), noMatch) << other;
@@ -230,7 +230,7 @@ TEST_F(SearchProvider, AnswersManyAtOnceWhileOthersVanish) {
 TEST_F(SearchProvider, LeavesWhenIdleWithoutLosingACall) {
   Session session("0.02");
   session.index();
-  // Pauses around the idle time, so that many calls meet the program on its way out.
+  // The pauses are close to the idle time, so that many calls arrive while the program is about to exit.
   const std::string result = runProgram("for client in 1 2; do for pause in $(seq 10 35); do " +
                                         session.shellCommand("GetInitialResultSet \"['→']\"") +
                                         " 2>&1; sleep 0.0$pause; done & done; wait")
@@ -260,7 +260,7 @@ TEST_F(SearchProvider, EndsWhenToldTo) {
   EXPECT_EQ(fileContent(session / "ends"), "0\n0\n0\n0\n") << session.log();
 }
 
-// By the tools of those who read the files.
+// Checks the installed files with the official validators of their formats.
 TEST(InstalledFiles, AreValid) {
   const std::pair<std::string, std::string> tools[] = {
       {"desktop-file-validate", "applications/*.desktop krunner/dbusplugins/*.desktop"},

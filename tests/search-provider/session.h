@@ -14,15 +14,15 @@
 
 namespace glyph {
 
-/// A desktop session of its own: a bus that starts the program from its service file, an empty data home and
-/// config home, a clipboard that is a file, and a terminal that writes its arguments into a file. What the
-/// program is called by is read from the files that the desktops read.
+/// A separate desktop session for a test: a bus that starts the program from its service file, empty data and
+/// config homes, a clipboard that is a file, and a terminal that writes its arguments to a file. The bus name
+/// and the object path of the program come from the files that the desktops read.
 class Session {
  public:
   explicit Session(const std::string& idleSeconds = "30") {
     std::filesystem::create_directories(directory_ / "share/dbus-1/services");
     std::filesystem::create_directories(directory_ / "bin");
-    // Writes down each start and end, so that tests see how the program ended.
+    // Records each start, and each end with its exit code, so that tests can check them.
     writeProgram(directory_ / "program", "echo started >>" + path("starts") +
                                              "\n" SEARCH_PROVIDER " --idle-seconds=" + idleSeconds +
                                              "\necho $? >>" + path("ends") + "\n");
@@ -37,7 +37,7 @@ class Session {
       writeFile(directory_ / "share" / file, service);
     }
 
-    // The bus ends with the pipe's other end.
+    // The bus ends when this process closes its end of the pipe.
     bus_ = popen(("exec dbus-run-session -- sh -c 'echo $DBUS_SESSION_BUS_ADDRESS >" + path("new") + "; mv " +
                   path("new") + " " + path("address") + "; exec cat' >" + path("log") + " 2>&1")
                      .c_str(),
@@ -70,7 +70,8 @@ class Session {
   std::size_t ends() const { return lines("ends"); }
   std::string log() const { return fileContent(directory_ / "log"); }
 
-  /// Puts a few characters into an index, as a host does; without a file into the application's.
+  /// Puts a few characters into the index in `file`, as a host does. If `file` is empty, uses the
+  /// application's own index.
   void index(const std::filesystem::path& file = {}) {
     const struct {
       std::string hex, name, group, html;
@@ -102,7 +103,8 @@ class Session {
   }
 
  private:
-  // Calls as one desktop does, which reads the bus name and the path from a file of "key=value" lines.
+  // Returns the start of a command that calls a method in the same way as a desktop: the bus name and the
+  // object path are the values of two keys in `file`, which consists of "key=value" lines.
   static std::string call(const std::string& file, const std::string& busName, const std::string& objectPath,
                           const std::string& interface) {
     const std::string content = fileContent(INSTALLED_SHARE "/" + file);

@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-/// The sizes of the catalog, for tests that count its parts.
+/// The sizes of the catalog, for tests that compare counts.
 namespace glyph::figures {
 
 inline constexpr std::size_t entities = 17532;  ///< rows of the configured group tables

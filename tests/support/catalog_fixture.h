@@ -19,7 +19,8 @@
 
 namespace glyph {
 
-/// Settings, index and clipboard in memory, all empty, and a record of all events in their order.
+/// A test with empty settings, index and clipboard in memory. `events` records all writes, index requests,
+/// notifications and diagnostic lines in order.
 class CatalogFixture : public testing::Test {
  protected:
   using Names = std::vector<std::string>;
@@ -89,6 +90,7 @@ class CatalogFixture : public testing::Test {
     setPasteboard(nullptr);
   }
 
+  /// Returns the events since the last call.
   Names taken() { return std::exchange(events, {}); }
 
   void store(std::string_view key, SettingValue value) { settings->values.set(key, std::move(value)); }

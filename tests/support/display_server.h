@@ -15,7 +15,7 @@
 
 namespace glyph {
 
-/// A program in the background, which ends with this object.
+/// A program that runs in the background. The destructor ends it.
 class BackgroundProgram {
  public:
   explicit BackgroundProgram(const std::string& command) : process_(fork()) {
@@ -42,7 +42,7 @@ class BackgroundProgram {
   pid_t process_;
 };
 
-/// An X server of a test's own, which DISPLAY names. `usable` is false where Xvfb is not installed.
+/// A separate X server for a test. DISPLAY contains its name. `usable` is false if Xvfb is not installed.
 struct XServer {
   bool usable = isInstalled("Xvfb");
   TemporaryDirectory directory;
@@ -59,8 +59,8 @@ struct XServer {
   }
 };
 
-/// A Wayland compositor of a test's own, which WAYLAND_DISPLAY names. `usable` is false where sway or wl-copy
-/// is not installed.
+/// A separate Wayland compositor for a test. WAYLAND_DISPLAY contains its name. `usable` is false if sway or
+/// wl-copy is not installed.
 struct WaylandServer {
   bool usable = isInstalled("sway") && isInstalled("wl-copy");
   TemporaryDirectory directory;
@@ -68,7 +68,8 @@ struct WaylandServer {
   ScopedVariable variables[6] = {{"XDG_RUNTIME_DIR", runtime}, {"DISPLAY", {}},
                                  {"WLR_BACKENDS", "headless"}, {"WLR_LIBINPUT_NO_DEVICES", "1"},
                                  {"WLR_RENDERER", "pixman"},   {"HOME", "/nonexistent"}};
-  // Sway starts on the first free number and would connect to a compositor that the environment names.
+  // WAYLAND_DISPLAY is not set while sway starts: otherwise, sway would connect to the compositor that it
+  // names.
   ScopedVariable nobody{"WAYLAND_DISPLAY", {}};
   BackgroundProgram server{command()};
   ScopedVariable display{"WAYLAND_DISPLAY", usable ? started() : ""};
@@ -77,7 +78,7 @@ struct WaylandServer {
     chmod(directory.path().c_str(), 0755);
     mkdir(runtime.c_str(), 0700);
     writeFile(directory / "config", "xwayland disable\n");
-    // Sway refuses to run as root, but lets root's programs connect.
+    // Sway refuses to run as root, but it accepts connections from programs of root.
     std::string asNobody;
     if (getuid() == 0) {
       EXPECT_EQ(chown(runtime.c_str(), 65534, 65534), 0);
@@ -86,6 +87,7 @@ struct WaylandServer {
     return asNobody + "sway -c " + (directory / "config").string() + " >/dev/null 2>&1";
   }
   std::string started() const {
+    // Sway chooses the first free number.
     EXPECT_TRUE(eventually([&] { return std::filesystem::exists(runtime + "/wayland-1"); }));
     return "wayland-1";
   }

@@ -12,16 +12,17 @@
 
 namespace glyph {
 
-/// How often to kill a writer: `usual`, unless the variable GLYPHORIUM_KILL_ROUNDS says otherwise.
+/// Returns how often a test should kill a writer: the value of the environment variable
+/// GLYPHORIUM_KILL_ROUNDS, or `usual` if the variable is not set.
 inline int killRounds(int usual) {
   const char* const asked = getenv("GLYPHORIUM_KILL_ROUNDS");
   return asked ? std::atoi(asked) : usual;
 }
 
-/// Runs `write(descriptor)` in a child process and kills that after a random time of at most `most`. This
-/// process calls `meanwhile` until then. The child sends a byte to the descriptor after each write; the
-/// result is the number of bytes. The time begins with the first write if `begun` is true, else with the
-/// start.
+/// Runs `write(descriptor)` in a child process and kills the child process after a random time of at most
+/// `most`. The time starts after the first write if `begun` is true, otherwise when the child process starts.
+/// Until the kill, this process calls `meanwhile` repeatedly. `write` must send one byte to the descriptor
+/// after each write and must not return. Returns the number of bytes that were sent.
 template <class Write, class Meanwhile>
 std::size_t writesUntilKilled(bool begun, std::chrono::microseconds most, Write write, Meanwhile meanwhile) {
   static std::minstd_rand random(std::random_device{}());

@@ -9,12 +9,12 @@
 namespace glyph {
 
 struct ProgramResult {
-  int exitCode;  // -1: ended by a signal
+  int exitCode;  // -1 if a signal ended the program or the program did not start
   std::string output;
 };
 
-/// Runs a shell command and collects its standard output. Redirect standard error in the command to collect
-/// it too.
+/// Runs a shell command and returns its exit code and standard output. To get standard error too, redirect it
+/// in the command.
 inline ProgramResult runProgram(const std::string& command) {
   ProgramResult result{-1, {}};
   FILE* const pipe = popen(command.c_str(), "r");

@@ -9,7 +9,7 @@
 
 namespace glyph {
 
-/// Collects the diagnostic lines printed while it lives.
+/// Collects the diagnostic lines that the library prints during the lifetime of this object.
 class RecordedDiagnostics {
  public:
   RecordedDiagnostics() {
@@ -22,7 +22,7 @@ class RecordedDiagnostics {
   RecordedDiagnostics(const RecordedDiagnostics&) = delete;
   RecordedDiagnostics& operator=(const RecordedDiagnostics&) = delete;
 
-  /// The lines since the last call.
+  /// Returns the lines since the last call.
   std::vector<std::string> take() {
     const std::lock_guard lock(mutex_);
     return std::exchange(lines_, {});

@@ -36,7 +36,7 @@ class TemporaryDirectory {
   std::filesystem::path path_;
 };
 
-/// Sets or unsets an environment variable until the end of the scope.
+/// Sets an environment variable, or unsets it if the value is nullopt. The destructor restores the old value.
 class ScopedVariable {
  public:
   ScopedVariable(const char* name, const std::optional<std::string>& value) : name_(name) {
@@ -69,7 +69,8 @@ inline void writeProgram(const std::filesystem::path& file, const std::string& c
   std::filesystem::permissions(file, std::filesystem::perms::owner_all);
 }
 
-/// Runs `body` in a child process, which ends with its result as exit code, and waits for it.
+/// Runs `body` in a child process and waits for its end. Returns the result of `body`, which must be an exit
+/// code, or -1 if a signal ended the child process.
 template <class Body>
 int inChild(Body body) {
   const pid_t child = fork();
@@ -79,8 +80,8 @@ int inChild(Body body) {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-/// Runs `body(i)` in `count` child processes at the same time, and `meanwhile` in this one. Returns whether
-/// all ended with 0.
+/// Runs `body(i)` in `count` child processes at the same time, and `meanwhile` in this process. Returns
+/// whether `body` returned 0 in all child processes.
 template <class Body>
 bool inChildren(
     int count, Body body, const std::function<void()>& meanwhile = [] {}) {
@@ -99,8 +100,8 @@ bool inChildren(
   return good;
 }
 
-/// Waits until a condition holds that another process or thread brings about. Gives up after a time so long
-/// that something must hang.
+/// Waits for a condition that another process or thread should make true. Returns false if the condition is
+/// still false after a minute.
 template <class Condition>
 bool eventually(Condition condition) {
   for (int attempt = 0; attempt < 3'000; ++attempt) {
