@@ -33,7 +33,7 @@ int listEntities(Output& output, const std::vector<std::string>& groups, bool al
   if (groups.empty() && !all) {
     for (const Entity& entity : glyph::selectedEntities().get()) entities.push_back(&entity);
     if (entities.empty()) {
-      complain("the displayed groups hold no characters; 'glyphorium display add GROUP' displays more");
+      complain("the displayed groups contain no characters; 'glyphorium display add GROUP' displays more");
     }
   }
   const auto append = [&](const std::vector<Entity>& from, const std::string* group) {

@@ -29,7 +29,7 @@ bool isReadable(Key key) {
   }
   const auto value = store->object(key.rawValue());
   if (!value || std::holds_alternative<Names>(*value)) return true;
-  complain("the stored setting '" + std::string(key.rawValue()) + "' is damaged: it is no list of texts");
+  complain("the stored setting '" + std::string(key.rawValue()) + "' is damaged: it is not a list of texts");
   return false;
 }
 

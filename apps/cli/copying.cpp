@@ -17,7 +17,7 @@ std::string whyMissing(std::string_view form) {
   if (form == "html") return "it has no HTML name; '--as html-hex' always works";
   if (form == "swiftui") return "only SF Symbols have a SwiftUI snippet";
   if (form == "uikit") return "only SF Symbols have a UIKit snippet";
-  return "its code is none";
+  return "it has no such form";
 }
 
 }  // namespace
@@ -53,7 +53,7 @@ int copyEntities(Output& output, const std::vector<Entity>& entities, const std:
   }
   const std::string text = joined(texts, form->separator);
   if (!glyph::toolKit().writeToPasteboard(text)) {
-    complainOfFailure("the clipboard did not take the text");
+    complainOfFailure("the clipboard did not accept the text");
     return notWritten;
   }
   output.printLine("Copied " + output.strong(formName == "character" ? joined(shown, "") : text) + " " +

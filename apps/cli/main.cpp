@@ -108,7 +108,7 @@ void addChoices(CLI::App& app, Options& options, Run& run) {
     const char* description;
     cli::Choice choice;
   } changes[] = {{"add", "Display more groups", cli::Choice::add},
-                 {"remove", "Display these groups no more", cli::Choice::remove},
+                 {"remove", "Stop displaying these groups", cli::Choice::remove},
                  {"set", "Display these groups and no others", cli::Choice::set}};
   for (const auto& change : changes) {
     CLI::App* const command = display->add_subcommand(change.name, change.description);
@@ -286,7 +286,7 @@ int main(int argc, char** argv) {
     help.print(text.str());
     return written(help, cli::found);
   } catch (const CLI::ParseError& error) {
-    cli::complain(explanation(app, error) + "\nSee 'glyphorium --help', or --help behind a command.");
+    cli::complain(explanation(app, error) + "\nSee 'glyphorium --help', or add --help to a command.");
     return cli::wrongUse;
   }
 

@@ -78,7 +78,7 @@ int searchCatalog(Output& output, const SearchRequest& request, bool json) {
     return nothingFound;
   }
   if (output.onTerminal() && !json && found.approximate)
-    output.printLine(output.faint("nothing is called just that; these come near"));
+    output.printLine(output.faint("there is no exact match; these are similar"));
   json ? printJsonArray(output, objects) : output.printTable(rows);
   if (output.onTerminal() && !json && found.total > found.results.size()) {
     output.printLine(output.faint(std::to_string(found.results.size()) + " of " +

@@ -35,11 +35,11 @@ int printHelp() {
   std::printf(
       "Usage: glyphorium-search-provider [OPTION]\n"
       "Answers the desktop's own search with characters: those of Glyphorium's catalog, those that the user\n"
-      "added and those in the indexes of hosts. 'glyphorium index scope mine' leaves the catalog's out. The\n"
+      "added and those in the indexes of hosts. 'glyphorium index scope mine' leaves the catalog out. The\n"
       "session bus starts the program when the desktop asks, as %s:\n"
       "  %s  org.gnome.Shell.SearchProvider2\n"
       "  /runner  org.kde.krunner1\n\n"
-      "      --idle-seconds=SECONDS  leave that long after the last question; 0: never (default 30)\n"
+      "      --idle-seconds=SECONDS  exit this long after the last call; 0 means never (default 30)\n"
       "  -h, --help                  print this\n"
       "      --version               print the version\n",
       provider::busName().c_str(), provider::objectPath().c_str());

@@ -122,7 +122,7 @@ void Service::copy(const std::string& identifier, std::string (*form)(const glyp
   const auto entity = characters_.entity(identifier);
   if (!entity) throw CallError{SD_BUS_ERROR_INVALID_ARGS, "No character is known as '" + identifier + "'"};
   if (!glyph::toolKit().writeToPasteboard(form(*entity), character(*entity))) {
-    throw CallError{SD_BUS_ERROR_FAILED, "The clipboard did not take the text"};
+    throw CallError{SD_BUS_ERROR_FAILED, "The clipboard did not accept the text"};
   }
 }
 

@@ -35,7 +35,7 @@ TEST(CommandLine, PrintsEmbeddedTextsByteForByte) {
   }
 }
 
-TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
+TEST(CommandLine, ReturnsExitCodesAndHelpfulMessages) {
   const struct {
     std::string arguments;
     int exitCode;
@@ -105,7 +105,7 @@ TEST(CommandLine, AnswersWithExitCodesAndMessagesThatHelp) {
             "0000\tNull character (Control)\n");  // a closed pipe is not an error
 }
 
-TEST(CommandLine, IdentifiesATextOfAnyLengthHoweverItComes) {
+TEST(CommandLine, IdentifiesTextOfAnyLengthInPiecesOfAnySize) {
   const std::string text = "e\u0301👨\u200D👩\u200D👧🇩🇪🇫🇷\r\n→";
   const TemporaryDirectory directory;
   const std::string file = (directory / "text").string(), pieces = (directory / "pieces").string();
@@ -125,7 +125,7 @@ TEST(CommandLine, IdentifiesATextOfAnyLengthHoweverItComes) {
             "␊\t000a\tLine Feed (Control)\n");
 }
 
-TEST(CommandLine, WaitsForAFullPipeAndTellsOfAFullFile) {
+TEST(CommandLine, WaitsForAFullPipeAndReportsAFullFile) {
   int pipe[2];
   ASSERT_EQ(pipe2(pipe, O_NONBLOCK), 0);
   const pid_t child = fork();
@@ -155,7 +155,7 @@ TEST(CommandLine, WaitsForAFullPipeAndTellsOfAFullFile) {
   EXPECT_THAT(limited.output, HasSubstr("could not be written"));
 }
 
-TEST(CommandLine, SendsATerminalNoControlsOfOthers) {
+TEST(CommandLine, SendsNoForeignControlCharactersToATerminal) {
   const TemporaryDirectory home;
   SqliteSettingsStore(home / ".config/org.glyphorium.Glyphorium/settings.sqlite")
       .set("displayedGroups", std::vector<std::string>{"\x1b]0;x\a\u009B"});
@@ -169,7 +169,7 @@ TEST(CommandLine, SendsATerminalNoControlsOfOthers) {
   EXPECT_EQ(nlohmann::json::parse(json)[0].value("symbol", ""), "\u009B");
 }
 
-TEST(CommandLine, PrintsJsonOfTheRecordsFields) {
+TEST(CommandLine, PrintsTheFieldsOfRecordsAsJson) {
   const struct {
     std::string arguments;
     std::size_t count;
@@ -191,7 +191,7 @@ TEST(CommandLine, PrintsJsonOfTheRecordsFields) {
   }
 }
 
-TEST(CommandLine, ShowsWhateverIsIndexedOrSaysWhyNot) {
+TEST(CommandLine, ShowsAnyIndexedItemAndReportsAnUnreadableIndex) {
   const TemporaryDirectory home;
   const std::string own = "HOME=" + home.path().string();
   const auto file = home / ".local/share/org.glyphorium.Glyphorium/index.sqlite";
@@ -271,7 +271,7 @@ TEST(CommandLine, KeepsTheUsersChoices) {
 
 // The manual page and the completions for each shell contain every command. The completions of group and
 // table names come from the catalog.
-TEST(CommandLine, IsDocumentedAndCompletedWhole) {
+TEST(CommandLine, HasDocumentationAndCompletionForEveryCommand) {
   const std::string folder = CLI_SOURCES;
   const std::string manual = fileContent(folder + "/glyphorium.1");
   std::string help = run("--help").output;
@@ -315,7 +315,7 @@ TEST(CommandLine, CopiesEveryCharacterOfItsArgument) {
   EXPECT_THAT(copied("21,22"), HasSubstr("no character is"));
 }
 
-TEST(CommandLine, SpeaksTheUsersLanguage) {
+TEST(CommandLine, ShowsUsageNotesInTheUsersLanguage) {
   EXPECT_THAT(run("show 201e", "LC_ALL=de_AT.UTF-8").output, HasSubstr("Anführung"));
   EXPECT_THAT(run("show 2019", "LC_ALL=en_GB.UTF-8 LANGUAGE=fr:en").output, HasSubstr("apostrophe"));
 }

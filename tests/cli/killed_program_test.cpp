@@ -90,7 +90,7 @@ TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
   EXPECT_LT(changed, static_cast<std::size_t>(rounds));  // and some before it
 }
 
-TEST(SeveralPrograms, LoseNothingOfEachOther) {
+TEST(SeveralPrograms, KeepAllTheirChanges) {
   const TemporaryDirectory config;
   const TemporaryDirectory data;
   const ScopedVariable configHome("XDG_CONFIG_HOME", config.path().string());
@@ -112,7 +112,7 @@ TEST(SeveralPrograms, LoseNothingOfEachOther) {
   EXPECT_EQ(std::set<std::string>(codes.begin(), codes.end()), wanted);
 }
 
-TEST(UnreadableChoices, AreToldFromEmptyOnes) {
+TEST(UnreadableChoices, AreDistinguishedFromEmptyOnes) {
   const TemporaryDirectory home;
   const ScopedVariable configHome("XDG_CONFIG_HOME", home.path().string());
   const ScopedVariable dataHome("XDG_DATA_HOME", home.path().string());

@@ -62,7 +62,7 @@ TEST_F(SearchProvider, AnswersTheShell) {
 
 // The shell sends a query after every letter, together with the results of the previous query. The search
 // must not be limited to these results, because the last letters may identify another character.
-TEST_F(SearchProvider, FindsLetterByLetterWhatItFindsAtOnce) {
+TEST_F(SearchProvider, FindsTheSameLetterByLetterAsAtOnce) {
   Session session;
   for (const std::string query : {"U+2192", "\\\\u2192", "arow", "pfeil", "&rarr;"}) {
     const std::string atOnce = session.shell("GetInitialResultSet \"['" + query + "']\"");
@@ -72,7 +72,7 @@ TEST_F(SearchProvider, FindsLetterByLetterWhatItFindsAtOnce) {
   }
 }
 
-TEST_F(SearchProvider, FindsWhatTheUserAndAllHostsHave) {
+TEST_F(SearchProvider, FindsCharactersOfTheUserAndOfAllHosts) {
   Session session;
   const auto identifiers = [&](const std::string& words) {
     return session.shell("GetInitialResultSet \"['" + words + "']\"");
@@ -123,7 +123,7 @@ TEST_F(SearchProvider, OpensTheSearchInATerminal) {
   EXPECT_THAT(session.shell("LaunchSearch \"['arrow']\" 0"), HasSubstr("not installed"));
 }
 
-TEST_F(SearchProvider, AnswersOthersSoonWhoeverAsksForTooMuch) {
+TEST_F(SearchProvider, LimitsLargeRequestsThatWouldDelayOthers) {
   Session session;
   const std::string many = "\"[$(seq -f \"'%.0f'\" -s, 2000 5000)]\"";
   const auto count = [&](const std::string& call) {
@@ -191,7 +191,7 @@ TEST_F(SearchProvider, AnswersTheRunner) {
   EXPECT_EQ(session.starts(), 1u) << session.log();
 }
 
-TEST_F(SearchProvider, AnswersWhateverBecomesOfTheIndex) {
+TEST_F(SearchProvider, AnswersEvenIfTheIndexIsMissingLockedOrDamaged) {
   Session session;
   SqliteSettingsStore(session / "config/org.glyphorium.Glyphorium/settings.sqlite")
       .set("desktopSearchesCatalog", false);
@@ -216,7 +216,7 @@ TEST_F(SearchProvider, AnswersWhateverBecomesOfTheIndex) {
   EXPECT_EQ(session.starts(), 1u) << session.log();
 }
 
-TEST_F(SearchProvider, AnswersManyAtOnceWhileOthersVanish) {
+TEST_F(SearchProvider, AnswersManyCallersWhileOthersAreKilled) {
   Session session;
   session.index();
   const std::string search = session.shellCommand("GetInitialResultSet \"['rightwards double arrow']\"");
@@ -227,7 +227,7 @@ TEST_F(SearchProvider, AnswersManyAtOnceWhileOthersVanish) {
   EXPECT_EQ(session.starts(), 1u) << session.log();
 }
 
-TEST_F(SearchProvider, LeavesWhenIdleWithoutLosingACall) {
+TEST_F(SearchProvider, ExitsWhenIdleWithoutLosingACall) {
   Session session("0.02");
   session.index();
   // The pauses are close to the idle time, so that many calls arrive while the program is about to exit.
@@ -241,7 +241,7 @@ TEST_F(SearchProvider, LeavesWhenIdleWithoutLosingACall) {
   EXPECT_THAT(fileContent(session / "ends"), Not(testing::ContainsRegex("[^0\n]"))) << session.log();
 }
 
-TEST_F(SearchProvider, EndsWhenToldTo) {
+TEST_F(SearchProvider, ExitsOnSignalsAndWhenTheBusEnds) {
   Session session("0");
   session.index();
   for (const std::string signal : {"TERM", "INT", "HUP"}) {
@@ -279,7 +279,7 @@ TEST(InstalledFiles, AreValid) {
   if (!missing.empty()) GTEST_SKIP() << "not installed:" << missing;
 }
 
-TEST(SearchProviderProgram, ExplainsItself) {
+TEST(SearchProviderProgram, ReportsHelpVersionAndWrongArguments) {
   const struct {
     std::string arguments;
     int exitCode;
