@@ -31,7 +31,8 @@ SearchResults CatalogSearch::query(std::string_view text, const SearchOptions& o
   SearchOptions all = options;
   all.limit = added_.size();
   SearchResults added = addedSearch_->query(text, all);
-  all.limit = options.limit + added_.size();  // so many may turn out to be added ones
+  // Up to added_.size() results of the catalog may be dropped because the user added the same characters.
+  all.limit = options.limit + added_.size();
   SearchResults found = Search::ofCatalog().query(text, all);
   if (added.results.empty() || found.results.empty() || added.approximate != found.approximate) {
     const bool onlyAdded = found.results.empty() || (found.approximate && !added.results.empty());
@@ -42,7 +43,7 @@ SearchResults CatalogSearch::query(std::string_view text, const SearchOptions& o
   }
   const bool cut = found.results.size() < found.total;
 
-  // Where each added character that the catalog holds too stands there.
+  // For each added character that is also in the catalog: (position in the catalog, position in added_).
   std::vector<std::pair<std::size_t, std::size_t>> places;
   for (std::size_t i = 0; i < added_.size(); ++i) {
     if (const auto place = placeInCatalog(added_[i].computed.hex)) places.emplace_back(*place, i);
@@ -58,14 +59,16 @@ SearchResults CatalogSearch::query(std::string_view text, const SearchOptions& o
   }
   std::size_t total = found.total;
   for (const SearchResult& result : added.results) {
-    // One that stands behind the part of the catalog's results that is known is counted among them.
+    // If the catalog's results were truncated, a character of the catalog that is not in the returned part
+    // is already counted in found.total.
     if (!seen[result.index] && !(cut && inCatalog[result.index])) ++total;
   }
 
   SearchResults merged{{}, total, found.approximate};
   std::vector<SearchResult> both;
   const auto isBefore = [](const SearchResult& a, const SearchResult& b) { return a.cost < b.cost; };
-  // Of equal ones the catalog's come first: it knows which of its characters are wanted most.
+  // Among results of equal cost, those of the catalog come first, because the catalog has data about which of
+  // its characters people want most.
   std::merge(std::make_move_iterator(found.results.begin()), std::make_move_iterator(found.results.end()),
              std::make_move_iterator(added.results.begin()), std::make_move_iterator(added.results.end()),
              std::back_inserter(both), isBefore);

@@ -13,41 +13,43 @@
 
 namespace glyph {
 
-/// The catalog and the user's own characters, searched together. It needs no configured catalog and decodes
-/// only what is asked for: where the user has added nothing, making one costs as much as reading the setting,
-/// else a search over the added characters is built. It does not notice later changes, see isCurrent().
-/// Immutable: any number of threads may use one object.
+/// Searches the catalog and the characters that the user added. It works without configure() and decodes only
+/// the entities that the caller asks for. If the user has added no characters, the constructor only reads the
+/// setting. Otherwise the constructor also builds a Search over the added characters. Later changes of
+/// the setting do not affect an object: see isCurrent(). Immutable: any number of threads may use one object.
 class GLYPHORIUM_EXPORT CatalogSearch {
  public:
-  /// With the characters that settingsStore() has now.
+  /// Uses the added characters that settingsStore() has at the time of the call.
   CatalogSearch();
 
-  /// With the characters of these hex codes or hex lists, as Glyphorium::customAddedEntityUnicodes() has
-  /// them.
+  /// Uses the added characters with these hex codes or hex lists, in the form that
+  /// Glyphorium::customAddedEntityUnicodes() returns. A code without a name is ignored.
   explicit CatalogSearch(std::vector<std::string> addedCodes);
 
-  /// As Search::query(). A character that the user added and that is in the catalog too is one result, the
-  /// added one. Exact results of one of the two leave no room for approximate ones of the other. The index of
-  /// a result is for entity(), not a place in a list.
+  /// Searches like Search::query(). If a character is both added and in the catalog, only the added one is in
+  /// the results. If either the catalog or the added characters match the query without approximation,
+  /// approximate results of the other source are dropped. SearchResult::index is not a position in a list:
+  /// pass the result to entity() instead.
   SearchResults query(std::string_view text, const SearchOptions& options = {}) const;
 
-  /// The entity of a result of this object.
+  /// Returns the entity of a result that query() of this object returned. Returns an empty entity if the
+  /// index of the result is out of range.
   Entity entity(const SearchResult& result) const;
 
-  /// The entity of exactly that hex code or hex list ("2192", "0041,030a"), the added one if there is one;
-  /// nullopt where neither the user nor the catalog has it.
+  /// Returns the entity whose hex code or hex list is exactly this text ("2192", "0041,030a"). If a character
+  /// is both added and in the catalog, returns the added one. Returns nullopt if there is no such entity.
   std::optional<Entity> entityOfHex(std::string_view hex) const;
 
-  /// Whether settingsStore() still has the same codes. Make a new object where it has not.
+  /// Returns true if settingsStore() still has the codes that this object uses. If not, make a new object.
   bool isCurrent() const;
 
-  /// Whether the user added the result's character.
+  /// Returns true if the result of this object is a character that the user added.
   bool isAdded(const SearchResult& result) const { return result.index < added_.size(); }
 
  private:
   std::vector<std::string> codes_;
   std::vector<Entity> added_;
-  std::optional<Search> addedSearch_;  // none where nothing is added
+  std::optional<Search> addedSearch_;  // empty if the user added no characters
 };
 
 }  // namespace glyph

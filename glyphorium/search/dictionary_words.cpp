@@ -6,7 +6,7 @@
 namespace glyph::search {
 namespace {
 
-constexpr std::size_t shortestPlural = 4;  // in bytes: shorter words end in "s" by chance
+constexpr std::size_t shortestPlural = 4;  // in bytes; most shorter words that end in "s" are not plurals
 
 void addVariant(const Index& index, QueryWord& word, std::string_view variant) {
   const TextRange range = index.words.exactly(variant);
@@ -22,8 +22,8 @@ void addDictionaryWords(const Index& index, QueryWord& word, const Languages& la
     word.alternatives.push_back({{range.first, range.first + 1}, WordMatch::whole});
     ++range.first;
   }
-  // If words begin with it but it is not a word itself, it is incomplete rather than a plural: "rocke" does
-  // not mean "rock".
+  // If dictionary words begin with the text but the text is not a dictionary word itself, the text is an
+  // incomplete word rather than a plural. For example, "rocke" does not mean "rock".
   if ((isWord || range.empty()) && word.text.size() >= shortestPlural) {
     for (const SearchLanguage* const language : languages) {
       for (const std::string& singular : singularsOf(*language, word.text)) addVariant(index, word, singular);

@@ -9,11 +9,13 @@
 
 namespace glyph::search {
 
-/// Adds to the word's alternatives: the word itself, its singulars and synonyms in the languages, and, if
-/// `prefixes` is set, the words that begin with it.
+/// Looks up word.text in the dictionary and adds what it finds to word.alternatives: the word itself, then
+/// its singulars and synonyms in the given languages. If `prefixes` is true, also adds the longer words that
+/// begin with word.text.
 void addDictionaryWords(const Index& index, QueryWord& word, const Languages& languages, bool prefixes);
 
-/// The number of postings of all alternatives of the word: the more, the less the word says.
+/// Returns the number of postings of all alternatives of the word. The more postings a word has, the
+/// less it narrows the search.
 std::size_t postingCount(const Index& index, const QueryWord& word);
 
 }  // namespace glyph::search

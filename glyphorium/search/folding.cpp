@@ -15,7 +15,7 @@
 namespace glyph::search {
 namespace {
 
-// Letters that Unicode does not decompose, by what people type for them.
+// Letters that Unicode does not decompose, each with the plain letters that people type instead.
 constexpr struct {
   char32_t letter;
   std::string_view folded;

@@ -5,12 +5,14 @@
 
 namespace glyph::search {
 
-/// Appends the letter or digit as words are compared: in lower case, a Latin letter without diacritics and in
-/// letters from a to z if it has such ("É" is "e", "ß" is "ss", "ø" is "o"). False, without appending, for
-/// what is neither a letter nor a digit.
+/// Folds a letter or digit for the comparison of words, and appends the result to `word` in UTF-8. Folding
+/// changes letters to lower case. It also removes the diacritics of Latin letters and spells them with the
+/// letters a to z if possible: "É" becomes "e", "ß" becomes "ss", "ø" becomes "o". Returns false and appends
+/// nothing if the code point is neither a letter nor a digit.
 bool appendFolded(char32_t codePoint, std::string& word);
 
-/// Whether the code point is a diacritic that stands behind its letter, of no particular script.
+/// Returns true if the code point is a combining diacritic that does not belong to a particular script, such
+/// as U+0301. In a text, combining diacritics follow their letter.
 bool isDiacritic(char32_t codePoint);
 
 }  // namespace glyph::search

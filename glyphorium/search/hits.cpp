@@ -11,7 +11,8 @@ Hits::Best Hits::best(std::size_t limit, std::size_t docCount) && {
   std::vector<Hit>& hits = best.hits;
   std::vector<char> seen(docCount, 0);
   for (const Hit& hit : hits) best.total += std::exchange(seen[hit.doc], 1) == 0;
-  // Only what will be shown is sorted. As many hits more are kept as there are repeated docs.
+  // Only hits that may be among the `limit` best docs are sorted. Some of the first hits may be repeated hits
+  // of the same doc, so as many more hits are kept as there are repeated hits in all.
   const auto isBefore = [](const Hit& a, const Hit& b) { return a.order < b.order; };
   if (limit < best.total) {
     const std::size_t repeated = hits.size() - best.total;

@@ -9,11 +9,14 @@
 
 namespace glyph::search {
 
-/// What the readings of a query find. A character may be hit several times.
+/// Collects the characters that match a query. A query can be understood in several ways (as words, as a
+/// code), so a character may have several hits. "doc" is the document number of a character: see Index.
 class Hits {
  public:
   struct Hit {
-    std::uint64_t order;  ///< cost << 32 | doc: of equal costs the doc with the better static rank is first
+    /// Hits are sorted by this number. It is cost << 32 | doc, so that among hits of equal cost the doc with
+    /// the better static rank comes first. Hits of addAtPosition() have their position here.
+    std::uint64_t order;
     std::uint32_t cost() const { return static_cast<std::uint32_t>(order >> 32); }
     std::uint32_t doc;
     SearchField field;
@@ -22,7 +25,7 @@ class Hits {
   void add(std::uint32_t doc, std::uint32_t cost, SearchField field) {
     all_.push_back({std::uint64_t{cost} << 32 | doc, doc, field});
   }
-  /// With cost 0; such hits are in the order of their positions.
+  /// Adds a hit with cost 0. Such hits are sorted by their positions.
   void addAtPosition(std::uint32_t doc, std::uint32_t position, SearchField field) {
     all_.push_back({position, doc, field});
   }
@@ -30,9 +33,10 @@ class Hits {
   bool empty() const { return all_.empty(); }
 
   struct Best {
-    std::vector<Hit> hits;  ///< each doc once, by its best hit; the best doc first
-    std::size_t total;      ///< number of docs, those beyond the limit included
+    std::vector<Hit> hits;  ///< the best hit of each doc, sorted, best first
+    std::size_t total;      ///< the number of docs that were hit, including those beyond the limit
   };
+  /// Returns the hits of the `limit` best docs. `docCount` is the number of docs in the index.
   Best best(std::size_t limit, std::size_t docCount) &&;
 
  private:

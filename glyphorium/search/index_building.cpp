@@ -17,9 +17,9 @@ namespace glyph::search {
 namespace {
 
 constexpr std::uint32_t maxPhrases = 1u << 24;  // a posting has 24 bits for the number of a phrase
-constexpr std::uint32_t lastPosition = 0xFF;
+constexpr std::uint32_t lastPosition = 0xFF;    // a posting has 8 bits for the position of a word
 
-// Collects the texts of a TextList.
+// Stores the texts of a TextList.
 struct Texts {
   std::string bytes;
   std::vector<std::uint32_t> begins{0};
@@ -31,7 +31,7 @@ struct Texts {
   TextList list() const { return {bytes, begins}; }
 };
 
-// Texts in ascending order, and the number that belongs to each.
+// Texts in ascending order, and for each text the number that belongs to it.
 template <class Text>
 struct NumberedTexts {
   explicit NumberedTexts(std::vector<std::pair<Text, std::uint32_t>> pairs) {
@@ -100,7 +100,8 @@ class Builder {
       if (phrase.coreWords < lastPosition && !isStopWord_[word]) ++phrase.coreWords;
     }
     if (phrase.coreWords == 0) phrase.coreWords = phrase.words;
-    // People type signs for a character, and these texts contain them. In names signs only separate words.
+    // Texts of these kinds contain the signs that people type to find a character, such as "->". In the other
+    // texts, signs only separate words.
     if (kind == PhraseKind::searchTerm || kind == PhraseKind::everydayName || kind == PhraseKind::keyword ||
         kind == PhraseKind::textToSpeechName) {
       std::string key = signKey(text);
@@ -139,7 +140,8 @@ class Builder {
       addPhrase(doc, PhraseKind::note, language(advice.lang), advice.text);
   }
 
-  // The number of a language. If there are too many languages it is 0, which is always searched.
+  // Returns the number of a language, and adds the language if it is new. A bit mask of languages has 32
+  // bits. If all are used, returns 0, because texts with language number 0 are always searched.
   std::uint8_t language(std::string_view name) {
     const auto found = std::find(languages_.begin(), languages_.end(), name);
     if (found != languages_.end()) return static_cast<std::uint8_t>(found - languages_.begin());
@@ -153,7 +155,7 @@ class Builder {
       const SearchFacts& facts = searchFactList[list];
       if (facts.kind == SearchFactKind::mostWanted) continue;
       const std::uint8_t itsLanguage = facts.language.empty() ? std::uint8_t{0} : language(facts.language);
-      // Both lists are in the order of code points.
+      // The facts and byCodePoint_ are both in ascending order of code points.
       auto place = byCodePoint_.begin();
       for (std::size_t i = 0; i < facts.size() && place != byCodePoint_.end(); ++i) {
         const SearchFacts::Entry entry = facts[i];
@@ -212,7 +214,7 @@ class Builder {
       dictionary_.add(words_.word(order[i]));
     }
 
-    // A counting sort. It is stable, so the postings of a word are in ascending order.
+    // A counting sort by word. It is stable, so the postings of a word stay in ascending order.
     postingStart_.assign(words_.size() + 1, 0);
     for (Token& token : tokens_) {
       token.word = sortedPlace[token.word];
@@ -227,7 +229,7 @@ class Builder {
   std::span<const Entity> entities_;
   RankedDocs ranked_;
   WordNumbers words_;
-  std::vector<char> isStopWord_;  // by number of the word
+  std::vector<char> isStopWord_;  // indexed by word number
   WordReader reader_{{}};
   std::vector<Token> tokens_;
 

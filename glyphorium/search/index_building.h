@@ -8,7 +8,7 @@
 
 namespace glyph::search {
 
-/// The index of a list of entities. Several entities of one hex code are one doc.
+/// Builds the index of a list of entities. Entities with the same hex code become one doc.
 IndexImage buildIndex(std::span<const Entity> entities);
 
 }  // namespace glyph::search

@@ -18,8 +18,8 @@ std::size_t aligned(std::size_t size) {
   return (size + alignment - 1) / alignment * alignment;
 }
 
-// Visits the parts in the order that they have in an image. An image begins with the number of elements of
-// each part, as 64-bit integers. Then the parts follow, aligned.
+// Visits the parts of an index in the order in which they are stored in an image. An image begins with the
+// number of elements of each part, as 64-bit integers. The parts follow, each at an aligned offset.
 template <class SomeIndex, class Visit>
 void forEachPart(SomeIndex& index, Visit visit) {
   const auto visitTexts = [&](auto& texts) {

@@ -9,16 +9,20 @@
 
 namespace glyph::search {
 
-/// An index in one block of bytes without pointers, which is used where it lies. Machines of the same byte
-/// order make the same image from the same entities. Its address must be a multiple of eight.
+/// An index as one block of bytes. It contains no pointers, so it is used in place, without unpacking or
+/// copying. The address of an image must be a multiple of eight. The same entities give the same image on all
+/// machines with the same byte order.
 using IndexImage = std::vector<std::byte>;
 
+/// Returns an image with a copy of the index.
 IndexImage packed(const Index& index);
 
-/// The index in an image. The image must outlive it.
+/// Returns the index in an image. The index consists of views of the image, so the image must outlive it. The
+/// image must come from packed(), on a machine with the same byte order: it is not checked.
 Index openIndex(std::span<const std::byte> image);
 
-/// The image that the build made of the entities that configure() puts into buildInEntities().
+/// Returns the image that is part of the library. The build makes it from the entities that configure() puts
+/// into buildInEntities().
 std::span<const std::byte> catalogIndexImage();
 
 }  // namespace glyph::search

@@ -8,10 +8,11 @@
 namespace glyph::search {
 namespace {
 
-// What follows the word in its line, if one of the ascending lines begins with it.
+// Returns the rest of the line that begins with the word, without the tab after the word. Returns nullopt if
+// there is no such line. The lines must be in ascending order.
 std::optional<std::string_view> findLine(std::string_view lines, std::string_view word) {
   while (!lines.empty()) {
-    // The line in the middle; npos + 1 is 0.
+    // Look at the line in the middle. In the first line, rfind() returns npos, and npos + 1 is 0.
     const std::size_t begin = lines.rfind('\n', lines.size() / 2) + 1;
     const std::string_view line = lines.substr(begin, lines.find('\n', begin) - begin);
     std::string_view rest = line;

@@ -10,30 +10,37 @@
 #include "glyphorium/data/search_facts.h"
 #include "glyphorium/search/index.h"
 
-/// What the data of the languages (data/sources/search) say of words. All words are folded.
+/// Looks up words in the search data of the languages, which the build makes from
+/// glyphorium/data/sources/search. All words in parameters and results are folded.
 namespace glyph::search {
 
-/// Whether the word need not match, in any language: "sign", "symbol", "of".
+/// Returns true if the word is a stop word in at least one language: "sign", "symbol", "of". A character need
+/// not match the stop words of a query.
 bool isStopWord(std::string_view word);
 
 using Languages = std::vector<const SearchLanguage*>;
 
-/// The languages of a bit mask of Index::languages, in the order of searchLanguages.
+/// Returns the languages whose bits are set in `languages`, in the order of searchLanguages. Bit i stands for
+/// index.languages[i].
 Languages languagesOf(const Index& index, std::uint32_t languages);
 
-/// Whether the word joins others in one of the languages: "with".
+/// Returns true if the word is a function word in one of the languages: a word that only joins other words,
+/// such as "with".
 bool isFunctionWord(const Languages& languages, std::string_view word);
 
-/// The words of Unicode names that the word may stand for, separated by tabs.
+/// Returns the words of Unicode names that the word may stand for, separated by tabs. Empty if the word has
+/// no synonyms.
 std::string_view synonymsOf(const SearchLanguage& language, std::string_view word);
 
-/// The words that the word may be a plural of, by its ending only: they need not exist. Snowball's stemmers
-/// found none of the listed queries (tests/search/queries.tsv) better than these rules, and lost up to three
-/// of them: the stem of a mistyped word ("butterly") is often that of an unrelated one.
+/// Returns the words whose plural the word may be. Only the ending of the word is looked at, so the returned
+/// words need not exist. Snowball's stemmers were tried instead of these rules. They did not improve a single
+/// query of tests/search/queries.tsv, and up to three queries no longer found their character: the stem of a
+/// mistyped word ("butterly") is often the stem of an unrelated word.
 std::vector<std::string> singularsOf(const SearchLanguage& language, std::string_view word);
 
-/// The word with the letters that people type as several ("ae" for "ä") as one, by the rules of all
-/// languages.
+/// Some letters are typed as two or more plain letters, such as "ae" for "ä". Returns the word with each such
+/// spelling replaced by the folded letter that it stands for: "ae" by "a". The rules of all languages are
+/// used.
 std::string withoutTypedSpellings(std::string_view word);
 
 }  // namespace glyph::search

@@ -11,32 +11,33 @@ namespace {
 
 struct PhraseState {
   std::uint32_t epoch = 0;
-  std::uint8_t count = 0;      // it matches that many of the needed words, from the first on
-  std::uint8_t stopWords = 0;  // and that many of the stop words
-  std::uint8_t aligned = 0;    // words that have the same position in the query
-  std::uint8_t worst = 0;      // WordMatch
+  std::uint8_t count = 0;      // the phrase matches the first `count` needed words
+  std::uint8_t stopWords = 0;  // the phrase matches the first `stopWords` stop words of the query
+  std::uint8_t aligned = 0;  // number of matched words with the same position in the phrase and in the query
+  std::uint8_t worst = 0;    // the worst WordMatch of the matched needed words
 };
 
 struct DocState {
   std::uint32_t epoch = 0;
   std::uint32_t phrase = noPhrase;
-  std::uint32_t best = 0;  // cost of its best phrase that matches all words
-  std::uint8_t count = 0;
-  std::uint8_t worst = 0;
-  std::uint8_t current = 0;  // the best WordMatch of the word that is being matched
-  std::uint8_t stopWords = 0;
-  std::uint8_t bestWorst = 0;    // the worst WordMatch of its best phrase
-  std::uint8_t nameWorst = 255;  // the worst WordMatch of its name, if all words are in it
+  std::uint32_t best = 0;        // the lowest cost of a phrase that matches all needed words
+  std::uint8_t count = 0;        // the doc matches the first `count` needed words
+  std::uint8_t worst = 0;        // the worst WordMatch of the words before the last matched word
+  std::uint8_t current = 0;      // the best WordMatch of the last matched word
+  std::uint8_t stopWords = 0;    // the doc matches the first `stopWords` stop words of the query
+  std::uint8_t bestWorst = 0;    // the worst WordMatch in the phrase with the lowest cost
+  std::uint8_t nameWorst = 255;  // the worst WordMatch in the name; 255 if the name lacks a needed word
 };
 
 constexpr std::uint32_t noCost = 0xFFFFFFFF;
 
-// Working memory, kept for the next query. Each query has a number, its epoch. A state with another epoch is
-// one of an earlier query, so no query has to clear the states.
+// Working memory that is reused for the next query. Each query has a number, its epoch. A state with another
+// epoch is left over from an earlier query and counts as empty. So the states need not be cleared for each
+// query.
 struct Scratch {
   std::vector<PhraseState> phrases;
   std::vector<DocState> docs;
-  std::vector<std::uint32_t> touched;  // docs that match the first word
+  std::vector<std::uint32_t> touched;  // the docs that match the first needed word
   std::uint32_t epoch = 0;
 
   void begin(const Index& index) {
@@ -61,8 +62,9 @@ class Matcher {
     std::vector<std::uint8_t> stopWords;
     for (std::uint8_t place = 0; place < words.size(); ++place)
       (words[place].isStopWord ? stopWords : needed).push_back(place);
-    if (needed.empty()) needed.swap(stopWords);  // the query is "sign"
-    // The rarest word first: for the later words only the characters that match it need a look.
+    if (needed.empty()) needed.swap(stopWords);  // the query has only stop words, such as "sign"
+    // The rarest word is matched first. After that, only the few characters that match it are candidates for
+    // the other words.
     std::stable_sort(needed.begin(), needed.end(), [&](std::uint8_t a, std::uint8_t b) {
       return postingCount(index_, words[a]) < postingCount(index_, words[b]);
     });
@@ -74,12 +76,12 @@ class Matcher {
   }
 
  private:
-  // Whether the filter lets the phrase through.
+  // Returns true if the phrase passes the filter.
   bool counts(const Phrase& phrase) const {
     return (filter_.languages >> phrase.language & 1) != 0 && (!filter_.docs || (*filter_.docs)[phrase.doc]);
   }
 
-  // The i-th of the words that must match; `place` is its position in the query.
+  // Matches needed word number `i`, starting at 0. `place` is the position of the word in the query.
   void matchNeeded(const QueryWord& word, std::uint8_t i, std::uint8_t place) {
     for (const Alternative& alternative : word.alternatives) {
       for (const std::uint32_t posting : index_.postingsOf(alternative.words)) {
@@ -125,11 +127,13 @@ class Matcher {
       state = {};
       state.epoch = epoch_;
     }
-    // A word may be in the phrase several times: its first posting counts, the aligned one may come later.
+    // A word may be in the phrase several times. The first posting counts as the match, but the posting with
+    // the position of the query's word may be a later one.
     const bool isNew = state.count == i;
     const bool alignsNow = isAligned && (match == WordMatch::whole || match == WordMatch::prefix) &&
                            (isNew || state.count == i + 1);
-    if (!isNew && !alignsNow) return;  // lacks an earlier word, or has this one already by a better match
+    // Otherwise the phrase lacks an earlier word, or already has a match for this word.
+    if (!isNew && !alignsNow) return;
     if (isNew) {
       state.count = static_cast<std::uint8_t>(i + 1);
       state.worst = std::max(state.worst, static_cast<std::uint8_t>(match));
@@ -170,7 +174,8 @@ class Matcher {
     }
   }
 
-  // A phrase that matches all needed words counts for its doc if it is the best one so far.
+  // Makes the phrase the best phrase of its doc if it has the lowest cost so far. The phrase must match all
+  // needed words.
   void offer(std::uint32_t number, const Phrase& phrase, const PhraseState& state) {
     const std::uint32_t cost = phraseCost(phrase, {static_cast<WordMatch>(state.worst), state.count,
                                                    state.stopWords, state.aligned, needed_, stopWords_});

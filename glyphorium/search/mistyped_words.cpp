@@ -7,9 +7,10 @@
 namespace glyph::search {
 namespace {
 
-// Walks the sorted dictionary like a prefix tree: all words of a range begin with the same `depth` bytes. At
-// each depth it tries every edit; the rest of the query's word must then follow unchanged. This looks at some
-// hundred ranges. Comparing each word would take a thousand times as many steps.
+// Searches the sorted dictionary like a prefix tree. All words of a range begin with the same `depth` bytes.
+// At each depth, every edit is tried. After an edit, the rest of the query's word must follow unchanged. This
+// looks up a few hundred ranges. A comparison with each word of the dictionary would take about a thousand
+// times as many steps.
 class MistypedWords {
  public:
   MistypedWords(const Index& index, QueryWord& word) : index_(index), word_(word), text_(word.text) {}
@@ -29,13 +30,15 @@ class MistypedWords {
   }
 
  private:
-  // Edits the text behind its first `depth` bytes. All words of the range begin with these, the `prefix`.
+  // Tries every edit at offset `depth` of the text. `prefix` is the text before this offset, and `range` has
+  // the words that begin with `prefix`.
   void editAt(std::size_t depth, const std::string& prefix, TextRange range) {
     const std::string_view rest = text_.substr(depth);
-    if (!rest.empty()) accept(prefix, rest.substr(1), range);  // leave a letter out
+    if (!rest.empty()) accept(prefix, rest.substr(1), range);  // remove a byte
     if (rest.size() >= 2 && rest[0] != rest[1])
-      accept(prefix + rest[1] + rest[0], rest.substr(2), range);  // exchange two letters
-    // Replace the letter by each one that follows in the dictionary, and put each of these in.
+      accept(prefix + rest[1] + rest[0], rest.substr(2), range);  // swap two bytes
+    // Try each byte that follows the prefix in the dictionary: once as a replacement, and once as an
+    // insertion.
     for (std::uint32_t first = range.first; first < range.last;) {
       const std::string_view word = index_.words[first];
       if (word.size() == depth) {
@@ -50,6 +53,7 @@ class MistypedWords {
     }
   }
 
+  // Adds the words for the edited text, which is `prefix` + `rest`. Looks only at the words in `within`.
   void accept(const std::string& prefix, std::string_view rest, TextRange within) {
     std::string wanted = prefix;
     wanted += rest;
@@ -67,14 +71,14 @@ class MistypedWords {
     return text.find_first_of("0123456789") != std::string_view::npos;
   }
 
-  static constexpr std::size_t leastPrefix = 4;  // too many words begin with a shorter one
+  static constexpr std::size_t leastPrefix = 4;  // in bytes; too many words begin with a shorter prefix
 
   const Index& index_;
   QueryWord& word_;
   std::string_view text_;
 };
 
-constexpr std::size_t leastLetters = 4;
+constexpr std::size_t leastLetters = 4;  // in bytes
 
 }  // namespace
 

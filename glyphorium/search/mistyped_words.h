@@ -6,9 +6,12 @@
 
 namespace glyph::search {
 
-/// Adds to the word's alternatives the words of the dictionary that differ from it by one edit: a byte left
-/// out, put in, replaced, or exchanged with its neighbour. Adds nothing for a word under four bytes, which
-/// would be near too many words, and no words with digits, because every number is near other numbers.
+/// Tries every text that differs from word.text by one edit. An edit removes, inserts or replaces one byte,
+/// or swaps two adjacent bytes. Adds to word.alternatives the dictionary words that are equal to an edited
+/// text, and the longer words that begin with an edited text of at least four bytes. Then sorts all
+/// alternatives, best first. Adds nothing if word.text has fewer than four bytes, because too many words
+/// would be one edit away. Skips edited texts with digits, because every number is one edit away from other
+/// numbers.
 void addMistypedWords(const Index& index, QueryWord& word);
 
 }  // namespace glyph::search
