@@ -9,7 +9,8 @@
 namespace glyph {
 namespace {
 
-// The number of rows in all configured tables: reserved at once, so that entities are not moved.
+// Returns the number of rows in all configured tables. configure() reserves memory for all rows at once, so
+// that the list does not have to grow and move its entities.
 std::size_t configuredRows() {
   std::size_t rows = 0;
   for (const EmbeddedText& text : embeddedTexts()) rows += text.configured ? text.rows : 0;

@@ -16,13 +16,14 @@ using Codes = std::vector<std::string>;
 
 constexpr std::string_view key = UserInfluencedEntityKey::customAddedEntities.rawValue();
 
-// For each code that this process has asked the index to add (true) or to delete (false).
+// The codes of the requests that this process has sent to the index. The value is true if the process has
+// asked the index to add the item and false if it has asked to delete the item.
 using Requested = std::map<std::string, bool>;
 
-// Makes the index agree with the stored list. Several processes may change the list at the same time, and
-// their requests reach the index in any order, so each process compares again when its last request has been
-// carried out. The last one to do so finds what all of them have left. Runs on the thread that calls the
-// index's completions.
+// Updates the index so that it matches the stored list. Several processes may change the list at the same
+// time, and their requests may reach the index in any order. Therefore each process compares the index with
+// the list again after its last request is done. The process whose requests end last sees the final list.
+// Runs on the thread that calls the completions of the index.
 void reconcileIndex(Requested requested) {
   if (!EntityUserData::useSpotlightExtension()) return;
   const Codes stored = storedCustomCodes();
@@ -51,16 +52,18 @@ std::vector<std::string> Glyphorium::customAddedEntityUnicodes() const {
   return storedCustomCodes();
 }
 
-// Watchers see the effects in this order: the old entities leave the index before the list is saved, the new
-// ones enter it before the displayed list is published. The settings are locked only while `change` computes
-// the list, for everything else calls code of the host. `change` returns whether it has changed the list; if
-// not, nothing is saved and the result is false.
+// The effects have a fixed order, which observers can see: the old entities leave the index before the list
+// is saved, and the new entities enter the index before the displayed list is published. The settings are
+// locked only while `change` computes the list, because all other steps call code of the host. `change`
+// returns whether it has changed the list. If `change` returns false, the list is not saved and this function
+// returns false.
 bool Glyphorium::changeCustomAddedEntityUnicodes(
     const std::function<bool(std::vector<std::string>&)>& change) {
   if (EntityUserData::useSpotlightExtension()) toolKit().removeFromSpotlight(allCustomEntities);
   Requested requested;
   const bool changed = changeUserDefaults(key, Codes(), [&](Codes& codes) {
-    // Removed codes count as indexed: another process may have added them once more since the request above.
+    // The index may contain the items of the stored codes even after the deletion above: another process may
+    // have added them again. So these codes count as indexed.
     for (const std::string& code : codes) requested[code] = true;
     return change(codes);
   });
@@ -83,8 +86,8 @@ void Glyphorium::setCustomAddedEntityUnicodes(std::vector<std::string> codes) {
   });
 }
 
-// The host's change must not run while the settings are locked, so it gets a copy. If another process stores
-// another list meanwhile, the change is made again, of that list.
+// The host's function must not run while the settings are locked, so it works on a copy. If another process
+// stores a different list in the meantime, the function is called again with that list.
 void Glyphorium::modifyCustomAddedEntityUnicodes(
     const std::function<void(std::vector<std::string>&)>& change) {
   for (bool done = false; !done;) {

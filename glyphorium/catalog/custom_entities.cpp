@@ -16,7 +16,7 @@ std::vector<Entity> customEntities(const std::vector<std::string>& codes) {
     records.push_back(Unicode(code).computedEntity());
     records.back().group = customGroup;
   }
-  // Only the rows of these codes are decoded: they are few, and the table is large.
+  // Only the enrichment rows of these codes are decoded, because the codes are few and the table is large.
   std::string rows = "[";
   std::vector<Entity> entities;
   for (ComputedEntity& record : toolKit().addNames(std::move(records))) {

@@ -8,8 +8,9 @@
 
 namespace glyph {
 
-/// The entities of characters that a user added, by their hex codes or hex lists, in that order: in the group
-/// "custom", named from the name table and enriched. A code without a name gives none.
+/// Returns the entities of the characters with these hex codes or hex lists, in the same order. Each entity
+/// is in the group "custom" and has its name from the name table and its enrichment. A code without a name is
+/// left out.
 std::vector<Entity> customEntities(const std::vector<std::string>& codes);
 
 }  // namespace glyph

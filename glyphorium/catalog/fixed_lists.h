@@ -5,12 +5,11 @@
 
 namespace glyph {
 
-/// Code points that are never shown: signs that are widely read as symbols of hate.
+/// Code points that are never shown: signs that many people read as symbols of hate.
 inline constexpr std::array<const char*, 6> initialForbiddenUnicodes{"5350", "543d", "0fd5",
                                                                      "0fd6", "0fd7", "0fd8"};
 
-/// Code points that common fonts have no picture for, and invisible controls that would look like empty
-/// cells.
+/// Code points that common fonts cannot show, and invisible controls that would look like empty cells.
 inline constexpr std::array<const char*, 245> initialNotDisplayableUnicodes{
     "0560", "0588", "09fc", "09fd", "09fe", "312d", "312e",  "312f",  "31b8",  "31b9", "31ba", "31bb", "31bc",
     "31bd", "31be", "31bf", "3377", "3378", "3379", "337a",  "33de",  "33df",  "33ff", "fa2e", "fa2f", "20e2",

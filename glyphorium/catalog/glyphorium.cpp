@@ -49,8 +49,8 @@ Glyphorium::Glyphorium(const Glyphorium& other) : Glyphorium() {
 Glyphorium::~Glyphorium() = default;
 
 Glyphorium& Glyphorium::operator=(const Glyphorium& other) {
-  // Copies first, because they may run out of memory. The assignments cannot fail, so the catalog is never
-  // half assigned.
+  // Makes all copies first, because copying may run out of memory. The assignments below cannot fail, so the
+  // catalog is never half assigned.
   auto forbidden = other.forbiddenUnicodes;
   auto custom = other.allCustomEntities.get();
   auto counts = other.allEntityGroupNamesWithCount.get();
@@ -71,7 +71,7 @@ std::vector<std::string> Glyphorium::getBuildInEntityGroups() {
   std::vector<std::string> names;
   for (const Entity& entity : allBuildInEntities_) {
     const std::string& group = entity.computed.group;
-    // The rows of a group stand together, so this removes nearly all duplicates before sorting.
+    // The rows of a group are adjacent, so this comparison removes nearly all duplicates before the sorting.
     if (names.empty() || names.back() != group) names.push_back(group);
   }
   std::sort(names.begin(), names.end());

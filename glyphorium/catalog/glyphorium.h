@@ -17,13 +17,15 @@
 
 namespace glyph {
 
-/// The character catalog. It is a value type; glyphorium() is the shared instance. Operations report no
-/// errors: bad input gives the neutral value that the operation names, and a diagnostic line says what went
-/// wrong. Do not use a catalog, or the module's globals, from two threads at once.
+/// The character catalog. It is a value type; glyphorium() is the shared instance. Its functions do not
+/// report errors: for bad input each function returns the neutral value that its comment names, and a
+/// diagnostic line describes the problem. Do not use a catalog, or the library's global lists, from two
+/// threads at once.
 ///
-/// The only exception that leaves the library is std::bad_alloc. Every function that is not noexcept may
-/// throw it, unless its declaration says otherwise, as that of Search::query() does. Afterwards each list of
-/// the catalog and each stored choice is either as before or complete, and the operation can be repeated.
+/// The only exception that the library throws is std::bad_alloc. Every function that is not noexcept may
+/// throw it, unless the comment of the function says otherwise (see Search::query() for an example). After
+/// the exception, each list of the catalog and each stored choice is either unchanged or complete. The
+/// function can then be called again.
 struct GLYPHORIUM_EXPORT Glyphorium {
   using ComputedEntity = glyph::ComputedEntity;
   using AdditionalData = glyph::AdditionalData;
@@ -32,11 +34,12 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   using Unicode = glyph::Unicode;
   using UserInfluencedEntityKey = glyph::UserInfluencedEntityKey;
 
-  /// The number of entities by group name. A group without entities has no key.
+  /// The number of entities of each group, indexed by group name. A group without entities has no key.
   using GroupCounts = std::map<std::string, std::int64_t>;
 
   Glyphorium();
-  // Copying prints no diagnostic lines. There is no move constructor: it would empty glyphorium() silently.
+  // Copying prints no diagnostic lines. There is no move constructor, because moving from glyphorium() would
+  // empty the shared catalog without a message.
   Glyphorium(const Glyphorium& other);
   Glyphorium& operator=(const Glyphorium& other);
   ~Glyphorium();
@@ -44,86 +47,93 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   /// Hex codes that selectedEntities() never shows, in upper or lower case.
   std::vector<std::string> forbiddenUnicodes;
 
-  /// The characters that the user added, in the order of adding; filled by configure().
+  /// The entities of the characters that the user added, in the order of adding. configure() fills the list.
   /// Every change prints one diagnostic line with the number of elements.
   Observed<std::vector<Entity>> allCustomEntities;
 
-  /// How many entities each group has, filled by configure(); [] gives 0 for a group without entities. Every
-  /// change prints one diagnostic line with the number of groups.
+  /// The number of entities of each group. configure() fills the map. The operator [] returns 0 for a group
+  /// without entities. Every change prints one diagnostic line with the number of groups.
   Observed<GroupCounts> allEntityGroupNamesWithCount;
 
-  /// Set to true by every write of the displayed groups. The host sets it back to false. Every assignment
+  /// Becomes true whenever the displayed groups are stored. The host sets it back to false. Every assignment
   /// prints one diagnostic line with the value.
   Observed<bool> selectedGroupsHadChanged;
 
-  /// The entities of all configured tables, in their order, each with its enrichment; empty before
-  /// configure().
+  /// Returns the entities of all configured tables, in the order of the tables, each with its enrichment. The
+  /// list is empty before configure() is called.
   const std::vector<Entity>& buildInEntities() const { return allBuildInEntities_; }
 
   /// Fills the catalog from the embedded tables and the user's stored choices, and assigns
-  /// selectedEntities(). It may be called again at any time and then replaces everything.
+  /// selectedEntities(). Each further call replaces the whole content.
   void configure();
 
-  /// The names of the displayed groups, in display order. Every call reads the settings store. If it holds no
-  /// list, the result is ["custom"].
+  /// Returns the names of the displayed groups, in display order. Every call reads the settings store.
+  /// Returns ["custom"] if the store has no list of groups.
   std::vector<std::string> selectedGroups() const;
 
-  /// Stores the names, which are not checked, and raises selectedGroupsHadChanged. If "custom" is among them,
-  /// it is stored once and in front. The displayed list stays unchanged until the host calls
-  /// setSelectedEntities().
+  /// Stores the names without checking them and sets selectedGroupsHadChanged to true. If the list contains
+  /// "custom", this name is stored once, at the beginning. The displayed list does not change until the host
+  /// calls setSelectedEntities().
   void setSelectedGroups(std::vector<std::string> groups);
 
-  /// Reads the stored names, changes them and stores them as one step: no other process can write in between.
+  /// Reads the stored names, changes and stores them in one step: no other process can write between the
+  /// reading and the writing.
   void modifySelectedGroups(const std::function<void(std::vector<std::string>&)>& change);
 
-  /// Appends the lower-cased name. Does nothing if the list already holds it.
+  /// Appends the lower-cased name. Does nothing if the list already contains the lower-cased name.
   void addSelectedGroup(std::string_view named);
 
-  /// Removes the name in all spellings of upper and lower case. The list is stored even if nothing was
-  /// removed.
+  /// Removes the name, ignoring upper and lower case. Stores the list even if no name was removed.
   void removeSelectedGroup(std::string_view named);
 
-  /// The hex codes (or hex lists, see CodeFormats) that the user added, in the order of adding.
+  /// Returns the hex codes (or hex lists, see CodeFormats) that the user added, in the order of adding.
   std::vector<std::string> customAddedEntityUnicodes() const;
 
-  /// Stores the codes, which are not checked. Then updates allCustomEntities, selectedEntities() and, if
+  /// Stores the codes without checking them. Then updates allCustomEntities, selectedEntities() and, if
   /// EntityUserData::useSpotlightExtension() is on, the search index.
   void setCustomAddedEntityUnicodes(std::vector<std::string> codes);
 
-  /// Changes the stored codes, with the same effects. `change` gets the present list. It is called again,
-  /// with the new list, if another process has stored one in the meantime. No lock is held while it runs.
+  /// Changes the stored codes, with the same effects as setCustomAddedEntityUnicodes(). `change` receives the
+  /// stored list. If another process stores a different list in the meantime, `change` is called again with
+  /// that list. The library holds no lock while `change` runs.
   void modifyCustomAddedEntityUnicodes(const std::function<void(std::vector<std::string>&)>& change);
 
-  /// Appends the lower-cased code unless the list holds it, adds "custom" to the displayed groups and counts
-  /// the groups again. Has the effects of setCustomAddedEntityUnicodes() in any case.
+  /// Appends the lower-cased code unless the list already contains it, adds "custom" to the displayed groups
+  /// and counts the groups again. Has the effects of setCustomAddedEntityUnicodes() even if the code was
+  /// already in the list.
   void addCustomAddedEntity(std::string_view unicode);
 
-  /// Does the same for several codes as one change: all of them are stored or none, and each effect happens
-  /// once. Takes time in proportion to their number. Does nothing for an empty list.
+  /// Does the same as addCustomAddedEntity() for several codes in one change: either all codes are stored or
+  /// no code is stored, and each effect happens once. The time is proportional to the number of codes. Does
+  /// nothing if the list is empty.
   void addCustomAddedEntities(const std::vector<std::string>& unicodes);
 
-  /// Removes the lower-cased code, with the same effects. The group "custom" stays displayed.
+  /// Removes the lower-cased code, with the same effects as addCustomAddedEntity(), except that the displayed
+  /// groups do not change: "custom" stays displayed.
   void removeCustomAddedEntity(std::string_view unicode);
 
-  /// Does the same for several codes as one change.
+  /// Does the same as removeCustomAddedEntity() for several codes in one change. Does nothing if the list is
+  /// empty.
   void removeCustomAddedEntities(const std::vector<std::string>& unicodes);
 
   /// Builds the displayed list and assigns it to selectedEntities(), which posts "contentHasChanged" once.
-  /// The list holds the entities of the displayed groups (group names in upper or lower case) in code-point
-  /// order, without the forbidden code points and those that cannot be displayed. If several groups hold a
-  /// code point, the entity of the first of them in selectedGroups() is taken.
+  /// The list consists of the entities of the displayed groups in code-point order, without the forbidden
+  /// code points and the code points that cannot be displayed. Group names are compared without regard to
+  /// upper and lower case. If several displayed groups contain the same code point, the list uses the entity
+  /// of the group that comes first in selectedGroups().
   void setSelectedEntities();
 
-  /// The rows of a group table in JSON. `latinBasicJson` holds the symbols of U+0022 and U+005C without the
-  /// escapes that JSON requires; they are escaped before decoding. If the text cannot be decoded, the result
-  /// is nullopt and one diagnostic line says why.
+  /// Decodes a group table: returns the rows of the JSON array. In the embedded table `latinBasicJson`, the
+  /// symbols of U+0022 and U+005C lack the escapes that JSON requires; this function adds them before
+  /// decoding. If the text cannot be decoded, returns nullopt and prints one diagnostic line with the reason.
   std::optional<std::vector<ComputedEntity>> getComputedEntitiesFrom(std::string_view json) const;
 
-  /// The rows of an enrichment table in JSON. Errors as with getComputedEntitiesFrom().
+  /// Decodes an enrichment table: returns the rows of the JSON array. Handles errors as
+  /// getComputedEntitiesFrom() does.
   std::optional<std::vector<AdditionalData>> getAdditionalDataFrom(std::string_view json) const;
 
-  /// One entity for each record, in the same order. Each gets the first enrichment record with the same hex
-  /// code, compared byte for byte, if there is one.
+  /// Returns one entity for each record, in the same order. Each entity gets the first enrichment record with
+  /// the same hex code, if there is one. Hex codes are compared byte for byte.
   std::vector<Entity> getEntitiesByEnriching(std::vector<ComputedEntity> records,
                                              const std::optional<std::vector<AdditionalData>>& with) const;
 
@@ -137,21 +147,23 @@ struct GLYPHORIUM_EXPORT Glyphorium {
 
   std::vector<std::string_view> entityData_;  // the texts of the configured group tables
   std::vector<std::string>
-      notDisplayableUnicodes_;  // dropped from selectedEntities() like the forbidden ones
+      notDisplayableUnicodes_;  // left out of selectedEntities(), as forbiddenUnicodes are
   Observed<std::vector<Entity>> allBuildInEntities_;
 };
 
-/// The shared catalog. It is created on first use, which is safe from several threads, and lives until the
-/// process ends. It is empty until configure() is called.
+/// Returns the shared catalog. The first call creates it; several threads may make this call at once. The
+/// catalog is empty until configure() is called, and it lives until the process ends.
 GLYPHORIUM_EXPORT Glyphorium& glyphorium();
 
-/// The entity that configure() puts at that place of buildInEntities(), decoded alone. It is for programs
-/// that show a few characters, such as results of Search::ofCatalog(), and do not need the whole list.
-/// nullopt if there is no such place. It does not need configure(); any thread may call it.
+/// Decodes a single entity: the one that configure() puts at this index of buildInEntities(). It is for
+/// programs that show a few characters, such as results of Search::ofCatalog(), and do not need the whole
+/// list. Returns nullopt if the index is too large. configure() need not have been called. Any thread may
+/// call this function.
 GLYPHORIUM_EXPORT std::optional<Entity> buildInEntity(std::size_t place);
 
-/// The group names in display order: "custom", the three groups that are chosen by hand, then the others in
-/// ascending order. Empty until configure() fills it. It lives until the process ends.
+/// Returns the group names in display order: "custom", then three fixed groups ("digital typography (latin)",
+/// "design inspiration", "emoji"), then the other groups in ascending order. The list is empty until
+/// configure() fills it, and it lives until the process ends.
 GLYPHORIUM_EXPORT std::vector<std::string>& allBuildInEntityGroups();
 
 }  // namespace glyph

@@ -11,7 +11,8 @@
 namespace glyph {
 namespace {
 
-// The rank of each group, by its lower-cased name: its first position in the stored list.
+// Returns the rank of each group, indexed by its lower-cased name. A group that is earlier in the stored list
+// has a lower rank.
 std::unordered_map<std::string, std::size_t> ranksOf(const std::vector<std::string>& groups) {
   std::unordered_map<std::string, std::size_t> ranks;
   for (const std::string& group : groups) ranks.try_emplace(lowercased(group), ranks.size());
@@ -25,8 +26,9 @@ struct Candidate {
 
 }  // namespace
 
-// One pass over the catalog instead of one pass for each displayed group. Of two entities with the same hex
-// code, the one whose group stands earlier in the stored list stays; within one group, the earlier entity.
+// Makes one pass over the catalog instead of one pass for each displayed group. If two entities have the same
+// hex code, the entity whose group is earlier in the stored list is kept. Within one group, the earlier
+// entity is kept.
 std::vector<Entity> Glyphorium::buildSelectedEntities() const {
   const std::vector<Entity>& buildIn = allBuildInEntities_;
   const std::vector<Entity>& custom = allCustomEntities;
@@ -41,7 +43,7 @@ std::vector<Entity> Glyphorium::buildSelectedEntities() const {
   candidates.reserve(buildIn.size() + custom.size());
   std::unordered_map<std::string_view, std::size_t> placeOfHex;
   placeOfHex.reserve(buildIn.size() + custom.size());
-  const std::string* group = nullptr;  // of the previous entity; the rows of a group stand together
+  const std::string* group = nullptr;  // the group of the previous entity; the rows of a group are adjacent
   auto rank = ranks.end();
   for (const auto* list : {&buildIn, &custom}) {
     for (const Entity& entity : *list) {
@@ -62,7 +64,7 @@ std::vector<Entity> Glyphorium::buildSelectedEntities() const {
       }
     }
   }
-  // Stable, so that different spellings of one number ("0041", "00041") keep the order of the catalog.
+  // A stable sort keeps different spellings of the same number ("0041", "00041") in the order of the catalog.
   std::stable_sort(candidates.begin(), candidates.end(), [](const Candidate& a, const Candidate& b) {
     return a.entity->computed.decimal < b.entity->computed.decimal;
   });

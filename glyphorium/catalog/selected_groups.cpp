@@ -10,7 +10,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-// "custom" stands once and in front, if it stands at all.
+// If the list contains "custom", moves it to the beginning and removes its repetitions.
 Names normalised(Names groups) {
   if (std::erase(groups, customGroup) > 0) groups.emplace(groups.begin(), customGroup);
   return groups;
@@ -35,7 +35,8 @@ void Glyphorium::modifySelectedGroups(const std::function<void(std::vector<std::
   });
 }
 
-// Stores the list that `change` has changed, as one step; nothing if it returns false.
+// Reads the list, calls `change` and stores the changed list in one step. If `change` returns false, the
+// stored list stays unchanged.
 void Glyphorium::changeSelectedGroups(const std::function<bool(std::vector<std::string>&)>& change) {
   const bool changed = changeUserDefaults(UserInfluencedEntityKey::displayedGroups.rawValue(),
                                           Names{std::string(customGroup)}, [&](Names& groups) {

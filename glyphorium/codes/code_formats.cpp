@@ -18,7 +18,8 @@ std::int64_t digitValue(std::string_view character) {
   return 0;
 }
 
-// The positional sum over user-perceived characters, whatever they are; 0 where it leaves 64 bits.
+// Returns the hexadecimal value of the characters. A character that is not a digit counts as zero. Returns 0
+// if the value does not fit into 64 bits.
 std::int64_t positionalSum(const std::vector<std::string_view>& characters) {
   std::int64_t sum = 0;
   for (const std::string_view character : characters) {
@@ -60,7 +61,7 @@ std::string CodeFormats::getHex(std::int64_t from) const {
 
 std::string CodeFormats::getHtmlHex(std::string_view from) const {
   std::size_t zeros = std::min(from.find_first_not_of('0'), from.size());
-  // The last zero may combine with what follows: a zero with an accent is another character.
+  // The last zero may combine with the next code point: a zero with an accent is a different character.
   if (zeros > 0 && graphemeClusters(from.substr(zeros - 1)).front() != "0") --zeros;
   return "&#x" + lowercased(from.substr(zeros)) + ";";
 }
@@ -99,7 +100,7 @@ std::string CodeFormats::getAdvancedHtmlHex(std::string_view from) const {
 std::string CodeFormats::getAdvancedSymbol(std::string_view from) const {
   std::string text;
   for (std::string_view component : components(from)) {
-    // from_chars takes a minus sign but no plus.
+    // std::from_chars accepts a minus sign but not a plus sign.
     if (component.size() > 1 && component[0] == '+' && component[1] != '-') component.remove_prefix(1);
     std::int64_t value = 0;
     const char* const end = component.data() + component.size();

@@ -11,8 +11,8 @@
 namespace glyph {
 namespace {
 
-// Reads code forms one by one from the front of a text. After a form that cannot be read, the position is
-// undefined; the caller then rejects the whole text.
+// Reads codes one after another from the beginning of a text. If a code cannot be read, the position is
+// undefined, and the caller then rejects the whole text.
 class CodeReader {
  public:
   explicit CodeReader(std::string_view text) : rest_(text) {}
@@ -26,7 +26,7 @@ class CodeReader {
     if (const auto arguments = callBegin()) return call(*arguments);
     if (take("&")) return reference();
     if (take("#"))
-      return numericReference(4);  // copied without the "&"; with fewer digits it is probably a tag
+      return numericReference(4);  // a reference without its "&"; with fewer digits it is probably a tag
     if (take("\\")) return escape();
     if (take("%")) return bytes("%");
     if (take("<U+")) return closed(number(16, 1, 8), ">");
@@ -36,8 +36,9 @@ class CodeReader {
       return ended(number(16, least, 8));
     }
     if (take("0x") || take("0X")) return ended(number(16, 1, 8));
-    if (take("uni")) return ended(number(16, 4, 4));  // a glyph name in fonts
-    // Without "+" at least four digits, the least that a code point is written with; fewer may be a word.
+    if (take("uni")) return ended(number(16, 4, 4));  // a glyph name of a font
+    // Without "+", at least four digits are required, as in the usual notation of code points. A shorter form
+    // may be a word.
     if (take("u") || take("U")) return ended(number(16, 4, 8));
     return std::nullopt;
   }
@@ -49,7 +50,7 @@ class CodeReader {
     return there;
   }
 
-  // Reads a number of `least` to `most` digits; nullopt if there are fewer or more.
+  // Reads a number of `least` to `most` digits. Returns nullopt if there are fewer or more digits.
   std::optional<std::uint32_t> number(int base, std::size_t least, std::size_t most) {
     std::size_t end = 0;
     while (end < rest_.size() && (base == 16 ? ascii::isHexDigit(rest_[end]) : ascii::isDigit(rest_[end])))
@@ -65,7 +66,7 @@ class CodeReader {
     return ParsedCode{*value, {}};
   }
 
-  // The code, if no letter or digit follows its digits.
+  // Returns the code, or nullopt if a letter or digit follows its digits.
   std::optional<ParsedCode> ended(std::optional<std::uint32_t> value) const {
     return rest_.empty() || !ascii::isAlphanumeric(rest_.front()) ? code(value) : std::nullopt;
   }
@@ -108,8 +109,9 @@ class CodeReader {
     return ParsedCode{0x10000 + ((*value - 0xD800) << 10) + (*low - 0xDC00), {}};
   }
 
-  // Reads the two digits of a byte and, behind `introducer` each, those of further bytes as long as they make
-  // up one UTF-8 sequence. If they do not, the first byte alone is a code point.
+  // Reads the two digits of a byte. Then reads further bytes, each after `introducer`, until the bytes form
+  // one UTF-8 sequence. If they do not form a UTF-8 sequence, only the first byte is read, and its value is
+  // the code point.
   std::optional<ParsedCode> bytes(std::string_view introducer) {
     const auto byte = [&]() -> std::optional<char> {
       const auto value = rest_.size() < 2 ? std::nullopt : ascii::number(rest_.substr(0, 2), 16);
@@ -131,7 +133,8 @@ class CodeReader {
     return code(static_cast<unsigned char>(*first));
   }
 
-  // If a call such as "chr(" or "=UNICHAR(" is next: the offset of its argument.
+  // If the text begins with a call such as "chr(" or "=UNICHAR(", returns the offset of the argument.
+  // Otherwise returns nullopt.
   std::optional<std::size_t> callBegin() const {
     constexpr std::size_t longestName = 8;
     const std::size_t open = rest_.substr(0, longestName + 1).find('(');

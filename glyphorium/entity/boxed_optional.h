@@ -8,9 +8,10 @@
 
 namespace glyph {
 
-/// A std::optional that keeps its value on the heap and is as small as a pointer. It suits a field that is
-/// absent in most records of a long list. It behaves as std::optional does: value() of an absent value throws
-/// std::bad_optional_access. One difference: a moved-from BoxedOptional is absent.
+/// An optional value that is stored on the heap. The object itself is as small as a pointer, which suits a
+/// field that is absent in most records of a long list. It behaves like std::optional: value() throws
+/// std::bad_optional_access if the value is absent. There is one difference: a BoxedOptional that was moved
+/// from is empty.
 template <class T>
 class BoxedOptional {
  public:
@@ -55,7 +56,7 @@ class BoxedOptional {
     return box_ ? std::move(*box_) : static_cast<T>(std::forward<Default>(otherwise));
   }
 
-  /// Replaces the value by a new one made of the arguments.
+  /// Replaces the value with a new value, constructed from the arguments.
   template <class... Arguments>
   T& emplace(Arguments&&... arguments) {
     box_ = std::make_unique<T>(std::forward<Arguments>(arguments)...);

@@ -18,7 +18,7 @@ namespace dom = simdjson::dom;
 
 static_assert(textPadding >= simdjson::SIMDJSON_PADDING);
 
-// Says what is wrong with a row. Thrown and caught in this file only.
+// Describes the error in a row. It is thrown and caught in this file only.
 struct RowError {
   std::string message;
 };
@@ -68,15 +68,15 @@ void read(dom::element value, std::string_view key, std::optional<T>& field) {
   }
 }
 
-// A key and its field. The fields of each record are listed below in the order of the embedded texts, so that
-// decoding a row of these compares each key once.
+// A key and its field. For each record, the fields are listed below in the order of the keys in the embedded
+// texts. Decoding such a row therefore compares each key only once.
 template <class Record, class T>
 struct Field {
   std::string_view key;
   T Record::*member;
 };
 template <class Record, class T>
-Field(std::string_view, T Record::*) -> Field<Record, T>;  // Clang deduces no aggregates before version 17
+Field(std::string_view, T Record::*) -> Field<Record, T>;  // Clang cannot deduce aggregates before version 17
 
 template <class Record>
 constexpr auto fieldsOf();
@@ -123,9 +123,9 @@ void readObject(dom::element value, Record& record) {
   constexpr std::size_t count = std::tuple_size_v<decltype(fields)>;
   std::array<bool, count> isRead{};
   [&]<std::size_t... i>(std::index_sequence<i...>) {
-    // In the embedded texts the keys stand in this order, and only optional ones may be missing. One walk
-    // over the object then reads all fields. In other texts, the fields that the walk did not meet are looked
-    // up.
+    // In the embedded texts, the keys have the order of `fields`, and only optional keys may be missing. One
+    // pass over the object then reads all fields. In other texts, the pass may miss some fields; these fields
+    // are looked up by key afterwards.
     auto next = object.begin();
     const auto end = object.end();
     const auto readNext = [&](const auto& field, bool& done) {
@@ -150,7 +150,7 @@ void readObject(dom::element value, Record& record) {
   (std::make_index_sequence<count>());
 }
 
-// A row of a group table is read directly into the entity, without a copy of the record.
+// Reads a row of a group table directly into the entity, without a copy of the record.
 void readRow(dom::element value, Entity& entity) {
   readObject(value, entity.computed);
 }
@@ -159,7 +159,7 @@ void readRow(dom::element value, Record& record) {
   readObject(value, record);
 }
 
-// Whether the text is a number in JSON's grammar.
+// Returns whether the text is a number by the grammar of JSON.
 bool isNumber(std::string_view text) {
   const auto digits = [&] {
     const std::size_t count = std::min(text.find_first_not_of("0123456789"), text.size());
@@ -181,8 +181,9 @@ bool isNumber(std::string_view text) {
   return text.empty();
 }
 
-// The JSON text with 0.5 in the place of every number that is no 64-bit integer. No field takes one of those,
-// and the parser refuses a text with a number beyond its range, also in keys that are ignored.
+// Returns the JSON text with 0.5 in place of every number that is not a 64-bit integer. The parser rejects a
+// text with a number outside its range, even under a key that is ignored. The replacement is safe because no
+// field accepts a number that is not a 64-bit integer.
 std::string withoutHugeNumbers(std::string_view json) {
   std::string result;
   while (!json.empty()) {
@@ -230,7 +231,7 @@ std::string TableDecoder::append(std::string_view json, std::vector<Record>& rec
   const bool copy = !isEmbedded(json);
   auto error = parser_->parser.parse(json.data(), json.size(), copy).get(rows);
   if (error == simdjson::NUMBER_ERROR) error = parser_->parser.parse(withoutHugeNumbers(json)).get(rows);
-  if (error == simdjson::MEMALLOC) throw std::bad_alloc();  // not an error in the text
+  if (error == simdjson::MEMALLOC) throw std::bad_alloc();  // memory ran out; the text may be valid
   if (error == simdjson::INCORRECT_TYPE) return "is no JSON array";
   if (error != simdjson::SUCCESS) return std::string("is no valid JSON: ") + simdjson::error_message(error);
   const std::size_t before = records.size();

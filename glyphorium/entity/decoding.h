@@ -11,8 +11,9 @@
 
 namespace glyph {
 
-/// Decodes JSON arrays in UTF-8, one after the other, with one parser. If an object has a key twice, the
-/// first one counts. An embedded text is parsed in place, any other text is copied once.
+/// Decodes JSON arrays in UTF-8. One decoder can decode several arrays, one after another, and reuses its
+/// parser. If an object has the same key twice, the first value counts. An embedded text is parsed in place;
+/// any other text is copied once.
 class TableDecoder {
  public:
   TableDecoder();
@@ -20,10 +21,10 @@ class TableDecoder {
   TableDecoder(const TableDecoder&) = delete;
   TableDecoder& operator=(const TableDecoder&) = delete;
 
-  /// Appends the records of `json` to `records` and returns an empty text. Record is ComputedEntity,
-  /// AdditionalData, RawUnicodeEntity, or Entity for entities that have a ComputedEntity and no enrichment.
-  /// One faulty row fails the whole array: `records` is then unchanged, and the result is one line that says
-  /// what is wrong.
+  /// Appends the records of `json` to `records`. Returns an empty text on success. Record is ComputedEntity,
+  /// AdditionalData, RawUnicodeEntity or Entity. For Entity, the rows are those of a group table, and the
+  /// entities have no enrichment. If one row is faulty, the whole array is rejected: `records` stays
+  /// unchanged, and the function returns one line that describes the error.
   template <class Record>
   std::string append(std::string_view json, std::vector<Record>& records);
 
@@ -32,7 +33,7 @@ class TableDecoder {
   std::unique_ptr<Parser> parser_;
 };
 
-/// The records of one JSON array. On an error prints it as one diagnostic line and returns nullopt.
+/// Returns the records of one JSON array. On an error, prints one diagnostic line and returns nullopt.
 template <class Record>
 std::optional<std::vector<Record>> decodeOrReport(std::string_view json);
 

@@ -7,7 +7,8 @@
 
 namespace glyph {
 
-/// Gives each entity that has no enrichment the first record with the same hex code, compared byte for byte.
+/// Gives each entity that has no enrichment the first record of `with` that has the same hex code. Hex codes
+/// are compared byte for byte.
 void enrich(std::vector<Entity>& entities, const std::vector<AdditionalData>& with);
 
 }  // namespace glyph

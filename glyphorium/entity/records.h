@@ -12,26 +12,26 @@
 #include "glyphorium/export.h"
 
 /// The records that describe characters. They are also members of the catalog type: Glyphorium::Entity and so
-/// on. No record checks or normalises its fields.
+/// on. The records do not check or normalise their fields.
 namespace glyph {
 
 struct Entity;
 
-/// The name of the group of the characters that the user added.
+/// The name of the group for the characters that the user added.
 inline constexpr std::string_view customGroup = "custom";
 
-/// One character as a group table describes it.
+/// One character, as a row of a group table describes it.
 struct GLYPHORIUM_EXPORT ComputedEntity {
   std::string hex;  ///< the code point in hexadecimal, lower case, at least four digits: "0020", "1f600"
   std::int64_t decimal = 0;  ///< the code point as a number
   std::string htmlHex;       ///< HTML hexadecimal character reference, "&#x20;"
   std::string htmlDecimal;   ///< HTML decimal character reference, "&#32;"
   std::string symbol;        ///< the character itself
-  std::string fallbackName;  ///< its name as the table gives it, "Latin Capital Letter A"
-  std::string group;         ///< the name of its group, "latin basic"
+  std::string fallbackName;  ///< the character's name in the table, "Latin Capital Letter A"
+  std::string group;         ///< the name of the character's group, "latin basic"
   std::optional<bool> isSFSymbol;
 
-  /// An entity that has a copy of this record and no enrichment.
+  /// Returns an entity with a copy of this record and without enrichment.
   Entity generateEntity() const;
 };
 
@@ -41,46 +41,50 @@ struct AdditionalDataAdvice {
   std::string text;
 };
 
-/// A row of the enrichment table: what is known of a code point beside its group table. An empty text counts
-/// as a present value.
+/// A row of the enrichment table: additional facts about a code point that its group table does not have. An
+/// empty text counts as a present value.
 struct GLYPHORIUM_EXPORT AdditionalData {
   std::string hex;
-  std::optional<std::string> betterName;  ///< shown instead of the table's name unless it is empty
+  std::optional<std::string> betterName;  ///< if not empty, shown instead of the table's name
   std::optional<std::string> htmlNamed;   ///< named character reference, "&amp;"
   std::optional<std::string> imageName;   ///< the name of an image that the host supplies
   std::optional<std::vector<std::string>> searchTerms;
-  std::optional<bool> needsSerifs;  ///< a font with serifs shows it better
+  std::optional<bool> needsSerifs;  ///< whether a font with serifs shows the character better
   std::vector<AdditionalDataAdvice> advice;
 
-  /// The usage note in the first language of preferredLanguages(), else the English note, else nullopt. The
-  /// language is lower-cased and must then equal the note's.
+  /// Returns the usage note in the first language of preferredLanguages(). Returns the English note if there
+  /// is no note in that language, and nullopt if there is no English note either or if preferredLanguages()
+  /// is empty. The language is lower-cased before the comparison; it matches a note only if it equals the
+  /// note's language exactly.
   std::optional<std::string> localizedAdvice() const;
 };
 
-/// One catalog entry: a character and its enrichment, if it has any.
+/// One entry of the catalog: a character and its enrichment, if it has an enrichment.
 struct GLYPHORIUM_EXPORT Entity {
   ComputedEntity computed;
-  BoxedOptional<AdditionalData> additional;  ///< about one entity in eight has one
+  BoxedOptional<AdditionalData> additional;  ///< present in about one of eight entities
 
-  /// The name to show: the enrichment's better name unless that is absent or empty, else the table's name.
+  /// Returns the name to show: the better name of the enrichment if it is present and not empty, otherwise
+  /// the name in the table.
   std::string name() const;
 
-  /// The escape sequence of a Swift string literal, "\u{1f600}", with the hex code as stored.
+  /// Returns the escape sequence of a Swift string literal, "\u{1f600}", with the hex code as stored.
   std::string swiftDecimal() const;
 
-  /// The searchable texts of the entity in lower case, with one blank behind each: name, hex, decimal, both
-  /// HTML references, group, symbol and, if it has enrichment, its search terms and its HTML name.
+  /// Returns the searchable texts of the entity in lower case. One blank follows each text. The texts are:
+  /// name, hex code, decimal number, both HTML references, group, symbol and, if the entity has enrichment,
+  /// its search terms and its HTML name.
   std::string searchString() const;
 };
 
-/// A code point or hex list (see CodeFormats) from which to make a record.
+/// A hex code or hex list (see CodeFormats) from which a record can be made.
 struct GLYPHORIUM_EXPORT Unicode {
   std::string hex;
 
   Unicode() = default;
   explicit Unicode(std::string hexCode) : hex(std::move(hexCode)) {}
 
-  /// A record with all code forms; its name and its group are empty.
+  /// Returns a record with all code forms. The name and the group of the record are empty.
   ComputedEntity computedEntity() const;
 };
 
@@ -91,8 +95,9 @@ struct RawUnicodeEntity {
   bool isSFSymbol = false;
 };
 
-/// Two entities, or two of their records, are equal if their hex codes are equal byte for byte; their hashes
-/// follow that. A set therefore keeps each code point once, even if several groups hold it.
+/// Two entities, or two of their records, are equal if their hex codes are equal byte for byte. The hash
+/// depends on the hex code only. Therefore a set contains each code point once, even if several groups have
+/// it.
 inline bool operator==(const ComputedEntity& a, const ComputedEntity& b) {
   return a.hex == b.hex;
 }

@@ -6,7 +6,7 @@
 namespace glyph {
 namespace {
 
-// The text with all occurrences of `what` replaced, from left to right, without overlaps.
+// Returns the text with all occurrences of `what` replaced with `with`, from left to right, without overlaps.
 std::string replaced(std::string_view text, std::string_view what, std::string_view with) {
   std::string result;
   result.reserve(text.size() + 16);
@@ -19,10 +19,11 @@ std::string replaced(std::string_view text, std::string_view what, std::string_v
   }
 }
 
-// Whether the table holds one of the two sequences that the repair replaces. A search that stops at each
-// quotation mark is slow, because JSON is full of them. This loop looks at every byte, at memory speed.
+// Returns whether the table contains one of the two sequences that the repair replaces. A search that stops
+// at each quotation mark would be slow, because JSON has very many of them. This loop checks every byte and
+// is nearly as fast as reading the memory.
 bool needsRepair(std::string_view json) {
-  // The loop has no branch, so that the compiler can vectorise it.
+  // The inner loop has no branches, so that the compiler can vectorise it.
   constexpr std::size_t block = 4096;
   for (std::size_t begin = 0; begin + 2 < json.size(); begin += block) {
     const std::size_t end = std::min(begin + block, json.size() - 2);
@@ -45,8 +46,8 @@ std::optional<std::string> repairedTable(std::string_view json) {
   constexpr std::string_view bareReverseSolidus = "\"\\\"";
   constexpr std::string_view bareQuotationMark = "\"\"\"";
   if (!needsRepair(json)) return std::nullopt;
-  // The order matters: the other way round, the second replacement would take the reverse solidus that
-  // escapes a quotation mark for a bare one.
+  // The order matters. If the quotation marks were replaced first, the reverse solidi that escape them would
+  // then be escaped too.
   return replaced(replaced(json, bareReverseSolidus, R"("\\")"), bareQuotationMark, R"("\"")");
 }
 

@@ -7,8 +7,9 @@
 
 namespace glyph {
 
-/// The table with the bare symbols of U+0022 and U+005C escaped: every `"\"` becomes `"\\"`, then every `"""`
-/// becomes `"\""`. nullopt if the table has neither, so that the caller can parse it in place.
+/// Returns the table with the unescaped symbols of U+0022 and U+005C escaped: first every `"\"` becomes
+/// `"\\"`, then every `"""` becomes `"\""`. Returns nullopt if the table contains neither sequence, so that
+/// the caller can parse the original table in place.
 std::optional<std::string> repairedTable(std::string_view json);
 
 }  // namespace glyph

@@ -7,15 +7,15 @@
 
 namespace glyph {
 
-/// The setting's key in settingsStore(); true or false.
+/// The key of this setting in settingsStore(). The value is true or false.
 inline constexpr std::string_view desktopSearchesCatalogKey = "desktopSearchesCatalog";
 
-/// Whether the desktop's search shows characters of the whole catalog; else only what the user added and what
-/// hosts put into their search indexes. True unless the user said no. Read from settingsStore() on every
-/// call.
+/// Returns true if the desktop's search shows characters of the whole catalog. Returns false if it shows only
+/// the characters that the user added and those that hosts put into their search indexes. The default is
+/// true. Every call reads settingsStore().
 GLYPHORIUM_EXPORT bool desktopSearchesCatalog();
 
-/// Stores the choice. False where it could not be stored.
+/// Stores the choice. Returns false if the choice could not be stored.
 GLYPHORIUM_EXPORT bool setDesktopSearchesCatalog(bool wholeCatalog);
 
 }  // namespace glyph

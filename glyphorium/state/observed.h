@@ -7,18 +7,19 @@
 
 namespace glyph {
 
-/// A field that calls a function on every change. It reads like a `const T`: a list can be iterated, indexed,
-/// counted and compared. Each assignment stores the new value and then calls the function, also where the new
-/// value equals the old one. `= {}` stores an empty value.
+/// A field that calls a function on every change. It can be read like a `const T`: a list can be iterated,
+/// indexed, counted and compared. Each assignment stores the new value and then calls the function, even if
+/// the new value equals the old value. `= {}` stores an empty value.
 ///
 /// An observed field cannot be copied, so `auto list = field;` does not compile; `T list = field;` copies the
-/// value. Nothing is moved out of a field: `T list = std::move(field);` copies too.
+/// value. A field cannot be moved from: `T list = std::move(field);` copies the value too.
 template <class T>
 class Observed {
  public:
   using DidSet = void (*)(const T&);
 
-  /// A field with the default value. `didSet` is called after each change with the new value; not null.
+  /// Creates a field with the default value. `didSet` is called after each change, with the new value. It
+  /// must not be null.
   explicit Observed(DidSet didSet) : didSet_(didSet) {}
   Observed(const Observed&) = delete;
   ~Observed() = default;
@@ -33,14 +34,15 @@ class Observed {
     return *this;
   }
 
-  /// Changes the value in place by `change(T&)`, then calls the function once.
+  /// Calls `change(T&)`, which changes the value in place, and then calls the function once.
   template <class Change>
   void modify(Change change) {
     change(value_);
     didSet_(value_);
   }
 
-  /// Stores the value without calling the function: for the copy of a whole structure.
+  /// Stores the value without calling the function. It is used when a structure with observed fields is
+  /// copied.
   void assignSilently(T value) noexcept { value_ = std::move(value); }
 
   const T& get() const noexcept { return value_; }
@@ -53,8 +55,8 @@ class Observed {
   auto size() const requires std::ranges::sized_range<const T> { return value_.size(); }
   bool empty() const requires std::ranges::range<const T> { return value_.empty(); }
 
-  /// The element at that position of a list, which must be one of its positions; the value for that key of a
-  /// map, or the default value where the map has no such key.
+  /// For a list, returns the element at this index, which must be valid. For a map, returns the value for
+  /// this key, or the default value if the map does not have the key.
   template <class Key>
   decltype(auto) operator[](const Key& key) const requires std::ranges::range<const T> {
     if constexpr (requires(const T& value) { value[key]; }) {

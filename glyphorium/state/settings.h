@@ -8,16 +8,19 @@
 
 namespace glyph {
 
-/// Settings of the user that are no choice of characters. Every read asks settingsStore(), every write is
-/// durable when it returns. A stored value of another type reads as the default; no read writes anything.
+/// The user's settings other than the displayed groups and the added characters. Every function reads or
+/// writes settingsStore(). Every write is durable when the function returns. If a stored value has another
+/// type, reading returns the default. Reading never writes.
 struct GLYPHORIUM_EXPORT EntityUserData {
-  /// Whether added characters go into the desktop's search index by themselves; true unless the user said no.
+  /// Returns whether characters that the user adds are put into the desktop's search index automatically. The
+  /// default is true.
   static bool useSpotlightExtension();
 
-  /// Stores the choice; adds nothing to the index and removes nothing from it.
+  /// Stores the choice. Does not add items to the index or remove items from it.
   static void setUseSpotlightExtension(bool use);
 
-  /// Changes the choice by one read and one write: `modify…([](bool& use) { use = !use; })`.
+  /// Changes the choice by one read and one write. For example, `[](bool& use) { use = !use; }` inverts the
+  /// choice.
   static void modifyUseSpotlightExtension(const std::function<void(bool&)>& change);
 };
 

@@ -9,14 +9,16 @@
 
 namespace glyph {
 
-/// A string-backed enumeration. `Key` derives from it, declares its cases as static constants and lists them
-/// in `allCases()`. Equality and hash are those of the raw value.
+/// An enumeration whose cases are strings. `Key` derives from this class, declares its cases as static
+/// constants and lists them in `allCases()`. Two cases are equal, and have equal hashes, if their strings
+/// (raw values) are equal.
 template <class Key>
 class RawValueKey {
  public:
   constexpr std::string_view rawValue() const { return rawValue_; }
 
-  /// The case with exactly that raw value (letter case counts), or nullopt.
+  /// Returns the case with exactly this raw value (upper and lower case differ), or nullopt if there is no
+  /// such case.
   static constexpr std::optional<Key> fromRawValue(std::string_view rawValue) {
     for (const Key& key : Key::allCases()) {
       if (key.rawValue() == rawValue) return key;
@@ -39,7 +41,8 @@ class RawValueKey {
   std::string_view rawValue_;
 };
 
-/// The keys under which the catalog stores the user's choices; also Glyphorium::UserInfluencedEntityKey.
+/// The keys under which the catalog stores the user's choices. The class is also available as
+/// Glyphorium::UserInfluencedEntityKey.
 class UserInfluencedEntityKey : public RawValueKey<UserInfluencedEntityKey> {
  public:
   static const UserInfluencedEntityKey displayedGroups;      ///< array of group names

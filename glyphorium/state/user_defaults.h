@@ -11,29 +11,32 @@
 
 namespace glyph {
 
-/// The value stored for the key. With `verbose`, one diagnostic line says what was found.
+/// Returns the value stored for the key, or nullopt. If `verbose` is true, prints one diagnostic line with
+/// the result.
 std::optional<SettingValue> loadFromUserDefaults(std::string_view key, bool verbose);
 
-/// Stores the value and synchronizes the store. With `verbose`, one diagnostic line says what was saved.
+/// Stores the value and synchronizes the store. If `verbose` is true, prints one diagnostic line with the
+/// saved value.
 void saveToUserDefaults(SettingValue value, std::string_view key, bool verbose);
 
-/// The stored value as that type, or the default if there is none or one of another type.
+/// Returns the stored value as T. Returns the default if `stored` is empty or has another type.
 template <class T>
 T valueOr(const std::optional<SettingValue>& stored, T defaultValue) {
   const T* const value = stored ? std::get_if<T>(&*stored) : nullptr;
   return value ? *value : std::move(defaultValue);
 }
 
-/// Stores the value of the key once more, under the first free one of "<key>.damaged", "<key>.damaged2" and
-/// so on, and returns that name.
+/// Stores a copy of the value under another key: the first unused key of "<key>.damaged", "<key>.damaged2"
+/// and so on. Returns that key.
 std::string keepUnderAnotherKey(SettingsStore& store, std::string_view key, const SettingValue& value);
 
-/// One diagnostic line about a value that keepUnderAnotherKey() has kept.
+/// Prints one diagnostic line about a value that keepUnderAnotherKey() has stored under another key.
 void printKeptValue(std::string_view key, const std::string& keptAs);
 
-/// Changes the stored value of the key (the default if there is none) by `change(T&)`, as one step of the
-/// store, unless that returns false. A stored value of another type would be lost, so it is kept under
-/// another key. Returns what `change` returned.
+/// Changes the stored value of the key in one step of the store. `change(T&)` receives the stored value, or
+/// the default if there is no stored value of type T. If `change` returns false, the store stays unchanged.
+/// If a stored value of another type would be overwritten, it is first copied with keepUnderAnotherKey().
+/// Returns the result of `change`.
 template <class T, class Change>
 bool changeUserDefaults(std::string_view key, T defaultValue, Change change) {
   const auto store = settingsStore();
@@ -50,10 +53,10 @@ bool changeUserDefaults(std::string_view key, T defaultValue, Change change) {
   return changed;
 }
 
-/// The names of the displayed groups as stored, ["custom"] if none are.
+/// Returns the stored names of the displayed groups, or ["custom"] if no list of names is stored.
 std::vector<std::string> storedDisplayedGroups();
 
-/// The codes of the added characters as stored.
+/// Returns the stored codes of the added characters. Empty if no list of codes is stored.
 std::vector<std::string> storedCustomCodes();
 
 }  // namespace glyph

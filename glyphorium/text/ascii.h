@@ -7,7 +7,8 @@
 #include <string_view>
 #include <system_error>
 
-/// ASCII characters. Unlike the functions of <cctype>, these do not depend on the process's locale.
+/// Functions for ASCII characters. Unlike those of <cctype>, these functions do not depend on the process's
+/// locale.
 namespace glyph::ascii {
 
 inline char lowered(char c) {
@@ -29,8 +30,8 @@ inline bool isAlphanumeric(char c) {
   return isLetter(c) || isDigit(c);
 }
 
-/// The value of a text that consists of digits of that base only; nullopt for any other text and for a value
-/// beyond 32 bits.
+/// Returns the value of a text of digits in this base. Returns nullopt if the text is empty or has another
+/// character, or if the value does not fit into 32 bits.
 inline std::optional<std::uint32_t> number(std::string_view text, int base) {
   std::uint32_t value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, base);

@@ -5,11 +5,12 @@
 #include <string_view>
 #include <vector>
 
-/// Values as JSON text. Arrays are joined here from their elements, not built as arrays of the JSON library:
-/// those allocate memory in their destructors and end the program when memory runs out.
+/// Functions that return values as JSON text. The text of an array is joined here from the texts of its
+/// elements. The arrays of the JSON library are not used, because their destructors allocate memory and
+/// terminate the program when memory runs out.
 namespace glyph {
 
-/// Ill-formed UTF-8 becomes U+FFFD.
+/// Returns the value as JSON text. Ill-formed UTF-8 is replaced with U+FFFD.
 std::string jsonText(std::string_view text);
 std::string jsonText(const std::vector<std::string>& list);
 

@@ -10,7 +10,8 @@
 namespace glyph {
 namespace {
 
-// How many bytes have to be inserted, left out or replaced to make one text of the other (Levenshtein).
+// Returns the Levenshtein distance: how many bytes must be inserted, deleted or replaced to change one text
+// into the other.
 std::size_t editDistance(std::string_view a, std::string_view b) {
   std::vector<std::size_t> row(b.size() + 1);
   std::iota(row.begin(), row.end(), std::size_t{0});
@@ -34,11 +35,12 @@ std::vector<std::string> nearestTexts(std::string_view text, const std::vector<s
   std::vector<std::pair<std::size_t, const std::string*>> near;
   for (const std::string& candidate : candidates) {
     const std::string other = lowercased(candidate);
-    // A part of a name is as close as a spelling mistake, however long the name.
+    // A candidate that contains the text counts as near as a spelling mistake, even if the candidate is much
+    // longer.
     const bool part = lower.size() >= 3 && other.find(lower) != std::string::npos;
     const std::size_t lengths =
         other.size() > lower.size() ? other.size() - lower.size() : lower.size() - other.size();
-    if (!part && lengths > farthest) continue;  // the distance is at least the difference
+    if (!part && lengths > farthest) continue;  // the distance is at least the difference of the lengths
     const std::size_t distance = part ? 1 : editDistance(lower, other);
     if (distance <= farthest) near.emplace_back(distance, &candidate);
   }

@@ -6,9 +6,9 @@
 
 namespace glyph {
 
-/// Holds a T that is never destroyed. A global made of it can be used until the process ends, also by the
-/// destructors of other globals and by functions that run at exit. As a function's static variable it is made
-/// on first use, which is safe from several threads.
+/// Contains a T that is never destroyed. A global object of this type can be used until the process ends,
+/// even by the destructors of other globals and by functions that run at exit. If it is a static variable of
+/// a function, the first call of the function creates it; several threads may make this call at once.
 template <class T>
 class NeverDestroyed {
  public:

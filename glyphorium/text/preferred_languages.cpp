@@ -29,7 +29,7 @@ std::string_view environment(const char* variable) {
   return value ? value : "";
 }
 
-// Returns the text before the first separator, and removes it and the separator from `text`.
+// Returns the text before the first separator, and removes that text and the separator from `text`.
 std::string_view takePart(std::string_view& text, std::string_view separators) {
   const std::size_t end = std::min(text.find_first_of(separators), text.size());
   const std::string_view part = text.substr(0, end);
@@ -44,14 +44,14 @@ std::string_view scriptOfModifier(std::string_view modifier) {
   for (const auto& [name, script] : scripts) {
     if (name == modifier) return script;
   }
-  return {};  // "euro", "valencia" and others say nothing about the script
+  return {};  // other modifiers, such as "euro" and "valencia", do not name a script
 }
 
-// The language (with its script, if one is named) of a locale name "language[_Script][_REGION][.codeset]
-// [@modifier]". Empty if the name is malformed or names no language, as "C" does.
+// Returns the language of a locale name "language[_Script][_REGION][.codeset][@modifier]", with its script if
+// the name has one. Empty if the name is malformed or does not name a language, such as "C".
 std::string languageOf(std::string_view locale) {
-  // ICU accepts first parts of up to eight letters. Language codes have two or three; a longer part is some
-  // system's alias for a locale, such as "german".
+  // ICU accepts a first part of up to eight letters, but language codes have two or three letters. A longer
+  // first part is an alias for a locale on some systems, such as "german".
   const std::string name(locale.substr(0, locale.find_first_of(".@")));
   UErrorCode status = U_ZERO_ERROR;
   char tag[ULOC_FULLNAME_CAPACITY];
@@ -61,7 +61,7 @@ std::string languageOf(std::string_view locale) {
   std::string language(takePart(rest, "-"));
   if (language.size() < 2 || language.size() > 3 || language == "und") return {};
 
-  if (language == "no") language = "nb";  // locales named "no" are in Bokmål
+  if (language == "no") language = "nb";  // locales with the language "no" (Norwegian) use Bokmål
 
   std::string_view script = rest.substr(0, rest.find('-'));
   if (script.size() != 4) script = {};
@@ -80,13 +80,13 @@ std::vector<std::string> environmentLanguages() {
     if (!locale.empty()) break;
   }
   std::vector<std::string> languages;
-  // Only the bare names switch LANGUAGE off: in "C.UTF-8" it counts.
+  // LANGUAGE is ignored only if the locale is exactly "C" or "POSIX". With "C.UTF-8" it is used.
   if (!locale.empty() && locale != "C" && locale != "POSIX") {
     std::string_view list = environment("LANGUAGE");
     if (list.empty()) list = locale;
     while (!list.empty()) {
       const std::string_view name = takePart(list, ":");
-      if (name == "C" || name == "POSIX") break;  // asks for untranslated texts
+      if (name == "C" || name == "POSIX") break;  // the user wants untranslated texts from here on
       const std::string language = languageOf(name);
       if (!language.empty() && std::find(languages.begin(), languages.end(), language) == languages.end()) {
         languages.push_back(language);

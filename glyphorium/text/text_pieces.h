@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-/// Texts taken apart and put together. Header only; any thread may call these functions.
+/// Functions that split and join texts. All functions are defined in this header. Any thread may call them.
 namespace glyph {
 
-/// The text without the ASCII white space at both ends, as a view of it.
+/// Returns the text without the ASCII white space at both ends. The result is a view of `text`.
 inline std::string_view trimmed(std::string_view text) {
   constexpr std::string_view blanks = " \t\n\v\f\r";
   const auto first = text.find_first_not_of(blanks);
@@ -15,7 +15,7 @@ inline std::string_view trimmed(std::string_view text) {
   return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-/// The texts in their order with the separator between each two.
+/// Returns the texts in the same order, joined with the separator.
 template <class Texts>
 std::string joined(const Texts& texts, std::string_view separator) {
   std::string result;

@@ -26,8 +26,8 @@ std::int32_t length32(std::string_view text) {
   return static_cast<std::int32_t>(text.size());
 }
 
-// Each thread keeps one break iterator: creating one takes about a hundred times as long as walking a short
-// text.
+// Returns the break iterator of this thread. Each thread keeps one iterator, because creating it takes about
+// a hundred times as long as iterating over a short text.
 icu::BreakIterator* characterIterator() {
   thread_local const std::unique_ptr<icu::BreakIterator> iterator = [] {
     UErrorCode status = U_ZERO_ERROR;
@@ -37,8 +37,8 @@ icu::BreakIterator* characterIterator() {
   return iterator.get();
 }
 
-// Sets the iterator to the text until the end of the scope. After that it must not point at the caller's text
-// any more.
+// Sets the iterator to the text until the end of the scope. Then resets the iterator, so that it does not
+// refer to the text of the caller any more.
 class IteratedText {
  public:
   IteratedText(icu::BreakIterator& iterator, std::string_view text, UErrorCode& status)

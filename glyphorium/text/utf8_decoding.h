@@ -10,9 +10,9 @@
 namespace glyph {
 
 #pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wconversion"  // inside ICU's macro
-/// The code point that begins at text[i]; moves i behind it. Negative for an ill-formed sequence, which it
-/// also moves behind. i must be smaller than the size of the text.
+#pragma GCC diagnostic ignored "-Wconversion"  // the macro U8_NEXT of ICU causes this warning
+/// Returns the code point that begins at text[i] and moves i past it. Returns a negative number for an
+/// ill-formed sequence and moves i past that sequence. i must be smaller than the size of the text.
 inline std::int32_t nextCodePoint(std::string_view text, std::size_t& i) {
   std::int32_t codePoint;
   U8_NEXT(text.data(), i, text.size(), codePoint);

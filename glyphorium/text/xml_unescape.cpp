@@ -9,7 +9,8 @@
 namespace glyph {
 namespace {
 
-// What the text between "&" and ";" stands for; empty where it is no reference.
+// Returns the replacement for a reference; `name` is the text between "&" and ";". Empty if this is not a
+// reference.
 std::string referenced(std::string_view name) {
   if (name == "amp") return "&";
   if (name == "lt") return "<";
@@ -28,7 +29,8 @@ std::string referenced(std::string_view name) {
 }  // namespace
 
 std::string xmlUnescaped(std::string_view text) {
-  // The characters of references. None is "&", so that no character is looked at twice.
+  // The characters that may occur in a reference. "&" is not included, so each character is examined only
+  // once.
   constexpr std::string_view ofReferences = "#0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
   std::string result;
   result.reserve(text.size());

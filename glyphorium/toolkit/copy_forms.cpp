@@ -41,7 +41,7 @@ std::string codePoint(char32_t point) {
   return "U+" + text;
 }
 
-// Snippets take the symbol library's own spelling of the name, which only the name table keeps.
+// Snippets need the original spelling of the symbol's name, and only the name table has it.
 Text snippet(const Entity& entity, std::string (CodeFormats::*format)(std::string_view) const) {
   const auto entry = findName(entity.computed.hex);
   if (!entry || !entry->isSFSymbol) return std::nullopt;

@@ -13,25 +13,26 @@ namespace glyph {
 
 /// A form in which a character can be copied.
 struct CopyForm {
-  std::string_view identifier;  ///< stable, for settings, options and actions: "html-hex"
-  std::string_view separator;   ///< stands between the forms of several characters
+  std::string_view identifier;  ///< "html-hex"; used in settings, options and actions, so it never changes
+  std::string_view separator;   ///< separates the forms of several characters
 
-  /// The form of one character; nullopt where it has none of this kind. Any thread may call it.
+  /// Returns this form of one character, or nullopt if the character does not have this form. Any thread may
+  /// call this function.
   std::optional<std::string> (*text)(const Entity& entity);
 };
 
-/// All forms, in the order to show them:
+/// Returns all forms, in the order in which they are shown:
 /// - "character": the symbol itself;
 /// - "hex": "2192"; "decimal": "8594"; "code-point": "U+2192";
-/// - "html": the name in HTML, "&rarr;", for characters that the catalog gives one;
+/// - "html": the HTML name, "&rarr;", if the catalog has an HTML name for the character;
 /// - "html-hex": "&#x2192;"; "html-decimal": "&#8594;";
 /// - "swift": "\u{2192}", the escape of a string literal;
-/// - "swiftui", "uikit": the source line that shows the symbol, for SF Symbols.
-/// Of a character of several code points (a hex list, see CodeFormats) the numbers are those of each code
-/// point in order. The list and its texts last as long as the program.
+/// - "swiftui", "uikit": the source line that shows the symbol; only for SF Symbols.
+/// For a character of several code points (a hex list, see CodeFormats), the numeric forms contain the number
+/// of each code point in order. The list and its texts live until the program ends.
 GLYPHORIUM_EXPORT std::span<const CopyForm> copyForms() noexcept;
 
-/// The form of exactly that identifier, or nullptr.
+/// Returns the form with exactly this identifier, or nullptr if there is no such form.
 GLYPHORIUM_EXPORT const CopyForm* copyForm(std::string_view identifier) noexcept;
 
 }  // namespace glyph

@@ -13,43 +13,45 @@
 
 namespace glyph {
 
-/// Operations on entities and, inherited, the code formats. The toolkit has no state.
+/// Operations on entities. The code formats are inherited. The toolkit has no state.
 class GLYPHORIUM_EXPORT EntityToolKit : public CodeFormats {
  public:
-  /// The records with their names. Each takes `fallbackName` and `isSFSymbol` from the first entry of the
-  /// Unicode name table with its hex code, in upper or lower case; a record without an entry stays unchanged.
-  /// Then records are removed that have no name or the name "<control>", and those of the group "Private Use
-  /// Area". Any thread may call it.
+  /// Adds names to the records and returns them. Each record gets `fallbackName` and `isSFSymbol` from the
+  /// first entry of the Unicode name table that has the hex code of the record, in upper or lower case. A
+  /// record without an entry is not changed. Then some records are removed: those without a name, those with
+  /// the name "<control>" and those of the group "Private Use Area". Any thread may call this function.
   std::vector<ComputedEntity> addNames(std::vector<ComputedEntity> to) const;
 
-  /// Posts "contentHasChanged" on NotificationCenter::defaultCenter(). A host uses it to make its views
-  /// refresh.
+  /// Posts "contentHasChanged" on NotificationCenter::defaultCenter(). A host calls this function to refresh
+  /// its views.
   void sendContentHasChangedNotification() const;
 
-  /// Replaces the whole content of pasteboard() by the text, then posts "entityCopied" on
-  /// NotificationCenter::defaultCenter(). The notification's object is `displayedValue`, or the text if that
-  /// is nullopt. The result says whether the pasteboard took the text; the notification is posted in any
-  /// case.
+  /// Replaces the whole content of pasteboard() with the text, then posts "entityCopied" on
+  /// NotificationCenter::defaultCenter(). The object of the notification is `displayedValue`, or the text if
+  /// `displayedValue` is nullopt. Returns whether the pasteboard accepted the text. The notification is
+  /// posted even if the pasteboard did not accept the text.
   bool writeToPasteboard(std::string_view text,
                          const std::optional<std::string>& displayedValue = std::nullopt) const;
 
-  /// The item by which the desktop's search finds the entity. Its title is the symbol and the name, its
-  /// comment the usage note, its genre the group; its keywords are the parts of the search string.
+  /// Returns the item with which the desktop's search finds the entity. The title consists of the symbol and
+  /// the name, the comment is the usage note, the genre is the group, and the keywords include the words of
+  /// the search string.
   SearchableItem searchableItem(const Entity& entity) const;
 
-  /// Hands searchableIndex() one request to add or replace the items of the entities. Does not wait for it;
-  /// the index calls the completion when the request is done.
+  /// Sends searchableIndex() one request to add or replace the items of the entities. Does not wait for the
+  /// request; the index calls `completion` when the request is done.
   void addToSpotlight(const std::vector<Entity>& entities, SearchableIndex::Completion completion = {}) const;
 
-  /// Hands searchableIndex() one request to delete the items with the entities' hex codes. Does not wait for
-  /// it.
+  /// Sends searchableIndex() one request to delete the items with the entities' hex codes. Does not wait for
+  /// the request.
   void removeFromSpotlight(const std::vector<Entity>& entities) const;
 
-  /// Hands searchableIndex() one request to delete all items of the application. Does not wait for it.
+  /// Sends searchableIndex() one request to delete all items of the application. Does not wait for the
+  /// request.
   void resetSpotlight() const;
 };
 
-/// The shared toolkit. It lives until the process ends.
+/// Returns the shared toolkit. It lives until the process ends.
 GLYPHORIUM_EXPORT EntityToolKit& toolKit();
 
 }  // namespace glyph

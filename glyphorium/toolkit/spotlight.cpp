@@ -6,7 +6,7 @@
 namespace glyph {
 namespace {
 
-// Appends the pieces of the text between blanks, empty ones included.
+// Splits the text at each blank and appends the pieces, including empty pieces.
 void appendPieces(std::string_view text, std::vector<std::string>& pieces) {
   for (;;) {
     const std::size_t blank = text.find(' ');

@@ -43,13 +43,13 @@ TEST(CatalogTables, EveryRowAgreesWithItsCodePoint) {
       ASSERT_EQ(record.group, table.group);
       ASSERT_EQ(record.isSFSymbol, table.constant == "sfSymbolsJson" ? std::optional(true) : std::nullopt);
       named.push_back(rebuilt);
-      // Rows of the same code point in several tables differ in the group only.
+      // Rows of different tables with the same code point differ in the group only.
       const auto [other, isNew] = first.try_emplace(record.hex, record);
       if (isNew) continue;
       ASSERT_EQ(record.fallbackName, other->second.fallbackName);
-      ASSERT_NE(record.group, other->second.group) << record.hex << " stands twice in " << table.constant;
+      ASSERT_NE(record.group, other->second.group) << record.hex << " occurs twice in " << table.constant;
     }
-    // Name completion gives each row the name that it already has.
+    // Name completion gives each row the same name that it has in the table.
     named = toolKit().addNames(named);
     ASSERT_EQ(named.size(), records->size()) << table.constant;
     for (std::size_t i = 0; i < named.size(); ++i) {
@@ -64,24 +64,24 @@ TEST(CatalogTables, EveryRowAgreesWithItsCodePoint) {
   EXPECT_EQ(first.size(), 18278u - 838u);
 }
 
-TEST(CatalogTables, EnrichmentRowsHaveAllKeysAndRepeatedCodePointsTwoRows) {
+TEST(CatalogTables, EnrichmentRowsHaveAllKeysAndSomeCodePointsHaveTwoRows) {
   const auto rows = Glyphorium().getAdditionalDataFrom(additionalJson);
   ASSERT_TRUE(rows);
   ASSERT_EQ(rows->size(), 1546u);
   std::map<std::string, std::vector<std::string>> terms;
   for (const AdditionalData& row : *rows) {
-    // Each row has all keys; a key without a value is empty.
+    // Each row has all keys. A key without data has an empty value.
     ASSERT_TRUE(row.betterName && row.htmlNamed && row.imageName && row.searchTerms && row.needsSerifs)
         << row.hex;
     for (const std::string& term : *row.searchTerms) terms[row.hex].push_back(term + *row.htmlNamed);
   }
-  // U+2122 has two rows, with different terms and references.
+  // U+2153 has two rows, with different terms and references.
   EXPECT_THAT(terms["0026"], testing::ElementsAre("and&amp;", "et&amp;", "+&amp;"));
   EXPECT_THAT(terms["2153"],
               testing::ElementsAre("1 3 13 1/3 0,3", "33%", "fraction&frac13;", "1 3 13 1/3&frac13;"));
 }
 
-TEST(NameTable, FindsEveryFirstEntryAndDecodesWhole) {
+TEST(NameTable, FindsTheFirstEntryOfEachCodeAndDecodesCompletely) {
   structuredUnicodes().clear();
   loadStructuredUnicodes();
   loadStructuredUnicodes();
@@ -114,7 +114,7 @@ TEST(NameCompletion, NamesAndFilters) {
                {"100000", "<Plane 16 Private Use, First>"},
                {"zzzz", "Mine", "Mine"},
                {"0041", "Latin Capital Letter A", "", "private use area"},
-               // Records that are removed.
+               // These records are removed.
                {"0041", "", "", "Private Use Area"},
                {"zzzz", "", "<CONTROL>"},
                {"4e01", ""},

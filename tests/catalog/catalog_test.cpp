@@ -11,7 +11,7 @@ namespace {
 
 using testing::ElementsAre;
 
-TEST(Catalog, JoinsEachEntityWithTheFirstRecordOfItsHex) {
+TEST(Catalog, JoinsEachEntityWithTheFirstRecordOfItsHexCode) {
   const Glyphorium catalog;
   std::vector<ComputedEntity> records(4);
   records[0].hex = records[2].hex = "2122";

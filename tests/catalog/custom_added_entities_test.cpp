@@ -33,7 +33,7 @@ TEST_F(CustomAddedEntities, AddingAndRemovingHaveTheirEffectsInOrder) {
   EXPECT_EQ(stored("customAddedEntities"), SettingValue(Names({"0041", "21d0"})));
   EXPECT_EQ(catalog.allEntityGroupNamesWithCount->at("custom"), 2);
 
-  // Adding a stored code again leaves the list unchanged, but has all effects again.
+  // Adding a stored code again does not change the list but repeats all effects.
   catalog.addCustomAddedEntity("21d0");
   EXPECT_THAT(taken(), ElementsAre("deleted 0041 21d0", "saved customAddedEntities",
                                    "didSet ↘ allCustomEntities '2'", "indexed 0041 21d0",
@@ -60,7 +60,7 @@ TEST_F(CustomAddedEntities, StoredCodesAreComparedAsStored) {
   catalog.modifyCustomAddedEntityUnicodes([](Names& codes) { codes.push_back("0041"); });
   EXPECT_EQ(catalog.customAddedEntityUnicodes(), Names({"00E9", "0041"}));
 
-  // A code without a name does not become an entity.
+  // A code without a name gives no entity.
   catalog.setCustomAddedEntityUnicodes({"00e9", "4e01", "0085", "zzzz", "1F600", "0041,030a", "", "041"});
   const std::vector<Entity>& custom = catalog.allCustomEntities;
   ASSERT_THAT(hexCodes(custom), ElementsAre("00e9", "1F600"));
@@ -69,7 +69,7 @@ TEST_F(CustomAddedEntities, StoredCodesAreComparedAsStored) {
   EXPECT_EQ(custom[0].additional->htmlNamed, "&eacute;");
 }
 
-// Has an item for each code of its list, and lets another process act during a request.
+// An index that keeps the code of each of its items, and that lets another process act during a request.
 class SharedIndex final : public SearchableIndex {
  public:
   void indexItems(std::vector<SearchableItem> items, Completion completion) override {
@@ -93,29 +93,31 @@ class SharedIndex final : public SearchableIndex {
   }
 };
 
-TEST_F(CustomAddedEntities, TheIndexAgreesWithTheListWhateverOtherProcessesDo) {
+TEST_F(CustomAddedEntities, TheIndexMatchesTheStoredListDespiteOtherProcesses) {
   const auto shared = std::make_shared<SharedIndex>();
   setSearchableIndex(shared);
   Glyphorium catalog;
   catalog.addCustomAddedEntities({"2190", "2191", "2190", "2192"});
   EXPECT_EQ(customCodes(), (Names{"2190", "2191", "2192"}));
   EXPECT_THAT(shared->codes, ElementsAre("2190", "2191", "2192"));
-  // Another process removes a character that this one is just indexing.
+  // Another process removes a character while this process adds it to the index.
   shared->whileIndexing = [&] { store("customAddedEntities", Names{"2190", "2192", "2193"}); };
   catalog.addCustomAddedEntity("2193");
   EXPECT_THAT(shared->codes, ElementsAre("2190", "2192", "2193"));
-  // Another process, which knows an old list, indexes a character that this one is just removing.
+  // Another process, which has an old list, adds a character to the index while this process removes the
+  // character.
   shared->whileDeleting = [&] { shared->codes.insert("2192"); };
   catalog.removeCustomAddedEntities({"2192", "2190"});
   EXPECT_THAT(shared->codes, ElementsAre("2193"));
-  // Another process adds again what this one takes out of the index because it was removed.
+  // Another process removes all characters. While this process deletes them from the index, the other process
+  // adds one of them again.
   shared->whileIndexing = [&] {
     store("customAddedEntities", Names{});
     shared->whileDeleting = [&] { store("customAddedEntities", Names{"2193"}); };
   };
   catalog.removeCustomAddedEntity("2190");
   EXPECT_THAT(shared->codes, ElementsAre("2193"));
-  // A change of the host's sees what another process has stored while it ran.
+  // The host's function is called again with the list that another process has stored while the function ran.
   int calls = 0;
   catalog.modifyCustomAddedEntityUnicodes([&](Names& codes) {
     if (++calls == 1) store("customAddedEntities", Names{"2194"});
@@ -124,8 +126,8 @@ TEST_F(CustomAddedEntities, TheIndexAgreesWithTheListWhateverOtherProcessesDo) {
   EXPECT_EQ(customCodes(), (Names{"2194", "2195"}));
 }
 
-// A host may hand each callback to another thread and wait for it, so none may come while settings are
-// locked.
+// A host may forward each callback to another thread and wait for that thread. So the library must not call
+// back while the settings are locked.
 TEST_F(CustomAddedEntities, CallbacksCanWaitForAThreadThatReadsSettings) {
   class Waiting {
    public:

@@ -19,7 +19,7 @@ using SelectedEntitiesTest = CatalogFixture;
 
 TEST_F(Configure, FillsTheCatalogTheSameWayEachTime) {
   Glyphorium catalog;
-  catalog.configure();  // nothing is stored, so only added characters are displayed
+  catalog.configure();  // no groups are stored, so only the group "custom" is displayed
   const auto change = [](const std::string& field, std::size_t count) {
     return "didSet ↘ " + field + " '" + std::to_string(count) + "'";
   };
@@ -52,7 +52,7 @@ TEST_F(Configure, FillsTheCatalogTheSameWayEachTime) {
   EXPECT_EQ(catalog.allEntityGroupNamesWithCount->count("custom"), 0u);
   EXPECT_EQ(allBuildInEntityGroups().front(), "custom");
 
-  // The counts equal the numbers of rows in the tables.
+  // The count of each group equals the number of rows in its table.
   for (const EmbeddedText& text : embeddedTexts()) {
     if (text.configured) {
       EXPECT_EQ(catalog.allEntityGroupNamesWithCount->at(std::string(text.group)), text.rows);
@@ -60,7 +60,7 @@ TEST_F(Configure, FillsTheCatalogTheSameWayEachTime) {
   }
 }
 
-TEST(Globals, AreCreatedOnceByWhicheverThreadComesFirst) {
+TEST(Globals, AreCreatedOnceWhenSeveralThreadsUseThemFirst) {
   using Global = const void* (*)();
   const Global globals[] = {
       []() -> const void* { return &glyphorium(); }, []() -> const void* { return &selectedEntities(); },
@@ -75,10 +75,11 @@ TEST(Globals, AreCreatedOnceByWhicheverThreadComesFirst) {
   for (std::size_t i = 0; i < seen.size(); ++i) EXPECT_EQ(seen[i], globals[i % 5]());
 }
 
-TEST_F(SelectedEntitiesTest, KeepsEachCodePointOfTheEarliestGroupInCodePointOrder) {
+TEST_F(SelectedEntitiesTest, KeepsTheEntityOfTheEarliestGroupInCodePointOrder) {
   Glyphorium catalog;
-  // "hex group" each. The last ones are dropped whatever their groups: forbidden codes in upper or lower
-  // case, codes that cannot be displayed in lower case only.
+  // Each text consists of a hex code and a group. The last five codes test the two lists of hidden code
+  // points: forbidden code points are dropped in upper and lower case, code points that cannot be displayed
+  // are dropped in lower case only.
   std::vector<Entity> entities;
   for (const std::string text :
        {"2190 custom", "00e9 Latin", "00E9 latin", "0041 latin", "2190 arrows", "0041 LATIN", "2192 arrows",
@@ -113,7 +114,7 @@ TEST_F(SelectedEntitiesTest, KeepsEachCodePointOfTheEarliestGroupInCodePointOrde
   EXPECT_THAT(built({"arrows", "emoji"}), ElementsAre("2190 arrows"));
 }
 
-TEST_F(SelectedEntitiesTest, AnEmptyCatalogAsksTheStoreNothing) {
+TEST_F(SelectedEntitiesTest, AnEmptyCatalogDoesNotReadTheSettings) {
   Glyphorium catalog;
   catalog.setSelectedEntities();
   EXPECT_EQ(settings->reads, 0);
@@ -130,7 +131,7 @@ TEST_F(SelectedEntitiesTest, EveryAssignmentPostsOnce) {
   EXPECT_EQ(filteredEntities(), std::nullopt);
 }
 
-TEST_F(SelectedEntitiesTest, CopiesReachTheClipboardAndAreAnnounced) {
+TEST_F(SelectedEntitiesTest, CopyingSetsTheClipboardAndPostsANotification) {
   Names announced;
   const auto copies = NotificationCenter::defaultCenter().addObserver(
       notificationName::entityCopied,

@@ -11,7 +11,7 @@ namespace {
 constexpr CodeFormats formats;
 
 TEST(CodeFormats, DecimalIsThePositionalSumOfThreeOrMoreCharacters) {
-  // Counted in grapheme clusters: CR LF is one, and so is a letter with its accent.
+  // Characters are grapheme clusters: CR LF counts as one character, and so does a letter with its accent.
   const std::pair<const char*, std::int64_t> cases[] = {{"1F600", 128512},
                                                         {"", 0},
                                                         {"7", 0},
@@ -31,7 +31,7 @@ TEST(CodeFormats, DecimalIsThePositionalSumOfThreeOrMoreCharacters) {
   for (const auto& [text, value] : cases) EXPECT_EQ(formats.getDecimal(text), value) << text;
 }
 
-TEST(CodeFormats, HexIsPaddedNeverCut) {
+TEST(CodeFormats, HexIsPaddedAndNeverTruncated) {
   const std::pair<std::int64_t, const char*> cases[] = {
       {0, "0000"},         {15, "000f"}, {4096, "1000"},      {65536, "10000"},
       {1049090, "100202"}, {-7, "0000"}, {INT64_MIN, "0000"}, {INT64_MAX, "7fffffffffffffff"}};
@@ -42,7 +42,7 @@ TEST(CodeFormats, References) {
   EXPECT_EQ(formats.getHtmlHex("00A9"), "&#xa9;");
   EXPECT_EQ(formats.getHtmlHex("0000"), "&#x;");
   EXPECT_EQ(formats.getHtmlHex("zz"), "&#xzz;");
-  // A zero with an accent is a character of its own, a zero before an ill-formed byte is a zero.
+  // A zero with an accent is a different character. A zero before an ill-formed byte is still a zero.
   EXPECT_EQ(formats.getHtmlHex("000\u03010A"), "&#x0\u03010a;");
   EXPECT_EQ(formats.getHtmlHex("00\xCC"), "&#x\xCC;");
   EXPECT_EQ(formats.getAdvancedHtmlHex("0041,0\u0301,"), "&#x41;&#x0\u0301;&#x;");
@@ -78,7 +78,7 @@ TEST(CodeFormats, HexLists) {
   }
 }
 
-TEST(CodeFormats, SymbolSnippetsTakeTheNameUnchanged) {
+TEST(CodeFormats, SymbolSnippetsContainTheNameUnchanged) {
   EXPECT_EQ(formats.getSFSymbolSwiftUICode("square.and.arrow.up"),
             R"(Image(systemName: "square.and.arrow.up").font(.system(size: 16.0, weight: .regular)))");
   EXPECT_EQ(

@@ -14,7 +14,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-// A table of one row, with one piece of text replaced.
+// Returns a table of one row in which the text `what` is replaced with `replacement`.
 std::string table(std::string_view what = "", std::string_view replacement = "") {
   std::string text =
       R"([{"symbol":"A","hex":"0041","htmlHex":"&#x41;","fallbackName":"N","htmlDecimal":"&#65;","decimal":65,"group":"g"}])";
@@ -26,13 +26,13 @@ TEST(EntityCodec, OneFaultyRowFailsTheWholeTableAndIsReportedOnce) {
       table(),
       table("[", " [ ") + " ",
       table("\"hex\"", R"("extra":{"a":[1]},"hex")"),
-      table("\"hex\"", R"("\u0068ex")"),  // an escaped key is the same key
+      table("\"hex\"", R"("\u0068ex")"),  // escapes in a key do not matter
       table("\"group\":\"g\"", R"("isSFSymbol":null,"group":"g")"),
-      // Numbers beyond every range in the value of an unknown key.
+      // The value of an unknown key has numbers outside the range of every number type.
       table("\"hex\"", R"("a\"1e400":["\\",-1e400,{"b":123456789012345678901234567890}],"hex")"),
   };
   const struct {
-    std::string fault;  // a part of the diagnostic line
+    std::string fault;  // text that the diagnostic line must contain
     std::vector<std::string> tables;
   } faulty[] = {
       {"JSON", {"", "not JSON", table("}]", "},]"), table() + " x"}},
@@ -72,7 +72,7 @@ TEST(EntityCodec, OneFaultyRowFailsTheWholeTableAndIsReportedOnce) {
   }
 }
 
-TEST(EntityCodec, TellsAbsentFromEmptyAndFalse) {
+TEST(EntityCodec, DistinguishesAbsentFieldsFromEmptyAndFalse) {
   const Glyphorium catalog;
   const auto enrichment = catalog.getAdditionalDataFrom(
       R"([{"hex":"0026","advice":[{"lang":"en","text":"a\n\nb"}]},
@@ -111,7 +111,7 @@ TEST(EntityCodec, EncodesPresentFieldsInOrder) {
   EXPECT_EQ(encode(RawUnicodeEntity{"0041", "A", false}), R"({"hex":"0041","name":"A","isSFSymbol":false})");
 }
 
-TEST(EntityRecords, AreEqualByHexAlone) {
+TEST(EntityRecords, AreEqualIfTheirHexCodesAreEqual) {
   std::unordered_set<Entity> set;
   for (const char* const hex : {"00e9", "00E9", "00e9"}) {
     Entity entity;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Lets each allocation of an operation fail in turn. Either std::bad_alloc reaches the caller or the
-// operation succeeds; afterwards the library must work as before. Under the address sanitizer, this finds
-// leaks too.
+// Runs an operation many times, and each time another allocation fails. Either the caller gets std::bad_alloc
+// or the operation succeeds. Afterwards the library must still work correctly. With the address sanitizer,
+// these tests also find leaks.
 #include <gmock/gmock.h>
 
 #include <cstdint>
@@ -34,7 +34,8 @@ class ExhaustedMemory : public testing::Test {
   }
   ~ExhaustedMemory() override { setDiagnosticsSink(nullptr); }
 
-  // Returns whether the operation succeeded although these calls of operator new failed.
+  // Runs the operation while calls `first` to `last` of operator new fail. Returns whether the operation
+  // succeeded nevertheless.
   static bool run(std::size_t first, std::size_t last, const std::function<void()>& operation) {
     failingNew = {first, last};
     bool succeeded = true;
@@ -47,9 +48,9 @@ class ExhaustedMemory : public testing::Test {
     return succeeded;
   }
 
-  // Counts the allocations of the operation. Then lets each fail, alone and with all later ones, and runs
-  // `check` after each run. If there are very many, only the first ones, the last ones and some in between
-  // fail.
+  // Counts the allocations of the operation. Then repeats the operation for each allocation: once only this
+  // allocation fails, and once this allocation and all later allocations fail. Runs `check` after each run.
+  // If there are more than `atMost` allocations, only the first ones, the last ones and some in between fail.
   static void failAtEveryCall(const std::function<void()>& operation, const std::function<void(bool)>& check,
                               std::size_t atMost = 200) {
     const bool undisturbed = run(0, 0, operation);
@@ -71,8 +72,8 @@ class ExhaustedMemory : public testing::Test {
   }
 };
 
-// Operations that only read: the result is right, or there is none.
-TEST_F(ExhaustedMemory, LeavesNoWrongResults) {
+// Operations that only read must either return the right result or throw.
+TEST_F(ExhaustedMemory, NeverGivesAWrongResult) {
   const Glyphorium catalog;
   ComputedEntity record = Unicode("0041").computedEntity();
   record.fallbackName = "A name of more than a few letters";
@@ -103,7 +104,7 @@ TEST_F(ExhaustedMemory, LeavesNoWrongResults) {
                     [&](bool succeeded) { EXPECT_TRUE(!succeeded || result == expected); });
   }
 
-  // A search throws nothing: it finds nothing instead.
+  // A search does not throw when memory runs out. It returns no results instead.
   std::size_t found = 0;
   failAtEveryCall(
       [&] {
@@ -119,7 +120,7 @@ TEST_F(ExhaustedMemory, LeavesACatalogThatCanBeConfigured) {
   settings->set("displayedGroups", Names{"custom", "arrows", "a group that no table has"});
   settings->set("customAddedEntities", Names{"2190", "1f600", "0041,030a"});
   Glyphorium catalog;
-  // The catalog is empty first, so that the old and the new lists differ.
+  // Empties the catalog before each run, so that the old and the new lists differ.
   const auto reset = [&] {
     catalog = Glyphorium();
     selectedEntities() = std::vector<Entity>();
@@ -141,7 +142,7 @@ TEST_F(ExhaustedMemory, LeavesACatalogThatCanBeConfigured) {
   setSettingsStore(nullptr);
 }
 
-TEST_F(ExhaustedMemory, LetsTheIndexAnswerOrSayWhyNot) {
+TEST_F(ExhaustedMemory, IndexSearchReturnsResultsOrAnError) {
   const TemporaryDirectory directory;
   const auto file = directory / "index of more than a few letters";
   SqliteSearchableIndex index(file);
@@ -158,7 +159,7 @@ TEST_F(ExhaustedMemory, LetsTheIndexAnswerOrSayWhyNot) {
       [&](bool succeeded) { EXPECT_TRUE(!succeeded || found == 1); });
 }
 
-TEST_F(ExhaustedMemory, LeavesTheOldChoiceOrTheNewOne) {
+TEST_F(ExhaustedMemory, LeavesTheOldOrTheNewSetting) {
   const TemporaryDirectory directory;
   const auto file = directory / "settings.sqlite";
   auto store = std::make_unique<SqliteSettingsStore>(file);
@@ -177,7 +178,7 @@ TEST_F(ExhaustedMemory, LeavesTheOldChoiceOrTheNewOne) {
         });
       },
       [&](bool succeeded) {
-        // Another connection must be able to read the value: no transaction may be left open.
+        // Another connection must be able to read the value. This checks that no transaction was left open.
         const std::size_t now = stored();
         EXPECT_EQ(now, succeeded || now != size ? size + 1 : size);
         size = now;
@@ -185,7 +186,7 @@ TEST_F(ExhaustedMemory, LeavesTheOldChoiceOrTheNewOne) {
         EXPECT_TRUE(store->synchronize());
         EXPECT_EQ(SqliteSettingsStore(file).object("another key"), SettingValue(true));
         SqliteSettingsStore(file).set("another key", false);
-        store = std::make_unique<SqliteSettingsStore>(file);  // each update opens the file anew
+        store = std::make_unique<SqliteSettingsStore>(file);  // so that each update opens the file again
       });
 }
 

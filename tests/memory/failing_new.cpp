@@ -20,8 +20,9 @@ void* allocated(std::size_t size) noexcept {
 
 }  // namespace
 
-// Replaces all forms of operator new and delete except those for over-aligned types, which are not used here.
-// The address sanitizer reports memory that is allocated by one implementation and freed by another.
+// Replaces all forms of operator new and delete except the forms for over-aligned types, which this program
+// does not use. All forms must be replaced, because the address sanitizer reports memory that is allocated by
+// one implementation and freed by another.
 void* operator new(std::size_t size) {
   if (void* const memory = allocated(size)) return memory;
   throw std::bad_alloc();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A host that uses the module's globals while it exits: in the destructor of an object that is older than
-// they are, and in a function registered before they were made.
+// A host that uses the globals of the library while the host exits: in the destructor of an object that was
+// created before the globals, and in a function that was registered before they were created.
 #include <glyphorium/glyphorium.h>
 
 #include <cstdio>

@@ -16,12 +16,12 @@ namespace {
 using List = std::vector<std::string>;
 using Counts = std::map<std::string, int>;
 
-static_assert(!std::is_copy_constructible_v<glyph::Observed<List>>, "'auto' must not make a second one");
-static_assert(!std::is_move_constructible_v<glyph::Observed<List>>, "a move would empty it");
+static_assert(!std::is_copy_constructible_v<glyph::Observed<List>>, "'auto' must not copy the field");
+static_assert(!std::is_move_constructible_v<glyph::Observed<List>>, "a move would empty the field");
 
 int changes = 0;
 
-TEST(Observed, ReadsLikeTheListThatItIs) {
+TEST(Observed, CanBeReadLikeAList) {
   glyph::Observed<List> field([](const List&) { ++changes; });
   changes = 0;
   field = {"a", "b"};
@@ -41,7 +41,7 @@ TEST(Observed, ReadsLikeTheListThatItIs) {
   EXPECT_EQ(changes, 3);
 }
 
-TEST(Observed, CountsNothingForAKeyThatAMapDoesNotHave) {
+TEST(Observed, ReturnsZeroForAMissingKeyOfAMap) {
   glyph::Observed<Counts> counts([](const Counts&) {});
   counts = {{"arrows", 112}};
   EXPECT_EQ(counts["arrows"], 112);
@@ -49,7 +49,7 @@ TEST(Observed, CountsNothingForAKeyThatAMapDoesNotHave) {
   EXPECT_EQ(counts.size(), 1u);
 }
 
-TEST(BoxedOptional, AnswersAsAnOptionalDoes) {
+TEST(BoxedOptional, BehavesLikeAnOptional) {
   glyph::BoxedOptional<std::string> box;
   EXPECT_EQ(box, std::nullopt);
   EXPECT_EQ(box.value_or("none"), "none");

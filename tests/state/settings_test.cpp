@@ -73,7 +73,7 @@ TEST_F(SettingsTest, VerboseLinesNameKeyAndValue) {
                   EndsWith(" +0000\tUserDefaults: Loaded key 'nothing' without results.")));
 }
 
-TEST_F(SettingsTest, EachChangeOfGroupsNormalisesSavesAndRaisesTheFlagOnce) {
+TEST_F(SettingsTest, EachChangeOfGroupsNormalisesSavesAndSetsTheFlagOnce) {
   using Change = std::function<void(Glyphorium&)>;
   const auto set = [](Names groups) -> Change { return [=](auto& g) { g.setSelectedGroups(groups); }; };
   const auto add = [](const char* group) -> Change { return [=](auto& g) { g.addSelectedGroup(group); }; };
@@ -87,13 +87,15 @@ TEST_F(SettingsTest, EachChangeOfGroupsNormalisesSavesAndRaisesTheFlagOnce) {
     Names after;
     bool saved = true;
   } cases[] = {
-      // "custom" stands once and in front, but only this exact word, and only where it is chosen.
+      // "custom" is stored once, at the beginning. This applies only to this exact word, and only if the list
+      // contains it.
       {{}, set({"arrows", "custom", "armenian", "custom"}), {"custom", "arrows", "armenian"}},
       {{}, set({"arrows", "Custom"}), {"arrows", "Custom"}},
       {{"arrows"}, set({}), {}},
       {{"x"}, append, {"custom", "x"}},
       {{"arrows"}, add("CUSTOM"), {"custom", "arrows"}},
-      // What is added or removed is compared in lower case; what is stored stays as it is.
+      // The name to add or remove is lower-cased. Stored names keep their case, but removing ignores their
+      // case.
       {{"custom"}, add("Arrows"), {"custom", "arrows"}},
       {{"custom", "arrows"}, add("ARROWS"), {"custom", "arrows"}, false},
       {{"Arrows"}, add("arrows"), {"Arrows", "arrows"}},
@@ -116,7 +118,7 @@ TEST_F(SettingsTest, EachChangeOfGroupsNormalisesSavesAndRaisesTheFlagOnce) {
   }
 }
 
-TEST(PersistedKeys, AreMadeOfTheirExactRawValues) {
+TEST(PersistedKeys, AreFoundByTheirExactRawValues) {
   using Key = Glyphorium::UserInfluencedEntityKey;
   EXPECT_EQ(Key::fromRawValue("displayedGroups"), Key::displayedGroups);
   EXPECT_EQ(Key::fromRawValue("customAddedEntities"), Key::customAddedEntities);

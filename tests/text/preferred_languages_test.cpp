@@ -10,17 +10,17 @@ namespace {
 
 using Languages = std::vector<std::string>;
 
-TEST(PreferredLanguages, AreThoseOfGettextWithoutRegions) {
+TEST(PreferredLanguages, FollowTheRulesOfGettextWithoutRegions) {
   const struct {
     Languages languages;
     std::optional<std::string> lang = {}, language = {}, messages = {}, all = {};
   } cases[] = {{{"en"}},
-               // The order of the variables.
+               // Which variable counts.
                {{"de"}, "de_AT.UTF-8"},
                {{"fr"}, "de_DE", {}, "fr_FR"},
                {{"it"}, "de_DE", {}, "fr_FR", "it_IT"},
                {{"de"}, "de_DE", {}, {}, ""},
-               // LANGUAGE replaces the locale, unless the locale is C or POSIX.
+               // LANGUAGE replaces the locale, unless the locale is "C" or "POSIX".
                {{"pt", "fr"}, "de_DE", "pt_BR:pt:fr"},
                {{"de"}, "de_DE", ""},
                {{"sv"}, "de_DE", "::sv:C:fr"},
@@ -28,7 +28,7 @@ TEST(PreferredLanguages, AreThoseOfGettextWithoutRegions) {
                {{"en"}, {}, "fr"},
                {{"fr"}, "C.UTF-8", "fr"},
                {{"en"}, "C.UTF-8"},
-               // Forms of locale names, and malformed ones.
+               // Different forms of locale names, also malformed names.
                {{"sr-Latn"}, "sr_RS.UTF-8@latin"},
                {{"zh-Hant"}, "ZH-hANT"},
                {{"en"}, "../../x"},
@@ -42,7 +42,7 @@ TEST(PreferredLanguages, AreThoseOfGettextWithoutRegions) {
   }
 }
 
-TEST(PreferredLanguages, AreTheHostsOwnOnceSet) {
+TEST(PreferredLanguages, AreTheListOfTheHostAfterItIsSet) {
   const ScopedVariable locale("LC_ALL", "de_DE"), list("LANGUAGE", {});
   for (const Languages& own : {Languages{"pt-BR", "whatever it is"}, Languages{}}) {
     setPreferredLanguages(own);

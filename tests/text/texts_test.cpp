@@ -21,8 +21,8 @@ TEST(UnicodeText, LowerCasesWithTheFullMapping) {
                {"Latin BASIC & [Z]@`{", "latin basic & [z]@`{"},
                {"É", "é"},
                {"İ", "i̇"},                     // one code point becomes two
-               {"ΟΔΟΣ", "οδος"},               // final sigma
-               {"Z\xFFZ\xC3", "z\xFFz\xC3"}};  // ill-formed bytes survive
+               {"ΟΔΟΣ", "οδος"},               // a sigma at the end of a word
+               {"Z\xFFZ\xC3", "z\xFFz\xC3"}};  // ill-formed bytes do not change
   for (const auto& [text, lower] : cases) EXPECT_EQ(lowercased(text), lower);
 }
 
@@ -42,7 +42,7 @@ TEST(UnicodeText, MeasuresTerminalColumns) {
   for (const auto& [text, width] : cases) EXPECT_EQ(displayWidth(text), width) << text;
 }
 
-TEST(UnicodeText, KnowsWellFormedUtf8AndScalarValues) {
+TEST(UnicodeText, RecognisesWellFormedUtf8AndScalarValues) {
   for (const std::string_view good : {"", "a", "é→😀", "\xF4\x8F\xBF\xBF"})
     EXPECT_TRUE(isWellFormedUtf8(good));
   for (const std::string_view bad : {"\x80", "\xC0\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "a\xE2\x86"}) {
@@ -74,7 +74,7 @@ TEST(XmlUnescape, ReplacesReferencesOnceAndLeavesTheRest) {
   EXPECT_EQ(xmlUnescaped(std::string(1 << 20, '&')).size(), std::size_t{1} << 20);
 }
 
-TEST(Texts, WhateverTheyHoldKeepTheirBytes) {
+TEST(Texts, StayWellFormedAndKeepTheirBytesIfTheyAreRandom) {
   const std::string_view pieces[] = {
       "a",  "Z",    " ",    "\0\r"sv,       "\r\n", "İ",     "Σ",   "é",  "e\u0301", "\u200D", "👩",
       "🇩🇪", "\xFF", "\xC3", "\xED\xA0\x80", "&",    "&amp;", "&#x", "&#", "41",      "d800",   ";"};

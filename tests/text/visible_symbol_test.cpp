@@ -8,7 +8,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-TEST(VisibleSymbol, ShowsSomethingAndLeavesTheTextAroundItAlone) {
+TEST(VisibleSymbol, IsVisibleAndDoesNotAffectTheTextAroundIt) {
   const std::pair<std::string_view, std::string_view> cases[] = {{"", ""},
                                                                  {"→", "→"},
                                                                  {"\0"sv, "␀"},
