@@ -53,7 +53,8 @@ void Display::internAtoms() {
   }
 }
 
-// A change of a property, even by nothing, makes the server send an event with its time.
+// The server reports every change of a property in an event that contains the server's time. Appending
+// nothing also counts as a change.
 std::optional<xcb_timestamp_t> Display::serverTime() {
   xcb_change_property(connection_, XCB_PROP_MODE_APPEND, window_, atoms_.copiedAt, XCB_ATOM_CARDINAL, 32, 0,
                       nullptr);

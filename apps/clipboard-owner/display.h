@@ -14,7 +14,7 @@ namespace clipboard {
 struct Free {
   void operator()(void* memory) const { std::free(memory); }
 };
-/// Events and replies, which XCB allocates with malloc.
+/// Owns an event or a reply. XCB allocates both with malloc().
 template <class T>
 using Owned = std::unique_ptr<T, Free>;
 
@@ -22,10 +22,11 @@ struct Atoms {
   xcb_atom_t clipboard, clipboardManager, saveTargets, null;
   xcb_atom_t targets, timestamp, multiple, atomPair, incr;
   xcb_atom_t utf8String, text, plainText, plainTextUtf8;
-  xcb_atom_t copiedAt;  ///< the property in which a window of this program holds the time of its copy
+  xcb_atom_t copiedAt;  ///< the property of our window that contains the time of the copy
 };
 
-/// A connection to the X server of DISPLAY, with one window that is never shown.
+/// A connection to the X server that the environment variable DISPLAY names, with one window that is never
+/// shown. Check connected() after construction. Not thread-safe.
 class Display {
  public:
   Display();
@@ -33,17 +34,19 @@ class Display {
   Display(const Display&) = delete;
   Display& operator=(const Display&) = delete;
 
-  /// False where there is no server, or no longer.
+  /// Returns false if the connection could not be made or has broken since.
   bool connected() const;
   xcb_connection_t* connection() const { return connection_; }
   xcb_window_t window() const { return window_; }
   const Atoms& atoms() const { return atoms_; }
 
-  /// The server's clock, in milliseconds; nullopt where the connection broke. Drops other events.
+  /// Returns the time of the server's clock in milliseconds, or nullopt if the connection has broken.
+  /// Discards all events that arrive before the answer.
   std::optional<xcb_timestamp_t> serverTime();
-  /// The window that owns a selection, XCB_NONE where none does.
+  /// Returns the window that owns a selection, or XCB_NONE if the selection has no owner.
   xcb_window_t ownerOf(xcb_atom_t selection);
-  /// The 32-bit values of a window's property; nullopt where it has another type or more than `most` values.
+  /// Returns the 32-bit values of a property of a window. Returns nullopt if the property does not exist, has
+  /// another type or has more than `most` values.
   std::optional<std::vector<std::uint32_t>> values(xcb_window_t window, xcb_atom_t property, xcb_atom_t type,
                                                    std::uint32_t most);
   void setValues(xcb_window_t window, xcb_atom_t property, xcb_atom_t type,

@@ -8,17 +8,18 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// The server holds a piece of each: 16 MiB at most.
+// The server stores one piece of each transfer, so it stores at most 16 MiB.
 constexpr std::size_t mostTransfers = 64;
 constexpr std::size_t mostBytes = 256 * 1024;
-// A live program takes a piece within milliseconds.
+// The longest time in which a reader must read a piece. A working program reads a piece within milliseconds.
 constexpr auto patience = 5s;
 
 }  // namespace
 
 IncrementalTransfers::IncrementalTransfers(Display& display)
     : display_(display),
-      // The server tells the longest request in units of four bytes. A request begins with a header.
+      // The server reports the length of the longest request in units of four bytes. Subtract 64 bytes for
+      // the header of the request.
       pieceSize_(
           std::min(mostBytes, xcb_get_maximum_request_length(display.connection()) * std::size_t{4} - 64)) {}
 
@@ -44,7 +45,7 @@ void IncrementalTransfers::propertyDeleted(xcb_window_t reader, xcb_atom_t prope
   xcb_change_property(display_.connection(), XCB_PROP_MODE_REPLACE, reader, property, found->form.type, 8,
                       static_cast<std::uint32_t>(piece.size()), piece.data());
   found->deadline = Clock::now() + patience;
-  if (piece.empty()) endIf(same);  // the empty piece is the last
+  if (piece.empty()) endIf(same);  // an empty piece ends the transfer
 }
 
 void IncrementalTransfers::readerGone(xcb_window_t reader) {

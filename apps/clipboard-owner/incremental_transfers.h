@@ -11,33 +11,35 @@
 
 namespace clipboard {
 
-/// The transfers of texts that are too large for one property: each goes in pieces, by the protocol INCR. A
-/// piece is sent when the reader has deleted the one before, so that the server holds one piece of each.
+/// Sends texts that are too large for one property, in pieces, by the INCR protocol of X11. Each piece is
+/// sent after the reader has deleted the previous piece, so the server stores only one piece of each
+/// transfer. Not thread-safe.
 class IncrementalTransfers {
  public:
   using Clock = std::chrono::steady_clock;
 
   explicit IncrementalTransfers(Display& display);
 
-  /// The bytes of the largest form that needs no transfer in pieces.
+  /// The largest size in bytes that is sent in one property, without a transfer in pieces.
   std::size_t pieceSize() const { return pieceSize_; }
   bool empty() const { return transfers_.empty(); }
 
-  /// Announces the transfer to the reader. The form must live as long as this object. False where there are
-  /// too many already.
+  /// Announces a transfer to the reader, and ends an older transfer to the same property. The bytes of `form`
+  /// must exist as long as this object. Returns false if there are too many transfers already.
   bool begin(xcb_window_t reader, xcb_atom_t property, const Form& form);
-  /// Sends the next piece, where a reader has deleted the one before.
+  /// Call this when a property was deleted. Sends the next piece if a transfer uses this property.
   void propertyDeleted(xcb_window_t reader, xcb_atom_t property);
-  /// Ends the transfers to a window that is gone.
+  /// Call this when a window no longer exists. Ends the transfers to this window.
   void readerGone(xcb_window_t reader);
-  /// Ends the transfers of readers that have not taken a piece in time. When the next of them is due.
+  /// Ends the transfers whose reader has not read a piece in time. Returns the earliest deadline of the
+  /// remaining transfers, or nullopt if there are no transfers left.
   std::optional<Clock::time_point> dropStuck(Clock::time_point now);
 
  private:
   struct Transfer {
     xcb_window_t reader;
     xcb_atom_t property;
-    Form form;  // what is left of it
+    Form form;  // the bytes that have not been sent yet
     Clock::time_point deadline;
   };
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Puts standard input on the X11 clipboard and stays in the background for as long as the text is there.
+// Copies the text on standard input to the X11 clipboard. A child process in the background keeps the text
+// available until another program copies something, the X server ends, or a signal ends the child process.
 //   glyphorium-clipboard-owner ASKED-AT
-// ASKED-AT is when the copy was asked for, in microseconds of std::chrono::steady_clock. When the clipboard
-// is ours, "copied" goes to standard output and the process ends; its child keeps the clipboard. On failure
-// the reason goes there, and the process ends with 1.
+// ASKED-AT is the time at which the copy was requested, in microseconds of std::chrono::steady_clock. After
+// the copy this program prints "copied" and exits with 0. If the copy fails, this program prints the reason
+// on standard output and exits with 1.
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/signalfd.h>
@@ -49,20 +50,22 @@ std::optional<std::string> standardInput() {
   }
 }
 
-// Whoever waits for the end of our output, or has lent us a file, must not wait for the background process.
+// Another program may wait until our output is closed, or may have given us an open file. The background
+// process must not keep these files open.
 void releaseStandardStreams() {
   const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
   for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(nothing, stream);
   if (nothing > STDERR_FILENO) close(nothing);
 }
 
-// Signals that ask for the end are read, so that the clipboard manager gets the text first.
+// Blocks the signals that ask this process to end, and returns a descriptor from which they can be read. The
+// process can then give the text to the clipboard manager before it ends.
 int endingSignals() {
   sigset_t signals;
   sigemptyset(&signals);
   for (const int signal : {SIGTERM, SIGINT, SIGHUP}) sigaddset(&signals, signal);
   sigprocmask(SIG_BLOCK, &signals, nullptr);
-  signal(SIGPIPE, SIG_IGN);  // the server may go at any time
+  signal(SIGPIPE, SIG_IGN);  // writing to a server that has ended must not end this process
   return signalfd(-1, &signals, SFD_CLOEXEC);
 }
 
@@ -84,8 +87,8 @@ int copy(SelectionOwner::Clock::time_point askedAt) {
     case SelectionOwner::Acquired::owned:
       break;
   }
-  // Only now: whoever waits for this process may rely on the clipboard when it ends. The child goes on with
-  // the connection, of which the parent makes no further use.
+  // Fork only now, because the caller may use the clipboard as soon as this process has ended. The child
+  // continues to use the connection. The parent must not use the connection any more.
   const pid_t child = fork();
   if (child < 0) return failure("no process for the background");
   if (child > 0) {

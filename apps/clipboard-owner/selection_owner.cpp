@@ -12,12 +12,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// How long the clipboard manager may take to fetch the text.
+// The longest time that the clipboard manager may use to read the text.
 constexpr auto handOverLimit = 5s;
-// More than any program asks for at once.
+// The most conversions that one MULTIPLE request may contain. No known program requests so many.
 constexpr std::uint32_t mostConversions = 128;
-// Copies asked for within this time, in milliseconds, count as simultaneous. Clocks of servers may be coarse,
-// and serverTimeAt() is off by some milliseconds.
+// Copies that were requested within this time, in milliseconds, count as simultaneous. The clock of the
+// server may be coarse, and the result of serverTimeAt() may be wrong by some milliseconds.
 constexpr std::int32_t simultaneous = 20;
 
 }  // namespace
@@ -25,9 +25,10 @@ constexpr std::int32_t simultaneous = 20;
 SelectionOwner::SelectionOwner(Display& display, std::string text)
     : display_(display), atoms_(display.atoms()), text_(std::move(text), atoms_), transfers_(display) {}
 
-// When a moment of this machine's clock was by the server's clock, and never later than now. The server tells
-// its time somewhere between question and answer. On a busy machine that may be long, so the quickest answer
-// counts.
+// Converts a time of this machine's clock to the server's clock. The result is never later than the present
+// time, and at most one hour earlier. Returns nullopt if the connection has broken.
+// The server determines its time at an unknown moment between our request and the answer. On a busy machine
+// the answer may take long. The function therefore asks several times and uses the quickest answer.
 std::optional<xcb_timestamp_t> SelectionOwner::serverTimeAt(Clock::time_point moment) {
   xcb_timestamp_t result = 0;
   auto quickest = Clock::duration::max();
@@ -42,12 +43,12 @@ std::optional<xcb_timestamp_t> SelectionOwner::serverTimeAt(Clock::time_point mo
     result =
         *now - static_cast<xcb_timestamp_t>(std::clamp<std::chrono::milliseconds>(since, 0ms, 1h).count());
   }
-  return std::max<xcb_timestamp_t>(result, 1);  // 0 would mean the current time
+  return std::max<xcb_timestamp_t>(result, 1);  // the server would treat 0 as the current time
 }
 
-// The server refuses an owner whose time is before the time of the last change. A slow copy that takes the
-// selection with the time at which it was asked for therefore loses to each copy that was asked for later,
-// also when that one was faster.
+// The server rejects a new owner whose time is earlier than the time of the last change of owner. A slow copy
+// acquires the selection with the time at which the copy was requested. The server therefore rejects the slow
+// copy if a copy that was requested later has already finished.
 SelectionOwner::Acquired SelectionOwner::acquire(Clock::time_point askedAt) {
   const auto copiedAt = serverTimeAt(askedAt);
   if (!copiedAt) return Acquired::failed;
@@ -62,8 +63,8 @@ SelectionOwner::Acquired SelectionOwner::acquire(Clock::time_point askedAt) {
     }
     if (owner == display_.window() || released_) return Acquired::owned;
     if (isLaterCopy(owner)) return Acquired::overtaken;
-    // Another program took the selection meanwhile, perhaps to keep the content before this one. This copy
-    // has not returned yet, so its text is the newer one.
+    // Another program has acquired the selection meanwhile, perhaps to keep the previous content. This copy
+    // is still in progress, so its text is newer.
     ownedSince_ = display_.serverTime().value_or(0);
   }
   return Acquired::failed;
@@ -72,7 +73,7 @@ SelectionOwner::Acquired SelectionOwner::acquire(Clock::time_point askedAt) {
 bool SelectionOwner::isLaterCopy(xcb_window_t owner) {
   if (owner == XCB_NONE) return false;
   const auto copiedAt = display_.values(owner, atoms_.copiedAt, XCB_ATOM_CARDINAL, 1);
-  // The server's clock starts again at 0 after 49 days: only differences tell the order.
+  // The server's clock starts again at 0 after 49 days. Compare times only by their difference.
   return copiedAt && copiedAt->size() == 1 &&
          static_cast<std::int32_t>(copiedAt->front() - copiedAt_) > simultaneous;
 }
@@ -81,7 +82,7 @@ void SelectionOwner::serve(int signals) {
   for (;;) {
     while (const Owned<xcb_generic_event_t> event{xcb_poll_for_event(display_.connection())}) handle(*event);
     xcb_flush(display_.connection());
-    // Writing may have read events, which poll() would not see.
+    // xcb_flush() may also have read events into the queue. poll() does not notice events in the queue.
     if (const Owned<xcb_generic_event_t> event{xcb_poll_for_queued_event(display_.connection())}) {
       handle(*event);
       continue;
@@ -94,13 +95,15 @@ void SelectionOwner::serve(int signals) {
     pollfd inputs[] = {{xcb_get_file_descriptor(display_.connection()), POLLIN, 0}, {signals, POLLIN, 0}};
     poll(inputs, 2, static_cast<int>(wait));
     if (inputs[1].revents) {
-      char information[128];                                                   // the size of one signal's
-      if (end_ || read(signals, information, sizeof information) <= 0) break;  // a second signal ends at once
+      // A signalfd_siginfo has 128 bytes.
+      char information[128];
+      // If end_ is set, this is the second signal: stop without waiting for the clipboard manager.
+      if (end_ || read(signals, information, sizeof information) <= 0) break;
       handOver();
     }
   }
-  // The server drops requests that it has not read when the connection closes. Its answer to this one tells
-  // that it has read all.
+  // When a connection closes, the server discards the requests that it has not read yet. Its answer to this
+  // last request shows that it has read all requests.
   display_.ownerOf(atoms_.clipboard);
 }
 
@@ -109,12 +112,13 @@ bool SelectionOwner::done(Clock::time_point now) const {
 }
 
 void SelectionOwner::handle(const xcb_generic_event_t& event) {
-  if (event.response_type == 0) {  // an error: most likely a reader whose window is gone
+  if (event.response_type == 0) {  // an error, usually because the window of a reader no longer exists
     const auto& error = reinterpret_cast<const xcb_value_error_t&>(event);
     if (error.error_code == XCB_WINDOW) transfers_.readerGone(error.bad_value);
     return;
   }
-  // The highest bit marks what another program sent in the server's name. Only answers are sent that way.
+  // The highest bit is set if a client sent the event with SendEvent. Of such events only SelectionNotify is
+  // accepted.
   switch (event.response_type) {
     case XCB_SELECTION_REQUEST:
       answer(reinterpret_cast<const xcb_selection_request_event_t&>(event));
@@ -132,7 +136,7 @@ void SelectionOwner::handle(const xcb_generic_event_t& event) {
       break;
     case XCB_SELECTION_NOTIFY:
     case XCB_SELECTION_NOTIFY | 0x80:
-      // The clipboard manager has all, or there is none any more.
+      // The clipboard manager has read all forms of the text, or there is no clipboard manager any more.
       released_ |= end_ && reinterpret_cast<const xcb_selection_notify_event_t&>(event).selection ==
                                atoms_.clipboardManager;
       break;
@@ -141,16 +145,16 @@ void SelectionOwner::handle(const xcb_generic_event_t& event) {
   }
 }
 
-// The time of a request is not looked at. This process has had one text only, and a program that reads the
-// clipboard in answer to a click asks with the time of that click, which may be before the copy.
+// The time in the request is ignored. This process offers the same text at all times. A program that pastes
+// after a click sends the time of the click, which may be before the copy.
 void SelectionOwner::answer(const xcb_selection_request_event_t& request) {
-  // Old programs name no property; then it is the one named like the target.
+  // Old programs do not name a property. The target is then also the name of the property.
   const xcb_atom_t property = request.property ? request.property : request.target;
   const bool given =
       request.selection == atoms_.clipboard &&
       (request.target == atoms_.multiple ? request.property && convertSeveral(request.requestor, property)
                                          : convert(request.requestor, property, request.target));
-  char buffer[32]{};  // the size of every event
+  char buffer[32]{};  // every X11 event has 32 bytes
   xcb_selection_notify_event_t notification{};
   notification.response_type = XCB_SELECTION_NOTIFY;
   notification.time = request.time;
@@ -169,7 +173,8 @@ bool SelectionOwner::convert(xcb_window_t reader, xcb_atom_t property, xcb_atom_
     display_.setValues(reader, property, XCB_ATOM_ATOM, targets);
   } else if (target == atoms_.timestamp) {
     display_.setValues(reader, property, XCB_ATOM_INTEGER, {ownedSince_});
-  } else if (target == atoms_.saveTargets) {  // listed to say that handOver() is supported; has no content
+  } else if (target == atoms_.saveTargets) {
+    // This target has no content. It only shows that handOver() is supported.
     display_.setValues(reader, property, atoms_.null, {});
   } else if (const auto form = text_.form(target)) {
     if (form->bytes.size() > transfers_.pieceSize()) return transfers_.begin(reader, property, *form);
@@ -181,7 +186,8 @@ bool SelectionOwner::convert(xcb_window_t reader, xcb_atom_t property, xcb_atom_
   return true;
 }
 
-// The property holds pairs of a target and a property. Each target that is not converted is replaced by None.
+// The property contains pairs of a target and a property. Each target that cannot be converted is replaced by
+// None.
 bool SelectionOwner::convertSeveral(xcb_window_t reader, xcb_atom_t property) {
   auto pairs = display_.values(reader, property, atoms_.atomPair, 2 * mostConversions);
   if (!pairs || pairs->size() % 2 != 0) return false;
@@ -193,8 +199,8 @@ bool SelectionOwner::convertSeveral(xcb_window_t reader, xcb_atom_t property) {
   return true;
 }
 
-// By the protocol of the freedesktop.org clipboard manager: it is told which forms to fetch, fetches them,
-// takes the selection and then answers.
+// Follows the clipboard manager protocol of freedesktop.org. The owner sends the list of the targets to save.
+// The clipboard manager reads these targets, acquires the selection and then answers.
 void SelectionOwner::handOver() {
   end_ = Clock::now() + handOverLimit;
   if (display_.ownerOf(atoms_.clipboardManager) == XCB_NONE) released_ = true;

@@ -11,8 +11,9 @@
 
 namespace clipboard {
 
-/// Owns the selection CLIPBOARD of an X server and answers with one text, as the Inter-Client Communication
-/// Conventions Manual (ICCCM) describes it.
+/// Owns the selection CLIPBOARD of an X server and answers requests with one text, as described in the
+/// Inter-Client Communication Conventions Manual (ICCCM). Not thread-safe. The display must exist as long as
+/// this object.
 class SelectionOwner {
  public:
   using Clock = std::chrono::steady_clock;
@@ -20,12 +21,13 @@ class SelectionOwner {
 
   SelectionOwner(Display& display, std::string text);
 
-  /// Takes the selection for a copy that was asked for at `askedAt`. Overtaken: a copy that was asked for
-  /// later has it already. Failed: the connection broke.
+  /// Acquires the selection for a copy that was requested at `askedAt`. Returns `overtaken` if a copy that
+  /// was requested later already owns the selection, and `failed` if the connection has broken.
   Acquired acquire(Clock::time_point askedAt);
 
-  /// Answers until another owner has taken the selection and all transfers are done, or the server is gone.
-  /// When `signals` (a signalfd) becomes readable, hands the text to the clipboard manager and ends.
+  /// Answers requests until another program owns the selection and all transfers are finished, or until the
+  /// connection breaks. When `signals` (a signalfd) becomes readable, gives the text to the clipboard manager
+  /// and returns. A second signal makes this function return at once.
   void serve(int signals);
 
  private:
@@ -42,10 +44,10 @@ class SelectionOwner {
   const Atoms& atoms_;
   const TextForms text_;
   IncrementalTransfers transfers_;
-  xcb_timestamp_t copiedAt_ = 0;    // the server's time when the copy was asked for
-  xcb_timestamp_t ownedSince_ = 0;  // the server's time with which the selection was taken
-  bool released_ = false;  // another has the selection: what is left are the transfers that have begun
-  std::optional<Clock::time_point> end_;  // the latest, set once the process has been asked to end
+  xcb_timestamp_t copiedAt_ = 0;    // the server's time at which the copy was requested
+  xcb_timestamp_t ownedSince_ = 0;  // the server's time with which the selection was acquired
+  bool released_ = false;           // no new requests are expected; only finish the transfers that have begun
+  std::optional<Clock::time_point> end_;  // deadline for the hand-over; set by the first signal
 };
 
 }  // namespace clipboard

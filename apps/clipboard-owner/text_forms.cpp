@@ -6,7 +6,7 @@
 namespace clipboard {
 namespace {
 
-// nullopt where the text has characters beyond U+00FF or is not well-formed.
+// Converts UTF-8 to Latin-1. Returns nullopt if the text has characters after U+00FF or is not well-formed.
 std::optional<std::string> latin1(std::string_view utf8) {
   std::string result;
   for (std::size_t i = 0; i < utf8.size(); ++i) {
@@ -37,7 +37,8 @@ TextForms::TextForms(std::string text, const Atoms& atoms)
 std::optional<Form> TextForms::form(xcb_atom_t target) const {
   if (std::find(targets_.begin(), targets_.end(), target) == targets_.end()) return std::nullopt;
   if (target == XCB_ATOM_STRING) return Form{XCB_ATOM_STRING, *latin1_};
-  // TEXT leaves the encoding to the owner, who tells it by the type of the answer.
+  // A program that requests the target TEXT accepts every encoding. The type of the answer shows the
+  // encoding.
   return Form{target == text_ ? utf8String_ : target, utf8_};
 }
 

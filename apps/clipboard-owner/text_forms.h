@@ -10,24 +10,25 @@
 
 namespace clipboard {
 
-/// The bytes of a selection in one form.
+/// The content of a selection in one form: the type of the bytes and the bytes.
 struct Form {
   xcb_atom_t type;
   std::string_view bytes;
 };
 
-/// One text in the forms that programs ask a selection for.
+/// One text in all the forms in which programs request a selection.
 class TextForms {
  public:
-  /// `text` is UTF-8. What is not well-formed is kept as it is.
+  /// `text` is UTF-8. Ill-formed bytes are kept unchanged.
   TextForms(std::string text, const Atoms& atoms);
   TextForms(const TextForms&) = delete;
   TextForms& operator=(const TextForms&) = delete;
 
-  /// The targets of the text. STRING, which is Latin-1, is among them only where the text has no other
-  /// characters.
+  /// The targets in which the text is available. STRING means Latin-1 and is in the list only if Latin-1
+  /// contains all characters of the text.
   const std::vector<std::uint32_t>& targets() const { return targets_; }
-  /// nullopt where the target is none of them.
+  /// Returns the text in the form for this target, or nullopt if the target is not in targets(). The bytes
+  /// exist as long as this object.
   std::optional<Form> form(xcb_atom_t target) const;
 
  private:

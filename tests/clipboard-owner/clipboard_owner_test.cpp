@@ -25,7 +25,7 @@ using testing::Optional;
 using Atoms = std::vector<std::uint32_t>;
 using Clock = std::chrono::steady_clock;
 
-// Properties and targets that mean nothing to the owner.
+// Properties and targets that have no special meaning for the owner.
 constexpr xcb_atom_t here = XCB_ATOM_CUT_BUFFER0, there = XCB_ATOM_CUT_BUFFER1, image = XCB_ATOM_BITMAP;
 
 struct Value {
@@ -39,9 +39,10 @@ struct Value {
   }
 };
 
-// Another X11 program, which reads selections and can own one.
+// Another X11 program. It reads selections and can own one.
 struct Client : clipboard::Display {
-  // The next event of a type, without the events before it. Null after a time that only a fault needs.
+  // Returns the next event of this type and drops the events before it. Returns null if no event arrives
+  // within 20 seconds, which means that the program under test is faulty.
   template <class Event>
   Owned<Event> next(std::uint8_t type) const {
     for (xcb_flush(connection()); connected();) {
@@ -65,13 +66,14 @@ struct Client : clipboard::Display {
     xcb_convert_selection(connection(), window(), atoms().clipboard, target, property, XCB_CURRENT_TIME);
     xcb_flush(connection());
   }
-  // The first answer. For a large text it is only the beginning of a transfer.
+  // Returns the first answer, or nullopt if the owner rejects the request. For a large text the answer is
+  // only the beginning of a transfer.
   std::optional<Value> begin(xcb_atom_t target, xcb_atom_t property = here) const {
     ask(target, property);
     const auto answer = next<xcb_selection_notify_event_t>(XCB_SELECTION_NOTIFY);
     return answer && answer->property ? std::optional(take(window(), answer->property)) : std::nullopt;
   }
-  // The next piece of a transfer.
+  // Returns the next piece of a transfer.
   Value piece(xcb_atom_t property) const {
     while (const auto change = next<xcb_property_notify_event_t>(XCB_PROPERTY_NOTIFY)) {
       if (change->state == XCB_PROPERTY_NEW_VALUE && change->atom == property) {
@@ -110,7 +112,7 @@ auto isText(const std::string& text) {
 
 class ClipboardOwner : public testing::Test {
  protected:
-  // What the program leaves in the background becomes a child of this process.
+  // The background processes of the program become children of this process.
   ClipboardOwner() { prctl(PR_SET_CHILD_SUBREAPER, 1); }
   ~ClipboardOwner() override {
     x.server.end();
@@ -133,7 +135,7 @@ class ClipboardOwner : public testing::Test {
       if (fileContent("/proc/" + child + "/comm") == "glyphorium-clip\n") kill(std::stoi(child), SIGTERM);
     }
   }
-  // Waits until an owner has ended. Its exit code.
+  // Waits until an owner has ended. Returns its wait status, which is 0 after a successful exit.
   static int ended() {
     int status = -1;
     eventually([&] { return waitpid(-1, &status, WNOHANG) > 0; });
@@ -184,7 +186,7 @@ TEST_F(ClipboardOwner, GivesSeveralFormsAtOnceAndLargeTextsInPieces) {
   EXPECT_LT(client.serverTime().value() - since[0], 20'000u);
 
   EXPECT_EQ(client.take(client.window(), there).type, a.incr);
-  // Another owner takes the selection meanwhile. This reader still gets all of its text.
+  // Another owner acquires the selection during the transfer. This reader still receives the whole text.
   std::string received = client.piece(there).bytes;
   copy("next");
   EXPECT_THAT(Client().text(), isText("next"));
@@ -198,7 +200,7 @@ TEST_F(ClipboardOwner, OutlastsReadersThatVanishStopOrAskForNonsense) {
   copy(large);
   const Client stopped, old, modern;
   const auto& a = old.atoms();
-  EXPECT_THAT(stopped.begin(a.utf8String), Optional(FieldsAre(a.incr, _)));  // and reads no further
+  EXPECT_THAT(stopped.begin(a.utf8String), Optional(FieldsAre(a.incr, _)));  // this reader then stops reading
   for (int i = 0; i < 100; ++i) {
     const Client vanishing;
     if (i % 2) {
@@ -214,7 +216,7 @@ TEST_F(ClipboardOwner, OutlastsReadersThatVanishStopOrAskForNonsense) {
   }
   client.ask(a.multiple, XCB_NONE);
   client.ask(a.utf8String, 0x7fffffff);
-  // Only the server may say that the selection is lost.
+  // The owner must ignore a SelectionClear event that another client sends. Only the server may send it.
   client.send(client.ownerOf(a.clipboard),
               xcb_selection_clear_event_t{XCB_SELECTION_CLEAR, 0, 0, 0, client.window(), a.clipboard});
 
@@ -235,7 +237,7 @@ TEST_F(ClipboardOwner, HasTheTextOfTheLatestCopy) {
 
   asked = Clock::now();
   std::this_thread::sleep_for(100ms);
-  client.own(client.atoms().clipboard);  // as managers do when an owner has ended
+  client.own(client.atoms().clipboard);  // clipboard managers do this after an owner has ended
   EXPECT_EQ(ended(), 0);
   copy("latest", asked);
   EXPECT_THAT(Client().text(), isText("latest"));

@@ -45,7 +45,7 @@ TEST_F(NotificationCenterTest, CallsTheObserversOfTheNameInOrderOfRegistration) 
   EXPECT_THAT(post("Name"), ElementsAre());
 
   NotificationToken moved = std::move(first);
-  first.reset();  // it was moved from
+  first.reset();  // has no effect, because the token was moved from
   EXPECT_THAT(post(), ElementsAre("first ", "second "));
   moved = observe("third ");  // ends the registration of "first"
   second.reset();
@@ -79,7 +79,8 @@ TEST_F(NotificationCenterTest, PrintsExceptionsOfObserversAndCallsTheOthers) {
 
 TEST(NotificationToken, MayOutliveItsCenterAndEndWithinIt) {
   auto center = std::make_unique<NotificationCenter>();
-  // The end of the registration destroys what the observer holds. Its destructor may use the center.
+  // When the registration ends, the objects that the observer captured are destroyed. A destructor of such an
+  // object may use the center.
   auto held =
       std::shared_ptr<void>(nullptr, [&](void*) { center->addObserver("other", [](auto&) {}).reset(); });
   auto token = center->addObserver("name", [held](auto&) {});
@@ -94,7 +95,7 @@ TEST(NotificationToken, MayOutliveItsCenterAndEndWithinIt) {
 }
 
 TEST(NotificationCenterThreads, PostWhileOthersRegister) {
-  // All threads use the default center for the first time.
+  // The first use of the default center happens on all threads at the same time.
   const auto center = []() -> NotificationCenter& { return NotificationCenter::defaultCenter(); };
   std::atomic<int> always{0}, sometimes{0};
   std::vector<std::thread> threads;

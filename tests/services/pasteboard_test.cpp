@@ -35,13 +35,13 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::SizeIs;
 
-// Ended, or a zombie whose exit code has not been collected yet.
+// Returns true if the process has ended. It may still be a zombie whose exit code has not been collected.
 bool gone(const std::string& process) {
   const std::string status = fileContent("/proc/" + process + "/stat");
   return status.empty() || status.find(") Z ") != std::string::npos;
 }
 
-// As on old kernels and in some sandboxes.
+// Makes pidfd_open fail with ENOSYS, as on old kernels and in some sandboxes.
 void forbidPidfd() {
   sock_filter program[] = {
       BPF_STMT(BPF_LD | BPF_W | BPF_ABS, 0), BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_pidfd_open, 0, 1),
@@ -52,7 +52,7 @@ void forbidPidfd() {
 }
 
 TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
-  // What a stand-in for a clipboard program does with the text. Each first logs its name.
+  // Shell commands for the fake clipboard programs. Each fake program first writes its name to a log.
   const std::string take = "/bin/cat >\"$DIR/text\"\n", own = take + "echo copied\n", fail = "exit 1\n";
   const std::string hang = "/bin/sleep 1000 & echo $! >\"$DIR/process\"; wait\n";
   const std::string stubborn = "trap '' TERM INT HUP\n" + hang;
@@ -131,9 +131,10 @@ TEST(DesktopPasteboard, WhatStaysBehindHoldsNothingOfTheHost) {
   const ScopedVariable variables[] = {
       {"PATH", directory / ""}, {"DIR", directory / ""}, {"DISPLAY", "x"}, {"WAYLAND_DISPLAY", {}}};
   int ends[2];
-  ASSERT_EQ(pipe(ends), 0);  // inheritable, as a host's descriptors often are
+  ASSERT_EQ(pipe(ends), 0);  // without O_CLOEXEC, which is common in hosts
   const auto before = signal(SIGCHLD, SIG_IGN);
-  // Without an exit code: the word that our own program did not say sends the text on to the next.
+  // SIGCHLD is ignored, so there are no exit codes. /bin/false does not print "copied", so the next program
+  // is started.
   EXPECT_TRUE(DesktopPasteboard(20s, "/bin/false").setPlainText("→"));
   signal(SIGCHLD, before);
   close(ends[1]);
@@ -150,12 +151,12 @@ std::string output(const std::string& command) {
   return runProgram("exec 2>/dev/null; " + command).output;
 }
 
-// Copies in a process that has ended before the text is read.
+// Copies the text in a process that ends before anything reads the text.
 void copyAndEnd(const std::string& text, const std::string& ownerProgram = OWNER_PROGRAM) {
   EXPECT_EQ(inChild([&] { return DesktopPasteboard(60s, ownerProgram).setPlainText(text) ? 0 : 1; }), 0);
 }
 
-// Copies texts and reads them with another program. In the end the server hangs.
+// Copies texts and reads them with another program. Then stops the server, so that a copy must time out.
 void exchangeTexts(const BackgroundProgram& server, const std::string& list,
                    const testing::Matcher<std::string>& types, const std::string& paste) {
   const std::string large(10'000'000, 'm');
@@ -175,7 +176,7 @@ TEST(DesktopPasteboard, TextOutlivesItsWriterUnderX11) {
   if (!x.usable || !isInstalled("xclip")) GTEST_SKIP() << "needs Xvfb and xclip";
   const std::string paste = "xclip -selection clipboard -o";
   copyAndEnd("by xclip →\n", "/nonexistent");
-  // xclip and xsel leave for the background a moment before they have the clipboard.
+  // xclip and xsel move to the background shortly before they own the clipboard, so wait for the text.
   EXPECT_TRUE(eventually([&] { return output(paste) == "by xclip →\n"; }));
   if (isInstalled("xsel")) {
     const auto bin = x.directory / "bin";
@@ -199,9 +200,10 @@ TEST(DesktopPasteboard, TextOutlivesItsWriterUnderWayland) {
   exchangeTexts(wayland.server, "wl-paste -l", HasSubstr("text/plain;charset=utf-8\n"), "wl-paste -n");
 }
 
-// Copies in pairs while other programs keep the processors busy. When "entityCopied" runs for the second copy
-// of a pair, its text must be there for others to read, and it must stay. In most pairs another process makes
-// one of the copies. With `overlapping` its copy may still be under way when the second is asked for.
+// Copies pairs of texts while other programs keep the processors busy. When "entityCopied" is posted for the
+// second text of a pair, other programs must be able to read this text, and it must remain. In most pairs
+// another process makes one of the copies. If `overlapping` is true, the first copy may still be in progress
+// when the second copy is requested.
 void copyUnderLoad(const std::string& paste, bool overlapping) {
   const char* const asked = getenv("GLYPHORIUM_COPIES");
   const int pairs = asked ? (std::stoi(asked) + 1) / 2 : 12;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The settings file under several processes, and under processes that die.
+// Tests of the settings file with several processes, and with processes that are killed.
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -23,7 +23,7 @@ List listIn(const Value& value) {
 TEST(SettingsProcesses, LoseNoAppendOfEachOther) {
   const TemporaryDirectory directory;
   const auto file = directory / "settings.sqlite";
-  // All of them find no file at first, and all create it.
+  // At first there is no file, so all processes try to create it.
   const auto append = [&](int process) {
     SqliteSettingsStore store(file);
     for (int i = 0; i < 200; ++i) {
@@ -35,7 +35,7 @@ TEST(SettingsProcesses, LoseNoAppendOfEachOther) {
     }
     return store.synchronize() ? 0 : 1;
   };
-  // A reader beside them sees every state whole, and time run forwards.
+  // A reader that runs at the same time sees only complete lists, and the lists never become shorter.
   SqliteSettingsStore reader(file);
   const auto read = [&] {
     for (std::size_t reads = 0, seen = 0; reads < 300; ++reads) {
@@ -53,7 +53,7 @@ TEST(SettingsProcesses, LoseNoAppendOfEachOther) {
   EXPECT_EQ(list, expected) << "each in its own order";
 }
 
-// The n-th state: of a length that makes the pages it takes come and go.
+// Returns the state with this number. The lengths vary, so that pages of the database are added and freed.
 List state(std::size_t number) {
   return List(number * 37 % 500 + 1, std::to_string(number));
 }
@@ -71,7 +71,8 @@ TEST(SettingsProcesses, LoseNothingAcknowledgedWhenKilled) {
         if (!store.synchronize() || write(acknowledgements, "", 1) != 1) return;
       }
     };
-    // Every other one may die before its first statement, the rest amid their writes.
+    // In every second round, the writer may be killed before its first statement. In the other rounds it is
+    // killed after its first write.
     const std::size_t acknowledged = kept + writesUntilKilled(round % 2 == 1, 20ms, writeForEver,
                                                               [] { std::this_thread::sleep_for(100us); });
     const List found = listIn(SqliteSettingsStore(file).object("state"));

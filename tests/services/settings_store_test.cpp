@@ -41,12 +41,12 @@ unsigned mode(const fs::path& file) {
 
 class SettingsStoreTest : public testing::Test {
  protected:
-  // What a process started now would find.
+  // Returns the value that a new process would read.
   Value stored(std::string_view key) const { return SqliteSettingsStore(file).object(key); }
 
   void execute(const std::string& sql) const { Database(file, SQLITE_OPEN_READWRITE).execute(sql.c_str()); }
 
-  // Runs the checks in a process that has neither privileges nor an entry in the user database.
+  // Runs the checks in a process that has no privileges and no entry in the user database.
   void asNobody(const std::function<void()>& checks) const {
     ASSERT_EQ(chmod(directory.path().c_str(), 0777), 0);
     const auto run = [&] {
@@ -89,7 +89,7 @@ TEST_F(SettingsStoreTest, GivesBackEveryTypeAsItWasSet) {
   }
   EXPECT_THAT(diagnostics.take(), IsEmpty());
 
-  // What JSON cannot hold.
+  // Values that JSON cannot express.
   sqlite.set("bytes", List{"a\xFFz", "b"});
   sqlite.set("number", std::nan(""));
   EXPECT_EQ(stored("number"), SettingValue(RawJson{"null"}));
@@ -106,7 +106,7 @@ TEST_F(SettingsStoreTest, LeavesAloneWhatOthersHaveStored) {
       {"{\"a\":1,\"a\":2}", RawJson{"{\"a\":1,\"a\":2}"}},
       {"not json", RawJson{"not json"}},
       {"1e999", RawJson{"1e999"}},
-      {"true' || char(0) || 'x", RawJson{std::string("true\0x", 6)}},  // as SQL puts a NUL byte into a text
+      {"true' || char(0) || 'x", RawJson{std::string("true\0x", 6)}},  // SQL for a text with a NUL byte
       {" [\"a\"] ", List{"a"}},
       {deep, RawJson{deep}}};
   for (const auto& [text, value] : foreign) {
@@ -117,7 +117,7 @@ TEST_F(SettingsStoreTest, LeavesAloneWhatOthersHaveStored) {
     EXPECT_EQ(stored("foreign"), SettingValue(RawJson{"found"})) << "it was rewritten";
   }
   EXPECT_THAT(diagnostics.take(), IsEmpty());
-  // A database that is not ours.
+  // A database of another program.
   execute("DROP TABLE setting; CREATE TABLE other (x)");
   SqliteSettingsStore(file).set("own", true);
   EXPECT_EQ(stored("own"), SettingValue(true));
@@ -158,7 +158,7 @@ TEST_F(SettingsStoreTest, UpdatesInOneStep) {
     }
     for (auto& thread : threads) thread.join();
     EXPECT_EQ(store->object("sum"), SettingValue(std::int64_t{200}));
-    // A change may use the store.
+    // The function that update() calls may use the store.
     store->update("sum", [&](Value) -> Value {
       store->set("inner", true);
       store->update("inner", [&](Value inner) -> Value { return inner != SettingValue(true); });
@@ -177,7 +177,7 @@ TEST_F(SettingsStoreTest, UpdatesInOneStep) {
   };
   EXPECT_THROW(sqlite.update("sum", failing), std::runtime_error);
   EXPECT_EQ(sqlite.object("inner"), SettingValue(false));
-  sqlite.set("sum", true);  // not held up by what was left behind
+  sqlite.set("sum", true);  // the failed update must not leave a lock
   EXPECT_EQ(stored("sum"), SettingValue(true));
   EXPECT_THAT(diagnostics.take(), IsEmpty());
 }
@@ -225,7 +225,7 @@ TEST_F(SettingsStoreTest, KeepsADamagedFileAsideOnTheNextWrite) {
     EXPECT_EQ(fileContent(aside.string() + "2-wal"), pending);
     EXPECT_EQ(fileContent(aside), "an older one");
     EXPECT_THAT(diagnostics.take(), Contains(HasSubstr("kept in " + aside.string() + "2")).Times(1));
-    // Another one that knew the damaged file goes on with the new one, and takes nothing aside.
+    // A store that has already opened the damaged file uses the new file. It does not rename a file again.
     witness.set("other", true);
     EXPECT_EQ(stored("key"), SettingValue(true));
     EXPECT_EQ(stored("other"), SettingValue(true));
@@ -240,7 +240,7 @@ TEST_F(SettingsStoreTest, SurvivesCutsAndFlippedBytes) {
   for (std::size_t i = 0; i < good.size(); i += i < 100 ? 9 : 1021) {
     std::string flipped = good;
     flipped[i] = static_cast<char>(flipped[i] ^ 0x55);
-    // Two bytes number versions of the format: a file of a newer one is not to be written.
+    // These two bytes contain version numbers of the format. SQLite must not write a file of a newer format.
     const bool newer = i == 18 || i == 47;
     for (const auto& [bytes, writable] : {std::pair(good.substr(0, i), true), std::pair(flipped, !newer)}) {
       for (const auto& entry : fs::directory_iterator(directory.path())) fs::remove(entry);
@@ -264,7 +264,7 @@ TEST_F(SettingsStoreTest, FollowsTheFileInPlace) {
   sqlite.set("other", true);
   EXPECT_EQ(stored("other"), SettingValue(true));
 
-  // A process forked from one that has the file open has its handle but not its locks.
+  // A forked process inherits the handle of the open file but not the locks.
   asNobody([&] {
     sqlite.set("key", "forked");
     EXPECT_FALSE(sqlite.synchronize());
@@ -274,7 +274,7 @@ TEST_F(SettingsStoreTest, FollowsTheFileInPlace) {
   EXPECT_EQ(sqlite.object("key"), SettingValue("new"));
 }
 
-// What becomes of a value that could not be stored, once it can be.
+// A value could not be stored at first. Tests whether it is stored when storing is possible again.
 TEST_F(SettingsStoreTest, StoresNoValueThatWasComputedFromAnotherThanTheStoredOne) {
   std::atomic<int> asked = 0;
   setLockWaitPolicy([&](std::chrono::milliseconds) { return ++asked % 3 != 0; });
@@ -285,7 +285,7 @@ TEST_F(SettingsStoreTest, StoresNoValueThatWasComputedFromAnotherThanTheStoredOn
   };
   enum class How { set, update };
   const struct {
-    const char* lock;  // exclusive ones keep others even from reading
+    const char* lock;  // with an exclusive lock, other programs cannot even read
     How how;
     bool otherStores;
     bool storable;
@@ -306,7 +306,7 @@ TEST_F(SettingsStoreTest, StoresNoValueThatWasComputedFromAnotherThanTheStoredOn
         Database other(file, SQLITE_OPEN_READWRITE);
         other.execute(lock);
         how == How::set ? store->set("key", List{"old", "new"}) : store->update("key", append);
-        // The next operation does not wait once more.
+        // The next operation does not wait again.
         const int before = asked;
         EXPECT_GT(before, 0);
         EXPECT_FALSE(store->synchronize());
@@ -333,7 +333,8 @@ TEST_F(SettingsStoreTest, StoresNoValueThatWasComputedFromAnotherThanTheStoredOn
   setLockWaitPolicy(nullptr);
 }
 
-// At exit the library stores what it could not store before; functions that run still later can use settings.
+// At exit the library stores the values that could not be stored before. Functions that run even later can
+// use settings.
 TEST_F(SettingsStoreTest, WorksUntilTheProcessEnds) {
   const ScopedVariable home("XDG_CONFIG_HOME", directory.path().string());
   file = *applicationConfigDirectory() / "settings.sqlite";
@@ -386,7 +387,7 @@ TEST_F(SettingsStoreTest, ReadsNumbersWhateverTheLocaleIs) {
   EXPECT_EQ(read, SettingValue(1234.5));
 }
 
-// Each obstacle keeps settings from being saved until it goes away.
+// Each case prevents settings from being saved until the cause is removed.
 TEST_F(SettingsStoreTest, KeepsWhatCannotBeSavedUntilItCan) {
   const auto check = [&](SettingsStore& store, const std::function<void()>& clear) {
     const List large(5000, "more than there is room for");
@@ -437,7 +438,8 @@ TEST_F(SettingsStoreTest, KeepsWhatCannotBeSavedUntilItCan) {
       check(store, [&, &changed = place, &permissions = usual] { fs::permissions(changed, permissions); });
     }
 
-    // Unreadable: what is changed without knowing the present value never replaces it.
+    // The file cannot be read. A value that was computed without the present value never replaces the present
+    // value.
     fs::permissions(file, fs::perms(0));
     SqliteSettingsStore blind(file);
     blind.update("large", [](Value present) -> Value { return List{present ? "both" : "more"}; });
@@ -448,7 +450,7 @@ TEST_F(SettingsStoreTest, KeepsWhatCannotBeSavedUntilItCan) {
     EXPECT_EQ(stored("other"), SettingValue(false));
     fs::remove_all(own);
 
-    // No home at all.
+    // There is no home directory.
     unsetenv("HOME");
     unsetenv("XDG_CONFIG_HOME");
     SqliteSettingsStore homeless;

@@ -18,11 +18,12 @@ struct NotificationToken::Observer {
 
   const NotificationName name;
   const NotificationCenter::Callback callback;
-  // A post that has begun may still find the observer in its list after the registration has ended.
+  // Becomes false when the registration ends. A post() that has already begun may still find the observer in
+  // its list.
   std::atomic<bool> registered{true};
 };
 
-// A list is never changed, only replaced by another. A post can therefore go through its list without a lock.
+// A list is never changed, only replaced by a new list. post() can therefore read a list without a lock.
 struct NotificationToken::Registry {
   using List = std::vector<std::shared_ptr<Observer>>;
 
@@ -31,8 +32,8 @@ struct NotificationToken::Registry {
     return observers;
   }
 
-  // Replaces the list by a copy to which `change` is applied. The old list is released after the lock,
-  // because that may destroy a callback, and its destructor is the host's code.
+  // Replaces the list by a copy to which `change` is applied. The old list is released after the lock.
+  // Releasing the list may destroy a callback, which runs code of the host.
   template <typename Change>
   void modify(Change change) {
     std::shared_ptr<const List> before;
@@ -71,7 +72,7 @@ void NotificationToken::reset() noexcept {
   try {
     registry->modify([&](Registry::List& list) { std::erase(list, observer); });
   } catch (const std::exception&) {
-    // No memory for the shorter list. The observer stays in the list and is not called.
+    // There is no memory for the new list. The observer stays in the old list but is not called.
   }
 }
 
@@ -92,7 +93,7 @@ NotificationToken NotificationCenter::addObserver(NotificationName name, Callbac
 }
 
 void NotificationCenter::post(const Notification& notification) {
-  // Uses no member after this line, because an observer may destroy this object.
+  // Do not use members of this object after this line, because an observer may destroy the object.
   const auto observers = registry_->snapshot();
   for (const auto& observer : *observers) {
     if (!observer->registered || observer->name != notification.name) continue;

@@ -13,8 +13,9 @@
 
 namespace glyph {
 
-/// The name of a notification. Any text can be a name. It has its own type so that a name and an object
-/// cannot be confused. Texts convert to it, and names are declared as constants of type std::string_view.
+/// The name of a notification. Any text can be a name. The separate type prevents mixing up the name and the
+/// object of a notification. Texts convert to NotificationName implicitly. Names are declared as constants of
+/// type std::string_view.
 class NotificationName {
  public:
   template <std::convertible_to<std::string_view> Text>
@@ -28,18 +29,19 @@ class NotificationName {
   std::string rawValue_;
 };
 
-/// A message to the observers of a name. `object` is the text that belongs to it, where there is one.
+/// A message to the observers of a name. `object` is a text that belongs to the message; not every message
+/// has an object.
 struct Notification {
   NotificationName name;
   std::optional<std::string> object{};
 };
 
-/// The registration of one observer. It ends when the token is reset, destroyed or assigned another token.
-/// This may happen on any thread, and also inside the observer. The token may live longer than its center. A
-/// default token and a token that was moved from hold no registration.
+/// The registration of one observer. The registration ends when the token is reset or destroyed, or when
+/// another token is assigned to it. This may happen on any thread, and also inside the observer. The token
+/// may exist longer than its center. A token that was default-constructed or moved from has no registration.
 ///
-/// After the registration has ended no call of the observer begins. A call that another thread has already
-/// begun runs to its end.
+/// After the registration has ended, the observer is not called again. A call that has already begun on
+/// another thread continues to its end.
 class GLYPHORIUM_EXPORT NotificationToken {
  public:
   NotificationToken() = default;
@@ -60,14 +62,14 @@ class GLYPHORIUM_EXPORT NotificationToken {
   std::weak_ptr<Observer> observer_;
 };
 
-/// Delivers notifications to observers. post() calls them on its own thread, in the order of their
-/// registration, and returns after the last one. All functions may be called from any thread and from inside
-/// an observer, because no lock is held while an observer runs.
+/// Delivers notifications to observers. post() calls the observers on the calling thread, in the order of
+/// their registration, and returns after the last call. All functions may be called from any thread and from
+/// inside an observer, because no lock is held while an observer runs.
 class GLYPHORIUM_EXPORT NotificationCenter {
  public:
   using Callback = std::function<void(const Notification&)>;
 
-  /// The center on which the library posts. It exists until the process ends.
+  /// Returns the center to which the library posts. This center exists until the process ends.
   static NotificationCenter& defaultCenter();
 
   NotificationCenter();
@@ -75,12 +77,13 @@ class GLYPHORIUM_EXPORT NotificationCenter {
   NotificationCenter(const NotificationCenter&) = delete;
   NotificationCenter& operator=(const NotificationCenter&) = delete;
 
-  /// Registers an observer: every later post of this name calls `callback` until the token ends the
-  /// registration. A post that has already begun does not call it. An empty function is not registered.
+  /// Registers an observer. Every later post() with this name calls `callback`, until the token ends the
+  /// registration. A post() that has already begun does not call it. If `callback` is empty, nothing is
+  /// registered and the result is an empty token.
   [[nodiscard]] NotificationToken addObserver(NotificationName name, Callback callback);
 
-  /// Calls the observers of the notification's name. An exception of an observer is printed as a diagnostic.
-  /// The other observers are still called, and post() itself does not throw it.
+  /// Calls all observers of the notification's name. If an observer throws an exception, post() prints the
+  /// exception as a diagnostic, calls the other observers and does not rethrow it.
   void post(const Notification& notification);
 
  private:

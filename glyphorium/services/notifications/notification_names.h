@@ -4,14 +4,14 @@
 #include <string_view>
 
 /// The names of the notifications on NotificationCenter::defaultCenter(). The text of each name equals the
-/// name of its constant. The library posts entityCopied and contentHasChanged. The others are for hosts and
-/// their plug-ins: the library declares them so that both use the same names.
+/// name of its constant. The library itself posts only entityCopied and contentHasChanged. The other names
+/// are for hosts and their plug-ins. The library declares them so that hosts and plug-ins use the same names.
 namespace glyph::notificationName {
 
 inline constexpr std::string_view appAppearanceChanged = "appAppearanceChanged";
-/// A text was copied. The object is the displayed text where one was given, else the copied text.
+/// A text was copied. The object is the displayed text if the caller gave one, otherwise the copied text.
 inline constexpr std::string_view entityCopied = "entityCopied";
-/// The list of selected entities was assigned. There is no object.
+/// A new list of selected entities was assigned. This notification has no object.
 inline constexpr std::string_view contentHasChanged = "contentHasChanged";
 inline constexpr std::string_view filteredContentHasChanged = "filteredContentHasChanged";
 inline constexpr std::string_view preferencesGlyphGridChanged = "preferencesGlyphGridChanged";

@@ -33,12 +33,13 @@ bool desktopIs(std::string_view name) {
   }
 }
 
-// Where the build and the installation put the program: at a fixed path from the library's own file. Empty
-// where that file is not known.
+// Returns the path of the program. The build and the installation both put the program at a fixed path
+// relative to the library's own file. Returns an empty string if the path of the library is not known.
 std::string installedOwnerProgram() {
   Dl_info library{};
   const auto* const code = reinterpret_cast<const void*>(&installedOwnerProgram);
-  // A relative name was given to the loader in a working directory that may have changed since.
+  // A relative path is relative to the working directory at the time of loading. The working directory may
+  // have changed since.
   if (!dladdr(code, &library) || !library.dli_fname || library.dli_fname[0] != '/') return {};
   std::error_code error;
   const auto file = std::filesystem::canonical(library.dli_fname, error);
@@ -46,42 +47,45 @@ std::string installedOwnerProgram() {
   return (file.parent_path() / CLIPBOARD_OWNER).lexically_normal();
 }
 
-// Our own program for X11. It orders overlapping copies by the time at which they were asked for.
+// Returns the command for our own X11 program. The program orders overlapping copies by the time at which
+// they were requested.
 Program owner(std::string path) {
   const auto now = std::chrono::steady_clock::now().time_since_epoch();
   const auto askedAt = std::chrono::duration_cast<std::chrono::microseconds>(now).count();
   return {{std::move(path), std::to_string(askedAt)}, "copied"};
 }
 
-// The programs that can take the text in this session, best first.
+// Returns the programs that can copy the text in this session, the best program first.
 std::vector<Program> programsFor(std::string_view text, const std::string& ownerPath) {
   std::vector<Program> x11Programs;
   if (ownerPath.starts_with('/')) x11Programs.push_back(owner(ownerPath));
-  // Without -t xclip offers UTF8_STRING, which every program reads. With it, xclip offers that type only.
+  // Without -t, xclip offers UTF8_STRING, which every program can read. With -t, xclip offers only the given
+  // type.
   x11Programs.push_back({{"xclip", "-selection", "clipboard", "-in"}});
-  // Without a type wl-copy guesses one from the content.
+  // Without --type, wl-copy guesses a type from the content.
   const Program wlCopy{{"wl-copy", "--type", "text/plain;charset=utf-8"}};
   const bool x11 = !environment("DISPLAY").empty();
   const bool wayland = !environment("WAYLAND_DISPLAY").empty();
 
   if (x11 && wayland) {
-    // GNOME gives wl-copy no clipboard without the keyboard's focus. An X11 program reaches the same
-    // clipboard through Xwayland. Other Wayland desktops heed Xwayland's clipboard only while an X11 window
-    // has the focus.
+    // On GNOME, wl-copy can use the clipboard only while it has the keyboard focus. An X11 program can set
+    // the same clipboard through Xwayland. On other Wayland desktops, the clipboard of Xwayland is used only
+    // while an X11 window has the focus.
     std::vector<Program> programs = std::move(x11Programs);
     programs.insert(desktopIs("GNOME") ? programs.end() : programs.begin(), wlCopy);
     return programs;
   }
   if (wayland) return {wlCopy};
   if (!x11) return {};
-  // xsel clears the clipboard for the empty text and cuts a text at its first NUL.
+  // xsel clears the clipboard if the text is empty, and truncates a text at the first NUL.
   if (!text.empty() && text.find('\0') == std::string_view::npos) {
     x11Programs.push_back({{"xsel", "--clipboard", "--input"}});
   }
   return x11Programs;
 }
 
-// Empty where a program took the text, else the reason why none did.
+// Returns an empty string if a program accepted the text. Otherwise returns the reasons why all programs
+// failed.
 std::string handOver(std::string_view text, std::chrono::milliseconds limit, const std::string& ownerPath) {
   const auto deadline = std::chrono::steady_clock::now() + limit;
   const auto programs = programsFor(text, ownerPath);
@@ -93,7 +97,7 @@ std::string handOver(std::string_view text, std::chrono::milliseconds limit, con
     if (result.end == SpawnEnd::succeeded) return {};
     if (!problems.empty()) problems += ", ";
     problems += std::filesystem::path(program.command.front()).filename().string() + ": " + result.problem;
-    // The display server hangs. The next program would hang as well.
+    // The display server probably hangs. The next program would hang as well.
     if (result.end == SpawnEnd::timedOut) break;
   }
   return problems;

@@ -11,18 +11,21 @@
 
 namespace glyph {
 
-/// The clipboard of the X11 or Wayland session that the environment names (DISPLAY, WAYLAND_DISPLAY).
+/// The clipboard of the X11 or Wayland session that the environment variables DISPLAY and WAYLAND_DISPLAY
+/// name.
 ///
-/// On both, a program that copies keeps the text and answers those who paste. So that a copy survives the end
-/// of this process, a small program in the background keeps it. On X11 that is glyphorium-clipboard-owner,
-/// which is installed with the library. It has the clipboard when setPlainText returns, and of two copies the
-/// later one stays, also when two processes copy. On Wayland it is wl-copy. Where neither is there or works,
-/// xclip or xsel is asked. These two may take the clipboard a moment after setPlainText has returned.
+/// On X11 and on Wayland, the program that copies keeps the text and sends it to the programs that paste. A
+/// copy must remain after this process ends, so a small program in the background keeps the text. On X11 this
+/// is glyphorium-clipboard-owner, which is installed with the library. It owns the clipboard when
+/// setPlainText() returns. If several processes copy, the copy that was requested last remains. On Wayland
+/// the program is wl-copy. If neither program works and DISPLAY is set, xclip or xsel is used. These two
+/// programs may set the clipboard a moment after setPlainText() has returned.
 class GLYPHORIUM_EXPORT DesktopPasteboard final : public Pasteboard {
  public:
-  /// `limit` is the longest that one setPlainText waits, for a display server that does not answer.
-  /// `ownerProgram` is the absolute path of glyphorium-clipboard-owner, for a host that puts it elsewhere.
-  /// Empty: the one that was installed with the library, wherever both are now.
+  /// `limit` is the longest time that one call of setPlainText() waits for a display server that does not
+  /// answer. `ownerProgram` is the absolute path of glyphorium-clipboard-owner, for a host that installs the
+  /// program elsewhere. If the path is empty, the program that was installed with the library is used, even
+  /// if both were moved together.
   explicit DesktopPasteboard(std::chrono::milliseconds limit = std::chrono::seconds(2),
                              std::string ownerProgram = {})
       : limit_(limit), ownerProgram_(std::move(ownerProgram)) {}

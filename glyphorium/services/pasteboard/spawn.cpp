@@ -26,9 +26,10 @@ SpawnResult failure(const char* what, int error) {
   return {SpawnEnd::failed, std::string(what) + ": " + std::generic_category().message(error)};
 }
 
-// Input and output are files in memory, which only the two processes can open. Unlike a pipe, such a file
-// never blocks and raises no SIGPIPE. Its number is above the standard streams, where the host may have
-// closed one, so that setting up one stream of the child does not overwrite another.
+// Creates a file in memory for the input or the output of the child. Only this process and the child can open
+// the file. Unlike a pipe, such a file never blocks and never raises SIGPIPE. The descriptor is greater than
+// those of the standard streams. Otherwise, if the host has closed a standard stream, setting up one stream
+// of the child could overwrite another stream. Returns -1 on failure.
 int memoryFile() {
   const FileDescriptor file(memfd_create("clipboard", MFD_CLOEXEC));
   return file.isOpen() ? fcntl(file.get(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1) : -1;
@@ -46,13 +47,13 @@ bool fill(int file, std::string_view input) {
 
 class SpawnSettings {
  public:
-  // A negative number of the output stands for /dev/null.
+  // A negative `output` means /dev/null.
   SpawnSettings(int input, int output) {
     posix_spawn_file_actions_init(&actions);
     posix_spawnattr_init(&attributes);
     error = posix_spawn_file_actions_adddup2(&actions, input, STDIN_FILENO);
-    // The program stays in the background. With our output it would keep everyone waiting who collects what
-    // we print.
+    // The program may stay in the background. If it kept our output open, every program that reads our output
+    // until the end would have to wait for the background program.
     for (const int stream : {STDOUT_FILENO, STDERR_FILENO}) {
       if (!error) error = posix_spawn_file_actions_addopen(&actions, stream, "/dev/null", O_WRONLY, 0);
     }
@@ -79,18 +80,19 @@ class SpawnSettings {
   int error = 0;
 };
 
-// Waits until the child has ended, and leaves its exit code to be collected. False at the deadline.
+// Waits until the child has ended. Does not collect the exit code. Returns false if the child has not ended
+// at the deadline.
 bool awaitEnd(pid_t child, Clock::time_point deadline) {
-  // The C library's own pidfd_open cannot be linked from C++ in glibc 2.36.
+  // In glibc 2.36 the declaration of pidfd_open() cannot be linked from C++.
   const FileDescriptor handle(static_cast<int>(syscall(SYS_pidfd_open, child, 0)));
-  if (!handle.isOpen() && errno == ESRCH) return true;  // ended, and the host has collected the exit code
+  if (!handle.isOpen() && errno == ESRCH) return true;  // the host has already collected the exit code
   for (;;) {
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
     const int wait = static_cast<int>(std::clamp<decltype(left)>(left, 0, 3'600'000));
     if (handle.isOpen()) {
       pollfd ended{handle.get(), POLLIN, 0};
       if (poll(&ended, 1, wait) > 0) return true;
-    } else {  // an old kernel, or a sandbox without this call
+    } else {  // old kernels and some sandboxes do not support pidfd_open
       siginfo_t information{};
       if (waitid(P_PID, static_cast<id_t>(child), &information, WEXITED | WNOHANG | WNOWAIT) != 0) {
         if (errno == ECHILD) return true;
@@ -103,20 +105,21 @@ bool awaitEnd(pid_t child, Clock::time_point deadline) {
   }
 }
 
-// Collects the exit code of a child that has ended. Empty on success, else the problem.
+// Collects the exit code of a child that has ended. Returns an empty string on success, otherwise a
+// description of the problem.
 std::string exitProblem(pid_t child) {
   int status = 0;
   pid_t collected;
   do {
     collected = waitpid(child, &status, 0);
   } while (collected < 0 && errno == EINTR);
-  if (collected < 0) return {};  // the host has the exit code
+  if (collected < 0) return {};  // the host has already collected the exit code
   if (WIFEXITED(status) && WEXITSTATUS(status) == 0) return {};
   if (WIFEXITED(status)) return "exit code " + std::to_string(WEXITSTATUS(status));
   return "ended by signal " + std::to_string(WTERMSIG(status));
 }
 
-// The first line of a file, as far as it is short.
+// Returns the first line of a file, but at most 256 bytes.
 std::string firstLine(int file) {
   char buffer[256];
   const ssize_t size = pread(file, buffer, sizeof buffer, 0);
@@ -146,8 +149,9 @@ SpawnResult runProgram(const Program& program, std::string_view input, Clock::ti
   if (error) return failure("not started", error);
 
   if (!awaitEnd(child, deadline)) {
-    kill(-child, SIGKILL);  // the group: the program may have started others
-    // Not a plain waitpid: a process that hangs in the kernel does not even end by this signal.
+    kill(-child, SIGKILL);  // the whole process group, because the program may have started other programs
+    // Do not call waitpid() without a time limit: a process that hangs in the kernel does not end even after
+    // SIGKILL.
     if (awaitEnd(child, Clock::now() + std::chrono::milliseconds(500))) exitProblem(child);
     return {SpawnEnd::timedOut, "no answer in time"};
   }

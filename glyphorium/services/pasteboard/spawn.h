@@ -9,10 +9,10 @@
 namespace glyph {
 
 struct Program {
-  /// The program and its arguments. A name without a slash is searched in PATH.
+  /// The program and its arguments. A program name without a slash is looked up in PATH.
   std::vector<std::string> command;
-  /// The program has succeeded when the first line of its standard output is this; another line is the
-  /// problem. Where it is empty, the exit code 0 means success.
+  /// The program has succeeded if the first line of its standard output equals this word. Any other line
+  /// describes the problem. If the word is empty, the exit code 0 means success.
   std::string_view word = {};
 };
 
@@ -20,16 +20,16 @@ enum class SpawnEnd { succeeded, notInstalled, failed, timedOut };
 
 struct SpawnResult {
   SpawnEnd end;
-  std::string problem;  ///< empty on success, else what went wrong, for people
+  std::string problem;  ///< a short description for people; empty on success
 };
 
-/// Runs a program with `input` as its standard input and waits until it has ended. At the deadline its whole
-/// process group is killed. The program inherits no descriptor, signal mask, session or working directory of
-/// this process. A process that it leaves in the background therefore keeps none of our files open and does
-/// not get the signals to our process group.
+/// Runs a program with `input` as its standard input and waits until the program has ended. At the deadline
+/// the whole process group of the program is killed. The program inherits no file descriptors, signal mask,
+/// session or working directory from this process. A background process that the program starts therefore
+/// does not keep our files open, and does not receive signals that are sent to our process group.
 ///
-/// Where the host ignores SIGCHLD or waits for all children itself, the exit code is lost. A program without
-/// a word then counts as successful.
+/// If the host ignores SIGCHLD or waits for all children itself, the exit code is lost. A program without a
+/// word then counts as successful.
 SpawnResult runProgram(const Program& program, std::string_view input,
                        std::chrono::steady_clock::time_point deadline);
 

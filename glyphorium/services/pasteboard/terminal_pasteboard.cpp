@@ -34,7 +34,8 @@ std::string base64(std::string_view text) {
   return result;
 }
 
-// False where the terminal is gone or takes no more bytes, for example because its user has pressed Ctrl-S.
+// Returns false if the terminal has been closed or does not accept all bytes before the deadline, for example
+// because the user has pressed Ctrl-S.
 bool writeAll(int terminal, std::string_view bytes, Clock::time_point deadline) {
   while (!bytes.empty()) {
     const ssize_t written = write(terminal, bytes.data(), bytes.size());

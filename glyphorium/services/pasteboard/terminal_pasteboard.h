@@ -9,20 +9,23 @@
 
 namespace glyph {
 
-/// The clipboard of the machine on which the terminal runs, reached by the control sequence OSC 52. It works
-/// through ssh and without a display. A terminal does not answer, and many ignore the sequence until the user
-/// permits it. Success therefore means only that the terminal was asked. The library uses it only where a
-/// host sets it, because it writes to the user's terminal.
+/// The clipboard of the machine on which the terminal runs. The text is sent with the control sequence OSC
+/// 52. This works through ssh and without a display. A terminal does not answer, and many terminals ignore
+/// the sequence until the user permits it. Success therefore means only that the sequence was written to the
+/// terminal. Because this class writes to the user's terminal, the library uses it only if the host sets it
+/// with setPasteboard().
 class GLYPHORIUM_EXPORT TerminalPasteboard final : public Pasteboard {
  public:
-  /// The longest text in bytes that terminals are known to take. They ignore longer sequences silently.
+  /// The length in bytes of the longest text that terminals are known to accept. Terminals ignore longer
+  /// sequences without an error.
   static constexpr std::size_t maximumLength = 74'000;
 
-  /// `device` is the path of the terminal. The default is the terminal of this process.
+  /// `device` is the path of the terminal device. The default is the terminal of this process.
   explicit TerminalPasteboard(std::string device = "/dev/tty");
 
-  /// False for the empty text, which terminals do not take, and for a text longer than maximumLength. Also
-  /// false where there is no terminal, or where it does not accept the bytes within two seconds.
+  /// Returns false if the text is empty, because terminals do not accept an empty text, or if it is longer
+  /// than maximumLength. Also returns false if the terminal cannot be opened or does not accept all bytes
+  /// within two seconds.
   bool setPlainText(std::string_view text) override;
 
  private:

@@ -10,7 +10,8 @@
 
 namespace glyph {
 
-/// Keeps settings only as long as the store exists: for tests, and for hosts that must leave no trace.
+/// Keeps settings in memory, only as long as the store exists. For tests, and for hosts that must not leave
+/// files on the disk. Thread-safe.
 class MemorySettingsStore final : public SettingsStore {
  public:
   std::optional<SettingValue> object(std::string_view key) override {
@@ -32,7 +33,7 @@ class MemorySettingsStore final : public SettingsStore {
   }
 
  private:
-  std::recursive_mutex mutex_;  // a change may use the store
+  std::recursive_mutex mutex_;  // recursive, because the function that update() calls may use this store
   std::map<std::string, SettingValue, std::less<>> values_;
 };
 

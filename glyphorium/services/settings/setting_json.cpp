@@ -14,8 +14,9 @@ using nlohmann::json;
 
 namespace {
 
-// While it lives, this thread reads numbers as JSON spells them. The parser uses strtod(), which expects the
-// decimal point of the locale that the host has set.
+// While an object of this class exists, the current thread uses the "C" locale. The JSON parser reads numbers
+// with strtod(), which expects the decimal point of the current locale, and the host may have set another
+// locale.
 class JsonNumbers {
  public:
   JsonNumbers() : before_(uselocale(classic())) {}
@@ -26,17 +27,17 @@ class JsonNumbers {
  private:
   static locale_t classic() {
     static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
-    return locale;  // null, which changes nothing, if there was no memory for it
+    return locale;  // null if there is not enough memory; uselocale(null) changes nothing
   }
   locale_t before_;
 };
 
-// JSON holds no NUL byte, but the parser would take one for the end of the text.
+// JSON text cannot contain a NUL byte. The parser would treat a NUL byte as the end of the text.
 bool holdsNul(std::string_view text) {
   return text.find('\0') != std::string_view::npos;
 }
 
-// Keeps a value for which SettingValue has a type, and stops the parser at any other.
+// Keeps a value if SettingValue has a type for it. Stops the parser at every other value.
 class Reader : public nlohmann::json_sax<json> {
  public:
   std::optional<SettingValue> value;
@@ -47,7 +48,8 @@ class Reader : public nlohmann::json_sax<json> {
     return read <= std::numeric_limits<std::int64_t>::max() && take(static_cast<std::int64_t>(read));
   }
   bool number_float(double read, const std::string& digits) override {
-    // A whole number beyond 64 bits comes here too, rounded.
+    // The parser also passes integers that do not fit into 64 bits to this function, as rounded numbers. They
+    // are rejected.
     return digits.find_first_of(".eE") != std::string::npos && take(read);
   }
   bool string(std::string& read) override {
@@ -93,7 +95,7 @@ std::optional<std::string> settingToJson(const SettingValue& value) {
       [](const auto& plain) -> std::string {
         using Type = std::decay_t<decltype(plain)>;
         if constexpr (std::is_same_v<Type, RawJson>) {
-          return {};  // returned above
+          return {};  // unreachable: RawJson was handled above
         } else if constexpr (std::is_arithmetic_v<Type>) {
           return json(plain).dump();
         } else {

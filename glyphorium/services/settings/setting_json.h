@@ -9,12 +9,12 @@
 
 namespace glyph {
 
-/// The value as JSON text. Ill-formed UTF-8 becomes U+FFFD, and a number that JSON does not know (infinity)
-/// becomes null. nullopt for RawJson whose text is no JSON.
+/// Converts a value to JSON text. Ill-formed UTF-8 becomes U+FFFD. A number that JSON cannot express, such as
+/// infinity, becomes null. Returns nullopt for a RawJson whose text is not valid JSON.
 std::optional<std::string> settingToJson(const SettingValue& value);
 
-/// The value of a JSON text. A text that is no JSON, perhaps damaged, becomes RawJson too, so that it can be
-/// carried like any other value of an unknown type.
+/// Converts JSON text to a value. A text that is not valid JSON, perhaps because it is damaged, becomes
+/// RawJson. Such a text can then be passed on like every other value of an unknown type.
 SettingValue settingFromJson(std::string_view text);
 
 }  // namespace glyph

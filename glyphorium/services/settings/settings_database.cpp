@@ -19,19 +19,19 @@
 namespace glyph {
 namespace {
 
-// After a wait for a lock that was in vain, this process does not wait again for so long: the waits of
-// several operations in a row must not add up.
+// After a wait for a lock has timed out, operations do not wait for locks during this time. Otherwise the
+// waiting times of several operations in a row would add up.
 constexpr auto impatience = std::chrono::seconds(30);
 
 constexpr const char* companions[] = {"-journal", "-wal", "-shm"};
 
-// Where the file really is, also when it does not exist yet.
+// Follows symbolic links, at most 40, and returns the path of the file itself. The file need not exist.
 std::filesystem::path followLinks(std::filesystem::path file) {
   std::error_code error;
   for (int links = 0; links < 40; ++links) {
     const auto target = std::filesystem::read_symlink(file, error);
     if (error) break;
-    file = file.parent_path() / target;  // an absolute target replaces it all
+    file = file.parent_path() / target;  // an absolute target replaces the whole path
   }
   return file;
 }
@@ -42,14 +42,15 @@ std::filesystem::path withSuffix(std::filesystem::path file, std::string_view su
 
 using Outcome = SettingsDatabase::Outcome;
 
-// Whether the table of settings exists. A new file has no tables at all; one with other tables only is not
-// ours, or its list of tables is damaged.
+// Returns true if the table of settings exists, and false if the file has no tables, like a new file. Throws
+// SqliteError if the file has only other tables: then the file belongs to another program, or its list of
+// tables is damaged.
 bool hasTable(const Database& database) {
   try {
     Statement(database, "SELECT key, value FROM setting");
     return true;
   } catch (const SqliteError& error) {
-    if (error.code() != SQLITE_ERROR) throw;  // the general error: there is no such table or column
+    if (error.code() != SQLITE_ERROR) throw;  // SQLITE_ERROR means that the table or a column does not exist
   }
   if (Statement(database, "SELECT 1 FROM sqlite_schema").step()) {
     throw SqliteError(SQLITE_CORRUPT, "the file has no table of settings");
@@ -65,11 +66,11 @@ Outcome select(const Database& database, const std::string& key, std::string& js
   return Outcome::done;
 }
 
-// Whether the file ends within a page. SQLite would read zeros for the missing part.
+// Returns true if the file ends in the middle of a page. SQLite would read the missing part as zeros.
 bool isCut(const Database& database, const std::filesystem::path& file) {
   struct stat status {};
   if (stat(file.c_str(), &status) != 0) return false;
-  Statement pageSize(database, "PRAGMA page_size");  // known once the file has been read
+  Statement pageSize(database, "PRAGMA page_size");  // valid after SQLite has read the file
   return pageSize.step() && status.st_size % pageSize.integer(0) != 0;
 }
 
@@ -96,10 +97,12 @@ Outcome SettingsDatabase::attempt(Step step) try {
 
 void SettingsDatabase::close() {
   if (connection_ && process_ != getpid()) {
-    // A forked process has the handle but not the locks: even closing it would take the parent's file apart.
+    // A forked process has a copy of the handle but not the locks. Even closing the handle could damage the
+    // parent's database, so the handle is never closed.
     static_cast<void>(connection_.release());
   } else if (connection_ && damaged_) {
-    // Closing writes the log's pages into the file, but a damaged one is kept as it was found.
+    // On closing, SQLite normally copies the pages of the log into the file. A damaged file must stay
+    // unchanged.
     sqlite3_db_config(connection_->handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
   }
   connection_.reset();
@@ -121,18 +124,19 @@ bool SettingsDatabase::goOnWaiting(bool first) {
 
 void SettingsDatabase::connect() {
   process_ = getpid();
-  // The caller's lock guards the connection, so SQLite need not.
+  // The caller uses its own lock for the connection, so the connection does not need a lock of SQLite.
   connection_ = std::make_unique<Database>(file_, SQLITE_OPEN_READWRITE);
   sqlite3_busy_handler(connection_->handle(), waitWhileBusy, this);
 }
 
-// Throws SqliteError for a damaged file. SQLite alone notices damage only on the pages that it happens to
-// read, and not all damage there: a row that got lost would read as absent, and be overwritten.
+// Throws SqliteError if the file is damaged. Without this check, SQLite finds damage only on the pages that
+// it reads, and does not find all damage on these pages. A lost row would then seem absent and be
+// overwritten.
 void SettingsDatabase::check(Database& database) const {
   Statement check(database, "PRAGMA quick_check(1)");
   if (check.step() && check.text(0) != "ok") throw SqliteError(SQLITE_CORRUPT, check.text(0));
   if (isCut(database, file_)) {
-    // After a crash of the machine, the rest of the page may still be in the log.
+    // After a crash of the machine, the missing part of the page may still be in the log.
     sqlite3_wal_checkpoint_v2(database.handle(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
     if (isCut(database, file_)) throw SqliteError(SQLITE_CORRUPT, "the end of the file is missing");
   }
@@ -147,8 +151,10 @@ bool SettingsDatabase::moved() const {
 
 Outcome SettingsDatabase::create() {
   if (!createPrivateDirectory(file_.parent_path())) return failBySystem();
-  // SQLite would let the umask decide who may read it, and gives its other files the mode of this one. Only a
-  // new file is opened here: closing one that a connection of this process uses would drop its locks.
+  // Create the file with private permissions before SQLite opens it. Otherwise the umask would decide who may
+  // read the file. SQLite gives its other files the same permissions. O_EXCL makes sure that only a new file
+  // is opened here. Closing a file that a connection of this process uses would release the locks of that
+  // connection.
   const FileDescriptor file(::open(file_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
   return file.get() >= 0 || errno == EEXIST ? Outcome::done : failBySystem();
 }
@@ -156,9 +162,10 @@ Outcome SettingsDatabase::create() {
 Outcome SettingsDatabase::open(bool createMissing) {
   if (connection_) {
     if (process_ != getpid()) return fail("the process was forked while they were in use");
-    // Within a transaction the file stays the same.
+    // During a transaction, continue to use the same file.
     if (sqlite3_get_autocommit(connection_->handle()) == 0) return Outcome::done;
-    // What SQLite has opened for reading only it does not try to write later.
+    // SQLite does not try to write to a file that it has opened only for reading. Close such a file and open
+    // it again.
     if (!(createMissing && readOnly()) && !moved()) return Outcome::done;
     close();
   }
@@ -182,7 +189,7 @@ Outcome SettingsDatabase::open(bool createMissing) {
   return Outcome::done;
 }
 
-// Whether SQLite could open the file for reading only.
+// Returns true if SQLite could open the file only for reading.
 bool SettingsDatabase::readOnly() const {
   return sqlite3_db_readonly(connection_->handle(), "main") != 0;
 }
@@ -190,9 +197,10 @@ bool SettingsDatabase::readOnly() const {
 Outcome SettingsDatabase::read(const std::string& key, std::string& json) {
   return attempt([&] {
     if (const Outcome opened = open(false); opened != Outcome::done) return opened;
-    // Reading needs files beside the database. A read-only directory and a full disk have no room for them,
-    // and beside a read-only file they become read-only too and would keep it from being written when it may
-    // be. Without pending pages in other files the file alone is complete, and may be read as it lies.
+    // To read, SQLite creates other files beside the database. This fails if the directory is read-only or
+    // the disk is full. If the database is read-only, SQLite makes these files read-only too, and they would
+    // prevent writing after the database becomes writable again. If the log and the journal are empty, the
+    // database file alone is complete and can be read without the other files.
     std::error_code error;
     const auto empty = [&](const char* suffix) {
       const auto size = std::filesystem::file_size(withSuffix(file_, suffix), error);
@@ -231,8 +239,9 @@ Outcome SettingsDatabase::begin() {
     if (!checked_ || isCut(*connection_, file_)) check(*connection_);
     checked_ = true;
     if (!configured_) {
-      // EXTRA is FULL, and still so where a write-ahead log is impossible (some network file systems) or
-      // another process keeps it from being switched on just now: both are no reason to fail.
+      // With a write-ahead log, EXTRA is the same as FULL. Without a write-ahead log, EXTRA gives the same
+      // safety. Some network file systems do not support a write-ahead log, and another process may prevent
+      // the switch at this moment. In both cases, continue without a write-ahead log.
       connection_->execute("PRAGMA synchronous = EXTRA");
       try {
         connection_->execute("PRAGMA journal_mode = WAL");
@@ -275,7 +284,8 @@ void SettingsDatabase::rollback() {
 
 Outcome SettingsDatabase::putAside(std::filesystem::path& name) {
   name.clear();
-  // The lock keeps a second process, which has found the damage too, from putting aside the new file.
+  // A second process may have found the damage too. The lock prevents the second process from renaming the
+  // new file.
   const FileDescriptor directory(::open(file_.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (directory.get() < 0) return failBySystem();
   for (bool first = true; flock(directory.get(), LOCK_EX | LOCK_NB) != 0; first = false) {
@@ -284,7 +294,7 @@ Outcome SettingsDatabase::putAside(std::filesystem::path& name) {
   const bool replaced = !connection_ || moved();
   close();
   if (replaced) return Outcome::done;
-  // A second look, for what seemed to be damage may have been a file that another program was writing.
+  // Check the file again. The damage may only have been a write of another program that was not yet complete.
   const Outcome again = attempt([&] {
     connect();
     check(*connection_);
@@ -308,7 +318,8 @@ Outcome SettingsDatabase::putAside(std::filesystem::path& name) {
     return rename(withSuffix(file_, suffix).c_str(), withSuffix(aside, suffix).c_str()) == 0 ||
            errno == ENOENT;
   };
-  // The file itself last: without it, the files that belong to it would be taken for the new one's.
+  // Rename the database file last. If it were renamed first, SQLite could use the remaining log or journal
+  // for the new database.
   if (!std::all_of(std::begin(companions), std::end(companions), move) || !move("")) return failBySystem();
   name = aside;
   return Outcome::done;

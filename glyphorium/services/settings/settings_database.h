@@ -14,44 +14,48 @@
 
 namespace glyph {
 
-/// The settings file and the connection to it, in single steps. Each step returns its outcome. Not
+/// The settings file and the connection to it. Each function performs one step and returns its outcome. Not
 /// thread-safe.
 class SettingsDatabase {
  public:
   enum class Outcome {
     done,
-    absent,   ///< there is no such file, table or row
-    damaged,  ///< the file is no database of settings, or it is corrupt
-    failed    ///< for another reason, see error()
+    absent,   ///< the file, the table or the row does not exist
+    damaged,  ///< the file is not a settings database, or it is corrupt
+    failed    ///< the step failed for another reason, see error()
   };
 
-  /// The empty path stands for "settings.sqlite" in the application's directory at the time of opening.
+  /// An empty path means "settings.sqlite" in applicationConfigDirectory(). The directory is determined when
+  /// the file is opened.
   explicit SettingsDatabase(std::filesystem::path file) : chosenFile_(std::move(file)) {}
   ~SettingsDatabase() { close(); }
   SettingsDatabase(const SettingsDatabase&) = delete;
   SettingsDatabase& operator=(const SettingsDatabase&) = delete;
 
-  /// Reads the JSON text stored for the key into `json`. Creates nothing.
+  /// Reads the JSON text that is stored for the key into `json`. Does not create files that are missing.
   Outcome read(const std::string& key, std::string& json);
 
-  /// Begins a transaction that may write; other processes wait for its end. Creates the file if it is
-  /// missing. For a damaged file the outcome is "damaged" until it is put aside.
+  /// Begins a transaction for writing. Other processes cannot write until the transaction ends. Creates the
+  /// file if it is missing. If the file is damaged, returns Outcome::damaged until putAside() has renamed the
+  /// file.
   Outcome begin();
   Outcome write(const std::string& key, const std::string& json);
   Outcome commit();
-  /// Ends the transaction, if there is one, without effect.
+  /// Undoes and ends the current transaction. Does nothing if there is no transaction.
   void rollback();
 
-  /// Whether the path now names another file than the open one.
+  /// Returns true if the path no longer leads to the open file, because the file was renamed, replaced or
+  /// deleted.
   bool moved() const;
 
-  /// Renames the damaged file and the files that belong to it, and puts the new name into `name`. Does
-  /// nothing, and leaves `name` empty, if another process has renamed it or if a second look finds no damage.
+  /// Renames the damaged file and the files that belong to it, and sets `name` to the new path. If another
+  /// process has already renamed the file, or if a second check finds no damage, does nothing and sets `name`
+  /// to an empty path.
   Outcome putAside(std::filesystem::path& name);
 
-  /// Why the last step failed.
+  /// The reason why the last step failed.
   const std::string& error() const { return error_; }
-  /// The file in use, links resolved; empty before the first step.
+  /// The path of the file in use, after all symbolic links. Empty before the first step.
   const std::filesystem::path& file() const { return file_; }
 
  private:
@@ -74,7 +78,7 @@ class SettingsDatabase {
   const std::filesystem::path chosenFile_;
   std::filesystem::path file_;
   std::unique_ptr<Database> connection_;
-  pid_t process_ = 0;  // that opened the connection
+  pid_t process_ = 0;  // the process that opened the connection
   bool checked_ = false;
   bool configured_ = false;
   bool damaged_ = false;

@@ -36,8 +36,8 @@ std::optional<std::string> SettingsStore::readFailure(std::string_view) {
 }
 
 std::shared_ptr<SettingsStore> settingsStore() {
-  // At the end of the process the store is destroyed: it stores what it could not store before, and closes
-  // the file, so that no log lies beside it. Code that runs still later makes a new store.
+  // The store is destroyed when the process ends. The destructor saves the remaining values and closes the
+  // file, and SQLite then deletes its log. Code that runs even later creates a new store.
   static const struct AtExit {
     ~AtExit() { setSettingsStore(nullptr); }
   } atExit;
@@ -48,7 +48,7 @@ std::shared_ptr<SettingsStore> settingsStore() {
 
 void setSettingsStore(std::shared_ptr<SettingsStore> store) {
   const std::lock_guard lock(place().mutex);
-  place().store.swap(store);  // the one before ends after the lock
+  place().store.swap(store);  // the old store is destroyed after the lock is released
 }
 
 }  // namespace glyph

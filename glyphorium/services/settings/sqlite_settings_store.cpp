@@ -22,14 +22,16 @@ struct SqliteSettingsStore::Impl {
   // A value that is not on the disk yet.
   struct Unsaved {
     std::string json;
-    // Of a value that was set. One that was computed may only replace the value that it was computed from
-    // (none where that was absent or could not be read), or it would undo what others have stored.
+    // True if set() made this value: it replaces every stored value. False if update() made this value: it
+    // replaces only the value in computedFrom, because it must not undo the changes of other processes.
     bool replacesAnything;
+    // The JSON text from which update() computed this value. nullopt if no value could be read.
     std::optional<std::string> computedFrom;
   };
 
-  // Holds the lock. Diagnostics are printed after its end, for the sink is the host's code. The end of the
-  // outermost session, which an exception may bring about, leaves no transaction open that others wait for.
+  // Locks the store as long as the session exists. Prints the diagnostics after unlocking, because the host's
+  // code receives them. Sessions may be nested. The end of the outermost session, also by an exception, rolls
+  // back an open transaction, so that other processes do not wait for it.
   class Session {
    public:
     explicit Session(Impl& impl) : impl_(impl) {
@@ -62,14 +64,14 @@ struct SqliteSettingsStore::Impl {
   void print(std::string line);
   std::string location() const;
 
-  std::recursive_mutex mutex;  // a change may use the store
+  std::recursive_mutex mutex;  // recursive, because the function that update() calls may use this store
   SettingsDatabase database;
   std::map<std::string, Unsaved> unsaved;
-  std::set<std::string> lost;                     // keys with a computed value that could not be stored
+  std::set<std::string> lost;                     // keys for which a result of update() was dropped
   std::map<std::string, std::string> unreadable;  // why the last read of the key failed
   bool updating = false;
   int sessions = 0;
-  std::set<std::string> printed;  // since the last write that succeeded
+  std::set<std::string> printed;  // diagnostics since the last successful write
   std::vector<std::string> lines;
 };
 
@@ -104,7 +106,7 @@ std::optional<std::string> SqliteSettingsStore::Impl::encode(const std::string& 
   return json;
 }
 
-// Begins a transaction, in a new file where the one in place is damaged.
+// Begins a transaction. If the file is damaged, renames it and begins the transaction in a new file.
 bool SqliteSettingsStore::Impl::begin() {
   Outcome begun = Outcome::failed;
   for (int attempt = 0; attempt < 3; ++attempt) {
@@ -122,7 +124,7 @@ bool SqliteSettingsStore::Impl::begin() {
   return false;
 }
 
-// Forgets each value that was computed from another one than is stored now.
+// Drops each unsaved value that update() computed from a value other than the one that is stored now.
 Outcome SqliteSettingsStore::Impl::dropOutdated() {
   for (auto item = unsaved.begin(); item != unsaved.end();) {
     const auto& [key, value] = *item;
@@ -158,7 +160,7 @@ Outcome SqliteSettingsStore::Impl::writeUnsaved() {
   return database.commit();
 }
 
-// Ends the transaction with all unsaved values written, or keeps them.
+// Writes all unsaved values and commits the transaction. If this fails, keeps the values for a later attempt.
 void SqliteSettingsStore::Impl::save() {
   for (int attempt = 0; attempt < 3; ++attempt) {
     const Outcome written = writeUnsaved();
@@ -169,7 +171,7 @@ void SqliteSettingsStore::Impl::save() {
     }
     database.rollback();
     if (written == Outcome::failed) break;
-    // Damaged, or another process has put the file aside meanwhile: the values belong into the new one.
+    // The file is damaged, or another process has renamed it meanwhile. Write the values to the new file.
     if (!begin()) return;
   }
   database.rollback();
@@ -184,7 +186,7 @@ SqliteSettingsStore::SqliteSettingsStore(std::filesystem::path file)
 SqliteSettingsStore::~SqliteSettingsStore() {
   try {
     synchronize();
-  } catch (...) {  // no memory for a last attempt
+  } catch (...) {  // there is not enough memory for this last attempt
   }
 }
 
@@ -201,7 +203,7 @@ void SqliteSettingsStore::set(std::string_view key, SettingValue value) {
   if (!json) return;
   impl_->unsaved.insert_or_assign(name, Impl::Unsaved{*std::move(json), true, std::nullopt});
   impl_->lost.erase(name);
-  // Within a change, the update that called it saves.
+  // If this is called during update(), update() saves the value.
   if (!impl_->updating && impl_->begin()) impl_->save();
 }
 
@@ -222,7 +224,8 @@ void SqliteSettingsStore::update(std::string_view key, const Change& change) {
     const auto present = impl_->present(name);
     const auto changed = change(present ? std::optional(settingFromJson(*present)) : std::nullopt);
     if (auto json = changed ? impl_->encode(name, *changed) : std::nullopt) {
-      // What was computed from an unsaved value depends on the same stored one as that.
+      // If the key already has an unsaved value, replace only its JSON text. The new value was computed from
+      // the unsaved value, so it depends on the same stored value.
       const auto [place, isNew] = impl_->unsaved.try_emplace(name, Impl::Unsaved{{}, false, present});
       place->second.json = *std::move(json);
     }
