@@ -80,7 +80,7 @@ struct Client : clipboard::Display {
         return take(window(), property);
       }
     }
-    ADD_FAILURE() << "no piece came";
+    ADD_FAILURE() << "the next piece did not arrive";
     return {};
   }
   Value finish(xcb_atom_t property) const {
@@ -195,7 +195,7 @@ TEST_F(ClipboardOwner, GivesSeveralFormsAtOnceAndLargeTextsInPieces) {
   EXPECT_EQ(ended(), 0);
 }
 
-TEST_F(ClipboardOwner, OutlastsReadersThatVanishStopOrAskForNonsense) {
+TEST_F(ClipboardOwner, SurvivesReadersThatExitStopReadingOrSendInvalidRequests) {
   const std::string large(1'000'000, 'm');
   copy(large);
   const Client stopped, old, modern;
@@ -224,10 +224,10 @@ TEST_F(ClipboardOwner, OutlastsReadersThatVanishStopOrAskForNonsense) {
   EXPECT_EQ(old.finish(a.text).bytes.size(), large.size());
   EXPECT_EQ(modern.text().value_or(Value{}).bytes.size(), large.size());
   copy("next");
-  EXPECT_EQ(ended(), 0) << "waits for the reader that has stopped";
+  EXPECT_EQ(ended(), 0) << "the program must not wait for the reader that stopped reading";
 }
 
-TEST_F(ClipboardOwner, HasTheTextOfTheLatestCopy) {
+TEST_F(ClipboardOwner, OffersTheTextOfTheLatestCopy) {
   Client client;
   auto asked = Clock::now();
   std::this_thread::sleep_for(100ms);
@@ -243,7 +243,7 @@ TEST_F(ClipboardOwner, HasTheTextOfTheLatestCopy) {
   EXPECT_THAT(Client().text(), isText("latest"));
 }
 
-TEST_F(ClipboardOwner, HandsTheTextToTheClipboardManagerWhenAskedToEnd) {
+TEST_F(ClipboardOwner, GivesTheTextToTheClipboardManagerAfterASignal) {
   const std::string large(1'000'000, 'm');
   Client manager;
   const auto& a = manager.atoms();
@@ -265,10 +265,10 @@ TEST_F(ClipboardOwner, HandsTheTextToTheClipboardManagerWhenAskedToEnd) {
   askToEnd();
   EXPECT_TRUE(manager.next<xcb_selection_request_event_t>(XCB_SELECTION_REQUEST));
   askToEnd();
-  EXPECT_EQ(ended(), 0) << "by the second signal";
+  EXPECT_EQ(ended(), 0) << "a second signal must end the program at once";
 }
 
-TEST_F(ClipboardOwner, EndsWithoutManagerAndWithTheServer) {
+TEST_F(ClipboardOwner, EndsIfThereIsNoClipboardManagerOrTheServerEnds) {
   copy("→");
   askToEnd();
   EXPECT_EQ(ended(), 0);
@@ -277,8 +277,8 @@ TEST_F(ClipboardOwner, EndsWithoutManagerAndWithTheServer) {
   EXPECT_EQ(ended(), 0);
 }
 
-TEST_F(ClipboardOwner, IsFoundByTheLibrary) {
-  if (COMMAND_LINE ""s == "") GTEST_SKIP() << "the library is part of the program";
+TEST_F(ClipboardOwner, LibraryFindsTheProgram) {
+  if (COMMAND_LINE ""s == "") GTEST_SKIP() << "the command-line program is not built with a shared library";
   EXPECT_THAT(runProgram("DISPLAY=:987654 PATH= " COMMAND_LINE " copy → 2>&1").output,
               HasSubstr("(glyphorium-clipboard-owner: no connection"));
 }

@@ -77,7 +77,7 @@ TEST_F(NotificationCenterTest, PrintsExceptionsOfObserversAndCallsTheOthers) {
               ElementsAre(HasSubstr("'name' failed: broken"), HasSubstr("'name' failed: unknown")));
 }
 
-TEST(NotificationToken, MayOutliveItsCenterAndEndWithinIt) {
+TEST(NotificationToken, MayOutliveItsCenter) {
   auto center = std::make_unique<NotificationCenter>();
   // When the registration ends, the objects that the observer captured are destroyed. A destructor of such an
   // object may use the center.

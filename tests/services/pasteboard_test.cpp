@@ -51,7 +51,7 @@ void forbidPidfd() {
   prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter);
 }
 
-TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
+TEST(DesktopPasteboard, TriesTheProgramsOfTheSessionInOrder) {
   // Shell commands for the fake clipboard programs. Each fake program first writes its name to a log.
   const std::string take = "/bin/cat >\"$DIR/text\"\n", own = take + "echo copied\n", fail = "exit 1\n";
   const std::string hang = "/bin/sleep 1000 & echo $! >\"$DIR/process\"; wait\n";
@@ -125,7 +125,7 @@ TEST(DesktopPasteboard, AsksTheProgramsOfTheSessionInOrder) {
   }
 }
 
-TEST(DesktopPasteboard, WhatStaysBehindHoldsNothingOfTheHost) {
+TEST(DesktopPasteboard, BackgroundProcessInheritsNothingFromTheHost) {
   const TemporaryDirectory directory;
   writeProgram(directory / "xclip", "/bin/sleep 1000 & echo $! >\"$DIR/process\"\n");
   const ScopedVariable variables[] = {
@@ -171,7 +171,7 @@ void exchangeTexts(const BackgroundProgram& server, const std::string& list,
   EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("no answer in time")));
 }
 
-TEST(DesktopPasteboard, TextOutlivesItsWriterUnderX11) {
+TEST(DesktopPasteboard, TextRemainsAfterTheProcessEndsOnX11) {
   const XServer x;
   if (!x.usable || !isInstalled("xclip")) GTEST_SKIP() << "needs Xvfb and xclip";
   const std::string paste = "xclip -selection clipboard -o";
@@ -194,7 +194,7 @@ TEST(DesktopPasteboard, TextOutlivesItsWriterUnderX11) {
   EXPECT_FALSE(DesktopPasteboard(20s, OWNER_PROGRAM).setPlainText("never arrives"));
 }
 
-TEST(DesktopPasteboard, TextOutlivesItsWriterUnderWayland) {
+TEST(DesktopPasteboard, TextRemainsAfterTheProcessEndsOnWayland) {
   const WaylandServer wayland;
   if (!wayland.usable) GTEST_SKIP() << "needs sway and wl-clipboard";
   exchangeTexts(wayland.server, "wl-paste -l", HasSubstr("text/plain;charset=utf-8\n"), "wl-paste -n");
@@ -271,7 +271,7 @@ TEST(DesktopPasteboard, LastCopyIsThereUnderLoadOnWayland) {
   copyUnderLoad("wl-paste -n", false);
 }
 
-TEST(TerminalPasteboard, AsksTheTerminalForWhatItCanTake) {
+TEST(TerminalPasteboard, SendsOnlyTextsThatTerminalsAccept) {
   const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
   ASSERT_TRUE(terminal >= 0 && grantpt(terminal) == 0 && unlockpt(terminal) == 0);
   const std::string device = ptsname(terminal);
@@ -293,7 +293,7 @@ TEST(TerminalPasteboard, AsksTheTerminalForWhatItCanTake) {
   RecordedDiagnostics diagnostics;
   EXPECT_FALSE(pasteboard.setPlainText(""));
   EXPECT_FALSE(pasteboard.setPlainText(std::string(74'001, 'a')));
-  EXPECT_FALSE(pasteboard.setPlainText(std::string(74'000, 'a'))) << "no program reads";
+  EXPECT_FALSE(pasteboard.setPlainText(std::string(74'000, 'a'))) << "no program reads from the terminal";
   EXPECT_FALSE(TerminalPasteboard("/nonexistent").setPlainText("→"));
   EXPECT_EQ(diagnostics.take().size(), 4u);
   close(keptOpen);

@@ -20,7 +20,7 @@ List listIn(const Value& value) {
   return value ? std::get<List>(*value) : List{};
 }
 
-TEST(SettingsProcesses, LoseNoAppendOfEachOther) {
+TEST(SettingsProcesses, DoNotOverwriteChangesOfEachOther) {
   const TemporaryDirectory directory;
   const auto file = directory / "settings.sqlite";
   // At first there is no file, so all processes try to create it.
@@ -50,7 +50,7 @@ TEST(SettingsProcesses, LoseNoAppendOfEachOther) {
   std::stable_sort(list.begin(), list.end(), [&](auto& a, auto& b) { return process(a) < process(b); });
   List expected;
   for (int i = 0; i < 600; ++i) expected.push_back(std::to_string(i / 200 * 1000 + i % 200));
-  EXPECT_EQ(list, expected) << "each in its own order";
+  EXPECT_EQ(list, expected) << "the entries of each process must be in the order of its writes";
 }
 
 // Returns the state with this number. The lengths vary, so that pages of the database are added and freed.
@@ -58,7 +58,7 @@ List state(std::size_t number) {
   return List(number * 37 % 500 + 1, std::to_string(number));
 }
 
-TEST(SettingsProcesses, LoseNothingAcknowledgedWhenKilled) {
+TEST(SettingsProcesses, KeepAllAcknowledgedWritesWhenKilled) {
   const TemporaryDirectory directory;
   const auto file = directory / "settings.sqlite";
   std::size_t kept = 0;

@@ -67,7 +67,7 @@ class SettingsStoreTest : public testing::Test {
   SettingsStore* const both[2] = {&sqlite, &memory};
 };
 
-TEST_F(SettingsStoreTest, GivesBackEveryTypeAsItWasSet) {
+TEST_F(SettingsStoreTest, ReturnsValuesOfEveryTypeUnchanged) {
   constexpr std::string_view key("key\0é", 6);
   std::vector<SettingValue> values = {true, false, std::int64_t{1}, INT64_MIN, 1.0, -0.1, "", List{}};
   values.emplace_back(List{"arrows", "", "é"});
@@ -99,7 +99,7 @@ TEST_F(SettingsStoreTest, GivesBackEveryTypeAsItWasSet) {
   EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("'bytes'")));
 }
 
-TEST_F(SettingsStoreTest, LeavesAloneWhatOthersHaveStored) {
+TEST_F(SettingsStoreTest, DoesNotChangeValuesOfOtherPrograms) {
   SqliteSettingsStore(file).set("own", true);
   const std::string deep = std::string(100000, '[') + std::string(100000, ']');
   const std::pair<std::string, SettingValue> foreign[] = {
@@ -114,7 +114,7 @@ TEST_F(SettingsStoreTest, LeavesAloneWhatOthersHaveStored) {
     EXPECT_EQ(stored("foreign"), value) << text.substr(0, 100);
     SqliteSettingsStore(file).set("own", false);
     execute("UPDATE setting SET value = 'found' WHERE key = 'foreign' AND value = '" + text + "'");
-    EXPECT_EQ(stored("foreign"), SettingValue(RawJson{"found"})) << "it was rewritten";
+    EXPECT_EQ(stored("foreign"), SettingValue(RawJson{"found"})) << "another process's value was overwritten";
   }
   EXPECT_THAT(diagnostics.take(), IsEmpty());
   // A database of another program.
@@ -125,7 +125,7 @@ TEST_F(SettingsStoreTest, LeavesAloneWhatOthersHaveStored) {
   EXPECT_THAT(diagnostics.take(), ElementsAre(HasSubstr("kept in")));
 }
 
-TEST_F(SettingsStoreTest, IsCreatedPrivateByTheFirstWrite) {
+TEST_F(SettingsStoreTest, FirstWriteCreatesPrivateFiles) {
   const ScopedVariable home("XDG_CONFIG_HOME", directory / "new/config");
   const fs::path place = applicationConfigDirectory().value();
   const auto store = settingsStore();
@@ -182,7 +182,7 @@ TEST_F(SettingsStoreTest, UpdatesInOneStep) {
   EXPECT_THAT(diagnostics.take(), IsEmpty());
 }
 
-TEST_F(SettingsStoreTest, KeepsADamagedFileAsideOnTheNextWrite) {
+TEST_F(SettingsStoreTest, RenamesADamagedFileOnTheNextWrite) {
   SqliteSettingsStore(file).set("key", List(2000, "a value of several pages"));
   sqlite.set("another", true);
   const std::string good = fileContent(file), log = fileContent(file.string() + "-wal");
@@ -234,7 +234,7 @@ TEST_F(SettingsStoreTest, KeepsADamagedFileAsideOnTheNextWrite) {
   }
 }
 
-TEST_F(SettingsStoreTest, SurvivesCutsAndFlippedBytes) {
+TEST_F(SettingsStoreTest, SurvivesTruncatedFilesAndChangedBytes) {
   SqliteSettingsStore(file).set("key", List(300, "a value of several pages"));
   const std::string good = fileContent(file);
   for (std::size_t i = 0; i < good.size(); i += i < 100 ? 9 : 1021) {
@@ -247,7 +247,7 @@ TEST_F(SettingsStoreTest, SurvivesCutsAndFlippedBytes) {
       writeFile(file, bytes);
       SqliteSettingsStore store(file);
       store.object("key");
-      ASSERT_EQ(fileContent(file), bytes) << "rewritten by a read at " << i;
+      ASSERT_EQ(fileContent(file), bytes) << "a read changed the file; changed position: " << i;
       store.set("other", true);
       ASSERT_EQ(store.synchronize(), writable) << i << ": " << testing::PrintToString(diagnostics.take());
       ASSERT_EQ(store.object("other"), SettingValue(true)) << i;
@@ -255,7 +255,7 @@ TEST_F(SettingsStoreTest, SurvivesCutsAndFlippedBytes) {
   }
 }
 
-TEST_F(SettingsStoreTest, FollowsTheFileInPlace) {
+TEST_F(SettingsStoreTest, UsesTheNewFileAfterTheFileWasReplaced) {
   sqlite.set("key", "old");
   for (const auto& entry : fs::directory_iterator(directory.path())) fs::remove(entry);
   EXPECT_EQ(sqlite.object("key"), std::nullopt);
@@ -275,7 +275,7 @@ TEST_F(SettingsStoreTest, FollowsTheFileInPlace) {
 }
 
 // A value could not be stored at first. Tests whether it is stored when storing is possible again.
-TEST_F(SettingsStoreTest, StoresNoValueThatWasComputedFromAnotherThanTheStoredOne) {
+TEST_F(SettingsStoreTest, DropsResultsComputedFromAnOutdatedValue) {
   std::atomic<int> asked = 0;
   setLockWaitPolicy([&](std::chrono::milliseconds) { return ++asked % 3 != 0; });
   const auto append = [](const Value& present) -> Value {
@@ -318,7 +318,7 @@ TEST_F(SettingsStoreTest, StoresNoValueThatWasComputedFromAnotherThanTheStoredOn
         store.reset();
       } else {
         EXPECT_EQ(store->synchronize(), storable);
-        EXPECT_EQ(store->synchronize(), storable) << "it changed its mind";
+        EXPECT_EQ(store->synchronize(), storable) << "the second call returned a different result";
       }
       EXPECT_EQ(stored("key"), SettingValue(storable      ? List{"old", "new"}
                                             : otherStores ? List{"other"}
@@ -373,7 +373,7 @@ TEST_F(SettingsStoreTest, WorksUntilTheProcessEnds) {
   for (const int end : {locked[0], locked[1], unlocked[0], unlocked[1]}) close(end);
 }
 
-TEST_F(SettingsStoreTest, ReadsNumbersWhateverTheLocaleIs) {
+TEST_F(SettingsStoreTest, ReadsNumbersInEveryLocale) {
   const ScopedVariable place("LOCPATH", directory.path().string());
   writeFile(directory / "source",
             "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \"\"\ngrouping -1\nEND LC_NUMERIC\n");
@@ -388,7 +388,7 @@ TEST_F(SettingsStoreTest, ReadsNumbersWhateverTheLocaleIs) {
 }
 
 // Each case prevents settings from being saved until the cause is removed.
-TEST_F(SettingsStoreTest, KeepsWhatCannotBeSavedUntilItCan) {
+TEST_F(SettingsStoreTest, KeepsUnsavedValuesUntilTheyCanBeSaved) {
   const auto check = [&](SettingsStore& store, const std::function<void()>& clear) {
     const List large(5000, "more than there is room for");
     diagnostics.take();
@@ -421,7 +421,8 @@ TEST_F(SettingsStoreTest, KeepsWhatCannotBeSavedUntilItCan) {
     store.reset();
     EXPECT_EQ(umount(room.c_str()), 0);
   } else {
-    std::cout << "no full disk tried: mounting one failed, " << std::strerror(errno) << '\n';
+    std::cout << "skipped the test with a full disk, because mount() failed: " << std::strerror(errno)
+              << '\n';
   }
 
   asNobody([&] {
