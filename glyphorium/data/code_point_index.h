@@ -9,8 +9,9 @@
 
 namespace glyph {
 
-/// Where the texts of code points begin in a longer text: pairs of 32-bit integers, a code point and an
-/// offset, in ascending order of code points. A view of the library's read-only image.
+/// The offsets at which the texts of code points begin in a longer text. The index consists of pairs of
+/// 32-bit integers, a code point and an offset, in ascending order of code points. This is a view of the
+/// library's read-only image.
 class CodePointIndex {
  public:
   struct Entry {
@@ -28,15 +29,15 @@ class CodePointIndex {
     return entry;
   }
 
-  /// The part of `text` between the offset of the entry at this position and that of the next entry. Needs
-  /// ascending offsets.
+  /// Returns the part of `text` from the offset of the entry at this position to the offset of the next entry
+  /// or the end of `text`. The offsets must be in ascending order.
   std::string_view slice(std::string_view text, std::size_t position) const noexcept {
     const std::size_t begin = (*this)[position].offset;
     const std::size_t end = position + 1 < size() ? (*this)[position + 1].offset : text.size();
     return text.substr(begin, end - begin);
   }
 
-  /// The position of the code point's entry; nullopt if there is none.
+  /// Returns the position of the code point's entry. Returns nullopt if there is no such entry.
   std::optional<std::size_t> find(std::uint32_t codePoint) const noexcept {
     std::size_t begin = 0;
     for (std::size_t end = size(); begin < end;) {

@@ -10,28 +10,30 @@ namespace glyph {
 
 struct EmbeddedText;
 
-/// All embedded bytes, padding included. A text in it that ends at least textPadding bytes before the end of
-/// the image may be parsed in place.
+/// All embedded bytes, including padding. A text in the image may be parsed in place if it ends at least
+/// textPadding bytes before the end of the image.
 extern const std::string_view embeddedImage;
 
 extern const std::string_view structuredUnicodeJsonText;
 extern const EmbeddedText embeddedTextList[];
 extern const std::size_t embeddedTextCount;
 
-/// The offset in structuredUnicodeJSON() of the name in each code point's first entry.
+/// For each code point, the offset in structuredUnicodeJSON() of the name in the code point's first entry.
 extern const CodePointIndex nameIndex;
 
-/// The offset in additionalJson of each code point's first row.
+/// For each code point, the offset in additionalJson of the code point's first row.
 extern const CodePointIndex enrichmentIndex;
 
-/// The offset in embeddedImage of each row of the configured tables, as 32-bit integers; then the end of the
-/// last row.
+/// The offsets in embeddedImage of all rows of the configured tables, then the end of the last row. The
+/// offsets are 32-bit integers.
 extern const std::string_view configuredRowOffsets;
 
-/// The JSON object of a row, counted from 0 through all configured tables; empty if there is no such row.
+/// Returns the JSON object of a row. `place` is the number of the row in the sequence of all configured
+/// tables, starting at 0. Returns an empty text if there is no such row.
 std::string_view configuredRow(std::size_t place) noexcept;
 
-/// The JSON object of the hex code's first row in the enrichment table; empty if it has none.
+/// Returns the JSON object of the first row that the enrichment table has for the hex code. Returns an empty
+/// text if there is no such row.
 std::string_view enrichmentRow(std::string_view hex) noexcept;
 
 }  // namespace glyph

@@ -23,7 +23,7 @@ const EmbeddedText* embeddedText(std::string_view constant) noexcept {
 }
 
 std::string_view configuredRow(std::size_t place) noexcept {
-  std::array<std::uint32_t, 2> offsets{};  // of this row and of the next one or the end
+  std::array<std::uint32_t, 2> offsets{};  // the start of this row, and the start of the next row or the end
   if (place >= configuredRowOffsets.size() / sizeof offsets[0] - 1) return {};
   std::memcpy(offsets.data(), configuredRowOffsets.data() + place * sizeof offsets[0], sizeof offsets);
   const std::string_view row = embeddedImage.substr(offsets[0], offsets[1] - offsets[0]);
@@ -34,7 +34,7 @@ std::string_view enrichmentRow(std::string_view hex) noexcept {
   const auto codePoint = ascii::number(hex, 16);
   const auto position = codePoint ? enrichmentIndex.find(*codePoint) : std::nullopt;
   if (!position) return {};
-  constexpr std::string_view rowEnd = "\n  }";  // lines inside a row have a deeper indentation
+  constexpr std::string_view rowEnd = "\n  }";  // lines inside a row have more indentation
   const std::string_view row = additionalJson.substr(enrichmentIndex[*position].offset);
   return row.substr(0, row.find(rowEnd) + rowEnd.size());
 }

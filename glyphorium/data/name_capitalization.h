@@ -6,10 +6,11 @@
 
 namespace glyph {
 
-/// A character name as the catalog shows it: in lower case, but each letter at the begin of the text or
-/// behind a non-letter in upper case ("Latin Capital Letter A", "Cjk Compatibility Ideograph-F90A",
-/// "Square.And.Arrow.Up"). Names are ASCII; other bytes count as non-letters and stay as they are. This is
-/// not the title case of Unicode, which leaves the letter behind a digit or a full stop in lower case.
+/// Returns a character name in the form that the catalog shows. A letter at the beginning or after a
+/// character that is not a letter is in upper case. All other letters are in lower case. Examples: "Latin
+/// Capital Letter A", "Cjk Compatibility Ideograph-F90A", "Square.And.Arrow.Up". Names are ASCII. Bytes that
+/// are not ASCII do not count as letters and stay unchanged. The title case of Unicode is different: it has a
+/// lower-case letter after a digit or a full stop.
 inline std::string capitalizedName(std::string_view name) {
   std::string result(name);
   bool insideWord = false;

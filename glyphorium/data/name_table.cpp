@@ -10,7 +10,7 @@
 namespace glyph {
 namespace {
 
-// The number of a hex code that is written as in the table.
+// Returns the number of a hex code. Returns nullopt if the code has another form than the codes of the table.
 std::optional<std::uint32_t> canonicalCodePoint(std::string_view hex) noexcept {
   if (hex.size() < 4 || (hex.size() > 4 && hex.front() == '0')) return std::nullopt;
   return ascii::number(hex, 16);

@@ -8,23 +8,26 @@
 
 namespace glyph {
 
-/// The Unicode name table: a JSON array of 35,469 RawUnicodeEntity objects. First come the 33,797 entries of
-/// the Unicode 13.0 character data file in its order, then the 1,672 SF Symbols. Both have U+100000.
+/// Returns the Unicode name table: a JSON array of 35,469 RawUnicodeEntity objects. First come the 33,797
+/// entries of the Unicode 13.0 character data file, in the order of that file. Then come the 1,672 SF
+/// Symbols. U+100000 has an entry in both parts.
 GLYPHORIUM_EXPORT std::string_view structuredUnicodeJSON() noexcept;
 
-/// An entry of the name table as stored.
+/// An entry of the name table.
 struct NameTableEntry {
-  std::string_view name;  ///< "LATIN SMALL LETTER D", "square.and.arrow.up"
+  std::string_view name;  ///< in the spelling of the table: "LATIN SMALL LETTER D", "square.and.arrow.up"
   bool isSFSymbol;
 };
 
-/// The first entry of the table for a hex code, in either letter case; nullopt if there is none. The code
-/// must be written as in the table: with at least four digits and no zeros beyond that ("0041", not "41" or
-/// "00041"). A binary search without decoding or allocation. Any thread may call it.
+/// Returns the first entry of the table for a hex code. Returns nullopt if there is no such entry. The code
+/// must have at least four digits, and leading zeros only to reach four digits ("0041", not "41" or "00041").
+/// Letter case does not count. This is a binary search without decoding or memory allocation. Any thread may
+/// call it.
 GLYPHORIUM_EXPORT std::optional<NameTableEntry> findName(std::string_view hex) noexcept;
 
-/// The lowest code point with this name; nullopt if there is none. ASCII letter case does not count. Compares
-/// with every name, without decoding or allocation. Any thread may call it.
+/// Returns the lowest code point with this name. Returns nullopt if no code point has this name. ASCII letter
+/// case does not count. This compares `name` with the names of the table one by one, without decoding or
+/// memory allocation. Any thread may call it.
 GLYPHORIUM_EXPORT std::optional<char32_t> findCodePoint(std::string_view name) noexcept;
 
 }  // namespace glyph

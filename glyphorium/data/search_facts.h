@@ -8,24 +8,26 @@
 
 #include "glyphorium/data/code_point_index.h"
 
-/// What the search knows beyond the tables, in the library's read-only image. The generator makes it of the
-/// sources below search/.
+/// Data of the search that is not in the tables. The data is in the library's read-only image. The generator
+/// creates the data from the source files in search/, from groups.tsv, and from the file of HTML references.
 namespace glyph {
 
 enum class SearchFactKind : std::uint8_t {
-  alias,         ///< formal aliases and abbreviations of Unicode's NameAliases
+  alias,         ///< formal aliases and abbreviations in Unicode's NameAliases file
   htmlName,      ///< all names of the HTML Standard's references, without "&" and ";"
-  annotation,    ///< CLDR's text-to-speech name, which may be empty, then its keywords
-  everydayName,  ///< what people call the character
-  mostWanted,    ///< one text: the position among the characters that people mean most, from 0, in digits
+  annotation,    ///< the text-to-speech name of CLDR, which may be empty, then the keywords of CLDR
+  everydayName,  ///< names that people use for the character
+  /// One text: the position in the list of the characters that people mean most often. It is a decimal number
+  /// that starts at 0.
+  mostWanted,
 };
 
-/// Texts of code points, of one kind and language.
+/// The texts of one kind and one language, for many code points.
 struct SearchFacts {
   SearchFactKind kind;
   std::string_view language;  ///< BCP 47; empty for texts in no language
-  CodePointIndex index;       ///< in `texts`
-  std::string_view texts;     ///< line feeds separate the texts of a code point
+  CodePointIndex index;       ///< the offset in `texts` at which the texts of each code point begin
+  std::string_view texts;     ///< line feeds separate the texts of one code point
 
   struct Entry {
     std::uint32_t codePoint;
@@ -40,29 +42,33 @@ struct SearchFacts {
 extern const SearchFacts searchFactList[];
 extern const std::size_t searchFactCount;
 
-/// What the search knows of a language. The texts are lines, each with a line feed at its end, of folded
-/// words or letters (see WordReader) that tabs separate. The order of the languages is that of notes on a
-/// card.
+/// The data that the search has about a language. Each text consists of lines, and each line ends with a line
+/// feed. A line contains folded words or letters (see WordReader), separated by tabs. The languages have the
+/// same order as the notes on a card.
 struct SearchLanguage {
-  std::string_view code;      ///< BCP 47
-  bool headFirst;             ///< whether the noun stands before the words that describe it
-  std::string_view synonyms;  ///< ascending; a word, then words of Unicode names that it may stand for
-  /// Ascending; words that join others ("with"). They are left out of a query that finds nothing.
+  std::string_view code;  ///< BCP 47
+  bool headFirst;         ///< whether a noun precedes the words that describe it
+  /// Each line has a word, then the words of Unicode names that it may mean. The lines are in ascending
+  /// order.
+  std::string_view synonyms;
+  /// Words that join other words ("with"), in ascending order. If a query finds nothing, the search leaves
+  /// out these words.
   std::string_view functionWords;
-  /// An ending of plurals, then the endings that its singulars may have. Rules are tried in their order; one
-  /// whose ending stays as it is ends the rules.
+  /// Each line is a rule: an ending of plurals, then the endings that the singular may have. The search tries
+  /// the rules in their order. After a rule that keeps the ending, it tries no further rules.
   std::string_view plurals;
-  std::string_view linkingLetters;  ///< letters that may join the parts of a compound word
-  std::string_view spellings;       ///< letters as people type them, then the folded letter that they mean
+  std::string_view linkingLetters;  ///< each line has letters that may join the parts of a compound word
+  /// Each line has letters as people type them, then the folded letters that people mean.
+  std::string_view spellings;
 };
 
 extern const std::span<const SearchLanguage> searchLanguages;
 
-/// The words of all languages that only say that a character is meant ("sign", "symbol"), or say nothing at
-/// all. Lines, ascending. In a query they need not match.
+/// The stop words of all languages, one per line, in ascending order. A stop word only says that the query is
+/// about a character ("sign", "symbol"), or has no meaning of its own. Stop words in a query need not match.
 extern const std::string_view searchStopWords;
 
-/// What the characters of a group are. The ranking of the search depends on it.
+/// The kind of characters in a group. The ranking of the search depends on it.
 enum class GroupKind : std::uint8_t {
   commonSigns,
   otherSigns,
@@ -71,7 +77,7 @@ enum class GroupKind : std::uint8_t {
   modifiers,
   lookalikes,  ///< compatibility characters and combining marks
   privateUse,
-  selection,  ///< from other groups
+  selection,  ///< characters of other groups
 };
 
 struct GroupWithKind {
@@ -79,7 +85,7 @@ struct GroupWithKind {
   GroupKind kind;
 };
 
-/// The groups of all group tables, ascending by name.
+/// The groups of all group tables, in ascending order of their names.
 extern const std::span<const GroupWithKind> groupKinds;
 
 }  // namespace glyph

@@ -14,8 +14,8 @@ std::vector<SearchRange> nameRanges(const Index& index, const std::vector<QueryW
   while (reader.next()) {
     std::size_t size = 0;
     const auto cover = [&](const QueryWord& word, const Alternative& alternative) {
-      // Each word of a name is in the dictionary. So it is in the range if it is between the ends of the
-      // range.
+      // The dictionary is sorted and contains each word of a name. So a word of the name is in the
+      // alternative if it is between the first and the last word of the alternative.
       if (reader.word() < index.words[alternative.words.first] ||
           reader.word() > index.words[alternative.words.last - 1]) {
         return;

@@ -10,7 +10,8 @@
 
 namespace glyph::search {
 
-/// The parts of a character's name that the words match, ascending.
+/// Returns the parts of `name`, a character's name, that match the words of a query. The parts are in
+/// ascending order and do not overlap. Empty if no part matches.
 std::vector<SearchRange> nameRanges(const Index& index, const std::vector<QueryWord>& words,
                                     std::string_view name);
 

@@ -68,7 +68,7 @@ class Answer {
   }
 
  private:
-  // In the order of the list.
+  // Adds all characters of the groups, in the order of the list of entities.
   void addWholeGroups() {
     if (query_.groups.empty()) return;
     for (std::uint32_t doc = 0; doc < index_.docCount(); ++doc) {
@@ -77,7 +77,7 @@ class Answer {
   }
 
   void addReadings() {
-    // What cannot be anything else comes first, in the order of the query.
+    // The meanings that are certain come first, in the order of the query.
     std::uint32_t place = firstCost;
     for (const ParsedCode& item : query_.codes) {
       if (item.htmlName.empty())
@@ -98,14 +98,14 @@ class Answer {
       add(index_.docOfCodePoint(character), offset_ + behindExactCost, SearchField::character);
     const std::uint32_t bareName = index_.docOfHtmlName(query_.bareText);
     const bool direct = !hits_.empty() || bareName != Index::noDoc;
-    // A code is not a mistyped word, even if the list does not have its character.
+    // A code is not a mistyped word, even if its character is not in the list.
     const bool saysCode = std::any_of(query_.codes.begin(), query_.codes.end(),
                                       [](const ParsedCode& code) { return code.htmlName.empty(); });
     addWords(!direct && !saysCode);
     if (bareName != Index::noDoc)
       add(bareName, offset_ + htmlNameDetail + index_.docPrior[bareName], SearchField::htmlName);
     for (const std::uint32_t character : query_.otherCharacters) {
-      // Nobody asks for the signs of a code or the letters of words that were found.
+      // Skip these characters if they are signs of a code, or letters of words that matched.
       if (!isCode && (hits_.empty() || query_.words.empty() || !wordsFound_))
         add(index_.docOfCodePoint(character), offset_ + lastCost + place++, SearchField::character);
     }
@@ -145,10 +145,10 @@ class Answer {
   const SearchOptions& options_;
   const ParsedQuery& query_;
   MatchFilter filter_;
-  std::vector<char> allowed_;  // by doc; empty if no group is asked for
+  std::vector<char> allowed_;  // indexed by document number; empty if the query is not limited to groups
   Hits hits_;
   std::vector<QueryWord> words_;  // with the alternatives that matched
-  std::uint32_t offset_ = 0;      // cost that the direct readings leave for the others to begin at
+  std::uint32_t offset_ = 0;      // added to the costs of uncertain meanings, so that certain ones come first
   bool wordsFound_ = false;
   bool approximate_ = false;
 };

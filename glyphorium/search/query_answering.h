@@ -7,7 +7,8 @@
 
 namespace glyph::search {
 
-/// The results of all that the query may be, each character once, ranked together.
+/// Returns the characters that match any of the possible meanings of the query. All meanings are ranked
+/// together, and each character is reported once.
 SearchResults answer(const Index& index, const ParsedQuery& query, const SearchOptions& options);
 
 }  // namespace glyph::search

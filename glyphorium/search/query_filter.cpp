@@ -8,6 +8,7 @@
 namespace glyph::search {
 namespace {
 
+// Removes the documents that are not in a wanted group. `docs` is indexed by document number.
 template <typename Predicate>
 void keepOnly(const Index& index, std::vector<char>& docs, Predicate isWanted) {
   std::vector<char> members(docs.size(), 0);
@@ -22,7 +23,7 @@ void keepOnly(const Index& index, std::vector<char>& docs, Predicate isWanted) {
 }  // namespace
 
 std::uint32_t languageBits(const Index& index, const std::vector<std::string>& wanted) {
-  std::uint32_t bits = 1u | 1u << 1;  // no language, and English
+  std::uint32_t bits = 1u | 1u << 1;  // the empty language, and English
   for (const std::string& tag : wanted) {
     for (std::uint32_t i = 1; i < index.languages.size(); ++i) {
       const std::string_view language = index.languages[i];

@@ -9,13 +9,16 @@
 
 namespace glyph::search {
 
-/// The languages of which words are looked at, as a bit mask of Index::languages: the wanted ones (BCP 47, a
-/// region does not count), English, and that of texts in no language.
+/// Returns the languages to search, as a bit mask of Index::languages. These are the wanted languages (BCP 47
+/// tags; the region does not count), English, and the empty language of texts in no language.
 std::uint32_t languageBits(const Index& index, const std::vector<std::string>& wanted);
 
-/// By doc, whether it is in one of the groups with these exact names (in any if there are no names) and in
-/// the groups of each typed name: those that are called so or, if there is none, those that have words with
-/// these beginnings in their names. Letter case and diacritics do not count in typed names.
+/// Returns for each document whether it is in the wanted groups. The result is indexed by document number.
+/// A document must meet both conditions:
+/// - `names` is empty, or the document is in a group with one of these exact names.
+/// - For each typed name, the document is in a group with that name. If no group has that name, a group
+///   counts if each typed word is the beginning of a word in the name of the group.
+/// Letter case and diacritics do not count in typed names.
 std::vector<char> docsInGroups(const Index& index, const std::vector<std::string>& names,
                                const std::vector<std::string>& typedNames);
 

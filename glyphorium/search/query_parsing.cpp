@@ -10,16 +10,17 @@
 namespace glyph::search {
 namespace {
 
-// Longer than typed queries are. They limit the time for a pasted file.
+// These limits are larger than any typed query needs. They limit the search time if a user pastes a file.
 constexpr std::size_t longestText = 1000;
 constexpr std::size_t longestWord = 64;
 constexpr std::size_t mostWords = 32;
 
-// ASCII only: another space (U+00A0) is a character that the user may ask about.
+// Only ASCII characters count as blanks. The user may search for another space, such as U+00A0.
 bool isBlank(char c) {
   return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
+// Returns the text, truncated to at most longestText bytes before the start of a UTF-8 sequence.
 std::string_view shortened(std::string_view text) {
   if (text.size() <= longestText) return text;
   std::size_t size = longestText;
@@ -27,7 +28,7 @@ std::string_view shortened(std::string_view text) {
   return text.substr(0, size);
 }
 
-// Takes every group:NAME and group:"NAME WITH BLANKS" out of the text.
+// Returns the text without every group:NAME and group:"NAME WITH BLANKS", and adds the names to `groups`.
 std::string withoutGroups(std::string_view text, std::vector<std::string>& groups) {
   constexpr std::string_view label = "group:";
   std::string rest;
@@ -59,7 +60,8 @@ std::vector<std::string_view> splitAtBlanks(std::string_view text) {
   return parts;
 }
 
-// Several numbers without a prefix: code points, UTF-16 units or bytes of UTF-8, in the form of dumps.
+// Reads several numbers without a prefix, in the form of dumps. The numbers may be code points, UTF-16 code
+// units or bytes of UTF-8.
 void addBareNumbers(const std::vector<std::string_view>& numbers, ParsedQuery& query) {
   std::string marked;
   bool bytes = true, codePoints = true;
@@ -72,7 +74,8 @@ void addBareNumbers(const std::vector<std::string_view>& numbers, ParsedQuery& q
   if (!bytes && !codePoints) return;
   for (const std::string_view number : numbers) marked.append(bytes ? "\\x" : "\\u").append(number);
   const std::vector<ParsedCode> codes = parseCodes(marked);
-  // If the bytes are not UTF-8, they are rather words and numbers of two letters.
+  // Each byte that is not part of a longer UTF-8 sequence gives a code of its own. If all bytes do, the text
+  // is probably not a dump of UTF-8, but words or numbers of two digits.
   if (bytes && codes.size() == numbers.size()) return;
   for (const ParsedCode& code : codes) query.likelyNumbers.push_back(code.codePoint);
 }
@@ -80,7 +83,7 @@ void addBareNumbers(const std::vector<std::string_view>& numbers, ParsedQuery& q
 void addBareNumber(std::string_view text, ParsedQuery& query) {
   const auto all = [&](auto is) { return std::all_of(text.begin(), text.end(), is); };
   if (text.size() < 2 || text.size() > 8 || !all(ascii::isHexDigit)) return;
-  // Code points are typed with four digits or more. A shorter number is rather decimal.
+  // People type code points with four digits or more. A shorter number is more likely decimal.
   const bool likely = text.size() >= 4 && std::any_of(text.begin(), text.end(), ascii::isDigit);
   std::vector<std::uint32_t>& numbers = likely ? query.likelyNumbers : query.otherNumbers;
   numbers.push_back(*ascii::number(text, 16));
@@ -88,8 +91,8 @@ void addBareNumber(std::string_view text, ParsedQuery& query) {
   numbers.insert(likely ? numbers.end() : numbers.begin(), *ascii::number(text, 10));
 }
 
-// Takes the codes with a prefix out of a text of words: "U+2192 RIGHTWARDS ARROW", which people paste from
-// the output of programs.
+// Removes the codes with a prefix from a text with words, and adds the codes to `query`. Returns the rest of
+// the text. People paste texts such as "U+2192 RIGHTWARDS ARROW" from the output of programs.
 std::string takeMarkedCodes(std::string_view text, ParsedQuery& query) {
   std::string words;
   for (const std::string_view part : splitAtBlanks(text)) {
@@ -102,14 +105,15 @@ std::string takeMarkedCodes(std::string_view text, ParsedQuery& query) {
   return query.codes.empty() ? std::string(text) : words;
 }
 
-// The name in an escape sequence "\N{SNOWMAN}". Another text stays as it is.
+// Returns the name in an escape sequence such as "\N{SNOWMAN}". Returns any other text unchanged.
 std::string_view withoutName(std::string_view text) {
   constexpr std::string_view begin = "\\N{";
   if (!text.starts_with(begin) || !text.ends_with('}')) return text;
   return text.substr(begin.size(), text.size() - begin.size() - 1);
 }
 
-// The precomposed character of a grapheme cluster, if there is one, and the parts of the cluster.
+// Adds the precomposed character of a grapheme cluster, if there is one, and then the code points of the
+// cluster. Does not add a code point twice.
 void addParts(std::string_view cluster, std::vector<std::uint32_t>& characters) {
   const auto add = [&](char32_t point) {
     const auto value = static_cast<std::uint32_t>(point);
@@ -121,7 +125,7 @@ void addParts(std::string_view cluster, std::vector<std::uint32_t>& characters) 
     if (parts.find(point) == std::u32string::npos) add(point);
   }
   for (const char32_t point : parts) {
-    // ZERO WIDTH JOINER and variation selectors only say how the other parts are shown.
+    // ZERO WIDTH JOINER and variation selectors only change how the other code points are displayed.
     const bool joins = point == 0x200D || point == 0xFE0E || point == 0xFE0F;
     if (!joins || parts.size() == 1) add(point);
   }
@@ -131,7 +135,7 @@ void addCharacters(std::string_view text, ParsedQuery& query) {
   const std::vector<std::string_view> clusters = graphemeClusters(text);
   if (clusters.size() == 1) {
     addParts(text, query.characters);
-    // The same letter in the other case may be meant too.
+    // The user may also mean the same letter in the other case.
     const char c = text.front();
     if (text.size() == 1 && ascii::isLetter(c))
       query.characters.push_back(static_cast<std::uint32_t>(c ^ 0x20));
@@ -165,7 +169,7 @@ std::optional<ParsedQuery> parseQuery(std::string_view text) {
   const std::string withBlanks = withoutGroups(shortened(text), query.groups);
   const std::vector<std::string_view> parts = splitAtBlanks(withBlanks);
   if (parts.empty()) {
-    // A query of spaces alone asks for the space.
+    // A query of blanks only searches for its first blank.
     if (query.groups.empty()) {
       if (withBlanks.empty()) return std::nullopt;
       query.characters.push_back(static_cast<std::uint32_t>(static_cast<unsigned char>(withBlanks.front())));

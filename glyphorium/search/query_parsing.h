@@ -11,24 +11,32 @@
 
 namespace glyph::search {
 
-/// The meanings that a query may have.
+/// The possible meanings of a query.
 struct ParsedQuery {
-  std::vector<std::string> groups;  ///< behind "group:", as typed
+  std::vector<std::string> groups;  ///< the names after "group:", as typed
 
-  std::vector<ParsedCode> codes;             ///< certain: the text is codes, or contains some with a prefix
-  std::vector<std::uint32_t> likelyNumbers;  ///< the text is numbers without a prefix, and hardly words
-  std::vector<std::uint32_t> otherNumbers;   ///< the text is a number, but may as well be a word: "face"
+  /// Codes that the user certainly means. The text consists of codes, or contains codes with a prefix.
+  std::vector<ParsedCode> codes;
+  /// Code points of a text that consists of numbers without a prefix and is probably not words.
+  std::vector<std::uint32_t> likelyNumbers;
+  /// Code points of a text that is a number but may also be a word: "face".
+  std::vector<std::uint32_t> otherNumbers;
 
-  std::vector<std::uint32_t> characters;       ///< the text is these characters: they are meant
-  std::vector<std::uint32_t> besideWords;      ///< signs among words that are not on the keyboard
-  std::vector<std::uint32_t> otherCharacters;  ///< signs and letters that are rather parts of a term
+  /// Characters that the user certainly means. The text is a single character or has no Latin letters.
+  std::vector<std::uint32_t> characters;
+  /// Characters beside Latin words that are neither Latin letters nor on the keyboard.
+  std::vector<std::uint32_t> besideWords;
+  /// Signs and letters that are more likely part of a term than meant as characters.
+  std::vector<std::uint32_t> otherCharacters;
 
-  std::string bareText;            ///< the text without groups, codes and spaces at the ends; an HTML name?
-  std::string signs;               ///< signKey() of that text
-  std::vector<std::string> words;  ///< of that text, folded
+  /// The text without groups, without codes beside words, and without blanks at both ends. May be an HTML
+  /// name.
+  std::string bareText;
+  std::string signs;               ///< signKey() of bareText
+  std::vector<std::string> words;  ///< the words of bareText, folded
 };
 
-/// The meanings of a UTF-8 text; nullopt for an empty text.
+/// Returns the possible meanings of a UTF-8 text. Returns nullopt if the text is empty.
 std::optional<ParsedQuery> parseQuery(std::string_view text);
 
 }  // namespace glyph::search

@@ -9,27 +9,28 @@
 
 namespace glyph::search {
 
-/// How a word of the query matches a word of the dictionary, best first.
+/// How a word of the query matches a word of the dictionary. The best kind is first.
 enum class WordMatch : std::uint8_t {
   whole,
-  variant,  ///< a singular of the word, or a synonym
+  variant,  ///< the dictionary has a singular or a synonym of the word
   prefix,
-  group,  ///< the word is in the name of the character's group
-  note,
+  group,       ///< the word is in the name of the character's group
+  note,        ///< the word is in a usage note
   typo,        ///< one letter differs
   typoPrefix,  ///< one letter differs, and letters are missing at the end
 };
 
-/// Words of the dictionary that a word of the query may stand for.
+/// Words of the dictionary that a word of the query may mean.
 struct Alternative {
   TextRange words;
   WordMatch match;
 };
 
+/// A word of the query.
 struct QueryWord {
   std::string text;                       ///< folded
-  std::vector<Alternative> alternatives;  ///< best first
-  bool isStopWord = false;                ///< need not match
+  std::vector<Alternative> alternatives;  ///< the best alternative is first
+  bool isStopWord = false;                ///< whether a character may match without this word
 };
 
 }  // namespace glyph::search

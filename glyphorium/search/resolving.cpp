@@ -16,7 +16,8 @@
 namespace glyph {
 namespace {
 
-// The codes that the text consists of. Unlike in a search, a bare hexadecimal number is one, too.
+// Returns the codes that make up the text. Unlike a search, it always reads a hexadecimal number of four
+// digits or more as a code.
 std::vector<ParsedCode> codesOf(std::string_view text) {
   const auto bare = text.size() >= 4 ? ascii::number(text, 16) : std::nullopt;
   return bare ? std::vector<ParsedCode>{{*bare, {}}} : parseCodes(text);

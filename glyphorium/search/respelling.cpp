@@ -13,11 +13,11 @@ namespace {
 constexpr std::size_t mostParts = 4;
 constexpr std::size_t shortestPart = 2;
 constexpr std::size_t mostSplits = 6;
-constexpr std::size_t longestSplit = 40;  // the number of ways to split a word grows with its length
+constexpr std::size_t longestSplit = 40;  // in bytes; there are more ways to split a longer word
 
 using Words = std::vector<std::string>;
 
-// Splits a word into words of the dictionary. The last one may be incomplete.
+// Splits a word into words of the dictionary. The last part may be incomplete.
 class Splitter {
  public:
   Splitter(const Index& index, const std::vector<std::string_view>& linkingLetters)
@@ -43,7 +43,7 @@ class Splitter {
       if (index_.words.exactly(rest.substr(0, size)).empty()) continue;
       parts_.emplace_back(rest.substr(0, size));
       step(rest.substr(size));
-      // The "s" in "Geburtstagstorte".
+      // Skip linking letters, such as the second "s" of "Geburtstagstorte".
       for (const std::string_view linking : linkingLetters_) {
         if (rest.substr(size).starts_with(linking) && size + linking.size() + shortestPart <= rest.size())
           step(rest.substr(size + linking.size()));

@@ -9,9 +9,11 @@
 
 namespace glyph::search {
 
-/// Other spellings of the words of a query (folded), the likeliest first: without the function words of the
-/// languages, with the letters that people type as two ("ae" for "ä") as one, with a word split in several,
-/// with two words joined.
+/// Returns other spellings of the folded words of a query. The most likely spelling is first:
+/// - without the function words of the languages;
+/// - with one letter for letters that people type as two ("ae" for "ä");
+/// - with one word split into several words;
+/// - with two neighbouring words joined.
 std::vector<std::vector<std::string>> respellings(const Index& index, const std::vector<std::string>& words,
                                                   const Languages& languages);
 

@@ -11,7 +11,7 @@
 
 namespace glyph {
 
-// An image and its index, which refers to it.
+// An image and an index that refers to the image.
 struct Search::Own {
   explicit Own(search::IndexImage built) : image(std::move(built)), index(search::openIndex(image)) {}
   Own(const Own&) = delete;
@@ -27,7 +27,7 @@ Search::Search(std::span<const Entity> entities) {
     index_ = {own, &own->index};
     byteCount_ = sizeof *own + own->image.size();
   } catch (const std::bad_alloc&) {
-    // index_ stays null: this Search finds nothing.
+    // index_ stays null, so this Search finds nothing.
   }
 }
 

@@ -18,7 +18,7 @@ constexpr std::uint32_t notWanted = 0xFFFF;
 constexpr unsigned mostWantedPrior = 6;
 constexpr unsigned keyboardPrior = 5;
 
-constexpr unsigned noGroup = 0xFF;  // costs more than every group
+constexpr unsigned noGroup = 0xFF;  // larger than the cost of every group
 
 unsigned groupCost(GroupKind kind) {
   switch (kind) {
@@ -26,15 +26,15 @@ unsigned groupCost(GroupKind kind) {
       return 0;
     case GroupKind::otherSigns:
       return 4;
-    case GroupKind::phonetic:  // more people read a phonetic alphabet than any one other script
+    case GroupKind::phonetic:  // more people read a phonetic alphabet than any other single script
       return 7;
-    case GroupKind::script:  // its name finds its letters anyway
+    case GroupKind::script:  // a query with the name of the script finds its letters anyway
       return 8;
     case GroupKind::modifiers:
       return 12;
     case GroupKind::lookalikes:
       return 16;
-    case GroupKind::privateUse:  // only the fonts of one vendor have them: see also privateUsePrior
+    case GroupKind::privateUse:  // only one vendor's fonts have these characters; see also privateUsePrior
       return 24;
     case GroupKind::selection:
       break;
@@ -42,9 +42,9 @@ unsigned groupCost(GroupKind kind) {
   return noGroup;
 }
 
-// The cost of a group by its name.
+// Returns the cost of the group with this name. A group that is not in groupKinds counts as a script.
 unsigned groupCost(std::string_view name) {
-  // The characters that the user added are wanted ones.
+  // The user added these characters, so the user is likely to search for them.
   if (name == customGroup) return groupCost(GroupKind::commonSigns);
   const auto found = std::lower_bound(
       groupKinds.begin(), groupKinds.end(), name,
@@ -57,7 +57,8 @@ std::uint32_t codePointOf(const std::string& hex) {
   return value && *value <= 0x10FFFF ? *value : Index::noCodePoint;
 }
 
-// The positions in the list of the most wanted characters, as (code point, position), ascending.
+// Returns the most wanted characters as pairs (code point, position in the list of the most wanted
+// characters), in ascending order.
 std::vector<std::pair<std::uint32_t, std::uint32_t>> mostWanted() {
   std::vector<std::pair<std::uint32_t, std::uint32_t>> places;
   for (std::size_t list = 0; list < searchFactCount; ++list) {
@@ -74,7 +75,7 @@ std::vector<std::pair<std::uint32_t, std::uint32_t>> mostWanted() {
 struct Candidate {
   std::uint32_t entity;
   std::uint32_t codePoint;
-  unsigned group = noGroup;  // the least cost of its groups
+  unsigned group = noGroup;  // the lowest cost of the character's groups
 };
 
 std::string_view shownName(const Entity& entity) {
@@ -83,15 +84,16 @@ std::string_view shownName(const Entity& entity) {
   return better ? *additional->betterName : entity.computed.fallbackName;
 }
 
-// At most 41, so that it never makes up for a better tier of matches (see match_costs.h).
+// Returns at most 41, so that the prior never outweighs a better tier of matches (see match_costs.h).
 unsigned priorOf(const Candidate& candidate, std::string_view name, std::uint32_t place) {
   if (place != notWanted) return std::min(place / 60, mostWantedPrior);
-  // People seldom search a sign that is on the keyboard. But if its words are searched, it is meant first.
+  // People seldom search for a sign that is on the keyboard. But if they type its words, they most likely
+  // mean this sign.
   if (candidate.codePoint < 0x80) return keyboardPrior;
   const unsigned group = candidate.group == noGroup ? groupCost(GroupKind::otherSigns) : candidate.group;
   const auto blanks = static_cast<unsigned>(std::count(name.begin(), name.end(), ' '));
   const unsigned capital = name.find(" Capital ") != std::string_view::npos ? 1 : 0;
-  // A name of five words or more is that of a variant of something.
+  // A character whose name has five words or more is usually a variant of another character.
   return 10 + group + capital + std::min(blanks > 3 ? blanks - 3 : 0u, 6u);
 }
 
@@ -110,7 +112,7 @@ RankedDocs rankDocs(std::span<const Entity> entities) {
     if (isNew) candidates.push_back({static_cast<std::uint32_t>(i), codePointOf(record.hex)});
     Candidate& candidate = candidates[known->second];
     candidate.group = std::min(candidate.group, groupCost(record.group));
-    // The rows of a group follow each other, so this condition is rarely true.
+    // The rows of a group are consecutive, so this condition is rarely true.
     if (result.groups.empty() || result.groups.back().name != record.group) {
       const auto [group, isNewGroup] =
           groupOfName.try_emplace(record.group, static_cast<std::uint32_t>(result.groups.size()));

@@ -8,29 +8,32 @@
 
 #include "glyphorium/entity/records.h"
 
-/// The static rank: how likely a character is meant, whatever the query is. Of characters that match a query
-/// equally well, people nearly always mean a common sign and hardly ever its combining, compatibility or
-/// private-use relative. The order of code points does not tell these apart: "arrow" would begin with U+02C2.
+/// The static rank: how likely it is that people mean a character, independent of the query. If several
+/// characters match a query equally well, people nearly always mean a common sign. They hardly ever mean a
+/// similar combining, compatibility or private-use character. The order of code points does not show this
+/// difference: the results for "arrow" would begin with U+02C2.
 namespace glyph::search {
 
-/// Characters for private use have a prior of at least this, all others a smaller one.
+/// The lowest prior of private-use characters. All other characters have a lower prior.
 inline constexpr std::uint8_t privateUsePrior = 34;
 
 struct RankedDoc {
   std::uint32_t entity;     ///< position of the character's first entity in the list
   std::uint32_t codePoint;  ///< Index::noCodePoint if the hex code is not a code point
-  std::uint8_t prior;       ///< what the ranking adds to its cost; smaller is likelier
+  std::uint8_t prior;       ///< added to the cost of a match; a lower prior means a likelier character
 };
 struct GroupMembers {
   std::string_view name;
-  std::vector<std::uint32_t> entities;  ///< the first entity of each member's hex code
+  std::vector<std::uint32_t>
+      entities;  ///< for each member, the position of the first entity with its hex code
 };
 struct RankedDocs {
-  std::vector<RankedDoc> docs;  ///< the likeliest first
+  std::vector<RankedDoc> docs;  ///< the most likely character is first
   std::vector<GroupMembers> groups;
 };
 
-/// The characters of a list, one per hex code, and its groups. The names of groups are views of the list.
+/// Returns the characters of a list, one per hex code, and the groups of the list. The names of the groups
+/// are views of the list, so the list must outlive the result.
 RankedDocs rankDocs(std::span<const Entity> entities);
 
 }  // namespace glyph::search

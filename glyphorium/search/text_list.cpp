@@ -8,7 +8,7 @@ TextRange TextList::withPrefix(std::string_view prefix) const {
 }
 
 TextRange TextList::withPrefix(std::string_view prefix, TextRange within) const {
-  // char_traits compare as unsigned bytes, which is the order the texts were sorted in.
+  // std::string_view compares unsigned bytes. The texts are sorted in the same order.
   const auto bound = [&](std::uint32_t low, std::uint32_t high, auto isBefore) {
     while (low < high) {
       const std::uint32_t middle = low + (high - low) / 2;

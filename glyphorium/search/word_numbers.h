@@ -9,8 +9,9 @@
 
 namespace glyph::search {
 
-/// Numbers words in the order in which they first appear. An open hash table over one block of bytes: with
-/// std::unordered_map, which allocates each of some 20,000 words, building an index takes a fifth longer.
+/// Gives each distinct word a number, in the order in which the words first appear. This is a hash table with
+/// open addressing that stores all words in one block of bytes. std::unordered_map would allocate memory for
+/// each of some 20,000 words, and building an index would take 20 percent longer.
 class WordNumbers {
  public:
   WordNumbers() : slots_(1u << 16, empty) { offsets_.push_back(0); }

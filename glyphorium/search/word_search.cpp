@@ -15,11 +15,12 @@ namespace glyph::search {
 namespace {
 
 constexpr std::size_t mostRespellings = 16;
-constexpr std::size_t mostKnownWords = 6;  // each more doubles the number of choices
+constexpr std::size_t mostKnownWords = 6;  // each additional word doubles the number of combinations
 constexpr std::uint32_t headWeight = 200;
-constexpr std::uint32_t nothing = 0xFFFFFFFF;  // instead of a cost: no match
+constexpr std::uint32_t nothing = 0xFFFFFFFF;  // used in place of a cost if there is no match
 
-// Which matches count. The parts of a split word must be in one text: in several texts they match by chance.
+// Which matches count: all, only those within one text, or only those of a whole text. The parts of a split
+// word must be in one text, because they would match in several texts only by chance.
 enum class Demand { any, together, exact };
 
 class WordSearch {
@@ -35,11 +36,12 @@ class WordSearch {
 
   WordsFound find(bool persistently) && {
     const std::uint32_t best = match(dictionaryWords(words_, filter_, true), filter_);
-    // If the words match no whole text, a respelling of them may match one and mean more: "thumbsup".
+    // The words match, but do not match a whole text. A respelling may match a whole text, which is a better
+    // result. An example is "thumbsup".
     if (best != nothing && best >= wholeBase) {
       readRespellings();
-      // Of more than two words only respellings with fewer words are tried, which left out function words or
-      // joined two words.
+      // For more than two words, try only the respellings that have fewer words. They leave out function
+      // words or join two words.
       if (words_.size() > 2)
         std::erase_if(respelled_, [&](const auto& words) { return words.size() >= words_.size(); });
       matchRespelled(false, Demand::exact);
@@ -49,6 +51,7 @@ class WordSearch {
   }
 
  private:
+  // Tries other readings of the words, the most likely reading first, until one of them matches.
   void findOtherwise() {
     if (match(dictionaryWords(words_, anyLanguage_, false), anyLanguage_) != nothing) return;
     found_.approximate = true;
@@ -81,8 +84,9 @@ class WordSearch {
     });
   }
 
-  // Finds the characters that match most of the words, at least about half of them. It costs less to leave
-  // out a word that is in many texts than one that is in few, and nothing to leave out an unknown word.
+  // Adds the characters that match most of the words, at least about half of them. Returns whether there are
+  // such characters. The cost of leaving out a word is lower if the word is in many texts than if it is in
+  // few texts. Leaving out an unknown word costs nothing.
   bool matchFewer(const MatchFilter& filter) {
     const Languages& languages = languagesOf(filter);
     std::vector<QueryWord> known;
@@ -92,7 +96,8 @@ class WordSearch {
       needed += word.isStopWord ? 0 : 1;
       if (!word.alternatives.empty() && known.size() < mostKnownWords) known.push_back(std::move(word));
     }
-    // The noun that the other words describe: the last word in Germanic languages, the first in Romance ones.
+    // The head is the noun that the other words describe. It is the last word in Germanic languages and the
+    // first word in Romance languages.
     const bool headFirst = std::any_of(languages_.begin(), languages_.end(),
                                        [](const SearchLanguage* language) { return language->headFirst; });
     const std::size_t head = headFirst ? 0 : known.size() - 1;
@@ -117,8 +122,8 @@ class WordSearch {
     return false;
   }
 
-  // The cost of leaving out a word: the rarer it is, the more it says. At most about the difference between
-  // two tiers of the ranking.
+  // Returns the cost of leaving out a word. A rare word says more than a frequent word, so its cost is
+  // higher. The highest cost is about the difference between two tiers of the ranking.
   std::uint32_t weight(const QueryWord& word) const {
     constexpr int mostBits = 17;
     const int rarity =
@@ -131,8 +136,8 @@ class WordSearch {
     std::vector<QueryWord> result;
     for (const std::string& text : words) {
       QueryWord& word = result.emplace_back(QueryWord{text, {}, isStopWord(text)});
-      // A query of one letter would find a tenth of all words by their beginning. Behind other words a letter
-      // is the beginning of the next one.
+      // As a prefix, a single letter would match a tenth of all words. After other words, a single letter is
+      // the beginning of the next word.
       addDictionaryWords(index_, word, languagesOf(filter),
                          prefixes && (text.size() > 1 || result.size() > 1));
     }
@@ -148,7 +153,8 @@ class WordSearch {
     return result;
   }
 
-  // Adds the matches that meet the demand, with the extra cost. Returns the cost of the best one.
+  // Adds the matches that meet the demand, and adds `extra` to their costs. Returns the cost of the best
+  // match, or `nothing` if there is no match.
   std::uint32_t match(std::vector<QueryWord> words, const MatchFilter& filter, Demand demand = Demand::any,
                       std::uint32_t extra = 0) {
     std::uint32_t best = nothing;
@@ -170,9 +176,9 @@ class WordSearch {
   const Index& index_;
   const std::vector<std::string>& words_;
   const MatchFilter& filter_;
-  const Languages languages_;  // of the filter
+  const Languages languages_;  // the languages of filter_
   MatchFilter anyLanguage_;
-  Languages allLanguages_;  // empty until needed
+  Languages allLanguages_;  // empty until first used
   std::vector<std::vector<std::string>> respelled_;
   WordsFound found_;
 };

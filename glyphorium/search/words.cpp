@@ -17,8 +17,9 @@ bool isAscii(char c) {
 
 }  // namespace
 
-// Appends the letter at the position and moves the position behind it. False, and moves nothing, if there is
-// no letter.
+// Appends the folded letter or digit at the position to the word and moves the position behind it. Skips a
+// diacritic inside a word. Returns false and does not move the position if the character at the position is
+// not part of a word.
 bool WordReader::appendNonAscii(std::size_t& position) {
   std::size_t end = position;
   const std::int32_t codePoint = nextCodePoint(text_, end);
@@ -34,7 +35,7 @@ bool WordReader::next() {
   std::size_t position = end_;
   while (position < text_.size()) {
     const char c = text_[position];
-    // Nearly all letters are ASCII, and ICU would take much longer for them.
+    // Nearly all letters are ASCII. ICU would need much more time for ASCII letters.
     if (ascii::isAlphanumeric(c)) {
       if (word_.empty()) begin_ = position;
       word_ += ascii::lowered(c);

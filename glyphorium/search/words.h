@@ -7,22 +7,23 @@
 
 namespace glyph::search {
 
-/// Finds the words of a UTF-8 text one by one. A word is a run of letters and digits; everything else
-/// separates words. The words are folded for comparing: see appendFolded(). The text must outlive the reader.
+/// Reads the words of a UTF-8 text one by one. A word is a sequence of letters and digits. All other
+/// characters separate words. The reader folds the words so that they can be compared: see appendFolded().
+/// The text must outlive the reader.
 class WordReader {
  public:
   explicit WordReader(std::string_view text) : text_(text) {}
 
-  /// Goes to the next word; false if there is none.
+  /// Moves to the next word. Returns false if there are no more words.
   bool next();
 
-  /// The folded word, valid until the next call of next().
+  /// Returns the current word, folded. The view is valid until the next call of next().
   std::string_view word() const { return word_; }
-  /// The part of the text that the word was folded from, in bytes: [begin, end).
+  /// The position of the current word in the text: from byte begin() up to but not including byte end().
   std::size_t begin() const { return begin_; }
   std::size_t end() const { return end_; }
 
-  /// Goes to the begin of another text. Saves the memory allocation that a new reader needs.
+  /// Starts to read another text. This avoids the memory allocation that a new reader needs.
   void restart(std::string_view text) {
     text_ = text;
     end_ = 0;
@@ -37,11 +38,12 @@ class WordReader {
   std::size_t end_ = 0;
 };
 
-/// The words of a text as WordReader finds them, with a space between them.
+/// Returns the folded words of a text, as WordReader reads them, with one space between two words.
 std::string wordsOf(std::string_view text);
 
-/// The form in which texts of signs ("->", "(c)") are compared: in lower case, without spaces. Empty if the
-/// text consists of words and the hyphens, full stops and the like between them: its words are compared then.
+/// Returns the form in which texts that contain signs ("->", "(c)") are compared: in lower case, without
+/// spaces. Returns an empty text if `text` has words and, apart from them, only spaces, hyphens, underscores,
+/// full stops, commas and apostrophes. Such texts are compared word by word.
 std::string signKey(std::string_view text);
 
 }  // namespace glyph::search

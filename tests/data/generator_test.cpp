@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Runs the generator as the build does, on a copy of the sources.
+// Runs the generator as a program, as the build does, on a copy of the sources.
 struct Generation {
   const TemporaryDirectory folder;
   const fs::path sources = folder / "sources";

@@ -14,7 +14,7 @@
 
 namespace glyph::testing {
 
-/// The configured catalog and a Search of it, made once.
+/// The configured catalog and a Search over its entities. Both are created once, on first use.
 struct CatalogSearch {
   std::vector<Entity> entities;
   Search search;
@@ -24,7 +24,7 @@ struct CatalogSearch {
     return made;
   }
 
-  /// The hex codes of the results, best first.
+  /// Returns the hex codes of the results. The best result is first.
   std::vector<std::string> hexes(std::string_view query,
                                  const SearchOptions& options = {100, {{"en"}}, {}}) const {
     std::vector<std::string> result;

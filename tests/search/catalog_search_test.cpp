@@ -23,8 +23,8 @@ std::vector<std::string> hexes(const CatalogSearch& search, const std::string& q
   return found;
 }
 
-// The order must be the one of a single search over both lists, which costs two hundred times as much to
-// make.
+// The results must have the same order as those of a single Search over both lists. But building a
+// single Search takes two hundred times as long.
 TEST(CatalogSearch, FindsTheUsersCharactersWhereOneSearchOverAllWould) {
   const std::vector<std::string> codes{"2192", "05d0", "fffd", "0041,030a", "1f600", "2e3b"};
   const CatalogSearch search(codes);
@@ -70,7 +70,7 @@ TEST(CatalogSearch, GivesTheUsersEntityAndNoticesChanges) {
   EXPECT_EQ(search.entityOfHex("21d2")->name(), "Rightwards Double Arrow");
   for (const char* const unknown : {"", "21D2", "021d2", "fffd", "zzzz"})
     EXPECT_FALSE(search.entityOfHex(unknown)) << unknown;
-  EXPECT_FALSE(search.isCurrent());  // the test's store has none
+  EXPECT_FALSE(search.isCurrent());  // the store of the test contains no added characters
 }
 
 TEST(CatalogSearch, TellsWhatIsMeantFromWhatComesNear) {

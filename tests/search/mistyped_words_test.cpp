@@ -8,8 +8,8 @@
 namespace glyph::search {
 namespace {
 
-// Whether one edit turns one text into the other: a letter left out, put in, replaced, or two neighbours
-// exchanged.
+// Returns whether one edit changes one text into the other. An edit removes, inserts or replaces one letter,
+// or exchanges two neighbouring letters.
 bool isOneEdit(std::string_view a, std::string_view b) {
   if (a.size() > b.size()) std::swap(a, b);
   std::size_t head = 0;
@@ -23,7 +23,8 @@ bool isOneEdit(std::string_view a, std::string_view b) {
          restA.substr(2) == restB.substr(2);
 }
 
-// The walk through the dictionary finds the same words as a comparison with each of its words without digits.
+// addMistypedWords() does not compare a word with every word of the dictionary. It must still find the same
+// words as such a comparison, except words with digits.
 TEST(MistypedWords, AreThoseAtOneEdit) {
   const Index index = openIndex(catalogIndexImage());
   for (const char* const text : {"arow", "arrow", "aarrow", "elipsis", "xarrow", "rokcet", "letterx", "sqare",

@@ -12,8 +12,8 @@ namespace {
 
 using testing::CatalogSearch;
 
-// Entities decoded one by one and the index that the build made equal what a host gets when it configures the
-// catalog and builds a Search of it.
+// Entities that are decoded one by one equal the entities of the configured catalog. The index that the
+// library contains equals the index of a Search that a host builds over the configured catalog.
 
 TEST(PreparedCatalog, EntitiesDecodedAloneAreThoseOfTheConfiguredCatalog) {
   const std::vector<Entity>& entities = CatalogSearch::instance().entities;

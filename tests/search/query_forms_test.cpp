@@ -13,8 +13,8 @@ using testing::CatalogSearch;
 
 struct FormCase {
   const char* query;
-  std::vector<std::string> first;  // the first results
-  SearchField field;               // of the first one
+  std::vector<std::string> first;  // hex codes of the first results
+  SearchField field;               // the field of the first result
 };
 
 TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
@@ -34,8 +34,8 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"\\2192", {"2192"}, SearchField::code},
       {"\\uD83D\\uDE00", {"1f600"}, SearchField::code},
       {"U+2192, U+2190", {"2192", "2190"}, SearchField::code},
-      {"2665", {"2665"}, SearchField::code},          // not U+0A69, decimal 2665
-      {"0169", {"0169", "00a9"}, SearchField::code},  // hexadecimal, decimal
+      {"2665", {"2665"}, SearchField::code},          // not decimal: 2665 is U+0A69
+      {"0169", {"0169", "00a9"}, SearchField::code},  // first as hexadecimal, then as decimal
       {"169", {"00a9", "0169"}, SearchField::code},
       {"U-0001F600", {"1f600"}, SearchField::code},
       {"U+ 2713", {"2713"}, SearchField::code},
@@ -46,7 +46,9 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"chr(0x3bb)", {"03bb"}, SearchField::code},
       {"#8594;", {"2192"}, SearchField::code},
       {"%E2%82%ac%20", {"20ac", "0020"}, SearchField::code},
-      {"\\xE2\\x82\\xAC \\xa9", {"20ac", "00a9"}, SearchField::code},  // UTF-8; a byte that is not
+      {"\\xE2\\x82\\xAC \\xa9",
+       {"20ac", "00a9"},
+       SearchField::code},  // the byte A9 is not part of a UTF-8 sequence
       {"e2 82 ac", {"20ac"}, SearchField::code},
       {"D83D DE02", {"1f602"}, SearchField::code},
       {"2192 2190", {"2192", "2190"}, SearchField::code},
@@ -62,7 +64,7 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"&Rarr;", {"21a0"}, SearchField::htmlName},
       {"rightarrow", {"2192"}, SearchField::htmlName},
       {"RightArrow", {"2192"}, SearchField::htmlName},
-      {"rpar", {"0029"}, SearchField::htmlName},  // the enrichment table has another name
+      {"rpar", {"0029"}, SearchField::htmlName},  // the enrichment table has another reference
       // the characters themselves
       {"→", {"2192"}, SearchField::character},
       {"→←", {"2192", "2190"}, SearchField::character},
@@ -76,7 +78,7 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"👨\u200D👩\u200D👧", {"1f468", "1f469", "1f467"}, SearchField::character},
       {"\u200D", {"200d"}, SearchField::character},
       {"жук", {"0436", "0443", "043a"}, SearchField::character},
-      // signs typed for a character; the signs themselves come behind it
+      // signs that people type in place of a character; the signs themselves come after that character
       {"->", {"2192", "002d", "003e"}, SearchField::searchTerm},
       {"(C)", {"00a9"}, SearchField::searchTerm},
       {"1/2", {"00bd"}, SearchField::searchTerm},
@@ -89,7 +91,7 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"zerowidthjoiner", {"200d"}, SearchField::name},
       {"thumbsup", {"1f44d"}, SearchField::annotation},
       {"lambda", {"03bb"}, SearchField::htmlName},
-      {"latin capital letter gha", {"01a2"}, SearchField::alias},  // a corrected name
+      {"latin capital letter gha", {"01a2"}, SearchField::alias},  // the alias corrects an error in the name
       {"sqrt", {"221a"}, SearchField::searchTerm},
       // a word that is also a code
       {"face", {"263a"}, SearchField::annotation},
@@ -105,12 +107,12 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
   }
 }
 
-// The signs of a code ("&", "#", "+") are not results.
+// The signs that are part of a code ("&", "#", "+") are not results.
 TEST(SearchQueryForms, CodesFindNothingBesides) {
   for (const char* const code : {"U+2192", "\\u2192", "\\u{2192}", "&#8594;", "&#x2192;"})
     EXPECT_EQ(CatalogSearch::instance().hexes(code), std::vector<std::string>{"2192"}) << code;
   EXPECT_EQ(CatalogSearch::instance().hexes("&#"),
-            (std::vector<std::string>{"0026", "0023"}));  // no code yet
+            (std::vector<std::string>{"0026", "0023"}));  // not a complete code, so the signs are results
 }
 
 TEST(SearchQueryForms, EveryHtmlReferenceFindsItsCharacterFirst) {
@@ -121,7 +123,7 @@ TEST(SearchQueryForms, EveryHtmlReferenceFindsItsCharacterFirst) {
     if (facts.kind != SearchFactKind::htmlName) continue;
     for (std::size_t i = 0; i < facts.size(); ++i) {
       const auto index = catalog.search.indexOf(facts[i].codePoint);
-      if (!index) continue;  // not in the catalog
+      if (!index) continue;  // the character is not in the catalog
       std::istringstream texts{std::string(facts[i].texts)};
       for (std::string name; std::getline(texts, name); ++names) {
         const auto found = catalog.search.query("&" + name + ";", {1, {{"en"}}, {}}).results;
@@ -162,7 +164,7 @@ TEST(SearchQueryForms, GroupsKeepTheirOwn) {
   };
   const struct {
     const char* query;
-    std::vector<std::string> groups;  // in the options
+    std::vector<std::string> groups;  // SearchOptions::groups
     std::size_t total;
     const char* first;
   } cases[] = {

@@ -35,7 +35,8 @@ std::vector<ListedQuery> listedQueries() {
   return queries;
 }
 
-// The place of the first wanted character, from 1; 0 if none is found.
+// Returns the place of the first wanted character in the results, starting at 1. Returns 0 if no wanted
+// character was found.
 std::size_t placeOf(const ListedQuery& query, const std::vector<std::string>& found) {
   for (std::size_t i = 0; i < found.size(); ++i) {
     if (("," + query.wanted + ",").find("," + found[i] + ",") != std::string::npos) return i + 1;
@@ -43,8 +44,9 @@ std::size_t placeOf(const ListedQuery& query, const std::vector<std::string>& fo
   return 0;
 }
 
-// The queries that do not find a wanted character first, with its place. A change that mends one takes it off
-// this list; a change that adds one must be worth it.
+// The queries whose first result is not a wanted character, with the place of the first wanted character. If
+// a change improves a query so that it finds a wanted character first, remove the query from this list. Add a
+// query only if the benefit of a change is worth it.
 const std::map<std::string, std::size_t> knownMisses{
     {"aproximately equal", 2},
     {"box corner top left", 2},
@@ -58,7 +60,7 @@ const std::map<std::string, std::size_t> knownMisses{
     {"étoiles", 2},
 };
 
-// The list says what people look for. It was written without regard to what the search finds.
+// The queries in the list are those that people type. They were not chosen to suit the search.
 TEST(SearchQueryList, EachQueryFindsItsCharacterFirstButForKnownMisses) {
   const std::vector<ListedQuery> queries = listedQueries();
   ASSERT_GE(queries.size(), 815u);

@@ -29,18 +29,18 @@ TEST(SearchRanking, TypingOnKeepsTheBestResult) {
 TEST(SearchRanking, TyposAreCorrectedOnlyWhereNothingElseMatches) {
   const struct {
     const char* query;
-    const char* first;  // nullptr: nothing is found
+    const char* first;  // nullptr if nothing is found
     bool approximate;
   } cases[] = {
-      {"arow", "2192", true},    // left out
-      {"arrrow", "2192", true},  // put in
-      {"orrow", "2192", true},   // replaced, at the front
-      {"arrwo", "2192", true},   // exchanged
+      {"arow", "2192", true},    // a letter is missing
+      {"arrrow", "2192", true},  // an additional letter
+      {"orrow", "2192", true},   // a wrong first letter
+      {"arrwo", "2192", true},   // two letters are exchanged
       {"rokcet", "1f680", true},    {"black haert", "1f5a4", true},
-      {"elipsi", "2026", true},  // and incomplete
+      {"elipsi", "2026", true},  // mistyped and incomplete
       {"arrow", "2192", false},     {"dagger", "2020", false},
       {"arrrrow", nullptr, false},   // two edits
-      {"xqz", nullptr, false},       // too short to correct
+      {"xqz", nullptr, false},       // too short for corrections
       {"99999999", nullptr, false},  // numbers are not corrected
   };
   for (const auto& test : cases) {
@@ -55,16 +55,16 @@ TEST(SearchRanking, WordsAreLeftOutWhereNoCharacterMatchesAll) {
   const struct {
     const char* query;
     const char* language;
-    const char* first;  // nullptr: nothing is found
+    const char* first;  // nullptr if nothing is found
   } cases[] = {
-      {"face with tears and joy", "en", "1f602"},  // function words
-      {"purple qzwxv snowman", "en", "2603"},      // an unknown word
-      {"frozen snwman", "en", "2603"},             // beside a mistyped word
-      {"square anchor", "en", "2693"},             // the word that describes the noun
-      {"ancla cuadrada", "es", "2693"},            // which is the second word in Spanish
+      {"face with tears and joy", "en", "1f602"},  // leaves out function words
+      {"purple qzwxv snowman", "en", "2603"},      // leaves out an unknown word
+      {"frozen snwman", "en", "2603"},             // the other word is mistyped
+      {"square anchor", "en", "2693"},             // leaves out the word that describes the noun
+      {"ancla cuadrada", "es", "2693"},            // in Spanish, this is the second word
       {"pfeil nach rechts", "de", "2192"},
-      {"Geburtstagstorte", "de", "1f382"},           // linking letters
-      {"qzwxv vxzwq zzqqv snowman", "en", nullptr},  // one word of four is too little
+      {"Geburtstagstorte", "de", "1f382"},           // a linking letter joins the parts of the word
+      {"qzwxv vxzwq zzqqv snowman", "en", nullptr},  // one matching word of four is not enough
   };
   for (const auto& test : cases) {
     const auto hexes = CatalogSearch::instance().hexes(test.query, {100, {{test.language}}, {}});
@@ -84,7 +84,7 @@ TEST(SearchRanking, UnicodeComesBeforeSFSymbolsOfEqualMatch) {
 TEST(SearchRanking, HighlightsWhatMatchesOfTheName) {
   const struct {
     const char* query;
-    const char* name;  // with the ranges in brackets
+    const char* name;  // brackets enclose the ranges
   } cases[] = {
       {"rightwards arrow", "[Rightwards] [Arrow]"},
       {"right arr", "[Right]wards [Arr]ow"},
@@ -127,8 +127,8 @@ TEST(SearchRanking, ReportsEachCharacterOnceAndAllInTheTotal) {
   }
 }
 
-// The name of a character finds it. Only characters with the same name, or with another text that is equal to
-// it, may come before it.
+// A query for the name of a character finds this character. Only characters that have the same name, or have
+// another text that equals the name, may come before this character.
 TEST(SearchRanking, EveryNameFindsItsCharacter) {
   const CatalogSearch& catalog = CatalogSearch::instance();
   const auto loose = [](std::string name) {
@@ -147,7 +147,7 @@ TEST(SearchRanking, EveryNameFindsItsCharacter) {
       reached = other == entity;
       if (reached) break;
       const bool calledSo = result.field != SearchField::name || loose(other.name()) == loose(name);
-      // SF Symbols come behind Unicode: "Bell" behind "Bell Symbol".
+      // SF Symbols come after Unicode characters: "Bell" comes after "Bell Symbol".
       EXPECT_TRUE(calledSo || entity.computed.isSFSymbol.value_or(false))
           << entity.computed.hex << " " << name << ": " << other.name();
     }

@@ -24,9 +24,9 @@ TEST(SearchRobustness, HostileTextsAreAnswered) {
       std::string(1, '\0'),
       std::string("arrow\0arrow", 11),
       "\xFF\xFE",
-      "\xE2\x86",      // cut off
+      "\xE2\x86",      // a truncated sequence
       "\xED\xA0\x80",  // a surrogate
-      "arrow\xC3",     // cut off behind a word
+      "arrow\xC3",     // a truncated sequence after a word
       std::string(1 << 20, 'a'),
       std::string(1 << 20, ' '),
       std::string(1 << 20, '&'),
@@ -56,9 +56,9 @@ TEST(SearchRobustness, HostileTextsAreAnswered) {
 TEST(SearchRobustness, OddListsAreSearched) {
   EXPECT_EQ(Search({}).query("arrow").total, 0u);
   std::vector<Entity> entities(3);
-  entities[0].computed.hex = "0041,030a";  // not one code point
+  entities[0].computed.hex = "0041,030a";  // two code points
   entities[0].computed.fallbackName = "Two Of Them";
-  entities[1].computed.hex = "2192";  // without name and group, but it has annotations
+  entities[1].computed.hex = "2192";  // has annotations, but no name and no group
   entities[2].computed.hex = "";
   const Search search(entities);
   EXPECT_EQ(search.query("two them", {10, {{"en"}}, {}}).total, 1u);
@@ -92,7 +92,8 @@ TEST(SearchRobustness, TenThousandQueriesLeaveMemoryFlat) {
     for (std::size_t i = 0; i < count; ++i) {
       const std::string name = catalog.entities[i * 7919 % catalog.entities.size()].name();
       catalog.search.query(name.substr(0, 1 + i % 12));
-      if (i % 50 == 0) catalog.search.query(name + "x");  // nothing matches: the search tries other spellings
+      // Nothing matches this query, so the search tries other spellings.
+      if (i % 50 == 0) catalog.search.query(name + "x");
     }
   };
   round(500);

@@ -11,15 +11,15 @@ TEST(SearchWords, AreFoldedInAllOfLatinAndSeparated) {
     const char* text;
     const char* words;
   } cases[] = {
-      {"ARRÖW arrọw arrǭw", "arrow arrow arrow"},            // one and two diacritics, from three blocks
-      {"fle\u0300che fle\u0300\u0323che", "fleche fleche"},  // behind their letters
+      {"ARRÖW arrọw arrǭw", "arrow arrow arrow"},            // one or two diacritics, from three blocks
+      {"fle\u0300che fle\u0300\u0323che", "fleche fleche"},  // combining diacritics
       {"ŁÓDŹ Đorđe Þór œuvre Æsir ǽ ǿ İı", "lodz dorde thor oeuvre aesir ae o ii"},
       {"STRAẞE Straße", "strasse strasse"},
       {"\u212Bngström", "angstrom"},       // ANGSTROM SIGN
       {"Стрелка ΒΈΛΟΣ", "стрелка βέλοσ"},  // other scripts keep their letters
       {"no-break_space l’œil", "no break space l oeil"},
       {"\u0301a × 2 ÷", "a 2"},
-      {"a\xFF\xC3z\xE2\x86", "a z"},  // ill-formed bytes separate
+      {"a\xFF\xC3z\xE2\x86", "a z"},  // ill-formed bytes separate words
       {"→", ""},
   };
   for (const auto& test : cases) EXPECT_EQ(wordsOf(test.text), test.words) << test.text;

@@ -14,7 +14,7 @@ namespace glyph::generator {
 namespace {
 
 struct Row {
-  std::map<std::string, std::string> notes;  // by language
+  std::map<std::string, std::string> notes;  // maps a language to the text of the note
   std::string htmlNamed;
   std::string betterName;
   std::string imageName;
@@ -22,10 +22,12 @@ struct Row {
   std::vector<std::string> searchTerms;
 };
 
-// All rows of a code point, in table order: one, or one for each of its lines of search terms.
+// The rows of each code point, in the order of the table. A code point has one row for each of its lines of
+// search terms, and at least one row.
 using RowsByHex = std::map<std::string, std::vector<Row>>;
 
-// The row of a code point that carries everything but further search terms.
+// Returns the last row of a code point, and adds a row if the code point has none. Notes, references and
+// attributes are in this row. The other rows contain only search terms.
 Row& mainRow(RowsByHex& rows, const std::string& hex) {
   std::vector<Row>& all = rows[hex];
   if (all.empty()) all.emplace_back();
@@ -97,8 +99,8 @@ void readAttributes(const std::filesystem::path& file, RowsByHex& rows) {
   }
 }
 
-// Fails where a line of a note breaks the form of the notes. `before` is the line above it, which may be the
-// heading.
+// Fails if a line of a note breaks a rule for the form of notes. `before` is the line above `line`, which may
+// be the heading.
 void requireNoteForm(const Place& place, const Language& language, const std::string& before,
                      const std::string& line) {
   requirePlainText(place, line);
@@ -113,7 +115,7 @@ void requireNoteForm(const Place& place, const Language& language, const std::st
   } else if (!before.empty()) {
     place.fail("follows text without an empty line, but does not begin with '• '");
   }
-  // The straight apostrophe may stand only where a note is about it, with its code.
+  // A straight apostrophe is allowed only in a text about this character, followed by its code.
   for (std::size_t i = line.find('\''); i != std::string::npos; i = line.find('\'', i + 1)) {
     if (line.compare(i, 8, "' (0027)") != 0) place.fail("holds a straight quotation mark");
   }
@@ -185,7 +187,8 @@ std::string jsonText(std::string_view text) {
   return json + '"';
 }
 
-// The elements of an array in two-space indentation, one a line; an empty array keeps a line of blanks.
+// Returns a JSON array with one element per line and an indentation of two spaces per level. An empty array
+// has a line of spaces between its brackets.
 std::string jsonArray(const std::vector<std::string>& elements) {
   std::string json = "[\n      ";
   for (std::size_t i = 0; i < elements.size(); ++i) json += (i ? ",\n      " : "") + elements[i];
@@ -238,7 +241,7 @@ void noteFigures(const RowsByHex& rows, const NameTable& names, const std::set<c
 
 EnrichmentTable makeTable(const RowsByHex& rows, const std::vector<Language>& languages) {
   EnrichmentTable table{"[\n", 0, {}};
-  for (const auto& [hex, all] : rows) {  // std::map holds them in the order of the hex text
+  for (const auto& [hex, all] : rows) {  // std::map is sorted by the hex text
     for (const Row& row : all) {
       if (table.rows++ > 0) table.json += ",\n";
       if (&row == &all.front())
@@ -257,7 +260,8 @@ EnrichmentTable makeEnrichmentTable(const std::filesystem::path& sources,
                                     const std::set<char32_t>& configured, Figures& figures) {
   const std::filesystem::path folder = sources / "enrichment";
   RowsByHex rows;
-  readSearchTerms(folder / "search-terms.tsv", rows);  // first: it decides how many rows a code point has
+  // Must be first, because the search terms decide how many rows a code point has.
+  readSearchTerms(folder / "search-terms.tsv", rows);
   readReferences(folder / "html-references.tsv", rows, figures);
   readAttributes(folder / "attributes.tsv", rows);
   const auto addNotes = [&](bool counted) {

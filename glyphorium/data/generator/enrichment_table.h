@@ -17,10 +17,12 @@ namespace glyph::generator {
 struct EnrichmentTable {
   std::string json;
   std::size_t rows;
-  std::vector<std::pair<char32_t, std::uint32_t>> index;  ///< where the first row of a code point begins
+  /// For each code point, the offset in `json` at which its first row begins.
+  std::vector<std::pair<char32_t, std::uint32_t>> index;
 };
 
-/// `configured` are the code points of the tables that configure() decodes. Records the figures of the table.
+/// Builds the enrichment table from the files in enrichment/ and records its figures. `configured` contains
+/// the code points of the tables that configure() decodes. Throws SourceError if a source breaks a rule.
 EnrichmentTable makeEnrichmentTable(const std::filesystem::path& sources,
                                     const std::vector<Language>& languages, const NameTable& names,
                                     const std::set<char32_t>& configured, Figures& figures);

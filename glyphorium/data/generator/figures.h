@@ -10,15 +10,16 @@
 
 namespace glyph::generator {
 
-/// Sizes and counts of the generated texts, compared with figures.tsv.
+/// Sizes and counts of the generated texts. They are compared with the values in figures.tsv.
 class Figures {
  public:
   explicit Figures(const std::filesystem::path& sources);
 
-  /// Records the value of a figure.
+  /// Records the value that a figure has in the generated texts.
   void reached(const std::string& figure, std::size_t value) { reached_[figure] = value; }
 
-  /// Fails if a value differs from the file, or if only one of the two has a figure. Names all such figures.
+  /// Throws SourceError if a recorded value differs from the value in the file, if a figure of the file was
+  /// not recorded, or if a recorded figure is not in the file. The message lists all such figures.
   void check() const;
 
  private:

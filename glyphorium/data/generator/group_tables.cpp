@@ -30,7 +30,8 @@ constexpr std::array<std::string_view, 8> groupKinds{"common-signs", "other-sign
                                                      "script",       "modifiers",   "lookalikes",
                                                      "private-use",  "selection"};
 
-// Whether a column holds `yes`. Fails if it holds neither `yes` nor `no`.
+// Returns true if the column contains `yes`, and false if it contains `no`. Fails if it contains another
+// text.
 bool choose(const SourceLine& line, Column column, std::string_view yes, std::string_view no) {
   if (line.columns[column] != yes && line.columns[column] != no) {
     line.fail("'" + line.columns[column] + "' must be '" + std::string(yes) + "' or '" + std::string(no) +
@@ -67,8 +68,8 @@ std::vector<char32_t> readBlock(const SourceLine& line, const NameTable& names) 
   return members;
 }
 
-// The symbols of U+0022 and U+005C are not escaped either. Readers of this table repair these two rows before
-// they parse it, and that repair would damage an escaped symbol.
+// Does not escape any symbol, not even those of U+0022 and U+005C. Readers of the table repair these two rows
+// before they parse the table. The repair would damage an escaped symbol.
 std::string rowJson(char32_t codePoint, const std::string& name, const std::string& group, bool isSymbol) {
   const std::string hex = hexText(codePoint);
   const std::string decimal = std::to_string(static_cast<std::uint32_t>(codePoint));

@@ -9,18 +9,17 @@
 
 namespace glyph::generator {
 
-/// A group table.
 struct GroupTable {
-  std::string constant;
+  std::string constant;  ///< the name of the text constant
   std::string group;
-  bool configured;   ///< configure() decodes it
-  std::string kind;  ///< of the group, for the ranking of the search
+  bool configured;   ///< whether configure() decodes the table
+  std::string kind;  ///< the kind of the group, for the ranking of the search
   std::vector<char32_t> members;
   std::string json;
-  std::vector<std::size_t> rowOffsets;  ///< where each member's object begins in `json`
+  std::vector<std::size_t> rowOffsets;  ///< the offsets in `json` at which the objects of the members begin
 };
 
-/// All tables in the order of groups.tsv.
+/// Returns all tables in the order of groups.tsv. Throws SourceError if a source breaks a rule.
 std::vector<GroupTable> makeGroupTables(const std::filesystem::path& sources, const NameTable& names);
 
 }  // namespace glyph::generator

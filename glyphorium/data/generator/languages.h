@@ -11,20 +11,23 @@ namespace glyph::generator {
 
 /// A line of languages.tsv.
 struct Language {
-  std::string code;  ///< BCP 47
-  std::size_t annotationTexts;
-  bool notesAreCounted;  ///< by the figures of the enrichment table
-  /// Characters with which a line of a note must not be broken: before those of the first text and behind
-  /// those of the second one, notes have no-break spaces or none.
+  std::string code;             ///< BCP 47
+  std::size_t annotationTexts;  ///< the number of texts that the language's annotations must have
+  bool notesAreCounted;         ///< whether the figures of the enrichment table include the language's notes
+  /// Characters that a line break must not separate from the neighbouring text. Notes must not have an
+  /// ordinary space before a character of unbreakableBefore or after a character of unbreakableBehind. A
+  /// no-break space is allowed, and no space at all is allowed, too.
   std::u32string unbreakableBefore, unbreakableBehind;
   Place place;
 };
 
-/// The languages in the order of languages.tsv. All files of a language are optional. Fails if the sources
-/// have a file of another language, which would be ignored.
+/// Returns the languages in the order of languages.tsv. All files of a language are optional. Throws
+/// SourceError if the sources contain a file of a language that is not in languages.tsv. Such a file would be
+/// ignored.
 std::vector<Language> readLanguages(const std::filesystem::path& sources);
 
-/// The file of a kind ("synonyms") and language below search/, or an empty path if there is none.
+/// Returns the path of a language's file in search/. `kind` is the first part of the file name ("synonyms").
+/// Returns an empty path if there is no such file.
 std::filesystem::path searchFile(const std::filesystem::path& sources, const std::string& kind,
                                  const Language& language);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Turns the sources of the embedded texts into constants of the library. The build runs it. It stops the
-// build if a source breaks a rule or a figure differs.
+// A program that converts the sources of the embedded texts to constants of the library. The build runs it.
+// The program fails, and so stops the build, if a source breaks a rule or if a figure differs.
 #include <cstdio>
 #include <exception>
 #include <set>

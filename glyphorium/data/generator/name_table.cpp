@@ -81,7 +81,7 @@ NameTable::Text NameTable::text() const {
   text.fragmentSize = text.json.size() - text.fragmentOffset;
   text.json += "\n]";
 
-  // The sort is stable, so the first entry of a code point is the one that stays.
+  // The sort is stable, so std::unique() keeps the first entry of each code point.
   std::stable_sort(text.index.begin(), text.index.end(), [](auto& a, auto& b) { return a.first < b.first; });
   const auto sameCodePoint = [](auto& a, auto& b) { return a.first == b.first; };
   text.index.erase(std::unique(text.index.begin(), text.index.end(), sameCodePoint), text.index.end());

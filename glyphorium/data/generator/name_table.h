@@ -12,9 +12,10 @@
 
 namespace glyph::generator {
 
-/// The names of all code points, and the Unicode name table made of them.
+/// The names of all code points, and the Unicode name table that contains these names.
 class NameTable {
  public:
+  /// Reads the names from the sources. Throws SourceError if a source breaks a rule.
   explicit NameTable(const std::filesystem::path& sources);
 
   struct Entry {
@@ -22,21 +23,22 @@ class NameTable {
     std::string name;
     Place place;
   };
-  /// In the order of the character data file.
+  /// Returns the Unicode entries in the order of the character data file.
   const std::vector<Entry>& unicode() const { return unicode_; }
-  /// In the order of the symbol library.
+  /// Returns the SF Symbols in the order of the symbol library.
   const std::vector<Entry>& symbols() const { return symbols_; }
 
-  /// The first entry of the code point in the table (Unicode is before SF Symbols), or nullptr.
+  /// Returns the first entry of the code point in the table, where Unicode entries precede SF Symbols.
+  /// Returns nullptr if the code point has no entry.
   const Entry* find(char32_t codePoint) const;
   bool isSymbol(char32_t codePoint) const { return symbolPlaces_.contains(codePoint); }
 
-  /// The JSON array of all entries: those of Unicode, the SF Symbols, the closing bracket.
+  /// The name table as JSON text.
   struct Text {
-    std::string json;
-    std::size_t fragmentOffset;  ///< of the SF Symbols in json
-    std::size_t fragmentSize;
-    /// Code points, and the offset in json of the name in the first entry.
+    std::string json;            ///< the array of all entries: first those of Unicode, then the SF Symbols
+    std::size_t fragmentOffset;  ///< offset in `json` of the SF Symbols
+    std::size_t fragmentSize;    ///< size of the SF Symbols, without the closing bracket
+    /// Each code point with the offset in `json` of the name in its first entry, in ascending order.
     std::vector<std::pair<char32_t, std::uint32_t>> index;
   };
   Text text() const;

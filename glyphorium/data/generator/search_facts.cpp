@@ -18,7 +18,8 @@ using Facts = std::map<char32_t, std::vector<std::string>>;
 
 constexpr std::size_t manyColumns = 64;
 
-// The code point of a line. It must have a name and must not be smaller than that of the line before.
+// Returns the code point of a line. Fails if the code point has no name or is smaller than `previous`. Then
+// sets `previous` to the code point.
 char32_t orderedCodePoint(const SourceLine& line, const NameTable& names, char32_t& previous) {
   const char32_t codePoint = line.codePoint(0, false);
   if (codePoint < previous) line.fail("is out of order");
@@ -36,7 +37,7 @@ void requireDistinctTexts(const SourceLine& line, std::size_t firstColumn, bool 
   if (std::adjacent_find(texts.begin(), texts.end()) != texts.end()) line.fail("holds a text twice");
 }
 
-// Each line has a code point and its texts.
+// Reads a file in which each line has a code point and the texts of that code point.
 Facts readFacts(const std::filesystem::path& file, const NameTable& names, bool firstMayBeEmpty) {
   Facts facts;
   char32_t previous = 0;
@@ -77,7 +78,7 @@ Facts readHtmlNames(const std::filesystem::path& file) {
   return facts;
 }
 
-// The text of a code point is its position in the file, from 0, in digits.
+// The text of each code point is its position in the file, as a decimal number that starts at 0.
 Facts readMostWanted(const std::filesystem::path& file, const NameTable& names) {
   Facts facts;
   std::size_t place = 0;
@@ -90,7 +91,7 @@ Facts readMostWanted(const std::filesystem::path& file, const NameTable& names) 
   return facts;
 }
 
-// The lines without the comments.
+// Returns the lines of the file without the comments.
 std::string readSynonyms(const std::filesystem::path& file) {
   std::string text;
   std::string previous;
@@ -122,7 +123,8 @@ std::size_t count(const Facts& facts) {
 void addSearchFacts(const std::filesystem::path& sources, const std::vector<Language>& languages,
                     const NameTable& names, EmbeddedImage& image, Figures& figures) {
   const std::filesystem::path folder = sources / "search";
-  // Imported lists have a figure, so that no text of theirs gets lost. This project's own lists grow.
+  // The number of texts in an imported list is checked, so that no text gets lost. This project's own lists
+  // grow, so their numbers are not checked.
   const Facts aliases = readAliases(folder / "name-aliases.tsv", names);
   image.addSearchFacts("alias", "", aliases);
   figures.reached("name aliases", count(aliases));

@@ -7,7 +7,7 @@
 
 namespace glyph::generator {
 
-/// What search/grammar.LANGUAGE.tsv says of a language. See SearchLanguage for the form of the texts.
+/// The rules of a language in search/grammar.LANGUAGE.tsv. See SearchLanguage for the form of the texts.
 struct SearchGrammar {
   std::set<std::string> stopWords;
   std::set<std::string> functionWords;
@@ -17,9 +17,10 @@ struct SearchGrammar {
   bool headFirst = false;
 };
 
+/// Reads a grammar file. Throws SourceError if a line breaks a rule.
 SearchGrammar readGrammar(const std::filesystem::path& file);
 
-/// The words, each with a line feed behind it.
+/// Returns the words in ascending order, each followed by a line feed.
 std::string lines(const std::set<std::string>& words);
 
 }  // namespace glyph::generator

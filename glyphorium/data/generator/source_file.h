@@ -8,7 +8,8 @@
 #include <string_view>
 #include <vector>
 
-/// Reading of source files. Errors name the file and the line in the form that compilers use.
+/// Functions that read source files. Error messages contain the file and the line in the form that compilers
+/// use. In this folder, "fails" means that a function throws SourceError with such a message.
 namespace glyph::generator {
 
 struct SourceError : std::runtime_error {
@@ -18,38 +19,39 @@ struct SourceError : std::runtime_error {
 /// A line of a file, for error messages.
 struct Place {
   std::filesystem::path file;
-  std::size_t line = 0;  ///< from 1; 0: the file as a whole
+  std::size_t line = 0;  ///< line number, starting at 1; 0 means the whole file
 
   [[noreturn]] void fail(const std::string& message) const;
 };
 
-/// The columns of a line.
+/// A line of a table, split into columns.
 struct SourceLine {
   Place place;
   std::vector<std::string> columns;
 
   [[noreturn]] void fail(const std::string& message) const { place.fail(message); }
-  /// The code point in a column. Fails unless it is written in hexadecimal digits of the given case, padded
-  /// with zeros to four digits and no further.
+  /// Returns the code point in a column. The column must have hexadecimal digits of the given letter case. It
+  /// must have at least four digits, and leading zeros only to reach four digits. Fails otherwise.
   char32_t codePoint(std::size_t column, bool upperCase) const;
-  /// The decimal number in a column; fails unless it is one of at most 32 bits.
+  /// Returns the decimal number in a column. Fails if the column is not an unsigned number of at most 32
+  /// bits.
   std::size_t number(std::size_t column) const;
 };
 
-/// The lines of a file, without the comments, which begin with "# ". Columns are separated by one tab. Fails
-/// on an empty line, on a space at the begin or end of a column, on a line with fewer or more columns than
-/// allowed, and where readLines() fails.
+/// Returns the lines of a file without the comments, which are lines that begin with "# ". One tab separates
+/// two columns. Fails if readLines() fails, if a line is empty, if a column begins or ends with a space, or
+/// if a line has fewer than `minColumns` or more than `maxColumns` columns.
 std::vector<SourceLine> readTable(const std::filesystem::path& file, std::size_t minColumns,
                                   std::size_t maxColumns);
 
-/// All lines without their line feeds. Fails on ill-formed UTF-8, a carriage return, and a missing line feed
-/// at the end of the file.
+/// Returns all lines without their line feeds. Fails if the file cannot be read, contains ill-formed UTF-8 or
+/// a carriage return, or does not end with a line feed.
 std::vector<std::string> readLines(const std::filesystem::path& file);
 
-/// "0041" or "1f600": lower-case hexadecimal, padded to four digits.
+/// Returns the code point in lower-case hexadecimal digits, padded to four digits: "0041" or "1f600".
 std::string hexText(char32_t codePoint);
 
-/// The same in upper case: "1F600".
+/// Returns the code point in upper-case hexadecimal digits, padded to four digits: "0041" or "1F600".
 std::string upperHexText(char32_t codePoint);
 
 }  // namespace glyph::generator

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Builds the search index of the catalog, so that a program does not wait for that at run time. The build
-// runs it. It has the code of the library in it.
+// A program that builds the search index of the catalog. The build runs this program, so that other programs
+// need not build the index at run time. It is linked with the code of the library.
 #include <cstdio>
 #include <exception>
 
@@ -8,7 +8,8 @@
 #include "glyphorium/data/generator/output_file.h"
 #include "glyphorium/search/index_building.h"
 
-// The library's code refers to the index that this program is to make. It does not read it here.
+// The library's code refers to the index that this program creates. These definitions satisfy the linker.
+// This program never reads them.
 extern "C" {
 extern const std::byte glyphoriumSearchIndex[];
 extern const std::byte glyphoriumSearchIndexEnd[];
