@@ -85,7 +85,7 @@ TEST(Generator, StopsTheBuildAtAFaultySourceWithFileAndLine) {
   }
 }
 
-TEST(Generator, TakesAnotherLanguageFromOneLineAndDataFiles) {
+TEST(Generator, NeedsOneLineAndDataFilesForANewLanguage) {
   const Generation generation;
   const fs::path& sources = generation.sources;
   writeFile(sources / "languages.tsv", fileContent(sources / "languages.tsv") + "pt\t3\tgrowing\n");

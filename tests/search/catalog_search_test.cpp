@@ -25,7 +25,7 @@ std::vector<std::string> hexes(const CatalogSearch& search, const std::string& q
 
 // The results must have the same order as those of a single Search over both lists. But building a
 // single Search takes two hundred times as long.
-TEST(CatalogSearch, FindsTheUsersCharactersWhereOneSearchOverAllWould) {
+TEST(CatalogSearch, RanksResultsLikeASingleSearchOverBothLists) {
   const std::vector<std::string> codes{"2192", "05d0", "fffd", "0041,030a", "1f600", "2e3b"};
   const CatalogSearch search(codes);
   std::vector<Entity> all = customEntities(codes);
@@ -61,7 +61,7 @@ TEST(CatalogSearch, FindsTheUsersCharactersWhereOneSearchOverAllWould) {
   }
 }
 
-TEST(CatalogSearch, GivesTheUsersEntityAndNoticesChanges) {
+TEST(CatalogSearch, PrefersEntitiesOfTheUserAndNoticesChanges) {
   const CatalogSearch search({"2192", "0041,030a"});
   const SearchResult arrow = search.query("→", english).results.front();
   EXPECT_TRUE(search.isAdded(arrow));
@@ -73,7 +73,7 @@ TEST(CatalogSearch, GivesTheUsersEntityAndNoticesChanges) {
   EXPECT_FALSE(search.isCurrent());  // the store of the test contains no added characters
 }
 
-TEST(CatalogSearch, TellsWhatIsMeantFromWhatComesNear) {
+TEST(CatalogSearch, MarksOnlyExactMatchesAsExact) {
   const CatalogSearch search{std::vector<std::string>()};
   const std::pair<const char*, bool> queries[] = {
       {"→", true},        {"U+2192", true},  {"rightwards arrow", true},

@@ -25,7 +25,7 @@ bool isOneEdit(std::string_view a, std::string_view b) {
 
 // addMistypedWords() does not compare a word with every word of the dictionary. It must still find the same
 // words as such a comparison, except words with digits.
-TEST(MistypedWords, AreThoseAtOneEdit) {
+TEST(MistypedWords, AreAllWordsThatDifferByOneEdit) {
   const Index index = openIndex(catalogIndexImage());
   for (const char* const text : {"arow", "arrow", "aarrow", "elipsis", "xarrow", "rokcet", "letterx", "sqare",
                                  "quostion", "teh1", "circel", "starr", "zzzz", "heart"}) {

@@ -15,7 +15,7 @@ using testing::CatalogSearch;
 // Entities that are decoded one by one equal the entities of the configured catalog. The index that the
 // library contains equals the index of a Search that a host builds over the configured catalog.
 
-TEST(PreparedCatalog, EntitiesDecodedAloneAreThoseOfTheConfiguredCatalog) {
+TEST(PreparedCatalog, EntitiesDecodedOneByOneEqualThoseOfTheConfiguredCatalog) {
   const std::vector<Entity>& entities = CatalogSearch::instance().entities;
   std::size_t enriched = 0;
   for (std::size_t place = 0; place < entities.size(); ++place) {
@@ -32,7 +32,7 @@ TEST(PreparedCatalog, EntitiesDecodedAloneAreThoseOfTheConfiguredCatalog) {
   EXPECT_FALSE(buildInEntity(SIZE_MAX));
 }
 
-TEST(PreparedCatalog, IndexIsTheOneThatBuildingMakes) {
+TEST(PreparedCatalog, IndexInTheLibraryEqualsANewlyBuiltIndex) {
   const search::IndexImage built = search::buildIndex(CatalogSearch::instance().entities);
   EXPECT_TRUE(std::ranges::equal(built, search::catalogIndexImage()));
   const auto found = Search::ofCatalog().query("leftwards double arrow", {1, {{"en"}}, {}}).results;

@@ -108,7 +108,7 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
 }
 
 // The signs that are part of a code ("&", "#", "+") are not results.
-TEST(SearchQueryForms, CodesFindNothingBesides) {
+TEST(SearchQueryForms, CodeFindsOnlyItsCharacter) {
   for (const char* const code : {"U+2192", "\\u2192", "\\u{2192}", "&#8594;", "&#x2192;"})
     EXPECT_EQ(CatalogSearch::instance().hexes(code), std::vector<std::string>{"2192"}) << code;
   EXPECT_EQ(CatalogSearch::instance().hexes("&#"),
@@ -155,7 +155,7 @@ TEST(SearchQueryForms, WordsOfTheUsersLanguagesFindCharacters) {
   }
 }
 
-TEST(SearchQueryForms, GroupsKeepTheirOwn) {
+TEST(SearchQueryForms, GroupRestrictsTheResults) {
   const CatalogSearch& catalog = CatalogSearch::instance();
   const auto inGroup = [&](std::string_view group) {
     return static_cast<std::size_t>(

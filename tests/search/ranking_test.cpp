@@ -12,7 +12,7 @@ using testing::CatalogSearch;
 
 const SearchOptions english{100, {{"en"}}, {}};
 
-TEST(SearchRanking, TypingOnKeepsTheBestResult) {
+TEST(SearchRanking, BestResultStaysFirstWhileTheUserTypesMoreLetters) {
   for (const auto& [word, hex, least] : {std::tuple{"arrow", "2192", 3},
                                          {"ellipsis", "2026", 4},
                                          {"rocket", "1f680", 5},
@@ -26,7 +26,7 @@ TEST(SearchRanking, TypingOnKeepsTheBestResult) {
   }
 }
 
-TEST(SearchRanking, TyposAreCorrectedOnlyWhereNothingElseMatches) {
+TEST(SearchRanking, TyposAreCorrectedOnlyIfNothingElseMatches) {
   const struct {
     const char* query;
     const char* first;  // nullptr if nothing is found
@@ -51,7 +51,7 @@ TEST(SearchRanking, TyposAreCorrectedOnlyWhereNothingElseMatches) {
   }
 }
 
-TEST(SearchRanking, WordsAreLeftOutWhereNoCharacterMatchesAll) {
+TEST(SearchRanking, WordsAreLeftOutIfNoCharacterMatchesAllOfThem) {
   const struct {
     const char* query;
     const char* language;
@@ -72,7 +72,7 @@ TEST(SearchRanking, WordsAreLeftOutWhereNoCharacterMatchesAll) {
   }
 }
 
-TEST(SearchRanking, UnicodeComesBeforeSFSymbolsOfEqualMatch) {
+TEST(SearchRanking, UnicodeCharactersPrecedeEquallyGoodSFSymbols) {
   for (const char* const query : {"heart", "star", "trash", "pencil", "scissors", "bell", "envelope"}) {
     const auto hexes = CatalogSearch::instance().hexes(query);
     ASSERT_FALSE(hexes.empty()) << query;
@@ -81,7 +81,7 @@ TEST(SearchRanking, UnicodeComesBeforeSFSymbolsOfEqualMatch) {
   }
 }
 
-TEST(SearchRanking, HighlightsWhatMatchesOfTheName) {
+TEST(SearchRanking, HighlightsTheMatchingPartsOfTheName) {
   const struct {
     const char* query;
     const char* name;  // brackets enclose the ranges
@@ -107,7 +107,7 @@ TEST(SearchRanking, HighlightsWhatMatchesOfTheName) {
   }
 }
 
-TEST(SearchRanking, ReportsEachCharacterOnceAndAllInTheTotal) {
+TEST(SearchRanking, ReportsEachCharacterOnceAndCountsAllInTheTotal) {
   const CatalogSearch& catalog = CatalogSearch::instance();
   for (const char* const query : {"a", "letter", "arrow", "→ arrow", "group:emoji", "2192", "rarr"}) {
     const SearchResults all = catalog.search.query(query, {100000, {{"en"}}, {}});

@@ -12,7 +12,7 @@ namespace {
 
 using testing::CatalogSearch;
 
-TEST(SearchRobustness, HostileTextsAreAnswered) {
+TEST(SearchRobustness, HostileTextsCauseNoErrors) {
   std::string manyWords;
   for (int i = 0; i < 20000; ++i) manyWords += "arrow rightwrads emdash ";
   const std::string longCluster = "e" + [] {
@@ -53,7 +53,7 @@ TEST(SearchRobustness, HostileTextsAreAnswered) {
             CatalogSearch::instance().search.query("arrow", {1, {{"en"}}, {}}).total);
 }
 
-TEST(SearchRobustness, OddListsAreSearched) {
+TEST(SearchRobustness, UnusualListsCanBeSearched) {
   EXPECT_EQ(Search({}).query("arrow").total, 0u);
   std::vector<Entity> entities(3);
   entities[0].computed.hex = "0041,030a";  // two code points
@@ -86,7 +86,7 @@ TEST(SearchRobustness, ThreadsShareOneObject) {
   EXPECT_EQ(wrong, 0);
 }
 
-TEST(SearchRobustness, TenThousandQueriesLeaveMemoryFlat) {
+TEST(SearchRobustness, TenThousandQueriesDoNotIncreaseMemoryUse) {
   const CatalogSearch& catalog = CatalogSearch::instance();
   const auto round = [&](std::size_t count) {
     for (std::size_t i = 0; i < count; ++i) {

@@ -6,7 +6,7 @@
 namespace glyph::search {
 namespace {
 
-TEST(SearchWords, AreFoldedInAllOfLatinAndSeparated) {
+TEST(SearchWords, AreSeparatedAndLatinLettersAreFolded) {
   const struct {
     const char* text;
     const char* words;
@@ -25,7 +25,7 @@ TEST(SearchWords, AreFoldedInAllOfLatinAndSeparated) {
   for (const auto& test : cases) EXPECT_EQ(wordsOf(test.text), test.words) << test.text;
 }
 
-TEST(SearchWords, ReportWhereTheyStand) {
+TEST(SearchWords, HavePositionsInTheText) {
   constexpr std::string_view text = " Flèche\u0301 ↑";
   WordReader reader(text);
   ASSERT_TRUE(reader.next());
