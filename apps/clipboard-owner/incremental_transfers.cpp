@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 // The server stores one piece of each transfer, so it stores at most 16 MiB.
 constexpr std::size_t mostTransfers = 64;
 constexpr std::size_t mostBytes = 256 * 1024;
-// The longest time in which a reader must read a piece. A working program reads a piece within milliseconds.
+// A reader must read each piece within this time. A working program needs milliseconds.
 constexpr auto patience = 5s;
 
 }  // namespace

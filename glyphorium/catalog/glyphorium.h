@@ -145,9 +145,8 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   bool changeCustomAddedEntityUnicodes(const std::function<bool(std::vector<std::string>&)>& change);
   void changeSelectedGroups(const std::function<bool(std::vector<std::string>&)>& change);
 
-  std::vector<std::string_view> entityData_;  // the texts of the configured group tables
-  std::vector<std::string>
-      notDisplayableUnicodes_;  // left out of selectedEntities(), as forbiddenUnicodes are
+  std::vector<std::string_view> entityData_;         // the texts of the configured group tables
+  std::vector<std::string> notDisplayableUnicodes_;  // left out of selectedEntities(), like forbiddenUnicodes
   Observed<std::vector<Entity>> allBuildInEntities_;
 };
 

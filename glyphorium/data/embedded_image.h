@@ -21,7 +21,7 @@ extern const std::size_t embeddedTextCount;
 /// For each code point, the offset in structuredUnicodeJSON() of the name in the code point's first entry.
 extern const CodePointIndex nameIndex;
 
-/// For each code point, the offset in additionalJson of the code point's first row.
+/// For each code point: where its first row begins in additionalJson, as an offset.
 extern const CodePointIndex enrichmentIndex;
 
 /// The offsets in embeddedImage of all rows of the configured tables, then the end of the last row. The

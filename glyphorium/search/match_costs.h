@@ -47,7 +47,7 @@ inline constexpr std::uint32_t variantExtra = 60;  // added to the base for a si
 // Costs of results that are not found by words, for example by a code or an HTML name. fewerWordsBase is
 // different: it is added to the cost of a match if words of the query were left out.
 inline constexpr std::uint32_t firstCost = 0;          // before all results that are found by words
-inline constexpr std::uint32_t behindExactCost = 195;  // after the results whose whole text is matched
+inline constexpr std::uint32_t behindExactCost = 195;  // after the results with a text equal to the query
 inline constexpr std::uint32_t fewerWordsBase = 4000;
 inline constexpr std::uint32_t lastCost = 8000;  // after all other results
 

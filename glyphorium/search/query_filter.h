@@ -16,9 +16,9 @@ std::uint32_t languageBits(const Index& index, const std::vector<std::string>& w
 /// Returns for each document whether it is in the wanted groups. The result is indexed by document number.
 /// A document must meet both conditions:
 /// - `names` is empty, or the document is in a group with one of these exact names.
-/// - For each typed name, the document is in a group with that name. If no group has that name, a group
-///   counts if each typed word is the beginning of a word in the name of the group.
-/// Letter case and diacritics do not count in typed names.
+/// - For each typed name, the document is in a group with that name. If there is no such group, the document
+///   is in a group whose name has, for each typed word, a word that begins with it.
+/// Typed names are compared without letter case and diacritics.
 std::vector<char> docsInGroups(const Index& index, const std::vector<std::string>& names,
                                const std::vector<std::string>& typedNames);
 

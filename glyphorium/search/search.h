@@ -23,7 +23,7 @@ struct Index;
 enum class SearchField : std::uint8_t {
   character,   ///< the query contains the character itself
   code,        ///< the query contains the code point of the character
-  name,        ///< Entity::name(), or the name in the Unicode table if Entity::name() is a better name
+  name,        ///< Entity::name(), or the Unicode name that it replaces
   alias,       ///< a formal alias or an abbreviation in the Unicode Character Database
   htmlName,    ///< a name in the HTML Standard's list of character references
   searchTerm,  ///< a search term or an everyday name
@@ -127,8 +127,8 @@ class GLYPHORIUM_EXPORT Search {
   /// Returns nullopt if the code point is not in the list.
   std::optional<std::size_t> indexOf(char32_t codePoint) const noexcept;
 
-  /// Returns the position of the first entity of the character that has this name in the HTML Standard, for
-  /// example "rarr". Letter case counts. Returns nullopt if the list does not contain such a character.
+  /// Finds the character that the HTML Standard calls `name`, for example "rarr", and returns the position of
+  /// its first entity. Letter case matters. Returns nullopt if the list does not contain such a character.
   std::optional<std::size_t> indexOfHtmlName(std::string_view name) const noexcept;
 
   /// Returns the size in bytes of the memory that the object and its copies share. It is 0 for ofCatalog(),

@@ -42,8 +42,8 @@ class WordReader {
 std::string wordsOf(std::string_view text);
 
 /// Returns the form in which texts that contain signs ("->", "(c)") are compared: in lower case, without
-/// spaces. Returns an empty text if `text` has words and, apart from them, only spaces, hyphens, underscores,
-/// full stops, commas and apostrophes. Such texts are compared word by word.
+/// spaces. Texts without signs are compared word by word; for these the result is empty. A text has no signs
+/// if it consists of words, spaces, hyphens, underscores, full stops, commas and apostrophes.
 std::string signKey(std::string_view text);
 
 }  // namespace glyph::search
