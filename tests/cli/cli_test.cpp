@@ -119,7 +119,7 @@ TEST(CommandLine, IdentifiesTextOfAnyLengthInPiecesOfAnySize) {
     EXPECT_EQ(runProgram(piecewise).output, whole) << cut;
   }
   // The limit of the address space is too small to keep the whole text in memory.
-  EXPECT_EQ(runProgram("(ulimit -v 200000; yes '" + std::string("a → e\u0301") +
+  EXPECT_EQ(runProgram("(" MEMORY_LIMIT " yes '" + std::string("a → e\u0301") +
                        "' | head -c 4000000 | " PROGRAM " identify - | tail -n 1)")
                 .output,
             "␊\t000a\tLine Feed (Control)\n");
