@@ -39,14 +39,14 @@ struct SqliteSettingsStore::Impl {
       ++impl_.sessions;
     }
     ~Session() {
-      std::vector<std::string> lines;
+      std::vector<std::string> toPrint;
       if (--impl_.sessions == 0) {
-        lines.swap(impl_.lines);
+        toPrint.swap(impl_.lines);
         impl_.updating = false;
         impl_.database.rollback();
       }
       impl_.mutex.unlock();
-      for (const std::string& line : lines) printProblem(line);
+      for (const std::string& line : toPrint) printProblem(line);
     }
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
