@@ -10,6 +10,7 @@
 #include "glyphorium/entity/decoding.h"
 #include "glyphorium/entity/enrichment.h"
 #include "glyphorium/entity/table_repair.h"
+#include "glyphorium/state/structured_unicodes.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace {
