@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/entity/enrichment.h"
 
+#include <algorithm>
+#include <bitset>
+#include <cstdint>
+#include <cstring>
 #include <string_view>
 #include <unordered_map>
 
@@ -9,9 +13,20 @@ namespace glyph {
 void enrich(std::vector<Entity>& entities, const std::vector<AdditionalData>& with) {
   std::unordered_map<std::string_view, const AdditionalData*> firstOfHex;
   firstOfHex.reserve(with.size());
-  for (const AdditionalData& enrichment : with) firstOfHex.try_emplace(enrichment.hex, &enrichment);
+  // Seven entities in eight have no enrichment. This set of hashes spares most of them the look-up, which is
+  // a third of the time of joining the whole catalog (benchmark "joinAlone").
+  std::bitset<8192> enriched;
+  const auto hashOf = [](std::string_view hex) {
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, hex.data(), std::min(hex.size(), sizeof bytes));
+    return static_cast<std::size_t>((bytes * 0x9E3779B97F4A7C15u) >> 51);
+  };
+  for (const AdditionalData& enrichment : with) {
+    firstOfHex.try_emplace(enrichment.hex, &enrichment);
+    enriched.set(hashOf(enrichment.hex));
+  }
   for (Entity& entity : entities) {
-    if (entity.additional) continue;
+    if (entity.additional || !enriched.test(hashOf(entity.computed.hex))) continue;
     const auto enrichment = firstOfHex.find(entity.computed.hex);
     if (enrichment != firstOfHex.end()) entity.additional = *enrichment->second;
   }
