@@ -11,6 +11,7 @@
 #include <set>
 
 #include "glyphorium/services/settings/sqlite_settings_store.h"
+#include "tests/support/killed_writer.h"
 #include "tests/support/program.h"
 #include "tests/support/sandbox.h"
 
@@ -51,8 +52,7 @@ TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
   const TemporaryDirectory data;
   const ScopedVariable configHome("XDG_CONFIG_HOME", config.path().string());
   const ScopedVariable dataHome("XDG_DATA_HOME", data.path().string());
-  const char* const asked = std::getenv("GLYPHORIUM_KILL_ROUNDS");
-  const int rounds = asked ? std::atoi(asked) : 60;
+  const int rounds = killRounds(60);
   std::mt19937 random(20260101);
   // The test makes these changes in turn and starts again after the last. The command "add" first displays
   // the group "custom" and then adds all its characters in one step. If it is killed between the two steps,

@@ -3,7 +3,6 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <string>
@@ -23,6 +22,10 @@ using namespace std::chrono_literals;
 constexpr auto limit = 5s;
 constexpr auto longWait = 1s;
 constexpr auto oncePause = 5ms;
+
+std::filesystem::path directoryOf(const std::filesystem::path& file) {
+  return file.has_parent_path() ? file.parent_path() : ".";
+}
 
 }  // namespace
 
@@ -47,26 +50,18 @@ bool LockWait::pause() noexcept {
   return true;
 }
 
-DirectoryLock::DirectoryLock(const std::filesystem::path& file, LockWait& wait) {
-  auto directory = file.parent_path();
-  if (directory.empty()) directory = ".";
+DirectoryLock::DirectoryLock(const std::filesystem::path& file, LockWait& wait)
+    : directory_(open(directoryOf(file).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
   const auto fail = [&](int code, int error) {
-    throw SqliteError(code, directory.string() + ": " + std::generic_category().message(error));
+    throw SqliteError(code, directoryOf(file).string() + ": " + std::generic_category().message(error));
   };
-  descriptor_ = open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (descriptor_ < 0) fail(SQLITE_CANTOPEN, errno);
-  while (flock(descriptor_, LOCK_EX | LOCK_NB) != 0) {
+  if (!directory_.isOpen()) fail(SQLITE_CANTOPEN, errno);
+  while (flock(directory_.get(), LOCK_EX | LOCK_NB) != 0) {
     const int error = errno;
     // Some network file systems do not support flock(). There, only SQLite's own locks protect the index.
     if (error != EWOULDBLOCK && error != EINTR) return;
-    if (wait.pause()) continue;
-    close(descriptor_);
-    fail(SQLITE_BUSY, EWOULDBLOCK);
+    if (!wait.pause()) fail(SQLITE_BUSY, EWOULDBLOCK);
   }
-}
-
-DirectoryLock::~DirectoryLock() {
-  close(descriptor_);
 }
 
 }  // namespace glyph

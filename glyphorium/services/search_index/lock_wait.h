@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <optional>
 
+#include "glyphorium/services/application/file_descriptor.h"
+
 namespace glyph {
 
 /// Limits the time for which a batch of requests waits for locks of other processes. The limit is five
@@ -40,12 +42,9 @@ class LockWait {
 class DirectoryLock {
  public:
   DirectoryLock(const std::filesystem::path& file, LockWait& wait);
-  ~DirectoryLock();
-  DirectoryLock(const DirectoryLock&) = delete;
-  DirectoryLock& operator=(const DirectoryLock&) = delete;
 
  private:
-  int descriptor_;
+  FileDescriptor directory_;
 };
 
 }  // namespace glyph

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "glyphorium/services/sqlite/sqlite.h"
+#include "glyphorium/text/never_destroyed.h"
 
 namespace glyph {
 namespace {
@@ -19,7 +20,7 @@ struct InPlace {
 };
 
 InPlace& inPlace() {
-  static auto* const instance = new InPlace;  // never destroyed: settings may be saved during exit
+  static NeverDestroyed<InPlace> instance;  // settings may be saved during exit
   return *instance;
 }
 
