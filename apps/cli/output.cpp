@@ -151,7 +151,7 @@ bool isChangeLine(std::string_view line) {
 
 // Returns true if the user should read the line at once, even if the command succeeds.
 bool isUrgentLine(std::string_view line) {
-  return line.starts_with("Waiting for ") || line.starts_with("Search index put aside ");
+  return line.starts_with("Search index put aside ");
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ void limitLockWaits() {
     before = waited;
     const std::int64_t until = total += longer.count();
     if (until >= 1000 && until - longer.count() < 1000) {
-      complain("waiting for another program that has locked the settings ...");
+      complain("waiting for another program that has locked the settings or the search index ...");
     }
     return until < 5000;
   });

@@ -12,6 +12,7 @@
 #include "glyphorium/services/application/application.h"
 #include "glyphorium/services/search_index/searchable_index_reader.h"
 #include "glyphorium/services/search_index/sqlite_searchable_index.h"
+#include "glyphorium/services/sqlite/lock_wait.h"
 #include "glyphorium/services/sqlite/sqlite.h"
 #include "tests/support/killed_writer.h"
 #include "tests/support/recorded_diagnostics.h"
@@ -348,6 +349,15 @@ TEST(SearchableIndex, AllWaitingRequestsShareOneWaitForALock) {
   EXPECT_TRUE(blocked.waitUntilIdle(longEnough));
   EXPECT_LT(std::chrono::steady_clock::now() - begin, 9s);
   EXPECT_THAT(outcomes, AllOf(SizeIs(601), Each(HasSubstr("locked"))));
+
+  // A host that does not want to wait gets its answer at once.
+  setLockWaitPolicy([](std::chrono::milliseconds) { return false; });
+  const auto again = std::chrono::steady_clock::now();
+  blocked.deleteAllItems(noting(outcomes));
+  EXPECT_TRUE(blocked.waitUntilIdle(longEnough));
+  EXPECT_LT(std::chrono::steady_clock::now() - again, 4s);
+  EXPECT_THAT(outcomes, SizeIs(602));
+  setLockWaitPolicy(nullptr);
   other.execute("ROLLBACK");
 }
 

@@ -7,7 +7,6 @@
 #include <cerrno>
 #include <string>
 #include <system_error>
-#include <thread>
 #include <utility>
 
 #include "glyphorium/services/diagnostics/diagnostics.h"
@@ -19,9 +18,7 @@ namespace {
 using std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
-constexpr auto limit = 5s;
 constexpr auto longWait = 1s;
-constexpr auto oncePause = 5ms;
 
 std::filesystem::path directoryOf(const std::filesystem::path& file) {
   return file.has_parent_path() ? file.parent_path() : ".";
@@ -39,15 +36,14 @@ bool LockWait::pause() noexcept {
   if (abandoned_) return false;
   const auto now = steady_clock::now();
   if (!since_) since_ = now;
-  if (now - *since_ >= limit) return false;
-  if (now - *since_ >= longWait && !std::exchange(told_, true)) {
+  const auto waited = now - *since_;
+  if (waited >= longWait && !std::exchange(told_, true)) {
     try {
       printProblem("Waiting for another program that has locked the search index: " + file_->string());
     } catch (const std::bad_alloc&) {  // then the line is not printed
     }
   }
-  std::this_thread::sleep_for(oncePause);
-  return true;
+  return waitForLock(std::chrono::duration_cast<std::chrono::milliseconds>(waited));
 }
 
 DirectoryLock::DirectoryLock(const std::filesystem::path& file, LockWait& wait)

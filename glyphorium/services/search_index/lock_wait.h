@@ -10,16 +10,16 @@
 
 namespace glyph {
 
-/// Limits the time for which a batch of requests waits for locks of other processes. The limit is five
-/// seconds in total for all locks that the batch needs. After one second, a diagnostic line is printed. Only
-/// one thread may use a LockWait, except that any thread may call abandon() and abandoned().
+/// Limits the time for which a batch of requests waits for locks of other processes. The LockWaitPolicy
+/// decides on the time that the batch has waited for all locks together. After one second, a diagnostic line
+/// is printed. Only one thread may use a LockWait, except that any thread may call abandon() and abandoned().
 class LockWait {
  public:
   /// Starts the time limit anew, for the next batch. `file` is the path that the diagnostic line names. The
   /// LockWait keeps a pointer to `file`.
   void renew(const std::filesystem::path& file) noexcept;
-  /// Sleeps for a few milliseconds and returns true. Returns false immediately if the time limit is reached
-  /// or abandon() was called.
+  /// Sleeps for a few milliseconds and returns true. Returns false immediately if the
+  /// LockWaitPolicy refuses to wait longer or abandon() was called.
   bool pause() noexcept;
   /// pause() as a callback for sqlite3_busy_handler(). The first argument is a pointer to the LockWait.
   static int whileBusy(void* lockWait, int) noexcept { return static_cast<LockWait*>(lockWait)->pause(); }

@@ -15,8 +15,8 @@ namespace glyph {
 ///
 /// A single thread carries out the requests; the first request starts it. Waiting requests share a
 /// transaction, and a completion is called only after the commit. Several processes of the application may
-/// write to the file. Requests wait at most five seconds for the locks of other processes and then fail. A
-/// diagnostic line is printed after one second.
+/// write to the file. Requests wait for the locks of other processes as setLockWaitPolicy() describes, by
+/// default at most five seconds, and then fail. A diagnostic line is printed after one second.
 ///
 /// A damaged file is renamed, the items that can still be read are copied into a new file, and a diagnostic
 /// line is printed. Two kinds of files are never changed, so that every request fails: a file that a later

@@ -8,11 +8,12 @@
 
 namespace glyph {
 
-/// Decides whether an operation on the settings continues to wait for a file that another process has locked.
-/// `waited` is the time that this operation has waited so far. If the policy returns false or throws, the
-/// operation fails.
+/// Decides whether to continue to wait for a file that another process has locked: the settings or the search
+/// index. `waited` is the time that this operation on the settings, or this batch of index requests, has
+/// waited so far. If the policy returns false or throws, the operation fails.
 ///
-/// The policy is called many times a second on the waiting thread. The library has locked its own mutexes
+/// The policy is called many times a second on the waiting thread, which is a thread of the library for the
+/// index. So several threads may call it at the same time. The library has locked its own mutexes
 /// during the call, so the policy may print or count, but must not call the library.
 using LockWaitPolicy = std::function<bool(std::chrono::milliseconds waited)>;
 
