@@ -53,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   auto next = named.begin();
   for (const glyph::ComputedEntity& record : given) {
     const auto* const entry = entryOf(record.hex);
-    const std::string name = glyph::lowercased(entry ? entry->name : record.fallbackName);
+    const std::string name = glyph::lowercased(entry ? std::string_view(entry->name) : record.fallbackName);
     if (name.empty() || name == "<control>" || record.group == "Private Use Area") continue;
     require(next != named.end() && next->hex == record.hex, "records with a usable name keep their order");
     require(glyph::lowercased(next->fallbackName) == name,

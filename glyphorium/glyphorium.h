@@ -35,6 +35,7 @@
 #include "glyphorium/state/structured_unicodes.h"
 #include "glyphorium/text/nearest_texts.h"
 #include "glyphorium/text/preferred_languages.h"
+#include "glyphorium/text/record_text.h"
 #include "glyphorium/text/text_pieces.h"
 #include "glyphorium/text/unicode_text.h"
 #include "glyphorium/text/visible_symbol.h"

@@ -22,7 +22,7 @@ glyph::Entity entityOf(const glyph::SearchableItem& item) {
 }
 
 std::string label(const glyph::Entity& entity) {
-  const std::string& symbol = entity.computed.symbol;
+  const glyph::RecordText& symbol = entity.computed.symbol;
   const std::string name = entity.name();
   if (symbol.empty() || symbol == name) return name;
   return (glyph::runsRightToLeft(symbol) ? "\u200E" : "") + glyph::visibleSymbol(symbol) + " " + name;
@@ -30,7 +30,7 @@ std::string label(const glyph::Entity& entity) {
 
 std::string description(const glyph::Entity& entity) {
   const bool isCharacter = entity.computed.symbol != entity.name();
-  const std::string code = isCharacter ? codePoint(entity) : entity.computed.hex;
+  const std::string code = isCharacter ? codePoint(entity) : std::string(entity.computed.hex);
   return entity.computed.group.empty() ? code : entity.computed.group + " · " + code;
 }
 

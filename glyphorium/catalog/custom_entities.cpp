@@ -14,7 +14,7 @@ std::vector<Entity> customEntities(const std::vector<std::string>& codes) {
   records.reserve(codes.size());
   for (const std::string& code : codes) {
     records.push_back(Unicode(code).computedEntity());
-    records.back().group = customGroup;
+    records.back().group = RecordText::ofConstant(customGroup);
   }
   // Only the enrichment rows of these codes are decoded, because the codes are few and the table is large.
   std::string rows = "[";

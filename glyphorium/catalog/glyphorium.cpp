@@ -70,9 +70,9 @@ Glyphorium& Glyphorium::operator=(const Glyphorium& other) {
 std::vector<std::string> Glyphorium::getBuildInEntityGroups() {
   std::vector<std::string> names;
   for (const Entity& entity : allBuildInEntities_) {
-    const std::string& group = entity.computed.group;
+    const std::string_view group = entity.computed.group;
     // The rows of a group are adjacent, so this comparison removes nearly all duplicates before the sorting.
-    if (names.empty() || names.back() != group) names.push_back(group);
+    if (names.empty() || names.back() != group) names.emplace_back(group);
   }
   std::sort(names.begin(), names.end());
   names.erase(std::unique(names.begin(), names.end()), names.end());

@@ -43,7 +43,7 @@ std::vector<Entity> Glyphorium::buildSelectedEntities() const {
   candidates.reserve(buildIn.size() + custom.size());
   std::unordered_map<std::string_view, std::size_t> placeOfHex;
   placeOfHex.reserve(buildIn.size() + custom.size());
-  const std::string* group = nullptr;  // the group of the previous entity; the rows of a group are adjacent
+  const RecordText* group = nullptr;  // the group of the previous entity; the rows of a group are adjacent
   auto rank = ranks.end();
   for (const auto* list : {&buildIn, &custom}) {
     for (const Entity& entity : *list) {

@@ -27,10 +27,17 @@ struct RowError {
   throw RowError{"key '" + std::string(key) + "' must hold " + std::string(wanted)};
 }
 
-void read(dom::element value, std::string_view key, std::string& field) {
+template <class Text>
+void readText(dom::element value, std::string_view key, Text& field) {
   std::string_view text;
   if (value.get(text) != simdjson::SUCCESS) wrongType(key, "a string");
-  field.assign(text);
+  field = text;
+}
+void read(dom::element value, std::string_view key, std::string& field) {
+  readText(value, key, field);
+}
+void read(dom::element value, std::string_view key, RecordText& field) {
+  readText(value, key, field);
 }
 
 void read(dom::element value, std::string_view key, std::int64_t& field) {
@@ -51,7 +58,7 @@ void read(dom::element value, std::string_view key, std::vector<Element>& field)
   field.clear();
   field.reserve(elements.size());
   for (const dom::element element : elements) {
-    if constexpr (std::is_same_v<Element, std::string>) {
+    if constexpr (std::is_same_v<Element, RecordText>) {
       read(element, key, field.emplace_back());
     } else {
       readObject(element, field.emplace_back());

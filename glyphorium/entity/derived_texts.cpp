@@ -47,7 +47,7 @@ std::string Entity::searchString() const {
   append(computed.symbol);
   if (additional) {
     if (additional->searchTerms) {
-      for (const std::string& term : *additional->searchTerms) append(term);
+      for (const RecordText& term : *additional->searchTerms) append(term);
     }
     if (additional->htmlNamed) append(*additional->htmlNamed);
   }

@@ -5,10 +5,10 @@
 namespace glyph {
 namespace {
 
-std::string valueText(const std::string& text) {
+std::string valueText(std::string_view text) {
   return jsonText(text);
 }
-std::string valueText(const std::vector<std::string>& list) {
+std::string valueText(const std::vector<RecordText>& list) {
   return jsonText(list);
 }
 std::string valueText(std::int64_t number) {

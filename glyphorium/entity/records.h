@@ -10,9 +10,11 @@
 
 #include "glyphorium/entity/boxed_optional.h"
 #include "glyphorium/export.h"
+#include "glyphorium/text/record_text.h"
 
 /// The records that describe characters. They are also members of the catalog type: Glyphorium::Entity and so
-/// on. The records do not check or normalise their fields.
+/// on. The records do not check or normalise their fields. They are values: a copy shares nothing that can
+/// change. RecordText describes how their texts convert to std::string, and how long they live.
 namespace glyph {
 
 struct Entity;
@@ -22,13 +24,13 @@ inline constexpr std::string_view customGroup = "custom";
 
 /// One character, as a row of a group table describes it.
 struct GLYPHORIUM_EXPORT ComputedEntity {
-  std::string hex;  ///< the code point in hexadecimal, lower case, at least four digits: "0020", "1f600"
+  RecordText hex;  ///< the code point in hexadecimal, lower case, at least four digits: "0020", "1f600"
   std::int64_t decimal = 0;  ///< the code point as a number
-  std::string htmlHex;       ///< HTML hexadecimal character reference, "&#x20;"
-  std::string htmlDecimal;   ///< HTML decimal character reference, "&#32;"
-  std::string symbol;        ///< the character itself
-  std::string fallbackName;  ///< the character's name in the table, "Latin Capital Letter A"
-  std::string group;         ///< the name of the character's group, "latin basic"
+  RecordText htmlHex;        ///< HTML hexadecimal character reference, "&#x20;"
+  RecordText htmlDecimal;    ///< HTML decimal character reference, "&#32;"
+  RecordText symbol;         ///< the character itself
+  RecordText fallbackName;   ///< the character's name in the table, "Latin Capital Letter A"
+  RecordText group;          ///< the name of the character's group, "latin basic"
   std::optional<bool> isSFSymbol;
 
   /// Returns an entity with a copy of this record and without enrichment.
@@ -37,18 +39,18 @@ struct GLYPHORIUM_EXPORT ComputedEntity {
 
 /// A short usage note in one language.
 struct AdditionalDataAdvice {
-  std::string lang;  ///< lower-case language code: "en", "de", "fr", "it", "es"
-  std::string text;
+  RecordText lang;  ///< lower-case language code: "en", "de", "fr", "it", "es"
+  RecordText text;
 };
 
 /// A row of the enrichment table: additional facts about a code point that its group table does not have. An
 /// empty text counts as a present value.
 struct GLYPHORIUM_EXPORT AdditionalData {
-  std::string hex;
-  std::optional<std::string> betterName;  ///< if not empty, shown instead of the table's name
-  std::optional<std::string> htmlNamed;   ///< named character reference, "&amp;"
-  std::optional<std::string> imageName;   ///< the name of an image that the host supplies
-  std::optional<std::vector<std::string>> searchTerms;
+  RecordText hex;
+  std::optional<RecordText> betterName;  ///< if not empty, shown instead of the table's name
+  std::optional<RecordText> htmlNamed;   ///< named character reference, "&amp;"
+  std::optional<RecordText> imageName;   ///< the name of an image that the host supplies
+  std::optional<std::vector<RecordText>> searchTerms;
   std::optional<bool> needsSerifs;  ///< whether a font with serifs shows the character better
   std::vector<AdditionalDataAdvice> advice;
 
@@ -110,7 +112,7 @@ inline bool operator==(const Entity& a, const Entity& b) {
 template <>
 struct std::hash<glyph::ComputedEntity> {
   std::size_t operator()(const glyph::ComputedEntity& entity) const noexcept {
-    return std::hash<std::string>()(entity.hex);
+    return std::hash<glyph::RecordText>()(entity.hex);
   }
 };
 

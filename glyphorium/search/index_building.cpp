@@ -134,7 +134,7 @@ class Builder {
       addPhrase(doc, PhraseKind::replacedName, 0, entity.computed.fallbackName);
     if (data.htmlNamed) addPhrase(doc, PhraseKind::htmlName, 0, *data.htmlNamed);
     if (data.searchTerms) {
-      for (const std::string& term : *data.searchTerms) addPhrase(doc, PhraseKind::searchTerm, 0, term);
+      for (const RecordText& term : *data.searchTerms) addPhrase(doc, PhraseKind::searchTerm, 0, term);
     }
     for (const AdditionalDataAdvice& advice : data.advice)
       addPhrase(doc, PhraseKind::note, language(advice.lang), advice.text);

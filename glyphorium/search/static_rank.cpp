@@ -52,7 +52,7 @@ unsigned groupCost(std::string_view name) {
   return groupCost(found == groupKinds.end() || found->group != name ? GroupKind::script : found->kind);
 }
 
-std::uint32_t codePointOf(const std::string& hex) {
+std::uint32_t codePointOf(std::string_view hex) {
   const auto value = ascii::number(hex, 16);
   return value && *value <= 0x10FFFF ? *value : Index::noCodePoint;
 }

@@ -12,6 +12,14 @@ namespace glyph {
 
 /// Returns the value as JSON text. Ill-formed UTF-8 is replaced with U+FFFD.
 std::string jsonText(std::string_view text);
-std::string jsonText(const std::vector<std::string>& list);
+template <class Text>
+std::string jsonText(const std::vector<Text>& list) {
+  std::string text = "[";
+  for (const Text& item : list) {
+    if (text.size() > 1) text += ',';
+    text += jsonText(std::string_view(item));
+  }
+  return text += ']';
+}
 
 }  // namespace glyph

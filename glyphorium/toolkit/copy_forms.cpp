@@ -55,7 +55,7 @@ constexpr CopyForm forms[] = {
     {"code-point", " ", [](const Entity& e) { return ofEachCodePoint(e, " ", codePoint); }},
     {"html", "",
      [](const Entity& e) {
-       return unlessEmpty(e.additional ? e.additional->htmlNamed.value_or("") : std::string());
+       return unlessEmpty(e.additional ? e.additional->htmlNamed.value_or("") : "");
      }},
     {"html-hex", "",
      [](const Entity& e) {

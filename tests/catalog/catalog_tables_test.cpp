@@ -73,7 +73,7 @@ TEST(CatalogTables, EnrichmentRowsHaveAllKeysAndSomeCodePointsHaveTwoRows) {
     // Each row has all keys. A key without data has an empty value.
     ASSERT_TRUE(row.betterName && row.htmlNamed && row.imageName && row.searchTerms && row.needsSerifs)
         << row.hex;
-    for (const std::string& term : *row.searchTerms) terms[row.hex].push_back(term + *row.htmlNamed);
+    for (const RecordText& term : *row.searchTerms) terms[row.hex].push_back(term + *row.htmlNamed);
   }
   // U+2153 has two rows, with different terms and references.
   EXPECT_THAT(terms["0026"], testing::ElementsAre("and&amp;", "et&amp;", "+&amp;"));
