@@ -10,9 +10,9 @@ using namespace std::chrono_literals;
 
 // The server stores one piece of each transfer, so it stores at most 16 MiB.
 constexpr std::size_t mostTransfers = 64;
-constexpr std::size_t mostBytes = 256 * 1024;
+constexpr std::size_t mostBytes = std::size_t{256} * 1024;
 // A reader must read each piece within this time. A working program needs milliseconds.
-constexpr auto patience = 5s;
+constexpr auto readTimeout = 5s;
 
 }  // namespace
 
@@ -31,7 +31,7 @@ bool IncrementalTransfers::begin(xcb_window_t reader, xcb_atom_t property, const
   xcb_change_window_attributes(display_.connection(), reader, XCB_CW_EVENT_MASK, &events);
   display_.setValues(reader, property, display_.atoms().incr,
                      {static_cast<std::uint32_t>(std::min<std::size_t>(form.bytes.size(), 0x7fffffff))});
-  transfers_.push_back({reader, property, form, Clock::now() + patience});
+  transfers_.push_back({reader, property, form, Clock::now() + readTimeout});
   return true;
 }
 
@@ -44,7 +44,7 @@ void IncrementalTransfers::propertyDeleted(xcb_window_t reader, xcb_atom_t prope
   left.remove_prefix(piece.size());
   xcb_change_property(display_.connection(), XCB_PROP_MODE_REPLACE, reader, property, found->form.type, 8,
                       static_cast<std::uint32_t>(piece.size()), piece.data());
-  found->deadline = Clock::now() + patience;
+  found->deadline = Clock::now() + readTimeout;
   if (piece.empty()) endIf(same);  // an empty piece ends the transfer
 }
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Copies the text on standard input to the X11 clipboard. A child process in the background keeps the text
 // available until another program copies something, the X server ends, or a signal ends the child process.
-//   glyphorium-clipboard-owner ASKED-AT
-// ASKED-AT is the time at which the copy was requested, in microseconds of std::chrono::steady_clock. After
-// the copy this program prints "copied" and exits with 0. If the copy fails, this program prints the reason
-// on standard output and exits with 1.
+//   glyphorium-clipboard-owner REQUESTED-AT
+// REQUESTED-AT is the time at which the copy was requested, in microseconds of std::chrono::steady_clock.
+// After the copy this program prints "copied" and exits with 0. If the copy fails, this program prints the
+// reason on standard output and exits with 1.
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/signalfd.h>
@@ -69,16 +69,16 @@ int endingSignals() {
   return signalfd(-1, &signals, SFD_CLOEXEC);
 }
 
-int copy(SelectionOwner::Clock::time_point askedAt) {
+int copy(SelectionOwner::Clock::time_point requestedAt) {
   auto text = standardInput();
   if (!text) return failure("the text cannot be read");
   clipboard::Display display;
   if (!display.connected()) return failure("no connection to the X server");
   SelectionOwner owner(display, std::move(*text));
   const int signals = endingSignals();
-  if (signals < 0) return failure("no signals");
+  if (signals < 0) return failure("the signals could not be blocked");
 
-  switch (owner.acquire(askedAt)) {
+  switch (owner.acquire(requestedAt)) {
     case SelectionOwner::Acquired::failed:
       return failure("the connection to the X server broke");
     case SelectionOwner::Acquired::overtaken:
@@ -90,7 +90,7 @@ int copy(SelectionOwner::Clock::time_point askedAt) {
   // Fork only now, because the caller may use the clipboard as soon as this process has ended. The child
   // continues to use the connection. The parent must not use the connection any more.
   const pid_t child = fork();
-  if (child < 0) return failure("no process for the background");
+  if (child < 0) return failure("the background process could not be started");
   if (child > 0) {
     std::puts("copied");
     std::fflush(stdout);
@@ -104,9 +104,9 @@ int copy(SelectionOwner::Clock::time_point askedAt) {
 }  // namespace
 
 int main(int argc, char** argv) try {
-  const auto askedAt = argc == 2 ? timePoint(argv[1]) : std::nullopt;
-  if (!askedAt) return failure("Usage: glyphorium-clipboard-owner ASKED-AT <TEXT");
-  return copy(*askedAt);
+  const auto requestedAt = argc == 2 ? timePoint(argv[1]) : std::nullopt;
+  if (!requestedAt) return failure("Usage: glyphorium-clipboard-owner REQUESTED-AT <TEXT");
+  return copy(*requestedAt);
 } catch (const std::exception& error) {
   return failure(error.what());
 }

@@ -49,8 +49,8 @@ std::optional<xcb_timestamp_t> SelectionOwner::serverTimeAt(Clock::time_point mo
 // The server rejects a new owner whose time is earlier than the time of the last change of owner. A slow copy
 // acquires the selection with the time at which the copy was requested. The server therefore rejects the slow
 // copy if a copy that was requested later has already finished.
-SelectionOwner::Acquired SelectionOwner::acquire(Clock::time_point askedAt) {
-  const auto copiedAt = serverTimeAt(askedAt);
+SelectionOwner::Acquired SelectionOwner::acquire(Clock::time_point requestedAt) {
+  const auto copiedAt = serverTimeAt(requestedAt);
   if (!copiedAt) return Acquired::failed;
   copiedAt_ = *copiedAt;
   display_.setValues(display_.window(), atoms_.copiedAt, XCB_ATOM_CARDINAL, {copiedAt_});

@@ -21,9 +21,9 @@ class SelectionOwner {
 
   SelectionOwner(Display& display, std::string text);
 
-  /// Acquires the selection for a copy that was requested at `askedAt`. Returns `overtaken` if a copy that
-  /// was requested later already owns the selection, and `failed` if the connection has broken.
-  Acquired acquire(Clock::time_point askedAt);
+  /// Acquires the selection for a copy that was requested at `requestedAt`. Returns `overtaken` if a copy
+  /// that was requested later already owns the selection, and `failed` if the connection has broken.
+  Acquired acquire(Clock::time_point requestedAt);
 
   /// Answers requests until another program owns the selection and all transfers are finished, or until the
   /// connection breaks. When `signals` (a signalfd) becomes readable, gives the text to the clipboard manager

@@ -42,8 +42,8 @@ class RecordText {
   static constexpr std::size_t npos = std::string_view::npos;
 
   constexpr RecordText() noexcept = default;
-  RecordText(const char* text) : RecordText(std::string_view(text)) {}         // NOLINT: as std::string does
-  RecordText(const std::string& text) : RecordText(std::string_view(text)) {}  // NOLINT: as std::string does
+  RecordText(const char* text) : RecordText(std::string_view(text)) {}         // implicit, as in std::string
+  RecordText(const std::string& text) : RecordText(std::string_view(text)) {}  // implicit, as in std::string
   explicit RecordText(std::string_view text) : RecordText(copyOf(text), text.size(), true) {}
 
   /// Returns a text that refers to a constant instead of copying it. The constant must live as long as every
@@ -80,8 +80,8 @@ class RecordText {
   RecordText& operator+=(char more) { return *this += std::string_view(&more, 1); }
 
   constexpr std::string_view view() const noexcept { return {data(), size()}; }
-  constexpr operator std::string_view() const noexcept { return view(); }  // NOLINT: as std::string does
-  operator std::string() const { return std::string(view()); }             // NOLINT: reads like one
+  constexpr operator std::string_view() const noexcept { return view(); }  // implicit, as in std::string
+  operator std::string() const { return std::string(view()); }  // implicit, because it reads like one
 
   /// The bytes of the text. A zero byte follows them.
   constexpr const char* data() const noexcept { return data_; }

@@ -123,9 +123,9 @@ class ClipboardOwner : public testing::Test {
     if (!x.usable) GTEST_SKIP() << "needs Xvfb";
   }
 
-  static void copy(const std::string& text, Clock::time_point askedAt = Clock::now()) {
+  static void copy(const std::string& text, Clock::time_point requestedAt = Clock::now()) {
     const auto count =
-        std::chrono::duration_cast<std::chrono::microseconds>(askedAt.time_since_epoch()).count();
+        std::chrono::duration_cast<std::chrono::microseconds>(requestedAt.time_since_epoch()).count();
     EXPECT_EQ(
         runProgram({{OWNER_PROGRAM, std::to_string(count)}, "copied"}, text, Clock::now() + 20s).problem, "");
   }

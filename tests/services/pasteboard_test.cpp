@@ -84,8 +84,8 @@ TEST(DesktopPasteboard, TriesTheProgramsOfTheSessionInOrder) {
       {x, w, sway, take, take, take, "→", true, "wl-copy ", "", own},
       {x, w, sway, take, fail, take, "→", true, "wl-copy owner ", "", own},
       {x, "", "", take, take, take, "→", true, "owner xclip ", "", "exit 0"},
-      {x, "", "", fail, take, missing, "→", false, "owner xclip ", "owner: no room, xclip: exit code 1",
-       "echo no room"},
+      {x, "", "", fail, take, missing, "→", false, "owner xclip ", "owner: out of memory, xclip: exit code 1",
+       "echo out of memory"},
       {x, "", "", take, take, take, "→", false, "owner ", "owner: no answer in time", hang},
   };
   for (const bool pidfd : {true, false}) {
@@ -230,8 +230,8 @@ void copyUnderLoad(const std::string& paste, bool overlapping) {
     if (kind == 1 || kind == 2) refused += inChild([&] { return copy() ? 0 : 1; }) != 0;
     if (kind == 3) {
       const auto now = std::chrono::steady_clock::now();
-      const auto askedAt = std::chrono::duration_cast<std::chrono::microseconds>(now.time_since_epoch());
-      const Program owner{{OWNER_PROGRAM, std::to_string(askedAt.count())}, "copied"};
+      const auto requestedAt = std::chrono::duration_cast<std::chrono::microseconds>(now.time_since_epoch());
+      const Program owner{{OWNER_PROGRAM, std::to_string(requestedAt.count())}, "copied"};
       slow = fork();
       if (slow == 0) _exit(runProgram(owner, text, now + 20s).problem.empty() ? 0 : 1);
       std::this_thread::sleep_for(50ms);

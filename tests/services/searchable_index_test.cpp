@@ -262,14 +262,14 @@ TEST(SearchableIndex, DoesNotChangeFilesOfOtherPrograms) {
                {"symbolic link", [&] { execute(foreign, "CREATE TABLE note(text)"); }},
                {"later version", [&] { execute(foreign, "CREATE TABLE item(id); PRAGMA user_version=2"); }},
                {"later version", [&] { execute(file, "CREATE TABLE item(id); PRAGMA user_version=2"); }},
-               {"no regular file", [&] { mkfifo(file.c_str(), 0600); }},
-               {"no regular file",
+               {"not a regular file", [&] { mkfifo(file.c_str(), 0600); }},
+               {"not a regular file",
                 [&] {
                   execute(file, "CREATE TABLE item(id)");
                   mkfifo((file.string() + "-journal").c_str(), 0600);
                 }},
-               {"no regular file", [&] { std::filesystem::create_directory(file); }},
-               {"no regular file", [&] { std::filesystem::create_symlink("/dev/zero", file); }}};
+               {"not a regular file", [&] { std::filesystem::create_directory(file); }},
+               {"not a regular file", [&] { std::filesystem::create_symlink("/dev/zero", file); }}};
   for (const auto& [expected, make] : cases) {
     SCOPED_TRACE(&expected - &cases[0].error);
     for (const auto& each : std::filesystem::directory_iterator(directory.path())) remove(each.path());

@@ -390,7 +390,7 @@ TEST_F(SettingsStoreTest, ReadsNumbersInEveryLocale) {
 // Each case prevents settings from being saved until the cause is removed.
 TEST_F(SettingsStoreTest, KeepsUnsavedValuesUntilTheyCanBeSaved) {
   const auto check = [&](SettingsStore& store, const std::function<void()>& clear) {
-    const List large(5000, "more than there is room for");
+    const List large(5000, "a text that does not fit on the disk");
     diagnostics.take();
     store.set("large", large);
     EXPECT_FALSE(store.synchronize());
@@ -409,17 +409,17 @@ TEST_F(SettingsStoreTest, KeepsUnsavedValuesUntilTheyCanBeSaved) {
     EXPECT_EQ(stored("other"), SettingValue(true));
   };
 
-  const fs::path room = directory / "room";
-  fs::create_directory(room);
-  if (mount("none", room.c_str(), "tmpfs", 0, "size=160k") == 0) {
-    file = room / "settings.sqlite";
+  const fs::path disk = directory / "disk";
+  fs::create_directory(disk);
+  if (mount("none", disk.c_str(), "tmpfs", 0, "size=160k") == 0) {
+    file = disk / "settings.sqlite";
     std::optional<SqliteSettingsStore> store(file);
     store->set("before", true);
-    writeFile(room / "filler", std::string(64 << 10, 'x'));
-    check(*store, [&] { fs::remove(room / "filler"); });
+    writeFile(disk / "filler", std::string(64 << 10, 'x'));
+    check(*store, [&] { fs::remove(disk / "filler"); });
     EXPECT_EQ(stored("before"), SettingValue(true));
     store.reset();
-    EXPECT_EQ(umount(room.c_str()), 0);
+    EXPECT_EQ(umount(disk.c_str()), 0);
   } else {
     std::cout << "skipped the test with a full disk, because mount() failed: " << std::strerror(errno)
               << '\n';

@@ -67,7 +67,7 @@ void setApplicationIdentifier(std::string_view text) {
   const bool fileName = !text.empty() && text != "." && text != ".." &&
                         text.find('/') == std::string_view::npos && text.find('\0') == std::string_view::npos;
   if (!fileName) {
-    printProblem("Application identifier ignored: it is no file name: '" + std::string(text) + "'");
+    printProblem("Application identifier ignored: it is not a file name: '" + std::string(text) + "'");
     return;
   }
   const std::lock_guard lock(identifier().mutex);

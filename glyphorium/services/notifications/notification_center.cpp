@@ -32,14 +32,15 @@ struct NotificationToken::Registry {
     return observers;
   }
 
-  // Replaces the list by a copy to which `change` is applied. The old list is released after the lock.
-  // Releasing the list may destroy a callback, which runs code of the host.
-  template <typename Change>
-  void modify(Change change) {
+  // Replaces the list by a copy without the observers whose registration has ended, and with `added` if it is
+  // not null. The old list is released after the lock. Releasing the list may destroy a callback, which runs
+  // code of the host.
+  void renew(std::shared_ptr<Observer> added) {
     std::shared_ptr<const List> before;
     const std::lock_guard lock(mutex);
     auto after = std::make_shared<List>(*observers);
-    change(*after);
+    std::erase_if(*after, [](const auto& observer) { return !observer->registered; });
+    if (added) after->push_back(std::move(added));
     before = std::exchange(observers, std::move(after));
   }
 
@@ -70,9 +71,10 @@ void NotificationToken::reset() noexcept {
   observer->registered = false;
   if (!registry) return;
   try {
-    registry->modify([&](Registry::List& list) { std::erase(list, observer); });
+    registry->renew(nullptr);
   } catch (const std::exception&) {
-    // There is no memory for the new list. The observer stays in the old list but is not called.
+    // There is no memory for the new list. The observer is not called, and the next change of the list
+    // removes it.
   }
 }
 
@@ -88,7 +90,7 @@ NotificationCenter::~NotificationCenter() = default;
 NotificationToken NotificationCenter::addObserver(NotificationName name, Callback callback) {
   if (!callback) return {};
   auto observer = std::make_shared<NotificationToken::Observer>(std::move(name), std::move(callback));
-  registry_->modify([&](NotificationToken::Registry::List& list) { list.push_back(observer); });
+  registry_->renew(observer);
   return {registry_, observer};
 }
 

@@ -51,8 +51,8 @@ std::string installedOwnerProgram() {
 // they were requested.
 Program owner(std::string path) {
   const auto now = std::chrono::steady_clock::now().time_since_epoch();
-  const auto askedAt = std::chrono::duration_cast<std::chrono::microseconds>(now).count();
-  return {{std::move(path), std::to_string(askedAt)}, "copied"};
+  const auto requestedAt = std::chrono::duration_cast<std::chrono::microseconds>(now).count();
+  return {{std::move(path), std::to_string(requestedAt)}, "copied"};
 }
 
 // Returns the programs that can copy the text in this session, the best program first.

@@ -132,8 +132,8 @@ std::string firstLine(int file) {
 SpawnResult runProgram(const Program& program, std::string_view input, Clock::time_point deadline) {
   const FileDescriptor file(memoryFile());
   if (!file.isOpen() || !fill(file.get(), input)) return failure("no memory for the text", errno);
-  const FileDescriptor output(program.word.empty() ? -1 : memoryFile());
-  if (!program.word.empty() && !output.isOpen()) return failure("no memory for the answer", errno);
+  const FileDescriptor output(program.successWord.empty() ? -1 : memoryFile());
+  if (!program.successWord.empty() && !output.isOpen()) return failure("no memory for the answer", errno);
   const SpawnSettings settings(file.get(), output.get());
   if (settings.error) return failure("not started", settings.error);
 
@@ -156,10 +156,10 @@ SpawnResult runProgram(const Program& program, std::string_view input, Clock::ti
     return {SpawnEnd::timedOut, "no answer in time"};
   }
   std::string problem = exitProblem(child);
-  if (!program.word.empty()) {
-    const std::string said = firstLine(output.get());
-    if (said == program.word) return {SpawnEnd::succeeded, {}};
-    if (!said.empty()) problem = said;
+  if (!program.successWord.empty()) {
+    const std::string answer = firstLine(output.get());
+    if (answer == program.successWord) return {SpawnEnd::succeeded, {}};
+    if (!answer.empty()) problem = answer;
     if (problem.empty()) problem = "no answer";
   }
   return {problem.empty() ? SpawnEnd::succeeded : SpawnEnd::failed, problem};

@@ -12,8 +12,8 @@ struct Program {
   /// The program and its arguments. A program name without a slash is looked up in PATH.
   std::vector<std::string> command;
   /// The program has succeeded if the first line of its standard output equals this word. Any other line
-  /// describes the problem. If the word is empty, the exit code 0 means success.
-  std::string_view word = {};
+  /// describes the problem. If successWord is empty, the exit code 0 means success.
+  std::string_view successWord = {};
 };
 
 enum class SpawnEnd { succeeded, notInstalled, failed, timedOut };
@@ -29,7 +29,7 @@ struct SpawnResult {
 /// does not keep our files open, and does not receive signals that are sent to our process group.
 ///
 /// If the host ignores SIGCHLD or waits for all children itself, the exit code is lost. A program without a
-/// word then counts as successful.
+/// successWord then counts as successful.
 SpawnResult runProgram(const Program& program, std::string_view input,
                        std::chrono::steady_clock::time_point deadline);
 

@@ -59,7 +59,7 @@ TerminalPasteboard::TerminalPasteboard(std::string device) : device_(std::move(d
 bool TerminalPasteboard::setPlainText(std::string_view text) try {
   const char* problem = nullptr;
   if (text.empty()) {
-    problem = "a terminal takes no empty text";
+    problem = "a terminal does not accept an empty text";
   } else if (text.size() > maximumLength) {
     problem = "the text is too long for a terminal";
   } else if (const int terminal = open(device_.c_str(), O_WRONLY | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
@@ -68,7 +68,7 @@ bool TerminalPasteboard::setPlainText(std::string_view text) try {
   } else {
     const auto deadline = Clock::now() + std::chrono::seconds(2);
     if (!writeAll(terminal, "\033]52;c;" + base64(text) + "\a", deadline)) {
-      problem = "the terminal takes no output";
+      problem = "the terminal does not accept output";
     }
     close(terminal);
   }

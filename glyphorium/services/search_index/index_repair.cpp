@@ -37,8 +37,8 @@ fs::path withSuffix(fs::path file, std::string_view suffix) {
 // Throws if the path is a symbolic link, because the link's target may belong to another program.
 void refuseLink(const fs::path& file, std::string_view why) {
   if (!fs::is_symlink(fs::symlink_status(file))) return;
-  throw SqliteError(SQLITE_CANTOPEN,
-                    std::string(why) + "; it is left alone, since " + file.string() + " is a symbolic link");
+  throw SqliteError(SQLITE_CANTOPEN, std::string(why) + "; it was not changed, because " + file.string() +
+                                         " is a symbolic link");
 }
 
 // Returns a description of the damage, or an empty text if the file is intact. Leaves a transaction open,
@@ -70,9 +70,8 @@ std::vector<SearchableItem> readableItems(const Database& database) {
         const auto [place, isNew] = rows.try_emplace(row.integer(9));
         if (!isNew) break;  // damaged pages may form an endless loop
         SearchableItem item = itemOf(row);
-        const bool asWritten =
-            packTexts(item.keywords) == row.text(6) && lowercased(item.name()) == row.text(8);
-        if (asWritten) place->second = std::move(item);
+        const bool intact = packTexts(item.keywords) == row.text(6) && lowercased(item.name()) == row.text(8);
+        if (intact) place->second = std::move(item);
       }
     } catch (const SqliteError&) {  // the damage is reached, or the table is missing
     }
@@ -109,16 +108,16 @@ std::string repaired(const fs::path& file, LockWait& wait) {
     if (damage.empty()) return {};
     refuseLink(file, damage);
     kept = readableItems(database);
-    line = "Search index put aside as " + putAside(file).string() + " (" + damage + "), ";
+    line = "Search index put aside as " + putAside(file).string() + " (" + damage + "); ";
   }
   try {
     IndexStore store(file, wait, lock);
     store.begin(kept.size());
     store.add(kept);
     store.commit();
-    return line + std::to_string(kept.size()) + " characters of it kept";
+    return line + std::to_string(kept.size()) + " characters recovered";
   } catch (const SqliteError& error) {
-    return line + "nothing of it kept: " + error.what();
+    return line + "no characters recovered: " + error.what();
   }
 }
 
@@ -138,7 +137,7 @@ void deleteIndex(const fs::path& file, LockWait& wait) {
   const DirectoryLock lock(file, wait);
   if (!regularFile(file)) return;
   refuseLink(file, "the disk is full");
-  if (!beginsAsIndex(file)) throw SqliteError(SQLITE_NOTADB, file.string() + " is no search index");
+  if (!beginsAsIndex(file)) throw SqliteError(SQLITE_NOTADB, file.string() + " is not a search index");
   for (const char* const suffix : suffixes) {
     const auto each = withSuffix(file, suffix);
     if (unlink(each.c_str()) != 0 && errno != ENOENT) failBySystem(each);

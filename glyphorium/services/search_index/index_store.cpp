@@ -82,7 +82,7 @@ SearchableItem itemOf(const Statement& row) {
 std::optional<FileIdentity> regularFile(const std::filesystem::path& file) {
   struct stat status {};
   if (stat(file.c_str(), &status) != 0) return std::nullopt;
-  if (!S_ISREG(status.st_mode)) throw SqliteError(SQLITE_CANTOPEN, file.string() + " is no regular file");
+  if (!S_ISREG(status.st_mode)) throw SqliteError(SQLITE_CANTOPEN, file.string() + " is not a regular file");
   return FileIdentity{status.st_dev, status.st_ino};
 }
 
@@ -103,11 +103,11 @@ bool isIndex(const Database& database) {
   if (version == indexVersion && look.text(2) == itemTable) return true;
   if (version == 0 && look.integer(1) == 0) return false;
   if (version > indexVersion && look.integer(1) > 0) {
-    throw SqliteError(SQLITE_CANTOPEN, "it has the format " + std::to_string(version) +
-                                           " of a later version, this one knows " +
-                                           std::to_string(indexVersion) + " only");
+    throw SqliteError(SQLITE_CANTOPEN, "it has format " + std::to_string(version) +
+                                           " of a later version; this version supports only format " +
+                                           std::to_string(indexVersion));
   }
-  throw SqliteError(SQLITE_NOTADB, "it is no search index");
+  throw SqliteError(SQLITE_NOTADB, "it is not a search index");
 }
 
 bool beginsAsIndex(const std::filesystem::path& file) {
@@ -172,7 +172,7 @@ IndexStore::~IndexStore() {
 }
 
 void IndexStore::continueUnlessAbandoned() const {
-  if (wait_.abandoned()) throw SqliteError(SQLITE_INTERRUPT, "the program ends");
+  if (wait_.abandoned()) throw SqliteError(SQLITE_INTERRUPT, "the program is ending");
 }
 
 void IndexStore::begin(std::size_t items) {
@@ -221,13 +221,21 @@ void IndexStore::add(const std::vector<SearchableItem>& items) {
 }
 
 void IndexStore::remove(const std::vector<std::string>& identifiers) {
-  Statement find(*database_, "SELECT id FROM item WHERE uid = ?1");
   std::vector<std::int64_t> rows;
-  for (const auto& identifier : identifiers) {
-    if (find.bind(identifier).step()) rows.push_back(find.integer(0));
+  bool everyItem = false;
+  {
+    Statement find(*database_, "SELECT id FROM item WHERE uid = ?1");
+    for (const auto& identifier : identifiers) {
+      if (find.bind(identifier).step()) rows.push_back(find.integer(0));
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    Statement count(*database_, "SELECT count(*) FROM item");
+    count.step();
+    everyItem = std::cmp_equal(count.integer(0), rows.size());
   }
-  std::sort(rows.begin(), rows.end());
-  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+  // Hosts often replace all their items. Clearing is then faster than deleting, except for a few items.
+  if (everyItem && rows.size() >= manyItems) return clear();
   Statement removeTokens(*database_, "DELETE FROM token WHERE rowid = ?1");
   Statement removeItem(*database_, "DELETE FROM item WHERE id = ?1");
   for (const auto row : rows) {

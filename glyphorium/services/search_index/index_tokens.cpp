@@ -6,6 +6,7 @@
 
 #include "glyphorium/text/text_pieces.h"
 #include "glyphorium/text/unicode_text.h"
+#include "glyphorium/text/utf8_decoding.h"
 
 namespace glyph {
 namespace {
@@ -27,54 +28,76 @@ bool isAsciiPunctuation(char c) {
   return (c >= '!' && c <= '/') || (c >= ':' && c <= '@') || (c >= '[' && c <= '`') || (c >= '{' && c <= '~');
 }
 
-// Splits the text at separators. Ill-formed bytes become U+FFFD, because the tokenizer would treat some of
-// them as separators.
-std::vector<std::string> pieces(std::string_view text) {
-  std::vector<std::string> result;
-  bool inside = false;
-  for (const char32_t c : codePoints(text)) {
-    if (separates(c)) {
-      inside = false;
-      continue;
-    }
-    if (!inside) result.emplace_back();
-    inside = true;
-    result.back() += utf8(c);
-  }
+// Replaces each ill-formed sequence with U+FFFD, because the tokenizer would treat some of them as
+// separators.
+std::string wellFormed(std::string text) {
+  if (isWellFormedUtf8(text)) return text;
+  std::string result;
+  for (const char32_t c : codePoints(text)) result += utf8(c);
   return result;
 }
 
-void appendTokens(std::vector<std::string>& tokens, std::string_view text) {
-  for (std::string& piece : pieces(lowercased(text))) {
-    for (auto from = piece.begin(); from != piece.end();) {
-      from = std::find_if_not(from, piece.end(), isAsciiPunctuation);
-      const auto to = std::find_if(from, piece.end(), isAsciiPunctuation);
-      if (from != to && to - from != piece.end() - piece.begin()) tokens.emplace_back(from, to);
-      from = to;
-    }
-    tokens.push_back(std::move(piece));
+// Splits well-formed text at separators. The results are views of the text.
+std::vector<std::string_view> pieces(std::string_view text) {
+  std::vector<std::string_view> result;
+  std::size_t begin = 0;
+  const auto endPiece = [&](std::size_t end) {
+    if (begin < end) result.push_back(text.substr(begin, end - begin));
+  };
+  for (std::size_t i = 0; i < text.size();) {
+    const std::size_t end = i;
+    if (!separates(static_cast<char32_t>(nextCodePoint(text, i)))) continue;
+    endPiece(end);
+    begin = i;
+  }
+  endPiece(text.size());
+  return result;
+}
+
+void appendTokens(std::vector<std::string_view>& tokens, std::string_view piece) {
+  tokens.push_back(piece);
+  for (auto from = piece.begin(); from != piece.end();) {
+    from = std::find_if_not(from, piece.end(), isAsciiPunctuation);
+    const auto to = std::find_if(from, piece.end(), isAsciiPunctuation);
+    if (from != to && to - from != piece.end() - piece.begin()) tokens.emplace_back(from, to);
+    from = to;
   }
 }
 
 }  // namespace
 
 std::string indexTokens(const SearchableItem& item) {
-  std::vector<std::string> tokens;
-  for (const auto& text : {item.uniqueIdentifier, item.title, item.comment.value_or(""), item.genre}) {
-    appendTokens(tokens, text);
-  }
-  for (const auto& keyword : item.keywords) appendTokens(tokens, keyword);
+  std::string text;
+  const auto append = [&text](std::string_view field) {
+    text += wellFormed(lowercased(field));
+    text += ' ';
+  };
+  append(item.uniqueIdentifier);
+  append(item.title);
+  append(item.comment.value_or(""));
+  append(item.genre);
+  for (const std::string& keyword : item.keywords) append(keyword);
+
+  std::vector<std::string_view> tokens;
+  for (const std::string_view piece : pieces(text)) appendTokens(tokens, piece);
   std::sort(tokens.begin(), tokens.end());
-  tokens.erase(std::unique(tokens.begin(), tokens.end()), tokens.end());
-  return joined(tokens, " ");
+  // Queries look for beginnings of tokens. So a token that equals the next one or begins it is not needed.
+  std::string result;
+  for (std::size_t i = 0; i < tokens.size(); ++i) {
+    if (i + 1 < tokens.size() && tokens[i + 1].starts_with(tokens[i])) continue;
+    if (!result.empty()) result += ' ';
+    result += tokens[i];
+  }
+  return result;
 }
 
 IndexQuery indexQuery(std::string_view text) {
-  auto terms = pieces(text);
+  const std::string typed = wellFormed(std::string(text));
+  auto terms = pieces(typed);
   bool scoped = false;
   if (!terms.empty() && lowercased(terms.front()).starts_with(scope)) {
     scoped = true;
-    terms.front().erase(0, scope.size());
+    terms.front().remove_prefix(scope.size());
     if (terms.front().empty()) terms.erase(terms.begin());
   }
   IndexQuery query;
@@ -82,10 +105,10 @@ IndexQuery indexQuery(std::string_view text) {
   query.lowered = lowercased(query.exact);
 
   auto wanted = pieces(query.lowered);
-  if (scoped) wanted.emplace_back(scope);
+  if (scoped) wanted.push_back(scope);
   std::sort(wanted.begin(), wanted.end());
   wanted.erase(std::unique(wanted.begin(), wanted.end()), wanted.end());
-  for (const std::string& term : wanted) {
+  for (const std::string_view term : wanted) {
     if (!query.match.empty()) query.match += " AND ";
     query.match += '"';
     for (const char c : term) query.match.append(c == '"' ? 2 : 1, c);

@@ -29,7 +29,7 @@ std::filesystem::path directoryOf(const std::filesystem::path& file) {
 void LockWait::renew(const std::filesystem::path& file) noexcept {
   file_ = &file;
   since_.reset();
-  told_ = false;
+  reported_ = false;
 }
 
 bool LockWait::pause() noexcept {
@@ -37,7 +37,7 @@ bool LockWait::pause() noexcept {
   const auto now = steady_clock::now();
   if (!since_) since_ = now;
   const auto waited = now - *since_;
-  if (waited >= longWait && !std::exchange(told_, true)) {
+  if (waited >= longWait && !std::exchange(reported_, true)) {
     try {
       printProblem("Waiting for another program that has locked the search index: " + file_->string());
     } catch (const std::bad_alloc&) {  // then the line is not printed

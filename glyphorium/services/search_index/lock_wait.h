@@ -11,7 +11,7 @@
 namespace glyph {
 
 /// Limits the time for which a batch of requests waits for locks of other processes. The LockWaitPolicy
-/// decides on the time that the batch has waited for all locks together. After one second, a diagnostic line
+/// gets the time that the batch has waited for all locks together. After one second, a diagnostic line
 /// is printed. Only one thread may use a LockWait, except that any thread may call abandon() and abandoned().
 class LockWait {
  public:
@@ -31,7 +31,7 @@ class LockWait {
  private:
   const std::filesystem::path* file_ = nullptr;
   std::optional<std::chrono::steady_clock::time_point> since_;  // the time of the batch's first pause
-  bool told_ = false;
+  bool reported_ = false;  // whether the diagnostic line of this batch was printed
   std::atomic<bool> abandoned_ = false;
 };
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/services/search_index/searchable_index.h"
 
-#include <algorithm>
+#include <string_view>
+#include <unordered_map>
 #include <utility>
 
 #include "glyphorium/services/search_index/sqlite_searchable_index.h"
@@ -10,12 +11,12 @@
 namespace glyph {
 namespace {
 
-struct InPlace {
+struct Current {
   std::mutex mutex;
   std::shared_ptr<SearchableIndex> index;
 };
 
-InPlace& inPlace();
+Current& current();
 
 // A host expects that every request is carried out. Therefore the program waits for the current index before
 // it ends.
@@ -23,19 +24,19 @@ struct DrainAtExit {
   ~DrainAtExit() {
     std::shared_ptr<SearchableIndex> last;
     {
-      const std::lock_guard lock(inPlace().mutex);
-      last = inPlace().index;
+      const std::lock_guard lock(current().mutex);
+      last = current().index;
     }
     if (!last) return;
-    // The index stays in place meanwhile: completions may make further requests of it.
+    // Meanwhile the index remains the current one, because completions may make further requests.
     last->waitUntilIdle(std::chrono::seconds(5));
-    const std::lock_guard lock(inPlace().mutex);
-    if (inPlace().index == last) inPlace().index.reset();
+    const std::lock_guard lock(current().mutex);
+    if (current().index == last) current().index.reset();
   }
 };
 
-InPlace& inPlace() {
-  static NeverDestroyed<InPlace> instance;
+Current& current() {
+  static NeverDestroyed<Current> instance;
   static const DrainAtExit drainAtExit;
   return *instance;
 }
@@ -49,27 +50,26 @@ std::string SearchableItem::name() const {
 SearchableIndex::~SearchableIndex() = default;
 
 std::shared_ptr<SearchableIndex> searchableIndex() {
-  const std::lock_guard lock(inPlace().mutex);
-  auto& index = inPlace().index;
+  const std::lock_guard lock(current().mutex);
+  auto& index = current().index;
   if (!index) index = std::make_shared<SqliteSearchableIndex>();
   return index;
 }
 
 void setSearchableIndex(std::shared_ptr<SearchableIndex> replacement) {
-  const std::lock_guard lock(inPlace().mutex);
-  inPlace().index.swap(replacement);
+  const std::lock_guard lock(current().mutex);
+  current().index.swap(replacement);
 }
 
 void MemorySearchableIndex::record(SearchableIndexRequest request, const Completion& completion) {
   {
     const std::lock_guard lock(mutex_);
-    const auto erase = [&](const std::string& identifier) {
-      std::erase_if(items_, [&](const auto& item) { return item.uniqueIdentifier == identifier; });
-    };
-    for (const auto& identifier : request.identifiers) erase(identifier);
+    std::unordered_map<std::string_view, const SearchableItem*> last;  // null for an item to delete
+    for (const auto& identifier : request.identifiers) last[identifier] = nullptr;
+    for (const auto& item : request.items) last[item.uniqueIdentifier] = &item;
+    std::erase_if(items_, [&](const auto& item) { return last.contains(item.uniqueIdentifier); });
     for (const auto& item : request.items) {
-      erase(item.uniqueIdentifier);
-      items_.push_back(item);
+      if (last.at(item.uniqueIdentifier) == &item) items_.push_back(item);
     }
     if (request.kind == SearchableIndexRequest::Kind::deleteAllItems) items_.clear();
     requests_.push_back(std::move(request));

@@ -119,17 +119,17 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
     constexpr std::chrono::milliseconds longest = std::chrono::hours(24 * 365);
     const auto deadline = std::chrono::steady_clock::now() + std::min(limit, longest);
     std::unique_lock lock(mutex_);
-    for (std::optional<PendingIndexWork> told;;) {
-      if (progress && told != pending_) {
+    for (std::optional<PendingIndexWork> reported;;) {
+      if (progress && reported != pending_) {
         const auto left = pending_;
-        told = left;
+        reported = left;
         lock.unlock();
         progress(left);
         lock.lock();
       }
-      if (pending_.requests == 0 && (!progress || told == pending_)) return true;
+      if (pending_.requests == 0 && (!progress || reported == pending_)) return true;
       if (std::chrono::steady_clock::now() >= deadline) return false;
-      if (!progress || told == pending_) changed_.wait_until(lock, deadline);
+      if (!progress || reported == pending_) changed_.wait_until(lock, deadline);
     }
   }
 
@@ -213,7 +213,7 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
     try {
       if (!file_) return "no home directory";
       if (performAndRepair(begin, end)) return std::nullopt;
-      reason = "its file is replaced all the time";
+      reason = "other programs keep replacing its file";
       code = SQLITE_BUSY;
     } catch (const SqliteError& error) {
       code = error.code();

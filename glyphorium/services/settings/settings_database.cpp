@@ -21,7 +21,7 @@ namespace {
 
 // After a wait for a lock has timed out, operations do not wait for locks during this time. Otherwise the
 // waiting times of several operations in a row would add up.
-constexpr auto impatience = std::chrono::seconds(30);
+constexpr auto noWaitAfterTimeout = std::chrono::seconds(30);
 
 constexpr const char* companions[] = {"-journal", "-wal", "-shm"};
 
@@ -47,7 +47,7 @@ using Outcome = SettingsDatabase::Outcome;
 // tables is damaged.
 bool hasTable(const Database& database) {
   try {
-    Statement(database, "SELECT key, value FROM setting");
+    const Statement valid(database, "SELECT key, value FROM setting");
     return true;
   } catch (const SqliteError& error) {
     if (error.code() != SQLITE_ERROR) throw;  // SQLITE_ERROR means that the table or a column does not exist
@@ -89,7 +89,7 @@ template <class Step>
 Outcome SettingsDatabase::attempt(Step step) try {
   return step();
 } catch (const SqliteError& error) {
-  error_ = error.code() == SQLITE_BUSY ? "another program keeps the file locked" : error.what();
+  error_ = error.code() == SQLITE_BUSY ? "another program has locked the file" : error.what();
   if (!error.damage()) return Outcome::failed;
   damaged_ = true;
   return Outcome::damaged;
@@ -116,9 +116,9 @@ int SettingsDatabase::waitWhileBusy(void* self, int attempt) {
 bool SettingsDatabase::goOnWaiting(bool first) {
   const auto now = Clock::now();
   if (first) waitBegan_ = now;
-  if (gaveUpWaiting_ && now - *gaveUpWaiting_ < impatience) return false;
+  if (lastTimeout_ && now - *lastTimeout_ < noWaitAfterTimeout) return false;
   if (waitForLock(std::chrono::duration_cast<std::chrono::milliseconds>(now - waitBegan_))) return true;
-  gaveUpWaiting_ = now;
+  lastTimeout_ = now;
   return false;
 }
 
@@ -179,7 +179,7 @@ Outcome SettingsDatabase::open(bool createMissing) {
   }
   struct stat status {};
   if (stat(file_.c_str(), &status) == 0) {
-    if (!S_ISREG(status.st_mode)) return fail("it is no regular file");
+    if (!S_ISREG(status.st_mode)) return fail("it is not a regular file");
   } else {
     if (errno != ENOENT) return failBySystem();
     if (!createMissing) return Outcome::absent;
@@ -213,9 +213,9 @@ Outcome SettingsDatabase::read(const std::string& key, std::string& json) {
       checked_ = true;
       return select(*connection_, key, json);
     } catch (const SqliteError& failure) {
-      const bool noRoom = failure.code() == SQLITE_CANTOPEN || failure.code() == SQLITE_READONLY ||
-                          failure.code() == SQLITE_IOERR || failure.code() == SQLITE_FULL;
-      if (!complete || !noRoom) throw;
+      const bool cannotCreate = failure.code() == SQLITE_CANTOPEN || failure.code() == SQLITE_READONLY ||
+                                failure.code() == SQLITE_IOERR || failure.code() == SQLITE_FULL;
+      if (!complete || !cannotCreate) throw;
     }
     return readAlone(key, json);
   });
@@ -235,7 +235,7 @@ Outcome SettingsDatabase::begin() {
   return attempt([&] {
     if (const Outcome opened = open(true); opened != Outcome::done) return opened;
     if (damaged_) return Outcome::damaged;
-    if (readOnly()) return fail("the file may not be written");
+    if (readOnly()) return fail("the file is read-only");
     if (!checked_ || isCut(*connection_, file_)) check(*connection_);
     checked_ = true;
     if (!configured_) {
@@ -254,7 +254,7 @@ Outcome SettingsDatabase::begin() {
         "BEGIN IMMEDIATE;"
         "CREATE TABLE IF NOT EXISTS setting (key TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL) WITHOUT "
         "ROWID");
-    gaveUpWaiting_.reset();
+    lastTimeout_.reset();
     return Outcome::done;
   });
 }

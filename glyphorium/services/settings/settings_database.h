@@ -83,7 +83,7 @@ class SettingsDatabase {
   bool configured_ = false;
   bool damaged_ = false;
   Clock::time_point waitBegan_;
-  std::optional<Clock::time_point> gaveUpWaiting_;
+  std::optional<Clock::time_point> lastTimeout_;
   std::string error_;
 };
 

@@ -10,13 +10,13 @@
 namespace glyph {
 namespace {
 
-struct Place {
+struct Current {
   std::mutex mutex;
   std::shared_ptr<SettingsStore> store;
 };
 
-Place& place() {
-  static NeverDestroyed<Place> instance;
+Current& current() {
+  static NeverDestroyed<Current> instance;
   return *instance;
 }
 
@@ -41,14 +41,14 @@ std::shared_ptr<SettingsStore> settingsStore() {
   static const struct AtExit {
     ~AtExit() { setSettingsStore(nullptr); }
   } atExit;
-  const std::lock_guard lock(place().mutex);
-  if (!place().store) place().store = std::make_shared<SqliteSettingsStore>();
-  return place().store;
+  const std::lock_guard lock(current().mutex);
+  if (!current().store) current().store = std::make_shared<SqliteSettingsStore>();
+  return current().store;
 }
 
 void setSettingsStore(std::shared_ptr<SettingsStore> store) {
-  const std::lock_guard lock(place().mutex);
-  place().store.swap(store);  // the old store is destroyed after the lock is released
+  const std::lock_guard lock(current().mutex);
+  current().store.swap(store);  // the old store is destroyed after the lock is released
 }
 
 }  // namespace glyph

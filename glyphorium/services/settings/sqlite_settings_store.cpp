@@ -16,7 +16,7 @@ namespace glyph {
 
 using Outcome = SettingsDatabase::Outcome;
 
-struct SqliteSettingsStore::Impl {
+struct GLYPHORIUM_LOCAL SqliteSettingsStore::Impl {
   explicit Impl(std::filesystem::path file) : database(std::move(file)) {}
 
   // A value that is not on the disk yet.
@@ -102,7 +102,7 @@ std::optional<std::string> SqliteSettingsStore::Impl::present(const std::string&
 std::optional<std::string> SqliteSettingsStore::Impl::encode(const std::string& key,
                                                              const SettingValue& value) {
   auto json = settingToJson(value);
-  if (!json) print("Setting '" + key + "' is not set: its value is no JSON");
+  if (!json) print("Setting '" + key + "' is not set: its value is not valid JSON");
   return json;
 }
 

@@ -14,13 +14,13 @@ namespace {
 
 using std::chrono::milliseconds;
 
-struct InPlace {
+struct Current {
   std::mutex mutex;
   std::shared_ptr<const LockWaitPolicy> policy;  // null means the default
 };
 
-InPlace& inPlace() {
-  static NeverDestroyed<InPlace> instance;  // settings may be saved during exit
+Current& current() {
+  static NeverDestroyed<Current> instance;  // settings may be saved during exit
   return *instance;
 }
 
@@ -28,15 +28,15 @@ InPlace& inPlace() {
 
 void setLockWaitPolicy(LockWaitPolicy policy) {
   auto replacement = policy ? std::make_shared<const LockWaitPolicy>(std::move(policy)) : nullptr;
-  const std::lock_guard lock(inPlace().mutex);
-  inPlace().policy.swap(replacement);
+  const std::lock_guard lock(current().mutex);
+  current().policy.swap(replacement);
 }
 
 bool waitForLock(milliseconds waited) noexcept try {
   std::shared_ptr<const LockWaitPolicy> policy;
   {
-    const std::lock_guard lock(inPlace().mutex);
-    policy = inPlace().policy;
+    const std::lock_guard lock(current().mutex);
+    policy = current().policy;
   }
   if (!(policy ? (*policy)(waited) : waited < milliseconds(5000))) return false;
   // Most locks last only a few milliseconds. So the first pauses are short, and later ones are longer.
