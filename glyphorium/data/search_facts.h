@@ -9,11 +9,14 @@
 #include "glyphorium/data/code_point_index.h"
 
 /// Data of the search that is not in the tables. The data is in the library's read-only image. The generator
-/// creates the data from the source files in search/, from groups.tsv, and from the file of HTML references.
+/// creates the data from the source files in search/, from groups.tsv, from Unicode's list of names, and
+/// from the file of HTML references.
 namespace glyph {
 
 enum class SearchFactKind : std::uint8_t {
   alias,         ///< formal aliases and abbreviations in Unicode's NameAliases file
+  informalName,  ///< informal aliases in Unicode's list of names
+  comment,       ///< comments in Unicode's list of names
   htmlName,      ///< all names of the HTML Standard's references, without "&" and ";"
   annotation,    ///< the text-to-speech name of CLDR, which may be empty, then the keywords of CLDR
   everydayName,  ///< names that people use for the character
@@ -36,6 +39,11 @@ struct SearchFacts {
   std::size_t size() const { return index.size(); }
   Entry operator[](std::size_t position) const {
     return {index[position].codePoint, index.slice(texts, position)};
+  }
+  /// Returns the texts of the code point. Empty if it has none.
+  std::string_view textsOf(std::uint32_t codePoint) const {
+    const auto position = index.find(codePoint);
+    return position ? index.slice(texts, *position) : std::string_view();
   }
 };
 
@@ -60,6 +68,8 @@ struct SearchLanguage {
   std::string_view linkingLetters;  ///< each line has letters that may join the parts of a compound word
   /// Each line has letters as people type them, then the folded letters that people mean.
   std::string_view spellings;
+  /// Each line has letters as people type them by mistake, then letters that sound the same.
+  std::string_view sounds;
 };
 
 extern const std::span<const SearchLanguage> searchLanguages;
@@ -67,6 +77,10 @@ extern const std::span<const SearchLanguage> searchLanguages;
 /// The stop words of all languages, one per line, in ascending order. A stop word only says that the query is
 /// about a character ("sign", "symbol"), or has no meaning of its own. Stop words in a query need not match.
 extern const std::string_view searchStopWords;
+
+/// How marks on letters look. Each line has a word of the names of letters, a tab, and words separated by
+/// spaces. The lines are in ascending order.
+extern const std::string_view searchMarks;
 
 /// The kind of characters in a group. The ranking of the search depends on it.
 enum class GroupKind : std::uint8_t {

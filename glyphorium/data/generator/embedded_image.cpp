@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/data/generator/embedded_image.h"
 
-#include <algorithm>
-#include <cstring>
+#include <string_view>
+#include <unordered_map>
 
 #include "glyphorium/data/generator/output_file.h"
 #include "glyphorium/data/text_padding.h"
@@ -52,20 +52,19 @@ void EmbeddedImage::addPart(const std::string& constant, std::size_t entries, st
   texts_.push_back({constant, constant, "", entries, false, lastOffset_ + offset, size});
 }
 
-void EmbeddedImage::addConfiguredRows(const std::vector<std::size_t>& offsets) {
-  for (const std::size_t offset : offsets)
-    append(configuredRows_, static_cast<std::uint32_t>(lastOffset_ + offset));
-  configuredEnd_ = lastOffset_ + texts_.back().size;
-}
-
 void EmbeddedImage::addNameIndex(const Index& index) {
-  nameIndex_ = add(indexBytes(index));
+  addPiece("CodePointIndex", "nameIndex", indexBytes(index));
 }
 
-void EmbeddedImage::addEnrichmentIndex(const Index& index) {
-  Index ascending = index;  // sorted below, because the table is in the order of the hex texts
-  std::sort(ascending.begin(), ascending.end());
-  enrichmentIndex_ = add(indexBytes(ascending));
+void EmbeddedImage::addPreparedRows(const PreparedRows& rows) {
+  addPiece("std::string_view", "preparedRowBytes", rows.rows);
+  addPiece("std::string_view", "preparedTexts", rows.texts);
+  addPiece("std::string_view", "preparedOrderBytes", rows.order);
+}
+
+void EmbeddedImage::addPreparedEnrichment(std::string_view rows, const Index& index) {
+  addPiece("std::string_view", "preparedEnrichment", rows);
+  addPiece("CodePointIndex", "enrichmentIndex", indexBytes(index));
 }
 
 void EmbeddedImage::addSearchFacts(std::string kind, std::string language,
@@ -86,13 +85,54 @@ void EmbeddedImage::addSearchLanguage(const std::string& code, std::string_view 
   const std::string functionWords = lines(grammar.functionWords);
   for (const std::string_view text :
        {synonyms, std::string_view(functionWords), std::string_view(grammar.plurals),
-        std::string_view(grammar.linkingLetters), std::string_view(grammar.spellings)})
+        std::string_view(grammar.linkingLetters), std::string_view(grammar.spellings),
+        std::string_view(grammar.sounds)})
     searchLanguages_ += ", " + view(add(text));
   searchLanguages_ += "},\n";
 }
 
 void EmbeddedImage::addStopWords(std::string_view lines) {
-  stopWords_ = add(lines);
+  addPiece("std::string_view", "searchStopWords", lines);
+}
+
+void EmbeddedImage::addNotes(std::string language, const std::map<char32_t, std::string>& notes) {
+  Index index;
+  std::string texts;
+  for (const auto& [codePoint, note] : notes) {
+    index.emplace_back(codePoint, static_cast<std::uint32_t>(texts.size()));
+    texts += note;
+  }
+  const Piece indexPiece = add(indexBytes(index));
+  notes_.push_back({std::move(language), indexPiece, add(texts)});
+}
+
+std::string EmbeddedImage::codePointTexts(const CharacterTable& table) {
+  Index index;
+  std::string texts;
+  std::unordered_map<std::string_view, std::uint32_t> offsets;  // equal lines are stored once
+  for (const auto& [codePoint, text] : table) {
+    const auto [known, isNew] = offsets.try_emplace(text, static_cast<std::uint32_t>(texts.size()));
+    if (isNew) texts += text + "\n";
+    index.emplace_back(codePoint, known->second);
+  }
+  const Piece indexPiece = add(indexBytes(index));
+  return "CodePointIndex{" + view(indexPiece) + "}, " + view(add(texts));
+}
+
+void EmbeddedImage::addCharacterTable(const std::string& constant, const CharacterTable& table) {
+  pieces_ += "constinit const CodePointTexts " + constant + "{" + codePointTexts(table) + "};\n";
+}
+
+void EmbeddedImage::addCharacterAnnotations(const std::string& language, const CharacterTable& table) {
+  characterAnnotations_ += "    {\"" + language + "\", {" + codePointTexts(table) + "}},\n";
+}
+
+void EmbeddedImage::addMarks(std::string_view lines) {
+  addPiece("std::string_view", "searchMarks", lines);
+}
+
+void EmbeddedImage::addNotations(const std::string& constant, std::string_view lines) {
+  notations_ += definition("std::string_view", constant, add(lines));
 }
 
 EmbeddedImage::Piece EmbeddedImage::add(std::string_view bytes) {
@@ -100,6 +140,10 @@ EmbeddedImage::Piece EmbeddedImage::add(std::string_view bytes) {
   const Piece piece{blob_.size(), bytes.size()};
   blob_ += bytes;
   return piece;
+}
+
+void EmbeddedImage::addPiece(std::string_view type, std::string_view constant, std::string_view bytes) {
+  pieces_ += definition(type, constant, add(bytes));
 }
 
 std::string EmbeddedImage::view(Piece piece) {
@@ -120,16 +164,22 @@ std::string EmbeddedImage::searchFactDefinitions() const {
   text += "};\nconstinit const std::size_t searchFactCount = " + std::to_string(searchFacts_.size()) +
           ";\n\nconstinit const SearchLanguage languages[] = {\n" + searchLanguages_ +
           "};\nconstinit const std::span<const SearchLanguage> searchLanguages{languages};\n" +
-          definition("std::string_view", "searchStopWords", stopWords_) +
           "\nconstinit const GroupWithKind groups[] = {\n";
   for (const auto& [group, kind] : groupKinds_)
     text += "    {\"" + group + "\", GroupKind::" + enumerator(kind) + "},\n";
   return text + "};\nconstinit const std::span<const GroupWithKind> groupKinds{groups};\n";
 }
 
+std::string EmbeddedImage::noteDefinitions() const {
+  std::string text = "\nconstinit const SupplementaryNotes noteLists[] = {\n";
+  for (const Notes& notes : notes_) {
+    text += "    {\"" + notes.language + "\", CodePointIndex{" + view(notes.index) + "}, " +
+            view(notes.texts) + "},\n";
+  }
+  return text + "};\nconstinit const std::span<const SupplementaryNotes> supplementaryNotes{noteLists};\n";
+}
+
 void EmbeddedImage::write(const std::filesystem::path& folder) {
-  append(configuredRows_, static_cast<std::uint32_t>(configuredEnd_));
-  const Piece configuredRows = add(configuredRows_);
   std::string header =
       "// SPDX-License-Identifier: MIT\n" + std::string(banner) +
       "#pragma once\n\n#include <string_view>\n\n#include \"glyphorium/export.h\"\n\n"
@@ -137,10 +187,14 @@ void EmbeddedImage::write(const std::filesystem::path& folder) {
       "/// The group tables: JSON arrays in UTF-8, with one object per character. `latinBasicJson` is not\n"
       "/// valid JSON. Repair it before parsing: see Glyphorium::getComputedEntitiesFrom.\n";
   std::string definitions = std::string(banner) +
+                            "#include \"glyphorium/data/character_tables.h\"\n"
                             "#include \"glyphorium/data/embedded_image.h\"\n"
                             "#include \"glyphorium/data/embedded_texts.h\"\n"
                             "#include \"glyphorium/data/group_tables.h\"\n"
-                            "#include \"glyphorium/data/search_facts.h\"\n\nextern \"C\" {\n"
+                            "#include \"glyphorium/data/notations.h\"\n"
+                            "#include \"glyphorium/data/prepared_rows.h\"\n"
+                            "#include \"glyphorium/data/search_facts.h\"\n"
+                            "#include \"glyphorium/data/supplementary_notes.h\"\n\nextern \"C\" {\n"
                             "extern const char glyphoriumEmbeddedImage[" +
                             std::to_string(blob_.size()) +
                             "];\n}\n\n"
@@ -154,13 +208,14 @@ void EmbeddedImage::write(const std::filesystem::path& folder) {
             ", " + std::to_string(text.entries) + ", " + (text.configured ? "true" : "false") + "},\n";
   }
   header += "\n}  // namespace glyph\n";
-  definitions += "\n" + list +
-                 "};\nconstinit const std::size_t embeddedTextCount = " + std::to_string(texts_.size()) +
-                 ";\n\n" + definition("std::string_view", "embeddedImage", {0, blob_.size()}) +
-                 definition("CodePointIndex", "nameIndex", nameIndex_) +
-                 definition("CodePointIndex", "enrichmentIndex", enrichmentIndex_) +
-                 definition("std::string_view", "configuredRowOffsets", configuredRows) +
-                 searchFactDefinitions() + "\n}  // namespace glyph\n";
+  definitions +=
+      "\n" + list + "};\nconstinit const std::size_t embeddedTextCount = " + std::to_string(texts_.size()) +
+      ";\n\n" + definition("std::string_view", "embeddedImage", {0, blob_.size()}) + pieces_ +
+      searchFactDefinitions() + noteDefinitions() + "\nnamespace notations {\n" + notations_ +
+      "}  // namespace notations\n" + "\nconstinit const CharacterAnnotations annotations[] = {\n" +
+      characterAnnotations_ +
+      "};\nconstinit const std::span<const CharacterAnnotations> characterAnnotations{annotations};\n" +
+      "\n}  // namespace glyph\n";
 
   const std::filesystem::path binary = folder / "embedded.bin";
   writeFile(binary, blob_);

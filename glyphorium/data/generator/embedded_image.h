@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "glyphorium/data/generator/prepared_rows.h"
 #include "glyphorium/data/generator/search_grammar.h"
 
 namespace glyph::generator {
@@ -25,25 +26,36 @@ class EmbeddedImage {
   /// Adds a text constant that is a part of the text added last. `offset` and `size` are in bytes.
   void addPart(const std::string& constant, std::size_t entries, std::size_t offset, std::size_t size);
 
-  /// Adds the byte offsets at which the rows of the text added last begin. Call this only for a text that
-  /// configure() decodes.
-  void addConfiguredRows(const std::vector<std::size_t>& offsets);
-
-  /// Pairs of a code point and an offset in a table. addNameIndex() needs pairs in ascending order of code
-  /// points.
+  /// Pairs of a code point and an offset, in ascending order of code points.
   using Index = std::vector<std::pair<char32_t, std::uint32_t>>;
   void addNameIndex(const Index& index);
-  void addEnrichmentIndex(const Index& index);
+
+  /// Adds the rows that programs need not decode.
+  void addPreparedRows(const PreparedRows& rows);
+  void addPreparedEnrichment(std::string_view rows, const Index& index);
 
   /// Adds data of the search: the texts of each code point. `kind` is the name of an enumerator of
   /// SearchFactKind. `language` is a BCP 47 tag, or empty for texts in no language.
   void addSearchFacts(std::string kind, std::string language,
                       const std::map<char32_t, std::vector<std::string>>& facts);
-  /// Adds a SearchLanguage with these members.
+  /// Adds a SearchLanguage for the language with this BCP 47 tag.
   void addSearchLanguage(const std::string& code, std::string_view synonyms, const SearchGrammar& grammar);
   void addStopWords(std::string_view lines);
+  /// Adds the supplementary usage notes of a language. `language` is a BCP 47 tag.
+  void addNotes(std::string language, const std::map<char32_t, std::string>& notes);
+  /// Adds `searchMarks`.
+  void addMarks(std::string_view lines);
   /// Adds the kind of a group. `kind` has the spelling of groups.tsv.
   void addGroupKind(const std::string& group, const std::string& kind) { groupKinds_.emplace(group, kind); }
+
+  /// Maps a code point to its line of text, without a line feed.
+  using CharacterTable = std::map<char32_t, std::string>;
+  /// Adds a constant of character_tables.h.
+  void addCharacterTable(const std::string& constant, const CharacterTable& table);
+  /// Adds a CharacterAnnotations for the language with this BCP 47 tag.
+  void addCharacterAnnotations(const std::string& language, const CharacterTable& table);
+  /// Adds a constant of notations.h.
+  void addNotations(const std::string& constant, std::string_view lines);
 
   /// Writes embedded.bin, embedded.S, embedded_image.cpp and glyphorium/data/group_tables.h to the folder.
   /// Throws std::runtime_error if a file cannot be written.
@@ -70,23 +82,30 @@ class EmbeddedImage {
     Piece index;
     Piece texts;
   };
+  struct Notes {
+    std::string language;
+    Piece index;
+    Piece texts;
+  };
 
   static std::string view(Piece piece);
   static std::string definition(std::string_view type, std::string_view constant, Piece piece);
   Piece add(std::string_view bytes);
+  std::string codePointTexts(const CharacterTable& table);
+  void addPiece(std::string_view type, std::string_view constant, std::string_view bytes);
   std::string searchFactDefinitions() const;
+  std::string noteDefinitions() const;
 
   std::string blob_;
   std::vector<Text> texts_;
   std::size_t lastOffset_ = 0;
-  std::size_t configuredEnd_ = 0;
-  std::string configuredRows_;
-  Piece nameIndex_{};
-  Piece enrichmentIndex_{};
+  std::string pieces_;  // the C++ definitions of single pieces
   std::vector<SearchFacts> searchFacts_;
   std::string searchLanguages_;  // the C++ initialisers of the languages
-  Piece stopWords_{};
+  std::vector<Notes> notes_;
+  std::string notations_;  // the C++ definitions of the notations
   std::map<std::string, std::string> groupKinds_;
+  std::string characterAnnotations_;  // the C++ initialisers of the languages
 };
 
 }  // namespace glyph::generator

@@ -3,12 +3,10 @@
 
 #include <algorithm>
 #include <map>
-#include <optional>
 #include <utility>
 #include <vector>
 
-#include "glyphorium/data/name_capitalization.h"
-#include "glyphorium/text/unicode_text.h"
+#include "glyphorium/data/generator/notes.h"
 
 namespace glyph::generator {
 namespace {
@@ -36,9 +34,9 @@ Row& mainRow(RowsByHex& rows, const std::string& hex) {
 
 void requirePlainText(const Place& place, const std::string& text) {
   if (text.find_first_of("\"\\") != std::string::npos)
-    place.fail("holds a straight quotation mark or a reverse solidus");
+    place.fail("contains a straight quotation mark or a reverse solidus");
   for (const char c : text) {
-    if (static_cast<unsigned char>(c) < 0x20) place.fail("holds a control character");
+    if (static_cast<unsigned char>(c) < 0x20) place.fail("contains a control character");
   }
 }
 
@@ -52,9 +50,10 @@ void readSearchTerms(const std::filesystem::path& file, RowsByHex& rows) {
     row.searchTerms.assign(line.columns.begin() + 1, line.columns.end());
     std::vector<std::string> sorted = row.searchTerms;
     std::sort(sorted.begin(), sorted.end());
-    if (std::adjacent_find(sorted.begin(), sorted.end()) != sorted.end()) line.fail("holds a term twice");
+    if (std::adjacent_find(sorted.begin(), sorted.end()) != sorted.end())
+      line.fail("contains the same term twice");
     for (const std::string& term : row.searchTerms) {
-      if (term.empty()) line.fail("holds an empty term");
+      if (term.empty()) line.fail("contains an empty term");
       requirePlainText(line.place, term);
     }
     rows[hex].push_back(std::move(row));
@@ -71,7 +70,7 @@ void readReferences(const std::filesystem::path& file, RowsByHex& rows, Figures&
     const std::string& reference = line.columns[1];
     if (reference.empty()) continue;
     if (reference.size() < 3 || reference.front() != '&' || reference.back() != ';')
-      line.fail("is no reference");
+      line.fail("is not an HTML reference");
     const std::string name = " " + reference.substr(1, reference.size() - 2) + " ";
     if ((" " + line.columns[2] + " ").find(name) == std::string::npos) ++elsewhere;
     mainRow(rows, hex).htmlNamed = reference;
@@ -94,91 +93,15 @@ void readAttributes(const std::filesystem::path& file, RowsByHex& rows) {
     } else if (line.columns[1] == "needsSerifs" && line.columns[2] == "true") {
       row.needsSerifs = true;
     } else {
-      line.fail("is no attribute");
+      line.fail("is not an attribute, or has a wrong value");
     }
   }
-}
-
-// Fails if a line of a note breaks a rule for the form of notes. `before` is the line above `line`, which may
-// be the heading.
-void requireNoteForm(const Place& place, const Language& language, const std::string& before,
-                     const std::string& line) {
-  requirePlainText(place, line);
-  if (line.starts_with('#')) place.fail("is no heading");
-  if (line.empty()) {
-    if (before.empty()) place.fail("is the second empty line in a row");
-    return;
-  }
-  if (line.starts_with("• ")) {
-    if (!before.starts_with("• ") && !before.ends_with(':'))
-      place.fail("begins a list, but the line before it does not end in a colon");
-  } else if (!before.empty()) {
-    place.fail("follows text without an empty line, but does not begin with '• '");
-  }
-  // A straight apostrophe is allowed only in a text about this character, followed by its code.
-  for (std::size_t i = line.find('\''); i != std::string::npos; i = line.find('\'', i + 1)) {
-    if (line.compare(i, 8, "' (0027)") != 0) place.fail("holds a straight quotation mark");
-  }
-  std::string blanks = line;
-  for (const std::string noBreakSpace : {"\u00A0", "\u202F"}) {
-    for (std::size_t i; (i = blanks.find(noBreakSpace)) != std::string::npos;)
-      blanks.replace(i, noBreakSpace.size(), " ");
-  }
-  if (blanks.starts_with(' ') || blanks.ends_with(' ')) place.fail("begins or ends with a blank");
-  if (blanks.find("  ") != std::string::npos) place.fail("holds two blanks in a row");
-  const auto forbid = [&](const std::string& breakable) {
-    if (line.find(breakable) != std::string::npos)
-      place.fail("needs a no-break space in '" + breakable + "'");
-  };
-  for (const char32_t c : language.unbreakableBefore) forbid(" " + utf8(c));
-  for (const char32_t c : language.unbreakableBehind) forbid(utf8(c) + " ");
-}
-
-void readNotes(const std::filesystem::path& file, const Language& language, const NameTable& names,
-               RowsByHex& rows) {
-  std::string previous;
-  std::optional<Place> heading;
-  std::string hex;
-  std::string note;
-  const auto finish = [&] {
-    while (note.ends_with('\n')) note.pop_back();
-    note.erase(0, std::min(note.find_first_not_of('\n'), note.size()));
-    if (!heading) {
-      if (!note.empty()) Place{file, 1}.fail("does not begin with a heading");
-      return;
-    }
-    if (note.empty()) heading->fail("has no note");
-    mainRow(rows, hex).notes[language.code] = note;
-  };
-  std::size_t number = 0;
-  std::string before;
-  for (const std::string& text : readLines(file)) {
-    const Place place{file, ++number};
-    const std::string above = std::exchange(before, text);
-    if (!text.starts_with("## ")) {
-      requireNoteForm(place, language, above, text);
-      note += text + '\n';
-      continue;
-    }
-    if (!above.empty()) place.fail("needs an empty line before it");
-    finish();
-    note.clear();
-    heading = place;
-    const SourceLine line{place, {text.substr(3, text.find(' ', 3) - 3)}};
-    const char32_t codePoint = line.codePoint(0, false);
-    hex = hexText(codePoint);
-    if (hex <= previous) place.fail("is out of order");
-    previous = hex;
-    const NameTable::Entry* const entry = names.find(codePoint);
-    const std::string wanted = "## " + hex + " " + (entry ? capitalizedName(entry->name) : "?");
-    if (text != wanted) place.fail("must read '" + wanted + "'");
-  }
-  finish();
 }
 
 std::string jsonText(std::string_view text) {
   std::string json = "\"";
   for (const char c : text) {
+    if (c == '"' || c == '\\') json += '\\';
     if (c == '\n')
       json += "\\n";
     else
@@ -213,6 +136,30 @@ std::string rowJson(const std::string& hex, const Row& row, const std::vector<La
          ",\n    \"searchTerms\": " + jsonArray(terms) + "\n  }";
 }
 
+// Appends a number that fits into one byte.
+void appendNumber(std::size_t number, const std::string& hex, std::string& bytes) {
+  if (number > UINT8_MAX) throw SourceError("enrichment: error: " + hex + " has too many texts");
+  bytes += static_cast<char>(number);
+}
+
+// Returns the fields of the row as preparedEnrichment() of entity/ reads them.
+std::string preparedRow(const std::string& hex, const Row& row, const std::vector<Language>& languages) {
+  std::string bytes;
+  appendNumber(row.needsSerifs, hex, bytes);
+  appendNumber(row.searchTerms.size(), hex, bytes);
+  appendNumber(row.notes.size(), hex, bytes);
+  const auto append = [&](const std::string& text) { bytes.append(text.c_str(), text.size() + 1); };
+  for (const std::string& text : {hex, row.betterName, row.htmlNamed, row.imageName}) append(text);
+  for (const std::string& term : row.searchTerms) append(term);
+  for (const Language& language : languages) {
+    const auto note = row.notes.find(language.code);
+    if (note == row.notes.end()) continue;
+    append(language.code);
+    append(note->second);
+  }
+  return bytes;
+}
+
 void noteFigures(const RowsByHex& rows, const NameTable& names, const std::set<char32_t>& configured,
                  Figures& figures) {
   std::map<std::string, std::size_t> counts;
@@ -240,16 +187,17 @@ void noteFigures(const RowsByHex& rows, const NameTable& names, const std::set<c
 }
 
 EnrichmentTable makeTable(const RowsByHex& rows, const std::vector<Language>& languages) {
-  EnrichmentTable table{"[\n", 0, {}};
+  EnrichmentTable table{"[\n", 0, {}, {}};
   for (const auto& [hex, all] : rows) {  // std::map is sorted by the hex text
+    table.index.emplace_back(std::stoul(hex, nullptr, 16), static_cast<std::uint32_t>(table.prepared.size()));
+    table.prepared += preparedRow(hex, all.front(), languages);
     for (const Row& row : all) {
       if (table.rows++ > 0) table.json += ",\n";
-      if (&row == &all.front())
-        table.index.emplace_back(std::stoul(hex, nullptr, 16), static_cast<std::uint32_t>(table.json.size()));
       table.json += rowJson(hex, row, languages);
     }
   }
   table.json += "\n]";
+  std::sort(table.index.begin(), table.index.end());
   return table;
 }
 
@@ -266,9 +214,9 @@ EnrichmentTable makeEnrichmentTable(const std::filesystem::path& sources,
   readAttributes(folder / "attributes.tsv", rows);
   const auto addNotes = [&](bool counted) {
     for (const Language& language : languages) {
-      const std::filesystem::path file = folder / "advice" / (language.code + ".md");
-      if (language.notesAreCounted == counted && std::filesystem::exists(file))
-        readNotes(file, language, names, rows);
+      if (language.notesAreCounted != counted) continue;
+      for (const auto& [codePoint, note] : tableNotes(sources, language, names))
+        mainRow(rows, hexText(codePoint)).notes[language.code] = note;
     }
   };
   addNotes(true);

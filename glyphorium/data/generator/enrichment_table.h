@@ -17,7 +17,8 @@ namespace glyph::generator {
 struct EnrichmentTable {
   std::string json;
   std::size_t rows;
-  /// For each code point, the offset in `json` at which its first row begins.
+  std::string prepared;  ///< the first row of each code point, as PreparedEnrichmentReader reads it
+  /// For each code point, the offset in `prepared` of its row. In ascending order of code points.
   std::vector<std::pair<char32_t, std::uint32_t>> index;
 };
 

@@ -6,7 +6,7 @@ namespace glyph::generator {
 Figures::Figures(const std::filesystem::path& sources) : file_(sources / "figures.tsv") {
   for (const SourceLine& line : readTable(file_, 2, 2)) {
     if (!wanted_.emplace(line.columns[0], std::pair{line.number(1), line.place}).second)
-      line.fail("stands twice");
+      line.fail("repeats a key of an earlier line");
   }
 }
 
@@ -25,7 +25,7 @@ void Figures::check() const {
       note(wanted.second, "nothing computes '" + figure + "'");
     } else if (value->second != wanted.first) {
       note(wanted.second,
-           figure + ": " + std::to_string(value->second) + ", wanted " + std::to_string(wanted.first));
+           figure + ": " + std::to_string(value->second) + ", expected " + std::to_string(wanted.first));
     }
   }
   for (const auto& [figure, value] : reached_) {

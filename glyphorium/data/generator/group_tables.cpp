@@ -70,14 +70,12 @@ std::vector<char32_t> readBlock(const SourceLine& line, const NameTable& names) 
 
 // Does not escape any symbol, not even those of U+0022 and U+005C. Readers of the table repair these two rows
 // before they parse the table. The repair would damage an escaped symbol.
-std::string rowJson(char32_t codePoint, const std::string& name, const std::string& group, bool isSymbol) {
-  const std::string hex = hexText(codePoint);
-  const std::string decimal = std::to_string(static_cast<std::uint32_t>(codePoint));
-  const std::size_t zeros = std::min(hex.find_first_not_of('0'), hex.size());
-  return "{\"symbol\":\"" + utf8(codePoint) + "\",\"hex\":\"" + hex + "\"," +
-         (isSymbol ? "\"isSFSymbol\":true," : "") + "\"htmlHex\":\"&#x" + hex.substr(zeros) +
-         ";\",\"fallbackName\":\"" + capitalizedName(name) + "\",\"htmlDecimal\":\"&#" + decimal +
-         ";\",\"decimal\":" + decimal + ",\"group\":\"" + group + "\"}";
+std::string rowJson(char32_t codePoint, const RowTexts& texts, const GroupTable& table) {
+  return "{\"symbol\":\"" + texts.symbol + "\",\"hex\":\"" + texts.hex + "\"," +
+         (table.isSFSymbols ? "\"isSFSymbol\":true," : "") + "\"htmlHex\":\"" + texts.htmlHex +
+         "\",\"fallbackName\":\"" + texts.fallbackName + "\",\"htmlDecimal\":\"" + texts.htmlDecimal +
+         "\",\"decimal\":" + std::to_string(static_cast<std::uint32_t>(codePoint)) + ",\"group\":\"" +
+         table.group + "\"}";
 }
 
 GroupTable makeTable(const SourceLine& line, const std::filesystem::path& sources, const NameTable& names) {
@@ -86,11 +84,10 @@ GroupTable makeTable(const SourceLine& line, const std::filesystem::path& source
                    choose(line, use, "configured", "text"),
                    line.columns[kind],
                    {},
-                   "[",
-                   {}};
+                   line.columns[constant] == "sfSymbolsJson",
+                   "["};
   if (std::find(groupKinds.begin(), groupKinds.end(), table.kind) == groupKinds.end())
     line.fail("'" + table.kind + "' is not a kind of group");
-  const bool isSymbols = table.constant == "sfSymbolsJson";
   const bool oneRowALine = choose(line, layout, "lines", "compact");
   table.members = choose(line, membership, "selection", "block")
                       ? readSelection(sources / "selections" / (table.constant + ".txt"))
@@ -100,20 +97,19 @@ GroupTable makeTable(const SourceLine& line, const std::filesystem::path& source
               [](char32_t a, char32_t b) { return hexText(a) < hexText(b); });
   }
   if (table.members.size() != line.number(rows)) {
-    line.fail("comes to " + std::to_string(table.members.size()) + " rows");
+    line.fail("has a table of " + std::to_string(table.members.size()) + " rows, expected " +
+              line.columns[rows]);
   }
   if (table.members.front() != line.codePoint(first, false) ||
       table.members.back() != line.codePoint(last, false)) {
-    line.fail("runs from " + hexText(table.members.front()) + " to " + hexText(table.members.back()));
+    line.fail("has a table from " + hexText(table.members.front()) + " to " + hexText(table.members.back()));
   }
   for (const char32_t codePoint : table.members) {
-    const NameTable::Entry* const entry = names.find(codePoint);
-    if (!entry) line.fail("member " + hexText(codePoint) + " has no name");
-    if (isSymbols && !names.isSymbol(codePoint))
+    if (!names.find(codePoint)) line.fail("member " + hexText(codePoint) + " has no name");
+    if (table.isSFSymbols && !names.isSymbol(codePoint))
       line.fail("member " + hexText(codePoint) + " is not an SF Symbol");
     if (table.json.size() > 1) table.json += oneRowALine ? ",\n" : ",";
-    table.rowOffsets.push_back(table.json.size());
-    table.json += rowJson(codePoint, entry->name, table.group, isSymbols);
+    table.json += rowJson(codePoint, rowTexts(codePoint, names), table);
   }
   table.json += ']';
   return table;
@@ -121,12 +117,21 @@ GroupTable makeTable(const SourceLine& line, const std::filesystem::path& source
 
 }  // namespace
 
+RowTexts rowTexts(char32_t codePoint, const NameTable& names) {
+  const std::string hex = hexText(codePoint);
+  const std::size_t zeros = std::min(hex.find_first_not_of('0'), hex.size());
+  return {hex, "&#x" + hex.substr(zeros) + ";",
+          "&#" + std::to_string(static_cast<std::uint32_t>(codePoint)) + ";", utf8(codePoint),
+          capitalizedName(names.find(codePoint)->name)};
+}
+
 std::vector<GroupTable> makeGroupTables(const std::filesystem::path& sources, const NameTable& names) {
   std::vector<GroupTable> tables;
   std::set<std::string> seen;
   for (const SourceLine& line : readTable(sources / "groups.tsv", columnCount, columnCount)) {
     for (const Column column : {constant, group}) {
-      if (!seen.insert(line.columns[column]).second) line.fail("'" + line.columns[column] + "' stands twice");
+      if (!seen.insert(line.columns[column]).second)
+        line.fail("'" + line.columns[column] + "' is already in an earlier line");
     }
     tables.push_back(makeTable(line, sources, names));
   }

@@ -15,9 +15,21 @@ struct GroupTable {
   bool configured;   ///< whether configure() decodes the table
   std::string kind;  ///< the kind of the group, for the ranking of the search
   std::vector<char32_t> members;
+  bool isSFSymbols;  ///< whether the members are SF Symbols
   std::string json;
-  std::vector<std::size_t> rowOffsets;  ///< the offsets in `json` at which the objects of the members begin
 };
+
+/// The texts of a row. The row contains these texts without JSON escapes.
+struct RowTexts {
+  std::string hex;
+  std::string htmlHex;
+  std::string htmlDecimal;
+  std::string symbol;
+  std::string fallbackName;
+};
+
+/// Returns the texts of a code point that has a name.
+RowTexts rowTexts(char32_t codePoint, const NameTable& names);
 
 /// Returns all tables in the order of groups.tsv. Throws SourceError if a source breaks a rule.
 std::vector<GroupTable> makeGroupTables(const std::filesystem::path& sources, const NameTable& names);

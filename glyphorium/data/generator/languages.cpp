@@ -28,7 +28,7 @@ std::vector<Language> readLanguages(const fs::path& sources) {
     const std::string& notes = line.columns[2];
     if (notes != "counted" && notes != "growing") line.fail("'" + notes + "' must be 'counted' or 'growing'");
     for (const Language& other : languages) {
-      if (other.code == line.columns[0]) line.fail("stands twice");
+      if (other.code == line.columns[0]) line.fail("repeats a key of an earlier line");
     }
     const auto characters = [&](std::size_t column) {
       return column < line.columns.size() ? codePoints(line.columns[column]) : std::u32string();
@@ -38,6 +38,9 @@ std::vector<Language> readLanguages(const fs::path& sources) {
   }
   for (const fs::path& file : fs::directory_iterator(sources / "enrichment" / "advice"))
     requireKnown(languages, file, file.stem());
+  for (const fs::path& file : fs::directory_iterator(sources / "notes")) {
+    if (file.extension() == ".md") requireKnown(languages, file, file.stem());
+  }
   for (const fs::path& file : fs::directory_iterator(sources / "search")) {
     const fs::path name = file.stem();
     if (name.extension().empty()) continue;

@@ -5,12 +5,16 @@
 #include <exception>
 #include <set>
 
+#include "glyphorium/data/generator/character_tables.h"
 #include "glyphorium/data/generator/embedded_image.h"
 #include "glyphorium/data/generator/enrichment_table.h"
 #include "glyphorium/data/generator/figures.h"
 #include "glyphorium/data/generator/group_tables.h"
 #include "glyphorium/data/generator/languages.h"
 #include "glyphorium/data/generator/name_table.h"
+#include "glyphorium/data/generator/notations.h"
+#include "glyphorium/data/generator/notes.h"
+#include "glyphorium/data/generator/prepared_rows.h"
 #include "glyphorium/data/generator/search_facts.h"
 
 namespace {
@@ -24,7 +28,6 @@ void addGroupTables(const std::vector<GroupTable>& tables, EmbeddedImage& image,
   std::size_t configuredRows = 0;
   for (const GroupTable& table : tables) {
     image.addText(table.constant, table.group, table.members.size(), table.configured, table.json);
-    if (table.configured) image.addConfiguredRows(table.rowOffsets);
     rows += table.members.size();
     bytes += table.json.size();
     configuredTables += table.configured ? 1 : 0;
@@ -64,10 +67,14 @@ void generate(const std::filesystem::path& sources, const std::filesystem::path&
   }
   const EnrichmentTable enrichment = makeEnrichmentTable(sources, languages, names, configured, figures);
   image.addText("additionalJson", "", enrichment.rows, false, enrichment.json);
-  image.addEnrichmentIndex(enrichment.index);
+  image.addPreparedRows(prepareRows(tables, names, enrichment));
+  image.addPreparedEnrichment(enrichment.prepared, enrichment.index);
 
   addNameTable(names, image, figures);
   addSearchFacts(sources, languages, names, image, figures);
+  addSupplementaryNotes(sources, languages, names, image);
+  addCharacterTables(sources, languages, names, image);
+  addNotations(sources, image);
   figures.check();
   image.write(folder);
 }

@@ -13,7 +13,7 @@ void requireCharacters(const SourceLine& line, const std::string& name, std::str
   if (name.empty()) line.fail("has no name");
   for (const char c : name) {
     if (!ascii::isAlphanumeric(c) && allowed.find(c) == std::string_view::npos) {
-      line.fail("name '" + name + "' holds a character that names do not have");
+      line.fail("name '" + name + "' contains a character that names do not have");
     }
   }
 }
@@ -24,7 +24,8 @@ NameTable::NameTable(const std::filesystem::path& sources) {
   std::map<char32_t, std::string> controls;
   for (const SourceLine& line : readTable(sources / "control-names.tsv", 2, 2)) {
     requireCharacters(line, line.columns[1], " -()");
-    if (!controls.emplace(line.codePoint(0, true), line.columns[1]).second) line.fail("stands twice");
+    if (!controls.emplace(line.codePoint(0, true), line.columns[1]).second)
+      line.fail("repeats a key of an earlier line");
   }
   for (const SourceLine& line : readTable(sources / "unicode-13.0-names.tsv", 2, 2)) {
     const char32_t codePoint = line.codePoint(0, true);
@@ -46,8 +47,10 @@ NameTable::NameTable(const std::filesystem::path& sources) {
     const char32_t codePoint = line.codePoint(0, true);
     if (codePoint < 0x100000) line.fail("is not in plane 16");
     requireCharacters(line, line.columns[1], ".");
-    if (!seen.insert(line.columns[1]).second) line.fail("name '" + line.columns[1] + "' stands twice");
-    if (!symbolPlaces_.emplace(codePoint, symbols_.size()).second) line.fail("stands twice");
+    if (!seen.insert(line.columns[1]).second)
+      line.fail("name '" + line.columns[1] + "' is already in an earlier line");
+    if (!symbolPlaces_.emplace(codePoint, symbols_.size()).second)
+      line.fail("repeats a key of an earlier line");
     symbols_.push_back({codePoint, line.columns[1], line.place});
   }
 }

@@ -33,8 +33,9 @@ void requireDistinctTexts(const SourceLine& line, std::size_t firstColumn, bool 
                                  line.columns.end());
   if (firstMayBeEmpty && texts.front().empty()) texts.erase(texts.begin());
   std::sort(texts.begin(), texts.end());
-  if (!texts.empty() && texts.front().empty()) line.fail("holds an empty text");
-  if (std::adjacent_find(texts.begin(), texts.end()) != texts.end()) line.fail("holds a text twice");
+  if (!texts.empty() && texts.front().empty()) line.fail("contains an empty text");
+  if (std::adjacent_find(texts.begin(), texts.end()) != texts.end())
+    line.fail("contains the same text twice");
 }
 
 // Reads a file in which each line has a code point and the texts of that code point.
@@ -45,7 +46,7 @@ Facts readFacts(const std::filesystem::path& file, const NameTable& names, bool 
     const char32_t codePoint = orderedCodePoint(line, names, previous);
     requireDistinctTexts(line, 1, firstMayBeEmpty);
     if (!facts.emplace(codePoint, std::vector(line.columns.begin() + 1, line.columns.end())).second)
-      line.fail("stands twice");
+      line.fail("repeats a key of an earlier line");
   }
   return facts;
 }
@@ -66,12 +67,23 @@ Facts readAliases(const std::filesystem::path& file, const NameTable& names) {
   return facts;
 }
 
+// Reads the remarks of one kind in Unicode's list of names. Leaves out characters without a name, because
+// they are not in the catalog.
+Facts readRemarks(const std::filesystem::path& file, const NameTable& names, std::string_view kind) {
+  Facts facts;
+  for (const SourceLine& line : readTable(file, 3, 3)) {
+    const char32_t codePoint = line.codePoint(0, false);
+    if (line.columns[1] == kind && names.find(codePoint)) facts[codePoint].push_back(line.columns[2]);
+  }
+  return facts;
+}
+
 Facts readHtmlNames(const std::filesystem::path& file) {
   Facts facts;
   for (const SourceLine& line : readTable(file, 3, 3)) {
     std::istringstream all(line.columns[2]);
     for (std::string name; std::getline(all, name, ' ');) {
-      if (name.empty()) line.fail("holds an empty name");
+      if (name.empty()) line.fail("contains an empty name");
       facts[line.codePoint(0, false)].push_back(name);
     }
   }
@@ -85,8 +97,9 @@ Facts readMostWanted(const std::filesystem::path& file, const NameTable& names) 
   for (const SourceLine& line : readTable(file, 2, 2)) {
     const char32_t codePoint = line.codePoint(0, false);
     const NameTable::Entry* const entry = names.find(codePoint);
-    if (!entry || entry->name != line.columns[1]) line.fail("does not carry the name of the code point");
-    if (!facts.emplace(codePoint, std::vector{std::to_string(place++)}).second) line.fail("stands twice");
+    if (!entry || entry->name != line.columns[1]) line.fail("has another name than the name table");
+    if (!facts.emplace(codePoint, std::vector{std::to_string(place++)}).second)
+      line.fail("repeats a key of an earlier line");
   }
   return facts;
 }
@@ -105,6 +118,17 @@ std::string readSynonyms(const std::filesystem::path& file) {
       text += (i ? "\t" : "") + line.columns[i];
     }
     text += '\n';
+  }
+  return text;
+}
+
+std::string readMarks(const std::filesystem::path& file) {
+  std::string text;
+  std::string previous;
+  for (const SourceLine& line : readTable(file, 2, 2)) {
+    if (line.columns[0] <= previous) line.fail("is out of order");
+    previous = line.columns[0];
+    text += line.columns[0] + '\t' + line.columns[1] + '\n';
   }
   return text;
 }
@@ -128,6 +152,9 @@ void addSearchFacts(const std::filesystem::path& sources, const std::vector<Lang
   const Facts aliases = readAliases(folder / "name-aliases.tsv", names);
   image.addSearchFacts("alias", "", aliases);
   figures.reached("name aliases", count(aliases));
+  const std::filesystem::path remarks = sources / "characters" / "names-list.tsv";
+  image.addSearchFacts("informalName", "en", readRemarks(remarks, names, "alias"));
+  image.addSearchFacts("comment", "en", readRemarks(remarks, names, "comment"));
   const Facts htmlNames = readHtmlNames(sources / "enrichment" / "html-references.tsv");
   image.addSearchFacts("htmlName", "", htmlNames);
   figures.reached("html names", count(htmlNames));
@@ -136,7 +163,7 @@ void addSearchFacts(const std::filesystem::path& sources, const std::vector<Lang
     if (const auto file = searchFile(sources, "annotations", language); !file.empty())
       annotations = readFacts(file, names, true);
     if (count(annotations) != language.annotationTexts) {
-      language.place.fail("annotations." + language.code + ".tsv holds " +
+      language.place.fail("annotations." + language.code + ".tsv contains " +
                           std::to_string(count(annotations)) + " texts, wanted " +
                           std::to_string(language.annotationTexts));
     }
@@ -157,6 +184,7 @@ void addSearchFacts(const std::filesystem::path& sources, const std::vector<Lang
     stopWords.merge(grammar.stopWords);
   }
   image.addStopWords(lines(stopWords));
+  image.addMarks(readMarks(folder / "marks.tsv"));
 }
 
 }  // namespace glyph::generator

@@ -22,7 +22,7 @@ std::vector<std::string> operands(const SourceLine& line, std::size_t least, std
 }
 
 void addWord(const SourceLine& line, std::set<std::string>& words) {
-  if (!words.insert(operands(line, 1, 1).front()).second) line.fail("stands twice");
+  if (!words.insert(operands(line, 1, 1).front()).second) line.fail("repeats a key of an earlier line");
 }
 
 void addRule(const SourceLine& line, std::size_t least, std::size_t most, std::string& rules) {
@@ -44,7 +44,7 @@ SearchGrammar readGrammar(const std::filesystem::path& file) {
       const std::string& text = line.columns[i];
       const bool isNothing = i > 1 && text == "-";
       if (text.empty() || !(isNothing || std::all_of(text.begin(), text.end(), isWordLetter)))
-        line.fail("'" + text + "' is not a word of lower-case letters without diacritics and digits");
+        line.fail("'" + text + "' is not a word of digits and lower-case letters without diacritics");
     }
     const std::string& kind = line.columns[0];
     if (kind == "stop-word") {
@@ -57,6 +57,8 @@ SearchGrammar readGrammar(const std::filesystem::path& file) {
       addRule(line, 1, 1, grammar.linkingLetters);
     } else if (kind == "spelling") {
       addRule(line, 2, 2, grammar.spellings);
+    } else if (kind == "sound") {
+      addRule(line, 2, 2, grammar.sounds);
     } else if (kind == "head" && (line.columns[1] == "first" || line.columns[1] == "last")) {
       grammar.headFirst = line.columns[1] == "first";
     } else {

@@ -14,6 +14,7 @@ struct SearchGrammar {
   std::string plurals;
   std::string linkingLetters;
   std::string spellings;
+  std::string sounds;
   bool headFirst = false;
 };
 

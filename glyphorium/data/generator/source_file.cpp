@@ -52,7 +52,7 @@ std::vector<std::string> readLines(const std::filesystem::path& file) {
   std::vector<std::string> lines = split(std::string_view(text).substr(0, text.size() - 1), '\n');
   for (std::size_t i = 0; i < lines.size(); ++i) {
     if (!isWellFormedUtf8(lines[i])) Place{file, i + 1}.fail("is not well-formed UTF-8");
-    if (lines[i].find('\r') != std::string::npos) Place{file, i + 1}.fail("holds a carriage return");
+    if (lines[i].find('\r') != std::string::npos) Place{file, i + 1}.fail("contains a carriage return");
   }
   return lines;
 }
@@ -67,13 +67,13 @@ std::vector<SourceLine> readTable(const std::filesystem::path& file, std::size_t
     SourceLine line{{file, number}, split(text, '\t')};
     if (text.empty()) line.fail("is empty");
     if (line.columns.size() < minColumns || line.columns.size() > maxColumns) {
-      line.fail("has " + std::to_string(line.columns.size()) + " columns, wanted " +
+      line.fail("has " + std::to_string(line.columns.size()) + " columns, expected " +
                 std::to_string(minColumns) +
                 (minColumns == maxColumns ? "" : " to " + std::to_string(maxColumns)));
     }
     for (const std::string& column : line.columns) {
       if (!column.empty() && (column.front() == ' ' || column.back() == ' '))
-        line.fail("has a space at the begin or end of a column");
+        line.fail("has a space at the beginning or end of a column");
     }
     table.push_back(std::move(line));
   }

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/data/generator/notations.h"
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "glyphorium/data/generator/source_file.h"
+
+namespace glyph::generator {
+namespace {
+
+// For each notation, the characters that it stands for. The number is a rank: the lowest is first.
+using Notations = std::map<std::string, std::vector<std::pair<std::size_t, char32_t>>>;
+
+// Documents write a letter of a mathematical alphabet as a command with an argument: "\mathbb{R}". The tables
+// have a separate command for each letter instead: "\BbbR".
+constexpr std::pair<std::string_view, std::string_view> alphabets[] = {
+    {"\\Bbb", "\\mathbb"},     {"\\mscr", "\\mathcal"}, {"\\mscr", "\\mathscr"},
+    {"\\mfrak", "\\mathfrak"}, {"\\mbf", "\\mathbf"},
+};
+
+Notations readLatex(const std::filesystem::path& file) {
+  Notations notations;
+  for (const SourceLine& line : readTable(file, 3, 3)) {
+    const char32_t codePoint = line.codePoint(0, false);
+    const std::string& command = line.columns[1];
+    // The third column lists the tables that have this line. The more tables agree, the likelier it is that
+    // the character is meant.
+    const auto commas = std::count(line.columns[2].begin(), line.columns[2].end(), ',');
+    const std::size_t rank = 9 - static_cast<std::size_t>(commas);
+    notations[command].emplace_back(rank, codePoint);
+    for (const auto& [prefix, alphabet] : alphabets) {
+      if (command.size() == prefix.size() + 1 && command.starts_with(prefix))
+        notations[std::string(alphabet) + "{" + command.back() + "}"].emplace_back(rank, codePoint);
+    }
+  }
+  return notations;
+}
+
+// Reads the lines that stand for a single code point.
+Notations readPairs(const std::filesystem::path& file, std::size_t columns, bool withoutBlanks) {
+  Notations notations;
+  for (const SourceLine& line : readTable(file, columns, columns)) {
+    if (line.columns[0].find(',') != std::string::npos) continue;
+    std::string text = line.columns[1];
+    if (withoutBlanks) std::erase(text, ' ');
+    notations[text].emplace_back(0, line.codePoint(0, false));
+  }
+  return notations;
+}
+
+// A number that begins with a zero means code page 1252. The code page of the United States is more common
+// than that of western Europe.
+Notations readAltCodes(const std::filesystem::path& file) {
+  Notations notations;
+  for (const SourceLine& line : readTable(file, 3, 3)) {
+    const std::string& page = line.columns[0];
+    const std::string number = (page == "cp1252" ? "0" : "") + std::to_string(line.number(1));
+    notations[number].emplace_back(page == "cp850" ? 1 : 0, line.codePoint(2, false));
+  }
+  return notations;
+}
+
+std::string linesOf(Notations notations) {
+  std::string lines;
+  for (auto& [text, codePoints] : notations) {
+    std::sort(codePoints.begin(), codePoints.end());
+    lines += text;
+    std::vector<char32_t> seen;
+    for (const auto& [rank, codePoint] : codePoints) {
+      if (std::find(seen.begin(), seen.end(), codePoint) != seen.end()) continue;
+      seen.push_back(codePoint);
+      lines += "\t" + hexText(codePoint);
+    }
+    lines += '\n';
+  }
+  return lines;
+}
+
+}  // namespace
+
+void addNotations(const std::filesystem::path& sources, EmbeddedImage& image) {
+  const std::filesystem::path folder = sources / "input";
+  image.addNotations("latexCommands", linesOf(readLatex(folder / "latex-commands.tsv")));
+  image.addNotations("shortcodes", linesOf(readPairs(folder / "emoji-shortcodes.tsv", 3, false)));
+  image.addNotations("composeSequences", linesOf(readPairs(folder / "compose-sequences.tsv", 2, true)));
+  image.addNotations("digraphs", linesOf(readPairs(folder / "digraphs.tsv", 2, false)));
+  image.addNotations("altCodes", linesOf(readAltCodes(folder / "alt-codes.tsv")));
+}
+
+}  // namespace glyph::generator

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "glyphorium/data/generator/enrichment_table.h"
+#include "glyphorium/data/generator/group_tables.h"
+#include "glyphorium/data/generator/name_table.h"
+
+namespace glyph::generator {
+
+/// The rows of the configured tables in the form that the library takes over without decoding. See
+/// data/prepared_rows.h.
+struct PreparedRows {
+  std::string rows;   ///< PreparedRow structures, in the order of the tables
+  std::string texts;  ///< the texts of each code point
+  std::string order;  ///< 16-bit places of the rows, in ascending order of code points
+};
+
+/// Throws SourceError if the rows do not fit into the form.
+PreparedRows prepareRows(const std::vector<GroupTable>& tables, const NameTable& names,
+                         const EnrichmentTable& enrichment);
+
+}  // namespace glyph::generator

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <optional>
+#include <string_view>
+
+namespace glyph {
+
+/// The rows of the configured group tables and of the enrichment table, as they are after decoding. The build
+/// prepares them, so that a program need not decode the JSON texts. All texts are constants in the library's
+/// read-only image, and a zero byte follows each of them. Any thread may call these functions.
+
+/// How the image stores a row of a group table. The texts of the row follow each other in `preparedTexts`, in
+/// the order of their sizes here, each with a zero byte.
+struct PreparedRow {
+  std::uint32_t codePoint : 31;
+  std::uint32_t isSFSymbol : 1;
+  std::uint32_t texts;  ///< the offset in `preparedTexts` of the first text
+  std::uint8_t hexSize;
+  std::uint8_t htmlHexSize;
+  std::uint8_t htmlDecimalSize;
+  std::uint8_t symbolSize;
+  std::uint8_t nameSize;
+  std::uint8_t table;        ///< the number of the group table in embeddedTexts()
+  std::uint16_t enrichment;  ///< 1 + the number of the enrichment row that the row is joined with; 0: none
+};
+static_assert(sizeof(PreparedRow) == 16);
+
+extern const std::string_view preparedRowBytes;
+extern const std::string_view preparedTexts;
+extern const std::string_view preparedOrderBytes;
+
+inline std::size_t preparedRowCount() noexcept {
+  return preparedRowBytes.size() / sizeof(PreparedRow);
+}
+
+/// Returns the row at this place in the sequence of all configured tables. The place must be smaller than
+/// preparedRowCount().
+inline PreparedRow preparedRow(std::size_t place) noexcept {
+  PreparedRow row;
+  std::memcpy(&row, preparedRowBytes.data() + place * sizeof row, sizeof row);
+  return row;
+}
+
+/// Returns the place of the row that has this position in the order of the code points. Rows with the same
+/// code point have the order of their places.
+inline std::size_t placeInCodePointOrder(std::size_t position) noexcept {
+  std::uint16_t place;
+  std::memcpy(&place, preparedOrderBytes.data() + position * sizeof place, sizeof place);
+  return place;
+}
+
+/// The number of code points with an enrichment row. If a code point has several rows, only the first one is
+/// prepared, because it is the one that entities are joined with.
+std::size_t preparedEnrichmentCount() noexcept;
+
+/// Returns the number of the enrichment row of the code point. Returns nullopt if there is no such row.
+std::optional<std::size_t> findPreparedEnrichment(std::uint32_t codePoint) noexcept;
+
+/// Reads an enrichment row from its beginning to its end, field by field in the order of storing: numbers as
+/// one byte each, texts with a zero byte at the end.
+class PreparedEnrichmentReader {
+ public:
+  /// `number` must be smaller than preparedEnrichmentCount().
+  explicit PreparedEnrichmentReader(std::size_t number) noexcept;
+
+  std::uint8_t number() noexcept { return static_cast<std::uint8_t>(*at_++); }
+  std::string_view text() noexcept {
+    const std::string_view text(at_);
+    at_ += text.size() + 1;
+    return text;
+  }
+
+ private:
+  const char* at_;
+};
+
+}  // namespace glyph
