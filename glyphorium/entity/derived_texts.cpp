@@ -2,11 +2,29 @@
 #include <algorithm>
 
 #include "glyphorium/codes/code_formats.h"
+#include "glyphorium/data/supplementary_notes.h"
 #include "glyphorium/entity/records.h"
 #include "glyphorium/text/preferred_languages.h"
 #include "glyphorium/text/unicode_text.h"
 
 namespace glyph {
+namespace {
+
+// Returns the languages in which a note is looked for, in this order. Empty if the user has no languages.
+std::vector<std::string> languagesOfNotes() {
+  const std::vector<std::string> languages = preferredLanguages();
+  if (languages.empty()) return {};
+  return {lowercased(languages.front()), "en"};
+}
+
+// Returns the note of the enrichment in the language, or nullptr.
+const RecordText* noteIn(const AdditionalData& data, std::string_view language) {
+  const auto note =
+      std::find_if(data.advice.begin(), data.advice.end(), [&](auto& one) { return one.lang == language; });
+  return note == data.advice.end() ? nullptr : &note->text;
+}
+
+}  // namespace
 
 Entity ComputedEntity::generateEntity() const {
   return {*this, std::nullopt};
@@ -56,12 +74,18 @@ std::string Entity::searchString() const {
 
 std::optional<std::string> AdditionalData::localizedAdvice() const {
   if (advice.empty()) return std::nullopt;
-  const std::vector<std::string> languages = preferredLanguages();
-  if (languages.empty()) return std::nullopt;
-  for (const std::string& language : {lowercased(languages.front()), std::string("en")}) {
-    const auto note =
-        std::find_if(advice.begin(), advice.end(), [&](auto& one) { return one.lang == language; });
-    if (note != advice.end()) return note->text;
+  for (const std::string& language : languagesOfNotes()) {
+    if (const RecordText* const note = noteIn(*this, language)) return *note;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> Entity::usageNote() const {
+  for (const std::string& language : languagesOfNotes()) {
+    const RecordText* const note = additional ? noteIn(*additional, language) : nullptr;
+    if (note) return *note;
+    const std::string_view supplementary = supplementaryNote(computed.hex, language);
+    if (!supplementary.empty()) return std::string(supplementary);
   }
   return std::nullopt;
 }

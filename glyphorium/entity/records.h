@@ -70,6 +70,14 @@ struct GLYPHORIUM_EXPORT Entity {
   /// the name in the table.
   std::string name() const;
 
+  /// Returns the usage note to show for the character, in the first language of preferredLanguages(), lower
+  /// case, or else in English. In each of the two languages, the note of the enrichment comes first. If the
+  /// enrichment has none, the library may have a supplementary note, which depends on the hex code only. The
+  /// supplementary notes cover some 150 characters; they are not in the tables and the search does not read
+  /// them. Returns nullopt if there is no note or if preferredLanguages() is empty. A line feed in the note
+  /// begins a line of a list ("• "), two line feeds begin a paragraph. Any thread may call this function.
+  std::optional<std::string> usageNote() const;
+
   /// Returns the escape sequence of a Swift string literal, "\u{1f600}", with the hex code as stored.
   std::string swiftDecimal() const;
 

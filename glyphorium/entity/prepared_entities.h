@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "glyphorium/entity/records.h"
+
+/// The entities of the catalog, made of the rows that the build prepared. Their texts are constants of the
+/// library. Any thread may call these functions.
+namespace glyph {
+
+/// Returns the entities of all configured tables, in the order of the tables, each joined with its
+/// enrichment. The first call creates the list; it lives until the process ends. Copies of the entities share
+/// their enrichment.
+const std::vector<Entity>& preparedEntities();
+
+/// Returns a copy of one entity of this list without creating the list. Returns nullopt if the index is too
+/// large.
+std::optional<Entity> preparedEntity(std::size_t place);
+
+/// Returns the enrichment that an entity with this hex code is joined with. Hex codes are compared byte for
+/// byte. Returns nullopt if there is none.
+std::optional<AdditionalData> preparedEnrichmentOf(std::string_view hex);
+
+}  // namespace glyph
