@@ -5,6 +5,7 @@
 
 #include "glyphorium/catalog/fixed_lists.h"
 #include "glyphorium/data/embedded_texts.h"
+#include "glyphorium/entity/prepared_entities.h"
 #include "glyphorium/services/diagnostics/diagnostics.h"
 #include "glyphorium/text/never_destroyed.h"
 
@@ -15,9 +16,6 @@ void printChange(const char* field, std::size_t count) {
   printDiagnostic(std::string("didSet ↘ ") + field + " '" + std::to_string(count) + "'");
 }
 
-void allBuildInEntitiesDidSet(const std::vector<Entity>& entities) {
-  printChange("allBuildInEntities", entities.size());
-}
 void allCustomEntitiesDidSet(const std::vector<Entity>& entities) {
   printChange("allCustomEntities", entities.size());
 }
@@ -34,13 +32,7 @@ Glyphorium::Glyphorium()
     : forbiddenUnicodes(initialForbiddenUnicodes.begin(), initialForbiddenUnicodes.end()),
       allCustomEntities(&allCustomEntitiesDidSet),
       allEntityGroupNamesWithCount(&allEntityGroupNamesWithCountDidSet),
-      selectedGroupsHadChanged(&selectedGroupsHadChangedDidSet),
-      notDisplayableUnicodes_(initialNotDisplayableUnicodes.begin(), initialNotDisplayableUnicodes.end()),
-      allBuildInEntities_(&allBuildInEntitiesDidSet) {
-  for (const EmbeddedText& text : embeddedTexts()) {
-    if (text.configured) entityData_.push_back(text.text);
-  }
-}
+      selectedGroupsHadChanged(&selectedGroupsHadChangedDidSet) {}
 
 Glyphorium::Glyphorium(const Glyphorium& other) : Glyphorium() {
   *this = other;
@@ -54,28 +46,34 @@ Glyphorium& Glyphorium::operator=(const Glyphorium& other) {
   auto forbidden = other.forbiddenUnicodes;
   auto custom = other.allCustomEntities.get();
   auto counts = other.allEntityGroupNamesWithCount.get();
-  auto tables = other.entityData_;
-  auto notDisplayable = other.notDisplayableUnicodes_;
-  auto buildIn = other.allBuildInEntities_.get();
   forbiddenUnicodes = std::move(forbidden);
   allCustomEntities.assignSilently(std::move(custom));
   allEntityGroupNamesWithCount.assignSilently(std::move(counts));
   selectedGroupsHadChanged.assignSilently(other.selectedGroupsHadChanged);
-  entityData_ = std::move(tables);
-  notDisplayableUnicodes_ = std::move(notDisplayable);
-  allBuildInEntities_.assignSilently(std::move(buildIn));
+  isConfigured_ = other.isConfigured_;
   return *this;
+}
+
+void Glyphorium::configure() {
+  preparedEntities();  // creates the list now, because memory may run out before anything has changed
+  isConfigured_ = true;
+  printChange("allBuildInEntities", buildInEntities().size());
+  allCustomEntities = getCustomEntities();
+  allBuildInEntityGroups() = getBuildInEntityGroups();
+  setSelectedEntities();
+}
+
+const std::vector<Entity>& Glyphorium::buildInEntities() const {
+  static NeverDestroyed<const std::vector<Entity>> none;
+  return isConfigured_ ? preparedEntities() : *none;
 }
 
 std::vector<std::string> Glyphorium::getBuildInEntityGroups() {
   std::vector<std::string> names;
-  for (const Entity& entity : allBuildInEntities_) {
-    const std::string_view group = entity.computed.group;
-    // The rows of a group are adjacent, so this comparison removes nearly all duplicates before the sorting.
-    if (names.empty() || names.back() != group) names.emplace_back(group);
+  for (const EmbeddedText& text : embeddedTexts()) {
+    if (text.configured) names.emplace_back(text.group);
   }
   std::sort(names.begin(), names.end());
-  names.erase(std::unique(names.begin(), names.end()), names.end());
   for (const char* const first : {"emoji", "design inspiration", "digital typography (latin)"}) {
     std::erase(names, first);
     names.emplace(names.begin(), first);
@@ -87,18 +85,22 @@ std::vector<std::string> Glyphorium::getBuildInEntityGroups() {
 
 void Glyphorium::setEntityGroupNamesWithCount() {
   GroupCounts counts;
+  for (const EmbeddedText& text : embeddedTexts()) {
+    if (isConfigured_ && text.configured)
+      counts[std::string(text.group)] += static_cast<std::int64_t>(text.rows);
+  }
   auto place = counts.end();
-  const auto count = [&](const std::vector<Entity>& entities) {
-    for (const Entity& entity : entities) {
-      if (place == counts.end() || place->first != entity.computed.group) {
-        place = counts.try_emplace(entity.computed.group, 0).first;
-      }
-      ++place->second;
+  for (const Entity& entity : allCustomEntities) {
+    if (place == counts.end() || place->first != entity.computed.group) {
+      place = counts.try_emplace(entity.computed.group, 0).first;
     }
-  };
-  count(allBuildInEntities_);
-  count(allCustomEntities);
+    ++place->second;
+  }
   allEntityGroupNamesWithCount = std::move(counts);
+}
+
+std::optional<Entity> buildInEntity(std::size_t place) {
+  return preparedEntity(place);
 }
 
 Glyphorium& glyphorium() {

@@ -60,8 +60,9 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   Observed<bool> selectedGroupsHadChanged;
 
   /// Returns the entities of all configured tables, in the order of the tables, each with its enrichment. The
-  /// list is empty before configure() is called.
-  const std::vector<Entity>& buildInEntities() const { return allBuildInEntities_; }
+  /// list is empty before configure() is called. All configured catalogs share one list, which lives until
+  /// the process ends. The library's read-only image holds its texts.
+  const std::vector<Entity>& buildInEntities() const;
 
   /// Fills the catalog from the embedded tables and the user's stored choices, and assigns
   /// selectedEntities(). Each further call replaces the whole content.
@@ -145,17 +146,15 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   bool changeCustomAddedEntityUnicodes(const std::function<bool(std::vector<std::string>&)>& change);
   void changeSelectedGroups(const std::function<bool(std::vector<std::string>&)>& change);
 
-  std::vector<std::string_view> entityData_;         // the texts of the configured group tables
-  std::vector<std::string> notDisplayableUnicodes_;  // left out of selectedEntities(), like forbiddenUnicodes
-  Observed<std::vector<Entity>> allBuildInEntities_;
+  bool isConfigured_ = false;
 };
 
 /// Returns the shared catalog. The first call creates it; several threads may make this call at once. The
 /// catalog is empty until configure() is called, and it lives until the process ends.
 GLYPHORIUM_EXPORT Glyphorium& glyphorium();
 
-/// Decodes a single entity: the one that configure() puts at this index of buildInEntities(). It is for
-/// programs that show a few characters, such as results of Search::ofCatalog(), and do not need the whole
+/// Returns a copy of a single entity: the one that configure() puts at this index of buildInEntities(). It is
+/// for programs that show a few characters, such as results of Search::ofCatalog(), and do not need the whole
 /// list. Returns nullopt if the index is too large. configure() need not have been called. Any thread may
 /// call this function.
 GLYPHORIUM_EXPORT std::optional<Entity> buildInEntity(std::size_t place);

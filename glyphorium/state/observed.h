@@ -46,7 +46,7 @@ class Observed {
   void assignSilently(T value) noexcept { value_ = std::move(value); }
 
   const T& get() const noexcept { return value_; }
-  operator const T&() const noexcept { return value_; }  // NOLINT: reads like a const T
+  operator const T&() const noexcept { return value_; }  // implicit, because it reads like a const T
   const T* operator->() const noexcept { return &value_; }
   const T& operator*() const noexcept { return value_; }
 

@@ -30,7 +30,7 @@ std::optional<SettingValue> loadFromUserDefaults(std::string_view key, bool verb
   return value;
 }
 
-void saveToUserDefaults(SettingValue value, std::string_view key, bool verbose) {
+void saveToUserDefaults(const SettingValue& value, std::string_view key, bool verbose) {
   const auto store = settingsStore();
   store->set(key, value);
   store->synchronize();

@@ -17,7 +17,7 @@ std::optional<SettingValue> loadFromUserDefaults(std::string_view key, bool verb
 
 /// Stores the value and synchronizes the store. If `verbose` is true, prints one diagnostic line with the
 /// saved value.
-void saveToUserDefaults(SettingValue value, std::string_view key, bool verbose);
+void saveToUserDefaults(const SettingValue& value, std::string_view key, bool verbose);
 
 /// Returns the stored value as T. Returns the default if `stored` is empty or has another type.
 template <class T>

@@ -2,6 +2,8 @@
 #include "glyphorium/toolkit/copy_forms.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstdio>
 #include <utility>
 #include <vector>
 
@@ -41,6 +43,59 @@ std::string codePoint(char32_t point) {
   return "U+" + text;
 }
 
+// Appends the number in upper-case hexadecimal digits, with zeros before it up to so many digits.
+void appendHex(std::string& text, std::uint32_t number, int digits) {
+  char buffer[16];
+  text.append(buffer, static_cast<std::size_t>(std::snprintf(buffer, sizeof buffer, "%0*X", digits, number)));
+}
+
+std::vector<std::uint32_t> utf8Bytes(char32_t point) {
+  std::vector<std::uint32_t> bytes;
+  for (const char byte : utf8(point)) bytes.push_back(static_cast<unsigned char>(byte));
+  return bytes;
+}
+
+std::vector<std::uint32_t> utf16Units(char32_t point) {
+  if (point < 0x10000) return {point};
+  return {0xD800 + ((point - 0x10000) >> 10), 0xDC00 + ((point - 0x10000) & 0x3FF)};
+}
+
+// Writes each number with a prefix and so many digits at least.
+std::string numbered(const std::vector<std::uint32_t>& numbers, std::string_view prefix, int digits,
+                     std::string_view separator = "") {
+  std::string text;
+  for (const std::uint32_t number : numbers) {
+    if (!text.empty()) text += separator;
+    text += prefix;
+    appendHex(text, number, digits);
+  }
+  return text;
+}
+
+// C allows no universal character name for ASCII. An octal escape ends after three digits, whatever follows
+// it.
+std::string escapedForC(char32_t point) {
+  if (point >= 0xA0) return numbered({point}, point < 0x10000 ? "\\u" : "\\U", point < 0x10000 ? 4 : 8);
+  char buffer[8];
+  return {buffer, static_cast<std::size_t>(std::snprintf(buffer, sizeof buffer, "\\%03o", point & 0xFFU))};
+}
+
+std::string escapedForPython(char32_t point) {
+  return numbered({point}, point < 0x10000 ? "\\u" : "\\U", point < 0x10000 ? 4 : 8);
+}
+
+std::string escapedForJavaScript(char32_t point) {
+  return point < 0x10000 ? numbered({point}, "\\u", 4) : "\\u{" + numbered({point}, "", 1) + "}";
+}
+
+// The letters, digits and signs that a URL never escapes.
+std::string escapedForUrl(char32_t point) {
+  const bool isUnreserved =
+      point < 0x80 && (ascii::isAlphanumeric(static_cast<char>(point)) || point == U'-' || point == U'.' ||
+                       point == U'_' || point == U'~');
+  return isUnreserved ? std::string(1, static_cast<char>(point)) : numbered(utf8Bytes(point), "%", 2);
+}
+
 // Snippets need the original spelling of the symbol's name, and only the name table has it.
 Text snippet(const Entity& entity, std::string (CodeFormats::*format)(std::string_view) const) {
   const auto entry = findName(entity.computed.hex);
@@ -54,9 +109,7 @@ constexpr CopyForm forms[] = {
     {"decimal", " ", [](const Entity& e) { return ofEachCodePoint(e, " ", decimal); }},
     {"code-point", " ", [](const Entity& e) { return ofEachCodePoint(e, " ", codePoint); }},
     {"html", "",
-     [](const Entity& e) {
-       return unlessEmpty(e.additional ? e.additional->htmlNamed.value_or("") : "");
-     }},
+     [](const Entity& e) { return unlessEmpty(e.additional ? e.additional->htmlNamed.value_or("") : ""); }},
     {"html-hex", "",
      [](const Entity& e) {
        return ofEachCodePoint(e, "", [](char32_t point) { return CodeFormats().getHtmlHex(hex(point)); });
@@ -69,6 +122,38 @@ constexpr CopyForm forms[] = {
      [](const Entity& e) {
        return ofEachCodePoint(e, "", [](char32_t point) { return "\\u{" + hex(point) + "}"; });
      }},
+    {"utf-8", " ",
+     [](const Entity& e) {
+       return ofEachCodePoint(e, " ", [](char32_t point) { return numbered(utf8Bytes(point), "", 2, " "); });
+     }},
+    {"utf-16", " ",
+     [](const Entity& e) {
+       return ofEachCodePoint(e, " ", [](char32_t point) { return numbered(utf16Units(point), "", 4, " "); });
+     }},
+    {"utf-32", " ",
+     [](const Entity& e) {
+       return ofEachCodePoint(e, " ", [](char32_t point) { return numbered({point}, "", 8); });
+     }},
+    {"c", "", [](const Entity& e) { return ofEachCodePoint(e, "", escapedForC); }},
+    {"javascript", "", [](const Entity& e) { return ofEachCodePoint(e, "", escapedForJavaScript); }},
+    {"json", "",
+     [](const Entity& e) {
+       return ofEachCodePoint(e, "", [](char32_t point) { return numbered(utf16Units(point), "\\u", 4); });
+     }},
+    {"java", "",
+     [](const Entity& e) {
+       return ofEachCodePoint(e, "", [](char32_t point) { return numbered(utf16Units(point), "\\u", 4); });
+     }},
+    {"python", "", [](const Entity& e) { return ofEachCodePoint(e, "", escapedForPython); }},
+    {"rust", "",
+     [](const Entity& e) {
+       return ofEachCodePoint(e, "", [](char32_t point) { return "\\u{" + numbered({point}, "", 1) + "}"; });
+     }},
+    {"css", "",
+     [](const Entity& e) {
+       return ofEachCodePoint(e, "", [](char32_t point) { return numbered({point}, "\\", 6); });
+     }},
+    {"url", "", [](const Entity& e) { return ofEachCodePoint(e, "", escapedForUrl); }},
     {"swiftui", "\n", [](const Entity& e) { return snippet(e, &CodeFormats::getSFSymbolSwiftUICode); }},
     {"uikit", "\n", [](const Entity& e) { return snippet(e, &CodeFormats::getSFSymbolUIKitCode); }},
 };

@@ -8,11 +8,14 @@
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/data/name_table.h"
+#include "glyphorium/entity/codec.h"
+#include "glyphorium/entity/prepared_entities.h"
 #include "glyphorium/entity/table_repair.h"
 #include "glyphorium/state/structured_unicodes.h"
 #include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 #include "tests/support/catalog_figures.h"
+#include "tests/support/recorded_diagnostics.h"
 
 namespace glyph {
 namespace {
@@ -79,6 +82,42 @@ TEST(CatalogTables, EnrichmentRowsHaveAllKeysAndSomeCodePointsHaveTwoRows) {
   EXPECT_THAT(terms["0026"], testing::ElementsAre("and&amp;", "et&amp;", "+&amp;"));
   EXPECT_THAT(terms["2153"],
               testing::ElementsAre("1 3 13 1/3 0,3", "33%", "fraction&frac13;", "1 3 13 1/3&frac13;"));
+}
+
+// Returns all fields as text. Each text must have a zero byte at its end.
+std::string fields(const Entity& entity) {
+  EXPECT_EQ(entity.computed.symbol.c_str()[entity.computed.symbol.size()], '\0');
+  EXPECT_EQ(entity.computed.group.c_str()[entity.computed.group.size()], '\0');
+  return encode(entity.computed) + (entity.additional ? encode(*entity.additional) : "");
+}
+
+TEST(PreparedEntities, EqualTheDecodedTables) {
+  Glyphorium catalog;
+  {
+    const RecordedDiagnostics quiet;
+    catalog.configure();
+  }
+  const std::vector<Entity>& prepared = catalog.buildInEntities();
+  const auto enrichment = catalog.getAdditionalDataFrom(additionalJson);
+  std::size_t place = 0;
+  for (const EmbeddedText& table : embeddedTexts()) {
+    if (!table.configured) continue;
+    auto records = catalog.getComputedEntitiesFrom(table.text).value();
+    for (const Entity& decoded : catalog.getEntitiesByEnriching(std::move(records), enrichment)) {
+      ASSERT_LT(place, prepared.size());
+      ASSERT_EQ(fields(prepared[place]), fields(decoded));
+      ASSERT_EQ(fields(buildInEntity(place).value()), fields(decoded));
+      ++place;
+    }
+  }
+  EXPECT_EQ(place, prepared.size());
+  EXPECT_EQ(place, figures::entities);
+  EXPECT_FALSE(buildInEntity(place));
+  EXPECT_FALSE(buildInEntity(SIZE_MAX));
+  for (const AdditionalData& row : *enrichment) EXPECT_TRUE(preparedEnrichmentOf(row.hex)) << row.hex;
+  for (const char* const none : {"", "00E9", "0e9", "4e01", "zzzz"}) {
+    EXPECT_FALSE(preparedEnrichmentOf(none)) << none;
+  }
 }
 
 TEST(NameTable, FindsTheFirstEntryOfEachCodeAndDecodesCompletely) {

@@ -170,8 +170,9 @@ TEST_F(CustomAddedEntities, IndexItemsAreBuiltFromTheirEntities) {
   plain.computed.group = "latin basic";
   Entity enriched = Unicode("2192").computedEntity().generateEntity();
   enriched.computed.fallbackName = "Rightwards Arrow";
-  enriched.additional.emplace().advice = {{"en", "A note."}};
-  enriched.additional->betterName = enriched.additional->htmlNamed = "";
+  AdditionalData& enrichment = enriched.additional.emplace();
+  enrichment.advice = {{"en", "A note."}};
+  enrichment.betterName = enrichment.htmlNamed = "";
   toolKit().addToSpotlight({plain, enriched});
   ASSERT_EQ(index->indexed.size(), 2u);
   const Names keywords = {"A",       "Latin Capital Letter A",

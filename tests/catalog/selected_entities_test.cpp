@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/state/selected_entities.h"
 
+#include <algorithm>
 #include <thread>
+#include <unordered_map>
 
+#include "glyphorium/catalog/fixed_lists.h"
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/services/pasteboard/desktop_pasteboard.h"
+#include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 #include "tests/support/catalog_figures.h"
 #include "tests/support/catalog_fixture.h"
@@ -112,6 +116,65 @@ TEST_F(SelectedEntitiesTest, KeepsTheEntityOfTheEarliestGroupInCodePointOrder) {
   for (const auto& [groups, found] : cases) EXPECT_EQ(built(groups), found);
   catalog.forbiddenUnicodes = {"2192", "1F600"};
   EXPECT_THAT(built({"arrows", "emoji"}), ElementsAre("2190 arrows"));
+}
+
+// Builds the list as its rules say, one group after the other.
+std::vector<std::string> builtByTheRules(const Glyphorium& catalog) {
+  std::vector<const Entity*> kept;
+  std::unordered_map<std::string, std::size_t> places;
+  std::vector<const Entity*> all;
+  for (const Entity& entity : catalog.buildInEntities()) all.push_back(&entity);
+  for (const Entity& entity : catalog.allCustomEntities) all.push_back(&entity);
+  const std::vector<std::string> groups = catalog.selectedGroups();
+  const auto rank = [&](const Entity& entity) {
+    return std::find(groups.begin(), groups.end(), lowercased(entity.computed.group)) - groups.begin();
+  };
+  for (const Entity* const entity : all) {
+    const std::string hex = entity->computed.hex;
+    const auto same = [&](const std::string& hidden) { return lowercased(hidden) == lowercased(hex); };
+    if (rank(*entity) == std::ssize(groups) || std::ranges::any_of(catalog.forbiddenUnicodes, same) ||
+        std::ranges::count(initialNotDisplayableUnicodes, std::string_view(hex)) > 0)
+      continue;
+    const auto [place, isNew] = places.try_emplace(hex, kept.size());
+    if (isNew) kept.push_back(entity);
+    if (rank(*entity) < rank(*kept[place->second])) kept[place->second] = entity;
+  }
+  std::stable_sort(kept.begin(), kept.end(), [](const Entity* a, const Entity* b) {
+    return a->computed.decimal < b->computed.decimal;
+  });
+  std::vector<std::string> texts;
+  for (const Entity* const entity : kept)
+    texts.push_back(entity->computed.hex + " " + entity->computed.group);
+  return texts;
+}
+
+TEST_F(SelectedEntitiesTest, TheListOfAConfiguredCatalogFollowsTheSameRules) {
+  Glyphorium catalog;
+  catalog.configure();
+  Names everyGroup;
+  for (const std::string& group : allBuildInEntityGroups()) everyGroup.push_back(lowercased(group));
+  const Names reversed(everyGroup.rbegin(), everyGroup.rend());
+  std::vector<Entity> custom;
+  for (const char* const hex : {"1F600", "0041", "2190", "0041", "2028", "5350", "21d0", "00e9"}) {
+    custom.push_back(Unicode(hex).computedEntity().generateEntity());
+    custom.back().computed.group = hex[0] == '2' ? "arrows" : "custom";
+  }
+  custom.back().computed.decimal = 0x10FFFF;  // a host may give an entity any number
+  const Names forbidden[] = {{"5350"}, {"00E9", "41", "00041", "1f600", "no code"}};
+  for (const Names& groups : {everyGroup, reversed, {"emoji", "custom", "arrows"}, {"latin basic"}}) {
+    for (const auto& list : {std::vector<Entity>(), custom}) {
+      for (const Names& hidden : forbidden) {
+        store("displayedGroups", groups);
+        catalog.forbiddenUnicodes = hidden;
+        catalog.allCustomEntities = list;
+        catalog.setSelectedEntities();
+        Names built;
+        for (const Entity& entity : *selectedEntities())
+          built.push_back(entity.computed.hex + " " + entity.computed.group);
+        EXPECT_EQ(built, builtByTheRules(catalog)) << groups.front() << " " << list.size() << hidden.size();
+      }
+    }
+  }
 }
 
 TEST_F(SelectedEntitiesTest, AnEmptyCatalogDoesNotReadTheSettings) {

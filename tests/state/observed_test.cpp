@@ -57,12 +57,29 @@ TEST(BoxedOptional, BehavesLikeAnOptional) {
   box = std::string("text");
   glyph::BoxedOptional<std::string> other = box;
   EXPECT_EQ(other, box);
-  other.value() += "s";
+  other.edit() += "s";
   EXPECT_EQ(other, "texts");
   EXPECT_NE(other, box);
   EXPECT_EQ(box.value_or("none"), "text");
   box = std::optional<std::string>();
   EXPECT_FALSE(box.has_value());
+  EXPECT_THROW(box.edit(), std::bad_optional_access);
+
+  // Copies of a constant share it. Only a copy that is edited gets its own value.
+  const std::string constant = "constant";
+  box = glyph::BoxedOptional<std::string>::ofConstant(constant);
+  other = box;
+  EXPECT_EQ(&*other, &constant);
+  other.edit() += "s";
+  EXPECT_EQ(other, "constants");
+  EXPECT_EQ(&*box, &constant);
+  other.emplace(*other);
+  EXPECT_EQ(other, "constants");
+  box = std::move(other);
+  EXPECT_EQ(box, "constants");
+  EXPECT_EQ(other, std::nullopt);
+  box = box.value_or("none") + "!";
+  EXPECT_EQ(box, "constants!");
 }
 
 }  // namespace
