@@ -37,7 +37,7 @@ SearchResults CatalogSearch::query(std::string_view text, const SearchOptions& o
   if (added.results.empty() || found.results.empty() || added.approximate != found.approximate) {
     const bool onlyAdded = found.results.empty() || (found.approximate && !added.results.empty());
     if (onlyAdded)
-      found = {{}, 0, added.approximate};
+      found = {{}, 0, added.approximate, added.lacksWords};
     else
       added = {};
   }
@@ -64,7 +64,7 @@ SearchResults CatalogSearch::query(std::string_view text, const SearchOptions& o
     if (!seen[result.index] && !(cut && inCatalog[result.index])) ++total;
   }
 
-  SearchResults merged{{}, total, found.approximate};
+  SearchResults merged{{}, total, found.approximate, found.lacksWords};
   std::vector<SearchResult> both;
   const auto isBefore = [](const SearchResult& a, const SearchResult& b) { return a.cost < b.cost; };
   // Among results of equal cost, those of the catalog come first, because the catalog has data about which of

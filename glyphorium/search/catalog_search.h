@@ -46,6 +46,10 @@ class GLYPHORIUM_EXPORT CatalogSearch {
   /// Returns true if the result of this object is a character that the user added.
   bool isAdded(const SearchResult& result) const { return result.index < added_.size(); }
 
+  /// Returns the position in Glyphorium::buildInEntities() of a result that is not an added character. A host that has
+  /// configured the catalog reads the entity there, which is much faster than entity() for thousands of results.
+  std::size_t buildInPlace(const SearchResult& result) const { return result.index - added_.size(); }
+
  private:
   std::vector<std::string> codes_;
   std::vector<Entity> added_;

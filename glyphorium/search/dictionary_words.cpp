@@ -8,9 +8,17 @@ namespace {
 
 constexpr std::size_t shortestPlural = 4;  // in bytes; most shorter words that end in "s" are not plurals
 
-void addVariant(const Index& index, QueryWord& word, std::string_view variant) {
+constexpr std::size_t shortestSynonymPrefix = 3;
+
+void addVariant(const Index& index, QueryWord& word, std::string_view variant, WordMatch match) {
   const TextRange range = index.words.exactly(variant);
-  if (!range.empty()) word.alternatives.push_back({range, WordMatch::variant});
+  if (!range.empty()) word.alternatives.push_back({range, match});
+}
+
+void addSynonyms(const Index& index, QueryWord& word, const SearchLanguage& language,
+                 std::string_view known) {
+  for (std::string_view rest = synonymsOf(language, known); !rest.empty();)
+    addVariant(index, word, takePart(rest, '\t'), WordMatch::variant);
 }
 
 }  // namespace
@@ -26,14 +34,20 @@ void addDictionaryWords(const Index& index, QueryWord& word, const Languages& la
   // incomplete word rather than a plural. For example, "rocke" does not mean "rock".
   if ((isWord || range.empty()) && word.text.size() >= shortestPlural) {
     for (const SearchLanguage* const language : languages) {
-      for (const std::string& singular : singularsOf(*language, word.text)) addVariant(index, word, singular);
+      for (const std::string& singular : singularsOf(*language, word.text)) {
+        addVariant(index, word, singular, WordMatch::variant);
+        addSynonyms(index, word, *language, singular);
+      }
     }
   }
+  for (const SearchLanguage* const language : languages) addSynonyms(index, word, *language, word.text);
+  if (!prefixes) return;
+  if (!range.empty()) word.alternatives.push_back({range, WordMatch::prefix});
+  if (word.text.size() < shortestSynonymPrefix) return;
   for (const SearchLanguage* const language : languages) {
-    for (std::string_view rest = synonymsOf(*language, word.text); !rest.empty();)
-      addVariant(index, word, takePart(rest, '\t'));
+    for (const std::string_view synonym : synonymsOfLongerWords(*language, word.text))
+      addVariant(index, word, synonym, WordMatch::prefix);
   }
-  if (prefixes && !range.empty()) word.alternatives.push_back({range, WordMatch::prefix});
 }
 
 std::size_t postingCount(const Index& index, const QueryWord& word) {

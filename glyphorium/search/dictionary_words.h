@@ -11,7 +11,7 @@ namespace glyph::search {
 
 /// Looks up word.text in the dictionary and adds what it finds to word.alternatives: the word itself, then
 /// its singulars and synonyms in the given languages. If `prefixes` is true, also adds the longer words that
-/// begin with word.text.
+/// begin with word.text, and the synonyms of longer words.
 void addDictionaryWords(const Index& index, QueryWord& word, const Languages& languages, bool prefixes);
 
 /// Returns the number of postings of all alternatives of the word. The more postings a word has, the

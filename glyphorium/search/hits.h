@@ -20,14 +20,15 @@ class Hits {
     std::uint32_t cost() const { return static_cast<std::uint32_t>(order >> 32); }
     std::uint32_t doc;
     SearchField field;
+    bool exact;  ///< see SearchResult::exact
   };
 
-  void add(std::uint32_t doc, std::uint32_t cost, SearchField field) {
-    all_.push_back({std::uint64_t{cost} << 32 | doc, doc, field});
+  void add(std::uint32_t doc, std::uint32_t cost, SearchField field, bool exact) {
+    all_.push_back({std::uint64_t{cost} << 32 | doc, doc, field, exact});
   }
   /// Adds a hit with cost 0. Such hits are sorted by their positions.
   void addAtPosition(std::uint32_t doc, std::uint32_t position, SearchField field) {
-    all_.push_back({position, doc, field});
+    all_.push_back({position, doc, field, false});
   }
   void reserveMore(std::size_t count) { all_.reserve(all_.size() + count); }
   bool empty() const { return all_.empty(); }

@@ -15,24 +15,30 @@ enum class PhraseKind : std::uint8_t {
   name,
   replacedName,  ///< the name in the Unicode table, if the catalog shows a better name instead
   alias,
+  informalName,  ///< an informal alias in the Unicode Standard's list of names
   htmlName,
   searchTerm,
   everydayName,
   textToSpeechName,
+  comment,  ///< a comment in the Unicode Standard's list of names
   keyword,  ///< weaker evidence than a name, because many characters share a keyword
   note,
 };
 
 /// What the index knows about one text of a character.
 struct Phrase {
-  std::uint32_t doc;
-  PhraseKind kind;
+  std::uint32_t doc : 24;
+  PhraseKind kind : 8;
   std::uint8_t language;  ///< position in Index::languages; 0 if the text is in no particular language
   std::uint8_t words;     ///< the number of words, at most 255
   /// The number of words that are not stop words, at most 255. If all words are stop words, the same as
   /// `words`.
   std::uint8_t coreWords;
+  /// The position of the noun that the other words describe: of the last word, or of the first word in
+  /// languages in which nouns come first. Stop words and what follows the first function word do not count.
+  std::uint8_t head;
 };
+static_assert(sizeof(Phrase) == 8);
 
 struct CodePointDoc {
   std::uint32_t codePoint;
@@ -62,7 +68,9 @@ struct Index {
 
   std::span<const CodePointDoc> byCodePoint;  ///< in ascending order of code points
 
-  std::span<const Phrase> phrases;
+  std::span<const Phrase> phrases;  ///< in ascending order of docs
+  /// For each doc, the number of its first phrase. The last element is the size of `phrases`.
+  std::span<const std::uint32_t> phraseStart;
 
   TextList words;  ///< the dictionary: all words of all phrases, folded, in ascending order
   /// For each word, the position of its first posting in `postings`. The last element is the size of

@@ -8,6 +8,7 @@
 
 #include "glyphorium/data/search_facts.h"
 #include "glyphorium/search/language_rules.h"
+#include "glyphorium/search/letter_description.h"
 #include "glyphorium/search/static_rank.h"
 #include "glyphorium/search/text_parts.h"
 #include "glyphorium/search/word_numbers.h"
@@ -47,11 +48,15 @@ struct NumberedTexts {
 
 class Builder {
  public:
-  explicit Builder(std::span<const Entity> entities) : entities_(entities), ranked_(rankDocs(entities)) {}
+  explicit Builder(std::span<const Entity> entities) : entities_(entities), ranked_(rankDocs(entities)) {
+    for (const SearchLanguage& known : searchLanguages) {
+      const std::uint8_t number = language(known.code);
+      if (known.headFirst) headFirst_ |= 1u << number;
+    }
+  }
 
   IndexImage build() && {
     addDocs();
-    addFacts();
     addGroups();
     makeDictionary();
     const NumberedTexts signs(std::move(signPhrases_));
@@ -65,6 +70,7 @@ class Builder {
         .names = names_.list(),
         .byCodePoint = byCodePoint_,
         .phrases = phrases_,
+        .phraseStart = phraseStart_,
         .words = dictionary_.list(),
         .postingStart = postingStart_,
         .postings = postings_,
@@ -89,15 +95,25 @@ class Builder {
   void addPhrase(std::uint32_t doc, PhraseKind kind, std::uint8_t language, std::string_view text) {
     const auto number = static_cast<std::uint32_t>(phrases_.size());
     if (number >= maxPhrases) return;
-    Phrase phrase{doc, kind, language, 0, 0};
+    Phrase phrase{doc & 0xFFFFFF, kind, language, 0, 0, 0};
+    const bool headFirst = headFirst_ >> language & 1;
+    bool headFound = false;
     reader_.restart(text);
     while (reader_.next()) {
       const std::uint32_t position = std::min<std::uint32_t>(phrase.words, lastPosition);
       const std::uint32_t word = words_.number(reader_.word());
-      if (word == isStopWord_.size()) isStopWord_.push_back(isStopWord(reader_.word()));
+      if (word == joiningIn_.size()) joiningIn_.push_back(languagesJoinedBy(reader_.word()));
       tokens_.push_back({word, number << 8 | position});
       if (phrase.words < lastPosition) ++phrase.words;
-      if (phrase.coreWords < lastPosition && !isStopWord_[word]) ++phrase.coreWords;
+      if ((joiningIn_[word] & 1) == 0) {
+        if (phrase.coreWords < lastPosition) ++phrase.coreWords;
+        if ((joiningIn_[word] >> std::max<unsigned>(language, 1) & 1) != 0) {
+          headFound = phrase.coreWords > 1;
+        } else if (!headFound) {
+          phrase.head = static_cast<std::uint8_t>(position);
+          headFound = headFirst;
+        }
+      }
     }
     if (phrase.coreWords == 0) phrase.coreWords = phrase.words;
     // Texts of these kinds contain the signs that people type to find a character, such as "->". In the other
@@ -108,6 +124,17 @@ class Builder {
       if (!key.empty()) signPhrases_.emplace_back(std::move(key), number);
     }
     phrases_.push_back(phrase);
+  }
+
+  // Bit 0: the word is a stop word. Bit i: it is a function word of language i.
+  std::uint32_t languagesJoinedBy(std::string_view word) const {
+    std::uint32_t bits = isStopWord(word) ? 1 : 0;
+    for (const SearchLanguage& known : searchLanguages) {
+      const auto place = std::find(languages_.begin(), languages_.end(), known.code);
+      if (place != languages_.end() && isFunctionWord({&known}, word))
+        bits |= 1u << (place - languages_.begin());
+    }
+    return bits;
   }
 
   void addDocs() {
@@ -121,7 +148,13 @@ class Builder {
       const std::string name = entity.name();
       names_.add(name);
       addPhrase(doc, PhraseKind::name, 0, name);
+      if (name.find(" Small Letter ") != std::string::npos)
+        addPhrase(doc, PhraseKind::informalName, 0, letterWords(name));
+      if (const std::string look = letterLook(name); !look.empty())
+        addPhrase(doc, PhraseKind::informalName, 0, look);
       if (entity.additional) addEnrichment(doc, entity);
+      if (ranked.codePoint != Index::noCodePoint) addFacts(doc, ranked.codePoint);
+      phraseStart_.push_back(static_cast<std::uint32_t>(phrases_.size()));
     }
     std::sort(byCodePoint_.begin(), byCodePoint_.end(), [](const CodePointDoc& a, const CodePointDoc& b) {
       return std::pair(a.codePoint, a.doc) < std::pair(b.codePoint, b.doc);
@@ -150,19 +183,12 @@ class Builder {
     return static_cast<std::uint8_t>(languages_.size() - 1);
   }
 
-  void addFacts() {
+  void addFacts(std::uint32_t doc, std::uint32_t codePoint) {
     for (std::size_t list = 0; list < searchFactCount; ++list) {
       const SearchFacts& facts = searchFactList[list];
       if (facts.kind == SearchFactKind::mostWanted) continue;
-      const std::uint8_t itsLanguage = facts.language.empty() ? std::uint8_t{0} : language(facts.language);
-      // The facts and byCodePoint_ are both in ascending order of code points.
-      auto place = byCodePoint_.begin();
-      for (std::size_t i = 0; i < facts.size() && place != byCodePoint_.end(); ++i) {
-        const SearchFacts::Entry entry = facts[i];
-        while (place != byCodePoint_.end() && place->codePoint < entry.codePoint) ++place;
-        if (place == byCodePoint_.end() || place->codePoint != entry.codePoint) continue;
-        addTexts(place->doc, facts.kind, itsLanguage, entry.texts);
-      }
+      addTexts(doc, facts.kind, facts.language.empty() ? std::uint8_t{0} : language(facts.language),
+               facts.textsOf(codePoint));
     }
   }
 
@@ -180,6 +206,10 @@ class Builder {
         return PhraseKind::alias;
       case SearchFactKind::htmlName:
         return PhraseKind::htmlName;
+      case SearchFactKind::comment:
+        return PhraseKind::comment;
+      case SearchFactKind::informalName:
+        return PhraseKind::informalName;
       case SearchFactKind::everydayName:
         return PhraseKind::everydayName;
       case SearchFactKind::annotation:
@@ -229,7 +259,8 @@ class Builder {
   std::span<const Entity> entities_;
   RankedDocs ranked_;
   WordNumbers words_;
-  std::vector<char> isStopWord_;  // indexed by word number
+  std::vector<std::uint32_t> joiningIn_;  // languagesJoinedBy(), indexed by word number
+  std::uint32_t headFirst_ = 0;           // bit i: nouns come first in language i
   WordReader reader_{{}};
   std::vector<Token> tokens_;
 
@@ -240,6 +271,7 @@ class Builder {
   Texts names_;
   std::vector<CodePointDoc> byCodePoint_;
   std::vector<Phrase> phrases_;
+  std::vector<std::uint32_t> phraseStart_{0};
   Texts dictionary_;
   std::vector<std::uint32_t> postingStart_;
   std::vector<std::uint32_t> postings_;

@@ -32,6 +32,7 @@ void forEachPart(SomeIndex& index, Visit visit) {
   visitTexts(index.names);
   visit(index.byCodePoint);
   visit(index.phrases);
+  visit(index.phraseStart);
   visitTexts(index.words);
   visit(index.postingStart);
   visit(index.postings);

@@ -6,26 +6,6 @@
 #include "glyphorium/search/text_parts.h"
 
 namespace glyph::search {
-namespace {
-
-// Returns the rest of the line that begins with the word, without the tab after the word. Returns nullopt if
-// there is no such line. The lines must be in ascending order.
-std::optional<std::string_view> findLine(std::string_view lines, std::string_view word) {
-  while (!lines.empty()) {
-    // Look at the line in the middle. In the first line, rfind() returns npos, and npos + 1 is 0.
-    const std::size_t begin = lines.rfind('\n', lines.size() / 2) + 1;
-    const std::string_view line = lines.substr(begin, lines.find('\n', begin) - begin);
-    std::string_view rest = line;
-    const std::string_view head = takePart(rest, '\t');
-    if (head == word) return rest;
-    lines =
-        word < head ? lines.substr(0, begin) : lines.substr(std::min(begin + line.size() + 1, lines.size()));
-  }
-  return std::nullopt;
-}
-
-}  // namespace
-
 bool isStopWord(std::string_view word) {
   return findLine(searchStopWords, word).has_value();
 }
@@ -46,6 +26,33 @@ bool isFunctionWord(const Languages& languages, std::string_view word) {
 
 std::string_view synonymsOf(const SearchLanguage& language, std::string_view word) {
   return findLine(language.synonyms, word).value_or("");
+}
+
+bool announcesLetter(std::string_view word) {
+  const auto announces = [](std::string_view one) {
+    return one == "letter" || one == "capital" || one == "small" || one == "uppercase" || one == "lowercase";
+  };
+  if (announces(word)) return true;
+  for (const SearchLanguage& language : searchLanguages) {
+    for (std::string_view rest = synonymsOf(language, word); !rest.empty();) {
+      if (announces(takePart(rest, '\t'))) return true;
+    }
+  }
+  return false;
+}
+
+std::vector<std::string_view> synonymsOfLongerWords(const SearchLanguage& language, std::string_view text) {
+  std::vector<std::string_view> synonyms;
+  std::string_view rest = firstLineFrom(language.synonyms, text);
+  while (rest.starts_with(text)) {
+    std::string_view line = takePart(rest, '\n');
+    if (takePart(line, '\t') == text) continue;
+    while (!line.empty()) {
+      const std::string_view synonym = takePart(line, '\t');
+      if (std::find(synonyms.begin(), synonyms.end(), synonym) == synonyms.end()) synonyms.push_back(synonym);
+    }
+  }
+  return synonyms;
 }
 
 std::vector<std::string> singularsOf(const SearchLanguage& language, std::string_view word) {

@@ -32,6 +32,12 @@ bool isFunctionWord(const Languages& languages, std::string_view word);
 /// no synonyms.
 std::string_view synonymsOf(const SearchLanguage& language, std::string_view word);
 
+/// Returns true if a letter may follow the word, in any language: "letter", "capital", "minuscule".
+bool announcesLetter(std::string_view word);
+
+/// Returns the synonyms of the longer words that begin with the text.
+std::vector<std::string_view> synonymsOfLongerWords(const SearchLanguage& language, std::string_view text);
+
 /// Returns the words whose plural the word may be. Only the ending of the word is looked at, so the returned
 /// words need not exist. Snowball's stemmers were tried instead of these rules. They did not improve a single
 /// query of tests/search/queries.tsv, and up to three queries no longer found their character: the stem of a

@@ -2,34 +2,47 @@
 #include "glyphorium/search/matching.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "glyphorium/search/dictionary_words.h"
-#include "glyphorium/search/match_costs.h"
+#include "glyphorium/search/score.h"
 
 namespace glyph::search {
 namespace {
 
+constexpr std::uint32_t noCost = 0xFFFFFFFF;
+// In the postings of a frequent word, a binary search for each character costs less than reading all.
+constexpr std::size_t postingsPerSearch = 16;
+constexpr std::size_t shortestGroupWord = 3;  // in bytes; groups are not found by shorter words
+
+// What is known about a text after some of the words of the query were looked up.
 struct PhraseState {
   std::uint32_t epoch = 0;
-  std::uint8_t count = 0;      // the phrase matches the first `count` needed words
-  std::uint8_t stopWords = 0;  // the phrase matches the first `stopWords` stop words of the query
-  std::uint8_t aligned = 0;  // number of matched words with the same position in the phrase and in the query
-  std::uint8_t worst = 0;    // the worst WordMatch of the matched needed words
+  std::uint32_t gain = 0;  // what the matched words have kept of their weights, in hundredths of a point
+  std::uint8_t lastWord = 0;
+  std::uint8_t words = 0;
+  std::uint8_t stopWords = 0;
+  std::uint8_t aligned = 0;
+  std::int8_t shift = 0;  // position in the text minus position in the query, of the first matched word
+  std::uint8_t variants = 0;
+  bool isLastAligned = false;
+  bool head = false;
+  bool allWhole = true;  // no matched word is incomplete or mistyped
 };
 
 struct DocState {
   std::uint32_t epoch = 0;
+  std::uint32_t gain = 0;     // as in PhraseState, but of the words before the last one
+  std::uint32_t current = 0;  // the same of the last matched word
+  std::uint32_t matched = 0;  // bit i: word i of the query matches
+  std::uint32_t matchedWeight = 0;
+  std::uint32_t contentWords = 0;  // the number of matched words that are not stop words
+  std::uint32_t asTyped = 0;       // bit i: word i of the query matches without a correction
+  std::uint32_t best = noCost;
   std::uint32_t phrase = noPhrase;
-  std::uint32_t best = 0;        // the lowest cost of a phrase that matches all needed words
-  std::uint8_t count = 0;        // the doc matches the first `count` needed words
-  std::uint8_t worst = 0;        // the worst WordMatch of the words before the last matched word
-  std::uint8_t current = 0;      // the best WordMatch of the last matched word
-  std::uint8_t stopWords = 0;    // the doc matches the first `stopWords` stop words of the query
-  std::uint8_t bestWorst = 0;    // the worst WordMatch in the phrase with the lowest cost
-  std::uint8_t nameWorst = 255;  // the worst WordMatch in the name; 255 if the name lacks a needed word
+  std::uint32_t phraseGain = 0;
+  std::uint32_t nameGain = 0;
 };
-
-constexpr std::uint32_t noCost = 0xFFFFFFFF;
 
 // Working memory that is reused for the next query. Each query has a number, its epoch. A state with another
 // epoch is left over from an earlier query and counts as empty. So the states need not be cleared for each
@@ -37,13 +50,17 @@ constexpr std::uint32_t noCost = 0xFFFFFFFF;
 struct Scratch {
   std::vector<PhraseState> phrases;
   std::vector<DocState> docs;
-  std::vector<std::uint32_t> touched;  // the docs that match the first needed word
+  std::vector<std::uint32_t> touchedPhrases;
+  std::vector<std::uint32_t> touchedDocs;
+  std::vector<std::uint64_t> begun;  // bit i: a word before the current one matches doc i
   std::uint32_t epoch = 0;
 
   void begin(const Index& index) {
     if (phrases.size() < index.phrases.size()) phrases.resize(index.phrases.size());
     if (docs.size() < index.docCount()) docs.resize(index.docCount());
-    touched.clear();
+    touchedPhrases.clear();
+    touchedDocs.clear();
+    begun.assign(index.docCount() / 64 + 1, 0);
     if (++epoch == 0) {
       std::fill(phrases.begin(), phrases.end(), PhraseState{});
       std::fill(docs.begin(), docs.end(), DocState{});
@@ -54,173 +71,255 @@ struct Scratch {
 
 class Matcher {
  public:
-  Matcher(const Index& index, const MatchFilter& filter, Scratch& scratch)
-      : index_(index), filter_(filter), scratch_(scratch), epoch_(scratch.epoch) {}
+  Matcher(const Index& index, std::vector<QueryWord>& words, const MatchFilter& filter, Scratch& scratch)
+      : index_(index), words_(words), filter_(filter), scratch_(scratch), epoch_(scratch.epoch) {}
 
-  std::vector<Match> match(const std::vector<QueryWord>& words) {
-    std::vector<std::uint8_t> needed;
-    std::vector<std::uint8_t> stopWords;
-    for (std::uint8_t place = 0; place < words.size(); ++place)
-      (words[place].isStopWord ? stopWords : needed).push_back(place);
-    if (needed.empty()) needed.swap(stopWords);  // the query has only stop words, such as "sign"
-    // The rarest word is matched first. After that, only the few characters that match it are candidates for
-    // the other words.
-    std::stable_sort(needed.begin(), needed.end(), [&](std::uint8_t a, std::uint8_t b) {
-      return postingCount(index_, words[a]) < postingCount(index_, words[b]);
-    });
-    needed_ = static_cast<std::uint8_t>(needed.size());
-    stopWords_ = static_cast<std::uint8_t>(stopWords.size());
-    for (std::uint8_t i = 0; i < needed_; ++i) matchNeeded(words[needed[i]], i, needed[i]);
-    for (std::uint8_t i = 0; i < stopWords_; ++i) matchStopWord(words[stopWords[i]], i, stopWords[i]);
+  Matches match() {
+    weigh();
+    // The rarest word is matched first. A character that lacks too many of the first words need not be looked
+    // at when it matches one of the others.
+    std::vector<std::pair<std::size_t, std::uint8_t>> order;
+    for (std::uint8_t place = 0; place < words_.size(); ++place) {
+      const std::size_t last = words_[place].isStopWord ? index_.postings.size() : 0;
+      order.emplace_back(last + postingCount(index_, words_[place]), place);
+    }
+    std::sort(order.begin(), order.end());
+    std::uint32_t passed = 0;
+    for (const auto& [count, place] : order) {
+      const QueryWord& word = words_[place];
+      if (!scratch_.touchedDocs.empty()) matchWord(word, place, Docs::begun);
+      // A character that only matches from here on lacks all words before. If it would be left out, because
+      // another one lacks much less, it need not be looked at.
+      const std::uint32_t most =
+          std::min(contentWeight_ * mostMissing / 100,
+                   contentWeight_ - bestWeight_ + contentWeight_ * mostMissingBeyondBest / 100);
+      if (!word.isStopWord && passed <= most) matchWord(word, place, Docs::others);
+      if (count > 0) passed += word.weight;
+    }
+    for (const std::uint32_t number : scratch_.touchedPhrases) offer(number);
     return result();
   }
 
  private:
+  void weigh() {
+    if (std::all_of(words_.begin(), words_.end(), [](const QueryWord& word) { return word.isStopWord; })) {
+      for (QueryWord& word : words_) word.isStopWord = false;  // such as "sign"
+    }
+    for (std::size_t i = 0; i < words_.size(); ++i) {
+      QueryWord& word = words_[i];
+      if (word.weight == 0)
+        word.weight = word.isStopWord ? stopWordWeight : wordWeight(word.text, postingCount(index_, word));
+      allWeight_ += word.weight;
+      if (word.isStopWord) continue;
+      contentWeight_ += word.weight;
+      ++contentWords_;
+      contentBits_ |= 1u << i;
+    }
+  }
+
   // Returns true if the phrase passes the filter.
   bool counts(const Phrase& phrase) const {
     return (filter_.languages >> phrase.language & 1) != 0 && (!filter_.docs || (*filter_.docs)[phrase.doc]);
   }
 
-  // Matches needed word number `i`, starting at 0. `place` is the position of the word in the query.
-  void matchNeeded(const QueryWord& word, std::uint8_t i, std::uint8_t place) {
+  // Which characters are looked at: those that match another word already, or the others.
+  enum class Docs { begun, others };
+
+  bool isBegun(std::uint32_t doc) const { return scratch_.begun[doc / 64] >> doc % 64 & 1; }
+
+  // `place` is the position of the word in the query.
+  void matchWord(const QueryWord& word, std::uint8_t place, Docs docs) {
+    const std::size_t begunDocs = scratch_.touchedDocs.size();
     for (const Alternative& alternative : word.alternatives) {
-      for (const std::uint32_t posting : index_.postingsOf(alternative.words)) {
-        const std::uint32_t number = posting >> 8;
-        const Phrase& phrase = index_.phrases[number];
-        if (i > 0 && (scratch_.docs[phrase.doc].epoch != epoch_ || scratch_.docs[phrase.doc].count < i))
-          continue;
-        if (!counts(phrase)) continue;
-        const auto match = phrase.kind == PhraseKind::note ? std::max(alternative.match, WordMatch::note)
-                                                           : alternative.match;
-        noteDoc(phrase.doc, i, match, number);
-        notePhrase(number, phrase, i, match, static_cast<std::uint8_t>(posting) == place);
+      if (word.isStopWord && alternative.match != WordMatch::whole) continue;
+      const std::span<const std::uint32_t> postings = index_.postingsOf(alternative.words);
+      const bool isOneWord = alternative.words.last - alternative.words.first == 1;
+      if (docs == Docs::begun && isOneWord && begunDocs * postingsPerSearch < postings.size()) {
+        for (std::size_t i = 0; i < begunDocs; ++i) {
+          const std::uint32_t doc = scratch_.touchedDocs[i];
+          auto posting = std::lower_bound(postings.begin(), postings.end(), index_.phraseStart[doc] << 8);
+          for (; posting != postings.end() && *posting >> 8 < index_.phraseStart[doc + 1]; ++posting)
+            notePosting(word, place, alternative.match, *posting);
+        }
+        continue;
+      }
+      for (const std::uint32_t posting : postings) {
+        if (isBegun(index_.phrases[posting >> 8].doc) == (docs == Docs::begun))
+          notePosting(word, place, alternative.match, posting);
       }
     }
-    if (word.text.size() >= 3) matchGroups(word, i);
-  }
-
-  void noteDoc(std::uint32_t doc, std::uint8_t i, WordMatch match, std::uint32_t phrase) {
-    DocState& state = scratch_.docs[doc];
-    const auto quality = static_cast<std::uint8_t>(match);
-    if (state.epoch != epoch_) {
-      if (i > 0) return;
-      state = {};
-      state.epoch = epoch_;
-      state.phrase = phrase;
-      state.best = noCost;
-      state.count = 1;
-      state.current = quality;
-      scratch_.touched.push_back(doc);
-    } else if (state.count == i) {
-      state.worst = std::max(state.worst, state.current);
-      state.current = quality;
-      state.count = static_cast<std::uint8_t>(i + 1);
-    } else if (state.count == i + 1 && quality < state.current) {
-      state.current = quality;
+    if (word.text.size() >= shortestGroupWord && !word.isStopWord) matchGroups(word, place, docs);
+    // Only now, because a word may match several texts of a character that it begins.
+    for (std::size_t i = begunDocs; i < scratch_.touchedDocs.size(); ++i) {
+      const std::uint32_t doc = scratch_.touchedDocs[i];
+      scratch_.begun[doc / 64] |= std::uint64_t{1} << doc % 64;
     }
   }
 
-  void notePhrase(std::uint32_t number, const Phrase& phrase, std::uint8_t i, WordMatch match,
-                  bool isAligned) {
+  void notePosting(const QueryWord& word, std::uint8_t place, WordMatch match, std::uint32_t posting) {
+    const std::uint32_t number = posting >> 8;
+    const Phrase& phrase = index_.phrases[number];
+    if (!counts(phrase)) return;
+    const std::uint32_t loss = std::max(lossPercent(match), lossPercent(phrase.kind));
+    const std::uint32_t gain = word.weight * (100 - loss);
+    noteDoc(phrase.doc, word, place, gain, match <= WordMatch::prefix);
+    notePhrase(number, phrase, word, place, static_cast<std::uint8_t>(posting), gain, match);
+  }
+
+  void noteDoc(std::uint32_t doc, const QueryWord& word, std::uint8_t place, std::uint32_t gain,
+               bool isTyped) {
+    DocState& state = scratch_.docs[doc];
+    if (state.epoch != epoch_) {
+      state = {};
+      state.epoch = epoch_;
+      scratch_.touchedDocs.push_back(doc);
+    }
+    if (isTyped) state.asTyped |= 1u << place;
+    if ((state.matched >> place & 1) == 0) {
+      state.matched |= 1u << place;
+      state.gain += state.current;
+      state.current = gain;
+      if (word.isStopWord) return;
+      ++state.contentWords;
+      state.matchedWeight += word.weight;
+      bestWeight_ = std::max(bestWeight_, state.matchedWeight);
+    } else {
+      state.current = std::max(state.current, gain);
+    }
+  }
+
+  void notePhrase(std::uint32_t number, const Phrase& phrase, const QueryWord& word, std::uint8_t place,
+                  std::uint8_t position, std::uint32_t gain, WordMatch match) {
     PhraseState& state = scratch_.phrases[number];
     if (state.epoch != epoch_) {
       state = {};
       state.epoch = epoch_;
+      state.shift = static_cast<std::int8_t>(position - place);
+      scratch_.touchedPhrases.push_back(number);
     }
-    // A word may be in the phrase several times. The first posting counts as the match, but the posting with
-    // the position of the query's word may be a later one.
-    const bool isNew = state.count == i;
-    const bool alignsNow = isAligned && (match == WordMatch::whole || match == WordMatch::prefix) &&
-                           (isNew || state.count == i + 1);
-    // Otherwise the phrase lacks an earlier word, or already has a match for this word.
-    if (!isNew && !alignsNow) return;
-    if (isNew) {
-      state.count = static_cast<std::uint8_t>(i + 1);
-      state.worst = std::max(state.worst, static_cast<std::uint8_t>(match));
+    const bool isAligned = state.shift == static_cast<std::int8_t>(position - place);
+    if (state.lastWord == place + 1) {
+      // The word is in the text several times. A later place may fit the other words better.
+      if (isAligned && !state.isLastAligned) {
+        ++state.aligned;
+        state.isLastAligned = true;
+      }
+    } else {
+      state.lastWord = static_cast<std::uint8_t>(place + 1);
+      state.gain += gain;
+      state.aligned = static_cast<std::uint8_t>(state.aligned + isAligned);
+      state.isLastAligned = isAligned;
+      state.allWhole = state.allWhole && match <= WordMatch::variant;
+      if (match == WordMatch::variant) ++state.variants;
+      ++(word.isStopWord ? state.stopWords : state.words);
     }
-    if (alignsNow) ++state.aligned;
-    if (state.count == needed_) offer(number, phrase, state);
+    state.head = state.head || position == phrase.head;
   }
 
-  void matchGroups(const QueryWord& word, std::uint8_t i) {
+  void matchGroups(const QueryWord& word, std::uint8_t place, Docs docs) {
+    const std::uint32_t gain = word.weight * (100 - lossPercent(WordMatch::group));
     for (std::uint32_t number = 0; number < index_.groupCount(); ++number) {
       const Group group = index_.group(number);
-      if (!group.hasWordWithPrefix(word.text)) continue;
+      const bool matches =
+          group.hasWordWithPrefix(word.text) ||
+          std::any_of(word.alternatives.begin(), word.alternatives.end(), [&](auto& one) {
+            return one.match == WordMatch::variant && group.hasWordWithPrefix(index_.words[one.words.first]);
+          });
+      if (!matches) continue;
       for (const std::uint32_t doc : group.docs) {
-        if (!filter_.docs || (*filter_.docs)[doc]) noteDoc(doc, i, WordMatch::group, noPhrase);
+        if (isBegun(doc) == (docs == Docs::begun) && (!filter_.docs || (*filter_.docs)[doc]))
+          noteDoc(doc, word, place, gain, true);
       }
     }
   }
 
-  void matchStopWord(const QueryWord& word, std::uint8_t i, std::uint8_t place) {
-    for (const Alternative& alternative : word.alternatives) {
-      if (alternative.match != WordMatch::whole) continue;
-      for (const std::uint32_t posting : index_.postingsOf(alternative.words)) {
-        const std::uint32_t number = posting >> 8;
-        const Phrase& phrase = index_.phrases[number];
-        DocState& doc = scratch_.docs[phrase.doc];
-        if (doc.epoch != epoch_ || doc.count != needed_ || !counts(phrase)) continue;
-        if (doc.stopWords == i) ++doc.stopWords;
-        PhraseState& state = scratch_.phrases[number];
-        if (state.epoch != epoch_ || state.count != needed_) continue;
-        const bool isAligned = static_cast<std::uint8_t>(posting) == place;
-        if (state.stopWords == i)
-          ++state.stopWords;
-        else if (state.stopWords != i + 1 || !isAligned)
-          continue;
-        if (isAligned) ++state.aligned;
-        offer(number, phrase, state);
-      }
-    }
+  static TextMatch textMatch(const PhraseState& state) {
+    return {state.words, state.stopWords, state.aligned, state.variants, state.head};
   }
 
-  // Makes the phrase the best phrase of its doc if it has the lowest cost so far. The phrase must match all
-  // needed words.
-  void offer(std::uint32_t number, const Phrase& phrase, const PhraseState& state) {
-    const std::uint32_t cost = phraseCost(phrase, {static_cast<WordMatch>(state.worst), state.count,
-                                                   state.stopWords, state.aligned, needed_, stopWords_});
+  // `matched` is the number of matched words without stop words.
+  std::uint32_t loss(std::uint32_t gain, std::size_t matched) const {
+    return allWeight_ - gain / 100 + missingWordCost * static_cast<std::uint32_t>(contentWords_ - matched);
+  }
+
+  // Makes the text the best one of its doc if it has the lowest cost so far.
+  void offer(std::uint32_t number) {
+    const PhraseState& state = scratch_.phrases[number];
+    const Phrase& phrase = index_.phrases[number];
     DocState& doc = scratch_.docs[phrase.doc];
-    if (phrase.kind == PhraseKind::name || phrase.kind == PhraseKind::replacedName)
-      doc.nameWorst = std::min(doc.nameWorst, state.worst);
+    if (phrase.kind <= PhraseKind::replacedName) doc.nameGain = std::max(doc.nameGain, state.gain);
+    const std::uint32_t cost = loss(state.gain, state.words) + textCost(phrase, textMatch(state));
     if (cost >= doc.best) return;
     doc.best = cost;
-    doc.bestWorst = state.worst;
     doc.phrase = number;
+    doc.phraseGain = state.gain;
   }
 
-  std::vector<Match> result() const {
-    std::vector<Match> matches;
-    for (const std::uint32_t doc : scratch_.touched) {
-      const DocState& state = scratch_.docs[doc];
-      if (state.count != needed_) continue;
-      const auto worst = static_cast<WordMatch>(std::max(state.worst, state.current));
-      const std::uint32_t spread = spreadCost(worst, missingStopWords(state.stopWords, stopWords_));
-      const bool together = state.best < spread;
-      const bool named = state.nameWorst <= state.bestWorst;
-      const bool byHtmlName =
-          together && state.phrase != noPhrase && index_.phrases[state.phrase].kind == PhraseKind::htmlName;
-      const std::uint32_t cost = withName(together ? state.best : spread, named, byHtmlName);
-      matches.push_back({cost + priorCost(cost, index_.docPrior[doc]), doc,
-                         together || needed_ == 1 ? state.phrase : noPhrase});
+  std::uint32_t missing(const DocState& doc) const { return contentWeight_ - doc.matchedWeight; }
+
+  Match matchOf(std::uint32_t doc) const {
+    const DocState& state = scratch_.docs[doc];
+    const bool asTyped = state.asTyped == state.matched;
+    const std::uint32_t spread = loss(state.gain + state.current, state.contentWords) + spreadCost;
+    if (spread < state.best) {
+      const bool named = state.nameGain >= state.gain + state.current;
+      const std::uint32_t cost = spread + (named ? 0 : unnamedCost);
+      return {cost + priorCost(index_.docPrior[doc], 0), doc, words_.size() == 1 ? state.phrase : noPhrase,
+              false, asTyped};
     }
+    const Phrase& phrase = index_.phrases[state.phrase];
+    const PhraseState& text = scratch_.phrases[state.phrase];
+    const bool whole = text.allWhole && text.words == contentWords_ && coversText(phrase, textMatch(text));
+    const bool named = state.nameGain >= state.phraseGain;
+    std::uint32_t cost = state.best + (named ? 0 : unnamedCost);
+    // An HTML name whose words are also in the name ("sigma") is a real word and not an abbreviation.
+    if (named && phrase.kind == PhraseKind::htmlName) cost -= htmlNameCost - htmlNameInNameCost;
+    const unsigned wholeName = whole && phrase.kind <= PhraseKind::replacedName ? phrase.words : 0u;
+    return {cost + priorCost(index_.docPrior[doc], wholeName), doc, state.phrase, whole, asTyped};
+  }
+
+  Matches result() const {
+    Matches matches;
+    matches.best.cost = noCost;
+    matches.all.reserve(scratch_.touchedDocs.size());
+    for (const std::uint32_t doc : scratch_.touchedDocs) {
+      const Match match = matchOf(doc);
+      matches.all.push_back(match);
+      const auto order = [](const Match& one) { return std::uint64_t{one.cost} << 32 | one.doc; };
+      if (order(match) < order(matches.best)) matches.best = match;
+    }
+    if (matches.all.empty()) return matches;
+    const DocState& best = scratch_.docs[matches.best.doc];
+    const std::uint32_t lacking = missing(best);
+    if (lacking * 100 > contentWeight_ * mostMissing) return {};
+    const std::uint32_t most = lacking + contentWeight_ * mostMissingBeyondBest / 100;
+    const std::uint32_t least = best.gain + best.current;
+    std::erase_if(matches.all, [&](const Match& one) {
+      const DocState& doc = scratch_.docs[one.doc];
+      return missing(doc) > most || doc.gain + doc.current + contentWeight_ * mostLossBeyondBest < least;
+    });
+    matches.unmatched = contentBits_ & ~best.matched;
     return matches;
   }
 
   const Index& index_;
+  std::vector<QueryWord>& words_;
   const MatchFilter& filter_;
   Scratch& scratch_;
   const std::uint32_t epoch_;
-  std::uint8_t needed_ = 0;
-  std::uint8_t stopWords_ = 0;
+  std::uint32_t allWeight_ = 0;
+  std::uint32_t contentWeight_ = 0;  // without stop words
+  std::uint32_t bestWeight_ = 0;     // the largest weight of the matched words of a character
+  std::size_t contentWords_ = 0;
+  std::uint32_t contentBits_ = 0;  // bit i: word i is not a stop word
 };
 
 }  // namespace
 
-std::vector<Match> matchWords(const Index& index, const std::vector<QueryWord>& words,
-                              const MatchFilter& filter) {
+Matches matchWords(const Index& index, std::vector<QueryWord>& words, const MatchFilter& filter) {
   thread_local Scratch scratch;
   scratch.begin(index);
-  return Matcher(index, filter, scratch).match(words);
+  return Matcher(index, words, filter, scratch).match();
 }
 
 }  // namespace glyph::search

@@ -9,15 +9,23 @@
 
 namespace glyph::search {
 
-/// A character that matches the words of a query.
+/// A character that matches words of a query.
 struct Match {
-  std::uint32_t cost;  ///< smaller is better: see match_costs.h
+  std::uint32_t cost;  ///< smaller is better: see score.h
   std::uint32_t doc;
-  /// The phrase that matches best. It is noPhrase if only the name of the group matches, or if the words are
-  /// in several phrases of the character.
+  /// The text that matches best. It is noPhrase if only the name of the group matches, or if the words are in
+  /// several texts of the character.
   std::uint32_t phrase;
+  bool whole;    ///< whether the query is a whole text of the character
+  bool asTyped;  ///< whether no word was corrected
 };
 inline constexpr std::uint32_t noPhrase = 0xFFFFFFFF;
+
+struct Matches {
+  std::vector<Match> all;     ///< in no particular order
+  Match best{};               ///< the one with the lowest cost; meaningless if `all` is empty
+  std::uint32_t unmatched{};  ///< bit i: the best match lacks word i, which is not a stop word
+};
 
 struct MatchFilter {
   std::uint32_t languages = ~0u;  ///< bit i stands for Index::languages[i]
@@ -25,10 +33,9 @@ struct MatchFilter {
   const std::vector<char>* docs = nullptr;
 };
 
-/// Returns the characters that match all words, in no particular order. Stop words need not match, unless all
-/// words are stop words. There may be at most 255 words. Any number of threads may call this function at the
-/// same time. Each thread that calls it keeps working memory until the thread ends.
-std::vector<Match> matchWords(const Index& index, const std::vector<QueryWord>& words,
-                              const MatchFilter& filter);
+/// Returns the characters that match the words best: see score.h. If the words have no weights, gives them
+/// weights. There may be at most 32 words. Any number of threads may call this function at the same time.
+/// Each thread that calls it keeps working memory until the thread ends.
+Matches matchWords(const Index& index, std::vector<QueryWord>& words, const MatchFilter& filter);
 
 }  // namespace glyph::search

@@ -4,6 +4,9 @@
 #include <algorithm>
 #include <string>
 
+#include "glyphorium/data/search_facts.h"
+#include "glyphorium/search/text_parts.h"
+
 namespace glyph::search {
 namespace {
 
@@ -37,6 +40,13 @@ class MistypedWords {
     if (!rest.empty()) accept(prefix, rest.substr(1), range);  // remove a byte
     if (rest.size() >= 2 && rest[0] != rest[1])
       accept(prefix + rest[1] + rest[0], rest.substr(2), range);  // swap two bytes
+    for (const SearchLanguage& language : searchLanguages) {
+      for (std::string_view rules = language.sounds; !rules.empty();) {
+        std::string_view rule = takePart(rules, '\n');
+        const std::string_view typed = takePart(rule, '\t');
+        if (rest.starts_with(typed)) accept(prefix + std::string(rule), rest.substr(typed.size()), range);
+      }
+    }
     // Try each byte that follows the prefix in the dictionary: once as a replacement, and once as an
     // insertion.
     for (std::uint32_t first = range.first; first < range.last;) {

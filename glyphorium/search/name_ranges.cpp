@@ -7,25 +7,38 @@
 
 namespace glyph::search {
 
+namespace {
+
+// A word of at least this size is highlighted even if the name matches for another reason: "right" in
+// "Rightwards", which is its synonym.
+constexpr std::size_t shortestHighlight = 3;
+
+// Returns true if the word of the query may mean the word of the dictionary.
+bool means(const Index& index, const QueryWord& word, std::string_view other) {
+  // The dictionary is sorted and contains each word of a name. So a word of the name is in an alternative if
+  // it is between the first and the last word of the alternative.
+  return std::any_of(word.alternatives.begin(), word.alternatives.end(), [&](const Alternative& alternative) {
+    return other >= index.words[alternative.words.first] && other <= index.words[alternative.words.last - 1];
+  });
+}
+
+}  // namespace
+
 std::vector<SearchRange> nameRanges(const Index& index, const std::vector<QueryWord>& words,
                                     std::string_view name) {
   std::vector<SearchRange> ranges;
   WordReader reader(name);
   while (reader.next()) {
     std::size_t size = 0;
-    const auto cover = [&](const QueryWord& word, const Alternative& alternative) {
-      // The dictionary is sorted and contains each word of a name. So a word of the name is in the
-      // alternative if it is between the first and the last word of the alternative.
-      if (reader.word() < index.words[alternative.words.first] ||
-          reader.word() > index.words[alternative.words.last - 1]) {
-        return;
-      }
-      const bool partly =
-          alternative.match == WordMatch::prefix && reader.word().size() == reader.end() - reader.begin();
-      size = std::max(size, partly ? word.text.size() : reader.end() - reader.begin());
-    };
+    const std::size_t whole = reader.end() - reader.begin();
+    const bool isPlain = reader.word().size() == whole;
     for (const QueryWord& word : words) {
-      for (const Alternative& alternative : word.alternatives) cover(word, alternative);
+      const bool begins = isPlain && reader.word().starts_with(word.text);
+      const bool matches = means(index, word, reader.word());
+      if (begins && (matches || (word.text.size() >= shortestHighlight && !word.isStopWord)))
+        size = std::max(size, word.text.size());
+      else if (matches)
+        size = whole;
     }
     if (size > 0) ranges.push_back({reader.begin(), reader.begin() + size});
   }

@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "glyphorium/search/hits.h"
-#include "glyphorium/search/match_costs.h"
 #include "glyphorium/search/name_ranges.h"
 #include "glyphorium/search/query_filter.h"
+#include "glyphorium/search/score.h"
 #include "glyphorium/search/word_search.h"
 #include "glyphorium/text/preferred_languages.h"
 
@@ -20,6 +20,7 @@ SearchField fieldOf(PhraseKind kind) {
     case PhraseKind::replacedName:
       break;
     case PhraseKind::alias:
+    case PhraseKind::informalName:
       return SearchField::alias;
     case PhraseKind::htmlName:
       return SearchField::htmlName;
@@ -29,6 +30,7 @@ SearchField fieldOf(PhraseKind kind) {
     case PhraseKind::textToSpeechName:
     case PhraseKind::keyword:
       return SearchField::annotation;
+    case PhraseKind::comment:
     case PhraseKind::note:
       return SearchField::note;
   }
@@ -58,11 +60,11 @@ class Answer {
     SearchResults results;
     results.total = best.total;
     results.approximate = approximate_;
+    results.lacksWords = lacksWords_;
     for (const Hits::Hit& hit : best.hits) {
-      const bool exact =
-          !approximate_ && hit.field != SearchField::group && hit.cost() < offset_ + behindExactCost;
       results.results.push_back({index_.docEntity[hit.doc], hit.field,
-                                 nameRanges(index_, words_, index_.names[hit.doc]), hit.cost(), exact});
+                                 nameRanges(index_, words_, index_.names[hit.doc]), hit.cost(),
+                                 hit.exact && !approximate_});
     }
     return results;
   }
@@ -78,24 +80,34 @@ class Answer {
 
   void addReadings() {
     // The meanings that are certain come first, in the order of the query.
-    std::uint32_t place = firstCost;
+    std::uint32_t place = 0;
+    for (const std::uint32_t codePoint : query_.notations.certain)
+      add(index_.docOfCodePoint(codePoint), place++, SearchField::notation, true);
     for (const ParsedCode& item : query_.codes) {
       if (item.htmlName.empty())
-        add(index_.docOfCodePoint(item.codePoint), place++, SearchField::code);
+        add(index_.docOfCodePoint(item.codePoint), place++, SearchField::code, true);
       else
-        add(index_.docOfHtmlName(item.htmlName), place++, SearchField::htmlName);
+        add(index_.docOfHtmlName(item.htmlName), place++, SearchField::htmlName, true);
     }
     const bool isCode = !hits_.empty();
+    for (const std::uint32_t codePoint : query_.notations.begun) {
+      const std::uint32_t doc = index_.docOfCodePoint(codePoint);
+      if (doc == Index::noDoc) continue;
+      add(doc, place + index_.docPrior[doc], SearchField::notation, false);
+    }
+    if (!query_.notations.begun.empty()) place += mostPrior;
     for (const std::uint32_t number : query_.likelyNumbers)
-      add(index_.docOfCodePoint(number), place++, SearchField::code);
+      add(index_.docOfCodePoint(number), place++, SearchField::code, true);
     for (const std::uint32_t character : query_.characters)
-      add(index_.docOfCodePoint(character), place++, SearchField::character);
+      add(index_.docOfCodePoint(character), place++, SearchField::character, true);
     offset_ = place;
     addSignPhrases();
+    for (const std::uint32_t codePoint : query_.notations.guessed)
+      add(index_.docOfCodePoint(codePoint), offset_ + behindExactCost, SearchField::notation, false);
     for (const std::uint32_t number : query_.otherNumbers)
-      add(index_.docOfCodePoint(number), offset_ + behindExactCost, SearchField::code);
+      add(index_.docOfCodePoint(number), offset_ + behindExactCost, SearchField::code, false);
     for (const std::uint32_t character : query_.besideWords)
-      add(index_.docOfCodePoint(character), offset_ + behindExactCost, SearchField::character);
+      add(index_.docOfCodePoint(character), offset_ + behindExactCost, SearchField::character, false);
     const std::uint32_t bareName = index_.docOfHtmlName(query_.bareText);
     const bool direct = !hits_.empty() || bareName != Index::noDoc;
     // A code is not a mistyped word, even if its character is not in the list.
@@ -103,17 +115,17 @@ class Answer {
                                       [](const ParsedCode& code) { return code.htmlName.empty(); });
     addWords(!direct && !saysCode);
     if (bareName != Index::noDoc)
-      add(bareName, offset_ + htmlNameDetail + index_.docPrior[bareName], SearchField::htmlName);
+      add(bareName, offset_ + htmlNameCost + index_.docPrior[bareName], SearchField::htmlName, true);
     for (const std::uint32_t character : query_.otherCharacters) {
       // Skip these characters if they are signs of a code, or letters of words that matched.
       if (!isCode && (hits_.empty() || query_.words.empty() || !wordsFound_))
-        add(index_.docOfCodePoint(character), offset_ + lastCost + place++, SearchField::character);
+        add(index_.docOfCodePoint(character), offset_ + lastCost + place++, SearchField::character, false);
     }
   }
 
-  void add(std::uint32_t doc, std::uint32_t cost, SearchField field) {
+  void add(std::uint32_t doc, std::uint32_t cost, SearchField field, bool exact) {
     if (doc == Index::noDoc || (filter_.docs && !allowed_[doc])) return;
-    hits_.add(doc, cost, field);
+    hits_.add(doc, cost, field, exact);
   }
 
   void addSignPhrases() {
@@ -124,7 +136,7 @@ class Answer {
       if ((filter_.languages >> found.language & 1) == 0) continue;
       const bool whole = index_.signs[sign].size() == query_.signs.size();
       const std::uint32_t cost = offset_ + (whole ? 0 : behindExactCost) + index_.docPrior[found.doc];
-      add(found.doc, cost, fieldOf(found.kind));
+      add(found.doc, cost, fieldOf(found.kind), whole);
     }
   }
 
@@ -134,10 +146,11 @@ class Answer {
     for (const Match& match : found.matches) {
       const bool byName = match.phrase == noPhrase;
       add(match.doc, offset_ + match.cost,
-          byName ? SearchField::name : fieldOf(index_.phrases[match.phrase].kind));
+          byName ? SearchField::name : fieldOf(index_.phrases[match.phrase].kind), match.whole);
     }
     wordsFound_ = !found.matches.empty();
     approximate_ = found.approximate;
+    lacksWords_ = found.lacksWords;
     words_ = std::move(found.words);
   }
 
@@ -151,6 +164,7 @@ class Answer {
   std::uint32_t offset_ = 0;      // added to the costs of uncertain meanings, so that certain ones come first
   bool wordsFound_ = false;
   bool approximate_ = false;
+  bool lacksWords_ = false;
 };
 
 }  // namespace

@@ -2,7 +2,12 @@
 #include "glyphorium/search/query_parsing.h"
 
 #include <algorithm>
+#include <cstdio>
+#include <span>
 
+#include "glyphorium/data/name_table.h"
+#include "glyphorium/search/language_rules.h"
+#include "glyphorium/search/letter_description.h"
 #include "glyphorium/search/words.h"
 #include "glyphorium/text/ascii.h"
 #include "glyphorium/text/unicode_text.h"
@@ -62,7 +67,15 @@ std::vector<std::string_view> splitAtBlanks(std::string_view text) {
 
 // Reads several numbers without a prefix, in the form of dumps. The numbers may be code points, UTF-16 code
 // units or bytes of UTF-8.
-void addBareNumbers(const std::vector<std::string_view>& numbers, ParsedQuery& query) {
+void addBareNumbers(std::span<const std::string_view> numbers, ParsedQuery& query) {
+  // "U 2014", as it is read aloud.
+  if (numbers.front() == "U" || numbers.front() == "u") {
+    numbers = numbers.subspan(1);
+    if (numbers.size() == 1 && numbers[0].size() >= 4 && numbers[0].size() <= 6) {
+      if (const auto number = ascii::number(numbers[0], 16)) query.likelyNumbers.push_back(*number);
+      return;
+    }
+  }
   std::string marked;
   bool bytes = true, codePoints = true;
   for (const std::string_view number : numbers) {
@@ -78,6 +91,19 @@ void addBareNumbers(const std::vector<std::string_view>& numbers, ParsedQuery& q
   // is probably not a dump of UTF-8, but words or numbers of two digits.
   if (bytes && codes.size() == numbers.size()) return;
   for (const ParsedCode& code : codes) query.likelyNumbers.push_back(code.codePoint);
+}
+
+// Returns the bytes of a text such as "0xE2 0x80 0x94" in the form "\\xE2\\x80\\x94". Empty for other texts.
+std::string markedBytes(const std::vector<std::string_view>& parts) {
+  std::string marked;
+  for (std::string_view part : parts) {
+    if (part.ends_with(',')) part.remove_suffix(1);
+    const bool isByte = part.size() == 4 && (part.starts_with("0x") || part.starts_with("0X")) &&
+                        ascii::number(part.substr(2), 16);
+    if (!isByte) return {};
+    marked.append("\\x").append(part.substr(2));
+  }
+  return parts.size() > 1 ? marked : std::string();
 }
 
 void addBareNumber(std::string_view text, ParsedQuery& query) {
@@ -162,6 +188,32 @@ void addCharacters(std::string_view text, ParsedQuery& query) {
   if (!hasLatin) query.characters.swap(query.besideWords);
 }
 
+// Returns letterWords() of a letter outside ASCII. Empty for other texts.
+std::string describedLetter(std::string_view text) {
+  const std::u32string letter = codePoints(composed(text));
+  if (letter.size() != 1 || letter.front() < 0x80) return {};
+  char hex[9];
+  std::snprintf(hex, sizeof hex, "%04x", static_cast<unsigned>(letter.front()));
+  const std::optional<NameTableEntry> entry = findName(hex);
+  return entry ? letterWords(entry->name) : std::string();
+}
+
+void addWords(std::string_view text, std::vector<std::string>& words) {
+  WordReader reader(text);
+  bool mayBeLetter = true;
+  while (words.size() < mostWords && reader.next()) {
+    // Beside other words ("è maiuscola"), a letter is described, because folding would take its accent away.
+    // In the middle of a text it is a word ("carré à coins"), except after a word such as "capital".
+    const std::string_view typed = text.substr(reader.begin(), reader.end() - reader.begin());
+    std::string described = typed.size() < text.size() ? describedLetter(typed) : std::string();
+    if (!mayBeLetter) described.clear();
+    mayBeLetter = announcesLetter(reader.word());
+    if (described.empty()) words.emplace_back(reader.word().substr(0, longestWord));
+    for (WordReader each(described); words.size() < mostWords && each.next();)
+      words.emplace_back(each.word());
+  }
+}
+
 }  // namespace
 
 std::optional<ParsedQuery> parseQuery(std::string_view text) {
@@ -179,7 +231,9 @@ std::optional<ParsedQuery> parseQuery(std::string_view text) {
   const std::string_view trimmed(
       parts.front().data(),
       static_cast<std::size_t>(parts.back().data() + parts.back().size() - parts.front().data()));
-  query.codes = parseCodes(trimmed);
+  query.notations = readNotation(trimmed);
+  const std::string bytes = markedBytes(parts);
+  query.codes = parseCodes(bytes.empty() ? trimmed : bytes);
   const std::string withoutCodes =
       query.codes.empty() ? takeMarkedCodes(trimmed, query) : std::string(trimmed);
   const std::string_view rest = withoutName(withoutCodes);
@@ -188,10 +242,7 @@ std::optional<ParsedQuery> parseQuery(std::string_view text) {
   addCharacters(rest, query);
   query.bareText = rest;
   query.signs = signKey(rest);
-  WordReader reader(rest);
-  while (query.words.size() < mostWords && reader.next()) {
-    query.words.emplace_back(reader.word().substr(0, longestWord));
-  }
+  addWords(rest, query.words);
   return query;
 }
 

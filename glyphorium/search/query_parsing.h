@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "glyphorium/codes/code_parsing.h"
+#include "glyphorium/search/notations.h"
 
 namespace glyph::search {
 
@@ -21,6 +22,9 @@ struct ParsedQuery {
   std::vector<std::uint32_t> likelyNumbers;
   /// Code points of a text that is a number but may also be a word: "face".
   std::vector<std::uint32_t> otherNumbers;
+
+  /// Characters whose notation in another program is the text, or begins with it: see notations.h.
+  NotationsFound notations;
 
   /// Characters that the user certainly means. The text is a single character or has no Latin letters.
   std::vector<std::uint32_t> characters;

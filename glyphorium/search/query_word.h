@@ -12,11 +12,10 @@ namespace glyph::search {
 /// How a word of the query matches a word of the dictionary. The best kind is first.
 enum class WordMatch : std::uint8_t {
   whole,
-  variant,  ///< the dictionary has a singular or a synonym of the word
-  prefix,
-  group,       ///< the word is in the name of the character's group
-  note,        ///< the word is in a usage note
+  variant,     ///< the dictionary has a singular or a synonym of the word
+  prefix,      ///< the dictionary has a longer word
   typo,        ///< one letter differs
+  group,       ///< the word is in the name of the character's group
   typoPrefix,  ///< one letter differs, and letters are missing at the end
 };
 
@@ -30,7 +29,8 @@ struct Alternative {
 struct QueryWord {
   std::string text;                       ///< folded
   std::vector<Alternative> alternatives;  ///< the best alternative is first
-  bool isStopWord = false;                ///< whether a character may match without this word
+  bool isStopWord = false;                ///< whether the word says next to nothing about the character
+  std::uint32_t weight = 0;               ///< see score.h
 };
 
 }  // namespace glyph::search

@@ -2,7 +2,6 @@
 #include "glyphorium/search/respelling.h"
 
 #include <algorithm>
-#include <iterator>
 #include <string_view>
 
 #include "glyphorium/search/text_parts.h"
@@ -62,10 +61,6 @@ class Splitter {
 
 std::vector<Words> respellings(const Index& index, const Words& words, const Languages& languages) {
   std::vector<Words> result;
-  Words meaningful;
-  std::copy_if(words.begin(), words.end(), std::back_inserter(meaningful),
-               [&](const std::string& word) { return !isFunctionWord(languages, word); });
-  if (!meaningful.empty() && meaningful.size() < words.size()) result.push_back(std::move(meaningful));
   Words respelled;
   for (const std::string& word : words) respelled.push_back(withoutTypedSpellings(word));
   if (respelled != words) result.push_back(std::move(respelled));
@@ -75,6 +70,7 @@ std::vector<Words> respellings(const Index& index, const Words& words, const Lan
       linkingLetters.push_back(takePart(rest, '\n'));
   }
   for (std::size_t i = 0; i < words.size(); ++i) {
+    if (words.size() > 1 && !index.words.exactly(words[i]).empty()) continue;
     for (Words& parts : Splitter(index, linkingLetters).split(words[i])) {
       Words split = words;
       const auto place = split.erase(split.begin() + static_cast<std::ptrdiff_t>(i));
@@ -83,9 +79,14 @@ std::vector<Words> respellings(const Index& index, const Words& words, const Lan
     }
   }
   for (std::size_t i = 0; i + 1 < words.size(); ++i) {
-    if (index.words.withPrefix(words[i] + words[i + 1]).empty()) continue;
+    const std::string both = words[i] + words[i + 1];
+    const bool known = !index.words.withPrefix(both).empty() ||
+                       std::any_of(languages.begin(), languages.end(), [&](const SearchLanguage* language) {
+                         return !synonymsOf(*language, both).empty();
+                       });
+    if (!known) continue;
     Words joined = words;
-    joined[i] += joined[i + 1];
+    joined[i] = both;
     joined.erase(joined.begin() + static_cast<std::ptrdiff_t>(i) + 1);
     result.push_back(std::move(joined));
   }

@@ -10,9 +10,9 @@
 namespace glyph::search {
 
 /// Returns other spellings of the folded words of a query. The most likely spelling is first:
-/// - without the function words of the languages;
 /// - with one letter for letters that people type as two ("ae" for "ä");
-/// - with one word split into several words;
+/// - with one word that is not in the dictionary split into several words. Splits a word of the dictionary
+/// only if it is alone;
 /// - with two neighbouring words joined.
 std::vector<std::vector<std::string>> respellings(const Index& index, const std::vector<std::string>& words,
                                                   const Languages& languages);

@@ -24,12 +24,13 @@ enum class SearchField : std::uint8_t {
   character,   ///< the query contains the character itself
   code,        ///< the query contains the code point of the character
   name,        ///< Entity::name(), or the Unicode name that it replaces
-  alias,       ///< a formal alias or an abbreviation in the Unicode Character Database
+  alias,       ///< an alias or an abbreviation in the Unicode Character Database
   htmlName,    ///< a name in the HTML Standard's list of character references
   searchTerm,  ///< a search term or an everyday name
   annotation,  ///< a text-to-speech name or keyword of CLDR
   group,       ///< only the group matches: the query is "group:…" without words
-  note,        ///< a usage note
+  note,        ///< a usage note, or a comment in the Unicode Character Database
+  notation,    ///< how the character is written elsewhere, for example a LaTeX command
 };
 
 /// A part of Entity::name(). The offsets are in bytes, and `end` is not included.
@@ -55,9 +56,12 @@ struct SearchResult {
 struct SearchResults {
   std::vector<SearchResult> results;  ///< at most SearchOptions::limit results; the best result is first
   std::size_t total = 0;              ///< number of all matching characters; may be larger than the limit
-  /// Whether nothing matches the query as typed, so that the search changed the query. The results match a
-  /// query with corrected words or fewer words.
+  /// Whether nothing matches the query as typed, so that the search changed the query. The best result
+  /// matches a query with corrected words or fewer words. Words that only join other words ("with") do not
+  /// count.
   bool approximate = false;
+  /// Whether the best result lacks a word of the query. Then the results are also approximate.
+  bool lacksWords = false;
 };
 
 struct SearchOptions {
@@ -98,15 +102,17 @@ class GLYPHORIUM_EXPORT Search {
   static Search ofCatalog();
 
   /// Returns the characters that match a UTF-8 text. The text may be:
-  /// - one or more words in any order. A character must match all words. Letter case, hyphens, underscores
-  ///   and the diacritics of Latin letters do not count. The last letters of a word may be missing;
+  /// - one or more words. The more of them a character matches, the better. Rare words count most, and words
+  ///   that only join other words ("with") next to nothing. Letter case, hyphens, underscores and the
+  ///   diacritics of Latin letters do not count. The last letters of a word may be missing;
   /// - a code point in a form that parseCodes() reads, also beside words ("U+2192 RIGHTWARDS ARROW");
   /// - one or more numbers without a prefix: decimal or hexadecimal code points, bytes of UTF-8, or code
   ///   units of UTF-16;
   /// - a character reference or its bare name: "&rarr;", "&rarr", "rarr", "&#8594;", "&#x2192;";
   /// - characters. The search finds each character. For a sequence (combining marks, joiners, skin tones) it
   ///   finds the precomposed character, if there is one, and then the parts of the sequence;
-  /// - signs that people type in place of a character: "->", "(c)", "1/2".
+  /// - signs that people type in place of a character: "->", "(c)", "1/2";
+  /// - how the character is written elsewhere: "\alpha", ":tada:", "alt 0176", "Compose < 3", "^K a:".
   /// If a text has several of these meanings, the search finds the characters of all meanings. The most
   /// likely characters come first.
   ///
@@ -115,9 +121,8 @@ class GLYPHORIUM_EXPORT Search {
   /// name with spaces needs quotation marks: group:"misc symbols". A text without words finds all characters
   /// of the groups, in the order of the list.
   ///
-  /// If nothing matches, the search splits words, joins words, and corrects one letter of a word. If there is
-  /// still no match, it leaves out words that only join other words, and words that do not match together
-  /// with the rest.
+  /// If no character matches all words, the search splits words, joins words, and corrects one letter of a
+  /// word. If there is still no such character, the results match most of the words.
   ///
   /// The search reads only the first 1,000 bytes and the first 32 words. There are no results if the text is
   /// empty or contains only ill-formed UTF-8, or if memory runs out.

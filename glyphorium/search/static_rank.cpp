@@ -84,7 +84,7 @@ std::string_view shownName(const Entity& entity) {
   return better ? *additional->betterName : entity.computed.fallbackName;
 }
 
-// Returns at most 41, so that the prior never outweighs a better tier of matches (see match_costs.h).
+// Returns at most 41, so that the prior decides only between about equally good matches (see score.h).
 unsigned priorOf(const Candidate& candidate, std::string_view name, std::uint32_t place) {
   if (place != notWanted) return std::min(place / 60, mostWantedPrior);
   // People seldom search for a sign that is on the keyboard. But if they type its words, they most likely

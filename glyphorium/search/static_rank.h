@@ -17,6 +17,9 @@ namespace glyph::search {
 /// The lowest prior of private-use characters. All other characters have a lower prior.
 inline constexpr std::uint8_t privateUsePrior = 34;
 
+/// No prior is higher.
+inline constexpr std::uint8_t mostPrior = 60;
+
 struct RankedDoc {
   std::uint32_t entity;     ///< position of the character's first entity in the list
   std::uint32_t codePoint;  ///< Index::noCodePoint if the hex code is not a code point

@@ -12,12 +12,13 @@ namespace glyph::search {
 struct WordsFound {
   std::vector<Match> matches;
   std::vector<QueryWord> words;  ///< the words of the query, with the alternatives that matched
-  bool approximate = false;      ///< whether the matches are those of respelled or fewer words
+  bool lacksWords = false;       ///< whether the best match lacks a word
+  bool approximate = false;      ///< whether the best match lacks a word, or matches a corrected word
 };
 
-/// Returns the characters that match all words. The words must be folded. If no character matches and
-/// `persistently` is true, tries other readings of the words, the most likely reading first, until one of
-/// them finds a character.
+/// Returns the characters that match the words best. The words must be folded. If no character matches all
+/// words and `persistently` is true, also corrects words, and leaves words out. If it is false, returns
+/// nothing in this case.
 WordsFound findWords(const Index& index, const std::vector<std::string>& words, const MatchFilter& filter,
                      bool persistently);
 

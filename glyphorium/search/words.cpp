@@ -30,7 +30,23 @@ bool WordReader::appendNonAscii(std::size_t& position) {
   return isPart;
 }
 
+// "l’œil" has the word "oeil": one letter before an apostrophe is an article or a preposition.
+bool WordReader::isElided() const {
+  if (word_.size() != 1 || end_ >= text_.size()) return false;
+  constexpr std::string_view apostrophe = "\u2019";
+  const std::string_view rest = text_.substr(end_);
+  const std::size_t size = rest[0] == '\'' ? 1 : rest.starts_with(apostrophe) ? apostrophe.size() : 0;
+  return size > 0 && rest.size() > size && (ascii::isLetter(rest[size]) || !isAscii(rest[size]));
+}
+
 bool WordReader::next() {
+  do {
+    read();
+  } while (isElided());
+  return !word_.empty();
+}
+
+void WordReader::read() {
   word_.clear();
   std::size_t position = end_;
   while (position < text_.size()) {
@@ -55,7 +71,6 @@ bool WordReader::next() {
       nextCodePoint(text_, position);
   }
   end_ = position;
-  return !word_.empty();
 }
 
 std::string wordsOf(std::string_view text) {

@@ -8,8 +8,8 @@
 namespace glyph::search {
 
 /// Reads the words of a UTF-8 text one by one. A word is a sequence of letters and digits. All other
-/// characters separate words. The reader folds the words so that they can be compared: see appendFolded().
-/// The text must outlive the reader.
+/// characters separate words. A single letter before an apostrophe ("l’œil") is left out. The reader folds
+/// the words so that they can be compared: see appendFolded(). The text must outlive the reader.
 class WordReader {
  public:
   explicit WordReader(std::string_view text) : text_(text) {}
@@ -30,6 +30,8 @@ class WordReader {
   }
 
  private:
+  void read();
+  bool isElided() const;
   bool appendNonAscii(std::size_t& position);
 
   std::string_view text_;

@@ -84,6 +84,27 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"1/2", {"00bd"}, SearchField::searchTerm},
       {"!=", {"2260", "0021", "003d"}, SearchField::searchTerm},
       {"...", {"2026"}, SearchField::searchTerm},
+      // how other programs write the characters
+      {"\\neq", {"2260"}, SearchField::notation},
+      {"\\cdot", {"22c5", "00b7"}, SearchField::notation},  // the first has more sources
+      {"\\AA", {"00c5"}, SearchField::notation},            // not the bytes AA
+      {"$\\Rightarrow$", {"21d2"}, SearchField::notation},
+      {"\\'e", {"00e9"}, SearchField::notation},
+      {"\\c c", {"00e7"}, SearchField::notation},
+      {"\\'i", {"00ed"}, SearchField::notation},  // the command has a dotless i
+      {"\\not\\in", {"2209"}, SearchField::notation},
+      {"\\mathbb{R}", {"211d"}, SearchField::notation},
+      {"\\righta", {"2192"}, SearchField::notation},  // the beginning of a command
+      {":tada:", {"1f389"}, SearchField::notation},
+      {":+1:", {"1f44d"}, SearchField::notation},
+      {":tad", {"1f389"}, SearchField::notation},
+      {"alt 0176", {"00b0"}, SearchField::notation},
+      {"Alt+3", {"2665"}, SearchField::notation},
+      {"alt-228", {"03a3", "00f5"}, SearchField::notation},  // in two code pages
+      {"Compose < 3", {"2665"}, SearchField::notation},
+      {"^K a:", {"00e4"}, SearchField::notation},
+      {"U 2014", {"2014"}, SearchField::code},
+      {"0xE2 0x80 0x94", {"2014"}, SearchField::code},
       // names in several spellings
       {"square.and.arrow.up", {"100202"}, SearchField::name},
       {"NO-BREAK_space", {"00a0"}, SearchField::name},
@@ -94,7 +115,7 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"latin capital letter gha", {"01a2"}, SearchField::alias},  // the alias corrects an error in the name
       {"sqrt", {"221a"}, SearchField::searchTerm},
       // a word that is also a code
-      {"face", {"263a"}, SearchField::annotation},
+      {"face", {"263a"}, SearchField::searchTerm},
   };
   for (const FormCase& form : cases) {
     const SearchResults found = CatalogSearch::instance().search.query(form.query, {100, {{"en"}}, {}});

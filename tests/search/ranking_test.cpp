@@ -72,6 +72,41 @@ TEST(SearchRanking, WordsAreLeftOutIfNoCharacterMatchesAllOfThem) {
   }
 }
 
+TEST(SearchRanking, EachPartOfTheScoreDecidesAmongResults) {
+  const struct {
+    const char* query;
+    const char* language;
+    const char* first;
+  } cases[] = {
+      {"circle slash", "en", "2298"},
+      {"circle with a slash", "en", "2298"},  // words that only join others say next to nothing
+      {"circled number 5", "en", "2464"},     // digits and their names are one word
+      {"voiceless postalveolar fricative", "en", "0283"},
+      {"stimmloser postalveolarer Frikativ", "de", "0283"},  // other forms of words have the same synonyms
+      {"è maiuscola", "it", "00c8"},                         // the accent counts
+      {"í con tilde mayúscula", "es", "00cd"},
+      {"u mit zwei Punkten", "de", "00fc"},  // how the letter looks
+      {"power set", "en", "1d4ab"},          // not the character whose note warns of this one
+      {"estreya", "es", "2605"},            // letters that sound alike
+      {"co", "en", "00a9"},                  // not the syllables of this name
+      {"giove", "it", "2643"},
+  };
+  for (const auto& test : cases) {
+    const auto hexes = CatalogSearch::instance().hexes(test.query, {100, {{test.language}}, {}});
+    EXPECT_EQ(hexes.empty() ? "" : hexes.front(), test.first) << test.query;
+  }
+}
+
+TEST(SearchRanking, CharactersThatMatchMuchLessThanTheBestAreLeftOut) {
+  const auto& search = CatalogSearch::instance().search;
+  EXPECT_LT(search.query("circle slash", english).total, 30u);  // hundreds have one of the words
+  const SearchResults incomplete = search.query("snowman invoice", english);
+  EXPECT_TRUE(incomplete.lacksWords && incomplete.approximate);
+  const SearchResults corrected = search.query("snoman", english);
+  EXPECT_TRUE(!corrected.lacksWords && corrected.approximate);
+  EXPECT_FALSE(search.query("the snowman with", english).approximate);
+}
+
 TEST(SearchRanking, UnicodeCharactersPrecedeEquallyGoodSFSymbols) {
   for (const char* const query : {"heart", "star", "trash", "pencil", "scissors", "bell", "envelope"}) {
     const auto hexes = CatalogSearch::instance().hexes(query);

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/search/notations.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <optional>
+#include <string>
+
+#include "glyphorium/data/notations.h"
+#include "glyphorium/search/text_parts.h"
+#include "glyphorium/text/ascii.h"
+#include "glyphorium/text/unicode_text.h"
+
+namespace glyph::search {
+namespace {
+
+constexpr std::size_t shortestBegun = 3;  // in bytes; too many notations begin with a shorter text
+constexpr std::size_t mostBegun = 20;
+
+using CodePoints = std::vector<std::uint32_t>;
+
+void addHexNumbers(std::string_view columns, CodePoints& codePoints) {
+  while (!columns.empty()) {
+    const auto number = ascii::number(takePart(columns, '\t'), 16);
+    if (number && std::find(codePoints.begin(), codePoints.end(), *number) == codePoints.end())
+      codePoints.push_back(*number);
+  }
+}
+
+CodePoints exactly(std::string_view lines, std::string_view notation) {
+  CodePoints codePoints;
+  const std::string_view line = firstLineFrom(lines, notation);
+  std::string_view columns = line.substr(0, line.find('\n'));
+  if (takePart(columns, '\t') == notation) addHexNumbers(columns, codePoints);
+  return codePoints;
+}
+
+CodePoints begunWith(std::string_view lines, std::string_view notation) {
+  CodePoints codePoints;
+  std::string_view rest = firstLineFrom(lines, notation);
+  while (rest.starts_with(notation) && codePoints.size() < mostBegun) {
+    std::string_view columns = takePart(rest, '\n');
+    takePart(columns, '\t');
+    addHexNumbers(columns, codePoints);
+  }
+  return codePoints;
+}
+
+bool isLetters(std::string_view text) {
+  return !text.empty() && std::all_of(text.begin(), text.end(), ascii::isLetter);
+}
+
+// Returns the spelling of an accented letter that the table has: "\'{e}" for "\'e", and "\c{c}" for "\c c".
+std::string accented(std::string_view command) {
+  std::string sign(command.substr(0, 2));
+  std::string letter;
+  for (const char c : command.substr(2)) {
+    if (c != ' ' && c != '{' && c != '}') letter += c;
+  }
+  if (letter.size() != 1) return std::string(command);
+  return sign + "{" + letter + "}";
+}
+
+// Returns the character of a code of the keyboard's own characters. The tables begin after them.
+CodePoints altCode(std::string_view number) {
+  const CodePoints found = exactly(notations::altCodes, number);
+  const auto code = ascii::number(number, 10);
+  return found.empty() && code && *code >= 0x20 && *code < 0x7F ? CodePoints{*code} : found;
+}
+
+CodePoints latex(std::string_view command) {
+  CodePoints found = exactly(notations::latexCommands, command);
+  if (!found.empty() || command.size() < 3) return found;
+  // A letter command needs a blank or a brace before its argument.
+  if (!ascii::isLetter(command[1]) || !ascii::isLetter(command[2])) {
+    std::string spelling = accented(command);
+    found = exactly(notations::latexCommands, spelling);
+    // The letters i and j lose their dots.
+    if (found.empty() && spelling.size() == 5) {
+      spelling.insert(3, 1, '\\');
+      found = exactly(notations::latexCommands, spelling);
+    }
+    if (!found.empty()) return found;
+  }
+  // The braces around the letter of an alphabet are often left out.
+  if (const std::size_t blank = command.find(' '); blank + 2 == command.size())
+    return exactly(notations::latexCommands,
+                   std::string(command.substr(0, blank)) + "{" + command.back() + "}");
+  constexpr std::string_view negation = "\\not";
+  if (!command.starts_with(negation)) return found;
+  std::string_view negated = command.substr(negation.size());
+  while (negated.starts_with(' ')) negated.remove_prefix(1);
+  const CodePoints plain = negated.starts_with('\\') ? latex(negated) : CodePoints();
+  std::u32string sign =
+      plain.empty() ? codePoints(negated) : std::u32string(1, static_cast<char32_t>(plain.front()));
+  if (sign.size() != 1) return found;
+  const std::u32string whole = codePoints(composed(utf8(sign.front()) + "\u0338"));
+  if (whole.size() == 1) found.push_back(static_cast<std::uint32_t>(whole.front()));
+  return found;
+}
+
+// Returns what follows one of the words and the signs or blanks after it. Letter case does not count.
+std::optional<std::string_view> after(std::initializer_list<std::string_view> words, std::string_view joints,
+                                      std::string_view text) {
+  for (const std::string_view word : words) {
+    if (text.size() <= word.size() || lowercased(text.substr(0, word.size())) != word) continue;
+    const std::string_view rest = text.substr(word.size());
+    const std::size_t begin = rest.find_first_not_of(joints);
+    if (begin != std::string_view::npos && (begin > 0 || !isLetters(rest.substr(0, 1))))
+      return rest.substr(begin);
+  }
+  return std::nullopt;
+}
+
+std::string withoutBlanks(std::string_view text) {
+  std::string result(text);
+  std::erase(result, ' ');
+  return result;
+}
+
+}  // namespace
+
+NotationsFound readNotation(std::string_view text) {
+  NotationsFound found;
+  std::string_view command = text;
+  if (command.size() > 2 && command.starts_with('$') && command.ends_with('$'))
+    command = command.substr(1, command.size() - 2);
+  if (command.size() > 2 && command.starts_with("{\\") && command.ends_with('}'))
+    command = command.substr(1, command.size() - 2);
+  if (command.starts_with('\\')) {
+    found.certain = latex(command);
+    if (command.size() >= shortestBegun && isLetters(command.substr(1)))
+      found.begun = begunWith(notations::latexCommands, command);
+  } else if (text.size() >= shortestBegun && text.starts_with(':') && text.find(' ') == text.npos) {
+    std::string_view name = text.substr(1);
+    const bool closed = name.ends_with(':');
+    if (closed) name.remove_suffix(1);
+    found.certain = exactly(notations::shortcodes, name);
+    if (!closed && name.size() + 1 >= shortestBegun) {
+      found.begun = begunWith(notations::shortcodes, name);
+      if (name.find_first_of("abcdefghijklmnopqrstuvwxyz") == name.npos)
+        found = {};  // a smiley such as ":-3"
+    }
+  } else if (const auto number = after({"alt code", "alt"}, " +-", text)) {
+    found.certain = altCode(*number);
+  } else if (const auto keys = after({"compose", "multi_key", "multi key"}, " +:,", text)) {
+    found.certain = exactly(notations::composeSequences, withoutBlanks(*keys));
+  } else if (const auto pair = after(
+                 {"ctrl-k", "ctrl+k", "<c-k>", "c-k", "^k", "vim digraph", "digraph", "vim"}, " ", text)) {
+    found.certain = exactly(notations::digraphs, withoutBlanks(*pair));
+  } else if (text.size() == 2 && !(ascii::isAlphanumeric(text[0]) && ascii::isAlphanumeric(text[1]))) {
+    found.guessed = exactly(notations::digraphs, text);
+  }
+  return found;
+}
+
+}  // namespace glyph::search

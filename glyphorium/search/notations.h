@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace glyph::search {
+
+/// The code points that a text stands for in other programs.
+struct NotationsFound {
+  std::vector<std::uint32_t> certain;  ///< the text is a whole notation in an unmistakable form
+  std::vector<std::uint32_t> begun;    ///< notations begin with the text
+  std::vector<std::uint32_t> guessed;  ///< the text may also mean something else
+};
+
+/// Reads a UTF-8 text without blanks at its ends as a notation. Letter case counts. These are notations:
+/// - a LaTeX command: "\alpha", "$\to$", "\'e", "\'{e}", "\c c", "\not\in", "\mathbb{R}";
+/// - a shortcode between colons: ":tada:"; the last colon may be missing;
+/// - a Windows Alt code: "alt 0176", "alt+3";
+/// - a sequence of keys after the Compose key: "Compose < 3", "compose o c";
+/// - a digraph of editors: "^K a:", "Ctrl-K a:", "digraph a:". Without such a word, it is only a guess.
+NotationsFound readNotation(std::string_view text);
+
+}  // namespace glyph::search
