@@ -10,7 +10,7 @@ namespace fuzzing {
 /// describes the condition and is printed.
 inline void require(bool condition, const char* what) {
   if (condition) return;
-  std::fprintf(stderr, "Not so: %s\n", what);
+  std::fprintf(stderr, "This does not hold: %s\n", what);
   std::abort();
 }
 

@@ -5,6 +5,15 @@
 /// <glyphorium/data/group_tables.h> declares.
 
 #include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/characters/annotations.h"
+#include "glyphorium/characters/characters.h"
+#include "glyphorium/characters/display.h"
+#include "glyphorium/characters/emoji.h"
+#include "glyphorium/characters/names.h"
+#include "glyphorium/characters/property_names.h"
+#include "glyphorium/characters/related.h"
+#include "glyphorium/characters/supplement.h"
+#include "glyphorium/characters/typing.h"
 #include "glyphorium/codes/code_formats.h"
 #include "glyphorium/codes/code_parsing.h"
 #include "glyphorium/data/embedded_texts.h"
@@ -32,6 +41,7 @@
 #include "glyphorium/state/desktop_search_scope.h"
 #include "glyphorium/state/selected_entities.h"
 #include "glyphorium/state/settings.h"
+#include "glyphorium/state/skin_tone.h"
 #include "glyphorium/state/structured_unicodes.h"
 #include "glyphorium/text/nearest_texts.h"
 #include "glyphorium/text/preferred_languages.h"

@@ -8,6 +8,7 @@
 #include <functional>
 #include <new>
 
+#include "glyphorium/c/glyphorium.h"
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/entity/codec.h"
 #include "glyphorium/search/search.h"
@@ -139,6 +140,53 @@ TEST_F(ExhaustedMemory, LeavesACatalogThatCanBeConfigured) {
                     reset();
                   },
                   120);
+  setSettingsStore(nullptr);
+}
+
+// The C interface has no exceptions. It returns the neutral value, and the status has the reason.
+TEST_F(ExhaustedMemory, SetsTheStatusOfTheCInterface) {
+  setSettingsStore(std::make_shared<MemorySettingsStore>());
+  const char* const codes[] = {"2190", "1f600"};
+  glyphorium_entities* const list = glyphorium_resolve("U+2190 U+2191", GLYPHORIUM_TERMINATED, nullptr);
+  int begun = 0;
+  int ended = 0;
+  const std::function<bool()> operations[] = {
+      [&] { return glyphorium_set_forbidden_codes(codes, 2); },
+      [&] {
+        glyphorium_search* const search = glyphorium_search_over(list);
+        glyphorium_search_free(search);
+        return search != nullptr;
+      },
+      [&] {
+        char* const text = glyphorium_entity_search_string(glyphorium_entities_at(list, 0), nullptr);
+        glyphorium_free(text);
+        return text != nullptr;
+      },
+      [&] {
+        const auto observer = [](void*, const char*, glyphorium_text) {};
+        const auto end = [](void* user) { ++*static_cast<int*>(user); };
+        ++begun;
+        glyphorium_observation* const observation =
+            glyphorium_observe("a name of many letters", observer, &ended, end);
+        const bool succeeded = observation != nullptr;
+        glyphorium_observation_free(observation);
+        return succeeded;
+      },
+  };
+  for (const auto& operation : operations) {
+    SCOPED_TRACE(&operation - operations);
+    failAtEveryCall(
+        [&] {
+          const bool succeeded = operation();
+          if (succeeded) return;
+          EXPECT_EQ(glyphorium_last_status(), static_cast<glyphorium_status>(GLYPHORIUM_OUT_OF_MEMORY));
+          throw std::bad_alloc();
+        },
+        [&](bool) {});
+  }
+  EXPECT_EQ(begun, ended) << "each `user` is freed";
+  glyphorium_set_forbidden_codes(nullptr, 0);
+  glyphorium_entities_free(list);
   setSettingsStore(nullptr);
 }
 
