@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <deque>
 #include <nlohmann/json.hpp>
+#include <optional>
+#include <regex>
 
 #include "card.h"
 #include "commands.h"
@@ -26,11 +29,23 @@ int listGroups(Output& output, bool json) {
   return found;
 }
 
-int listEntities(Output& output, const std::vector<std::string>& groups, bool all, bool json) {
+int listEntities(Output& output, const ListRequest& request, const Listing& listing) {
+  std::optional<std::regex> pattern;
+  try {
+    if (!request.regex.empty())
+      pattern.emplace(request.regex, std::regex::ECMAScript | std::regex::icase | std::regex::optimize);
+  } catch (const std::regex_error& error) {
+    complain("'" + request.regex + "' is no regular expression: " + error.what());
+    return wrongUse;
+  }
   glyph::Glyphorium& catalog = glyph::glyphorium();
   catalog.configure();
+  using Key = glyph::UserInfluencedEntityKey;
   std::vector<const Entity*> entities;
-  if (groups.empty() && !all) {
+  int exitCode = found;
+  if (request.all && !isReadable(Key::customAddedEntities)) exitCode = notRead;  // lists at least the catalog
+  if (request.groups.empty() && !request.all) {
+    if (!isReadable(Key::displayedGroups) || !isReadable(Key::customAddedEntities)) return notRead;
     for (const Entity& entity : glyph::selectedEntities().get()) entities.push_back(&entity);
     if (entities.empty()) {
       complain("the displayed groups contain no characters; 'glyphorium display add GROUP' displays more");
@@ -41,29 +56,46 @@ int listEntities(Output& output, const std::vector<std::string>& groups, bool al
       if (!group || entity.computed.group == *group) entities.push_back(&entity);
     }
   };
-  if (all) {
+  if (request.all) {
     append(catalog.buildInEntities(), nullptr);
     append(catalog.allCustomEntities, nullptr);
   }
-  for (const std::string& name : groups) {
+  std::deque<std::vector<Entity>> sets;
+  for (const std::string& name : request.groups) {
     const auto group = groupNamed(name);
     if (!group) {
-      complain(unknownGroup(name));
-      return wrongUse;
+      auto set = charactersOfSet(name);
+      if (!set || set->empty()) {
+        complain(set ? unknownSet(name) : unknownGroup(name));
+        return set ? nothingFound : wrongUse;
+      }
+      for (const Entity& entity : sets.emplace_back(*std::move(set))) entities.push_back(&entity);
+      continue;
     }
+    if (*group == glyph::customGroup && !isReadable(Key::customAddedEntities)) return notRead;
     append(catalog.buildInEntities(), &*group);
     append(catalog.allCustomEntities, &*group);
   }
-  printEntities(output, entities, json);
-  return entities.empty() ? nothingFound : found;
+  if (pattern) {
+    std::erase_if(entities,
+                  [&](const Entity* entity) { return !std::regex_search(entity->name(), *pattern); });
+    if (entities.empty()) complain("no name matches '" + request.regex + "'");
+  }
+  printEntities(output, entities, listing);
+  return entities.empty() ? nothingFound : exitCode;
 }
 
-int showCharacters(Output& output, const std::vector<std::string>& arguments, bool json) {
+int showCharacters(Output& output, const std::vector<std::string>& arguments, const Listing& listing) {
   glyph::glyphorium().configure();
   std::vector<Character> characters;
   int exitCode = found;
   for (const std::string& argument : arguments) {
-    std::vector<Character> resolved = resolve(argument).characters;
+    std::vector<Character> resolved;
+    if (const auto set = charactersOfSet(argument)) {
+      for (const Entity& entity : *set) resolved.push_back({entity});
+    } else {
+      resolved = resolve(argument).characters;
+    }
     if (resolved.empty()) {
       complain(unknownCharacter(argument));
       exitCode = nothingFound;
@@ -75,10 +107,16 @@ int showCharacters(Output& output, const std::vector<std::string>& arguments, bo
       if (!isShown) characters.push_back(*one);
     }
   }
-  if (json) {
+  if (listing.tsv || !listing.format.empty()) {
+    std::vector<const Entity*> entities;
+    for (const Character& character : characters) entities.push_back(&character.front());
+    printListing(output, entities, listing);
+    return exitCode;
+  }
+  if (listing.json) {
     std::vector<std::string> objects;
     for (const auto& entities : characters) {
-      for (const Entity& entity : entities) objects.push_back(entityJson(entity));
+      for (const Entity& entity : entities) objects.push_back(cardJson(entity));
     }
     printJsonArray(output, objects);
     return exitCode;

@@ -6,6 +6,7 @@
 
 #include "glyphorium/entity/codec.h"
 #include "glyphorium/toolkit/copy_forms.h"
+#include "unicode_facts.h"
 
 namespace cli {
 namespace {
@@ -13,20 +14,30 @@ namespace {
 using glyph::ComputedEntity;
 using glyph::Entity;
 
+// Prints a label and a value. On a terminal, long values are wrapped under their beginning.
+void printLine(Output& output, std::string_view label, std::string_view value) {
+  if (value.empty()) return;
+  constexpr int indentation = 18;
+  std::string column(label);
+  column.resize(std::max<std::size_t>(column.size() + 1, indentation - 4), ' ');
+  const std::vector<std::string> lines = output.onTerminal()
+                                             ? wrapped(value, std::max(terminalWidth() - indentation, 24))
+                                             : std::vector{std::string(value)};
+  for (const std::string& line : lines) {
+    const bool isFirst = &line == &lines.front();
+    output.printLine(isFirst ? "    " + output.faint(column) + line : std::string(indentation, ' ') + line);
+  }
+}
+
 void printForms(Output& output, const Entity& entity, const std::vector<std::string>& groups) {
   const ComputedEntity& record = entity.computed;
-  const auto print = [&](std::string_view label, std::string_view value) {
-    if (value.empty()) return;
-    std::string column(label);
-    column.resize(14, ' ');
-    output.printLine("    " + output.faint(column) + std::string(value));
-  };
+  const auto print = [&](std::string_view label, std::string_view value) { printLine(output, label, value); };
   if (entity.additional && entity.additional->htmlNamed) print("HTML", *entity.additional->htmlNamed);
   print("HTML hex", record.htmlHex);
   print("HTML decimal", record.htmlDecimal);
   print("Hex", record.hex);
-  print("Decimal", std::to_string(record.decimal));
-  print("Swift", entity.swiftDecimal());
+  print("Decimal", glyph::copyForm("decimal")->text(entity).value_or(std::to_string(record.decimal)));
+  print("Swift", glyph::copyForm("swift")->text(entity).value_or(entity.swiftDecimal()));
   print("SwiftUI", glyph::copyForm("swiftui")->text(entity).value_or(""));
   print("UIKit", glyph::copyForm("uikit")->text(entity).value_or(""));
   print(groups.size() > 1 ? "Groups" : "Group", joined(groups, ", "));
@@ -37,17 +48,15 @@ void printForms(Output& output, const Entity& entity, const std::vector<std::str
 
 }  // namespace
 
-void printEntities(Output& output, const std::vector<const Entity*>& entities, bool json) {
-  if (json) {
-    std::vector<std::string> objects;
-    for (const Entity* entity : entities) objects.push_back(entityJson(*entity));
-    printJsonArray(output, objects);
+void printEntities(Output& output, const std::vector<const Entity*>& entities, const Listing& listing) {
+  if (!listing.isTable()) {
+    printListing(output, entities, listing);
     return;
   }
   std::vector<std::vector<std::string>> rows;
   for (const Entity* entity : entities) {
     const bool named = entity->additional && entity->additional->htmlNamed;
-    rows.push_back({output.accent(visibleSymbol(entity->computed.symbol)), output.faint(entity->computed.hex),
+    rows.push_back({output.accent(shownSymbol(entity->computed.symbol)), output.faint(entity->computed.hex),
                     entity->name(), output.faint(named ? *entity->additional->htmlNamed : "")});
   }
   output.printTable(rows);
@@ -59,15 +68,17 @@ void printCard(Output& output, const std::vector<Entity>& entities) {
   for (const Entity& one : entities) {
     if (!one.computed.group.empty()) groups.push_back(one.computed.group);
   }
-  const std::string name = entity.name().empty() ? "(not in the Unicode 13.0 name table)" : entity.name();
+  const std::string name = entity.name();
   const std::string code = glyph::copyForm("code-point")->text(entity).value_or(entity.computed.hex);
-  output.printLine("  " + output.accent(visibleSymbol(entity.computed.symbol)) + "  " + output.strong(name) +
+  output.printLine("  " + output.accent(shownSymbol(entity.computed.symbol)) + "  " + output.strong(name) +
                    "  " + output.faint(code));
   if (name != entity.computed.fallbackName && !entity.computed.fallbackName.empty()) {
     output.printLine("    " + output.faint("in Unicode: " + entity.computed.fallbackName));
   }
   printForms(output, entity, groups);
-  if (const auto note = entity.additional ? entity.additional->localizedAdvice() : std::nullopt) {
+  output.printLine();
+  for (const auto& [label, value] : unicodeLines(entity)) printLine(output, label, value);
+  if (const auto note = entity.usageNote()) {
     output.printLine();
     for (const std::string& line : wrapped(*note, std::min(terminalWidth(), 84) - 4)) {
       output.printLine(line.empty() ? "" : "    " + line);
@@ -79,7 +90,15 @@ std::string entityJson(const Entity& entity) {
   using Json = nlohmann::ordered_json;
   Json json = Json::parse(glyph::encode(entity.computed));
   json["name"] = entity.name();
+  if (const auto note = entity.usageNote()) json["note"] = *note;
   if (entity.additional) json["additional"] = Json::parse(glyph::encode(*entity.additional));
+  return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+std::string cardJson(const Entity& entity) {
+  using Json = nlohmann::ordered_json;
+  Json json = Json::parse(entityJson(entity));
+  json["unicode"] = unicodeJson(entity);
   return json.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 

@@ -4,25 +4,29 @@
 #include <string>
 #include <vector>
 
+#include "glyphorium/characters/display.h"
 #include "glyphorium/entity/records.h"
-#include "glyphorium/text/visible_symbol.h"
+#include "listing.h"
 #include "output.h"
 
 namespace cli {
 
-using glyph::visibleSymbol;
+using glyph::shownSymbol;
 
-/// Prints one row per entity: symbol, hex code, name and HTML name. If `json` is true, prints a JSON array of
-/// the objects that entityJson() returns.
-void printEntities(Output& output, const std::vector<const glyph::Entity*>& entities, bool json);
+/// Prints the entities as the listing says. A table has one row per entity: symbol, hex code, name and HTML
+/// name.
+void printEntities(Output& output, const std::vector<const glyph::Entity*>& entities, const Listing& listing);
 
 /// Prints everything that is known about one character. The list must not be empty. Its entities differ only
 /// in their groups.
 void printCard(Output& output, const std::vector<glyph::Entity>& entitiesOfOneCharacter);
 
-/// Returns the JSON object of an entity: the fields of the record, `name`, and the enrichment under
-/// `additional` if there is one.
+/// Returns the JSON object of an entity: the fields of the record, `name`, the usage note in the user's
+/// language under `note` if there is one, and the enrichment under `additional` if there is one.
 std::string entityJson(const glyph::Entity& entity);
+
+/// Returns the JSON object of a card: that of entityJson(), and what the supplement knows under `unicode`.
+std::string cardJson(const glyph::Entity& entity);
 
 /// Prints a JSON array with one object per line. Call add() for each object, then end() once.
 class JsonArray {

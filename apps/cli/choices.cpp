@@ -6,7 +6,10 @@
 #include "card.h"
 #include "commands.h"
 #include "glyphorium/catalog/glyphorium.h"
-#include "glyphorium/data/name_table.h"
+#include "glyphorium/characters/characters.h"
+#include "glyphorium/characters/emoji.h"
+#include "glyphorium/characters/names.h"
+#include "glyphorium/characters/supplement.h"
 #include "glyphorium/services/settings/settings_store.h"
 #include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
@@ -18,20 +21,6 @@ namespace {
 using Names = std::vector<std::string>;
 
 using Key = glyph::UserInfluencedEntityKey;
-
-// Returns whether the list stored under the key could be read. If not, prints the reason: the user must not
-// mistake the default list for the stored list.
-bool isReadable(Key key) {
-  const auto store = glyph::settingsStore();
-  if (const auto failure = store->readFailure(key.rawValue())) {  // why the catalog could not read it
-    complainOfFailure(*failure);
-    return false;
-  }
-  const auto value = store->object(key.rawValue());
-  if (!value || std::holds_alternative<Names>(*value)) return true;
-  complain("the stored setting '" + std::string(key.rawValue()) + "' is damaged: it is not a list of texts");
-  return false;
-}
 
 // Returns whether the choice is stored. If not, prints the reason.
 bool isSaved() {
@@ -55,56 +44,82 @@ void printDisplayed(Output& output, bool json) {
   json ? printJsonArray(output, objects) : output.printTable(rows);
 }
 
-void printAdded(Output& output, bool json) {
-  std::vector<const glyph::Entity*> entities;
-  for (const glyph::Entity& entity : glyph::glyphorium().allCustomEntities) entities.push_back(&entity);
-  printEntities(output, entities, json);
-}
-
-// Returns the end of a message: the code points before and after `codePoint` that have a name and are closest
-// to it. Empty if there are no such code points nearby.
-std::string nearestCodes(char32_t codePoint) {
-  Names near;
-  for (const int step : {-1, 1}) {
-    for (std::int64_t distance = 1; distance < 0x400; ++distance) {
-      const std::string hex = glyph::toolKit().getHex(static_cast<std::int64_t>(codePoint) + step * distance);
-      const auto entry = glyph::findName(hex);
-      if (!entry || entry->name.starts_with('<')) continue;
-      near.push_back(hex + " (" + std::string(entry->name) + ")");
-      break;
+// Returns the added characters in the order of adding. The catalog's list leaves out those that its table
+// does not name; they have the names of the supplement.
+std::vector<glyph::Entity> addedEntities() {
+  std::vector<glyph::Entity> entities;
+  const std::vector<glyph::Entity>& known = glyph::glyphorium().allCustomEntities;
+  for (const std::string& code : glyph::glyphorium().customAddedEntityUnicodes()) {
+    const auto place = std::find_if(known.begin(), known.end(),
+                                    [&](const glyph::Entity& entity) { return entity.computed.hex == code; });
+    if (place != known.end()) {
+      entities.push_back(*place);
+      continue;
     }
+    glyph::Entity entity = glyph::supplementEntity(glyph::toolKit().getAdvancedSymbol(code));
+    if (entity.name().empty()) continue;
+    entity.computed.group = std::string(glyph::customGroup);
+    entities.push_back(std::move(entity));
   }
-  if (near.empty()) return {};
-  return "; the nearest that do are " + near.front() + (near.size() > 1 ? " and " + near.back() : "");
+  return entities;
 }
 
-// Returns the code point of an argument that is a single code point or a code. Otherwise returns nullopt.
-std::optional<char32_t> codeOrCharacter(const std::string& argument) {
+void printAdded(Output& output, const Listing& listing) {
+  const std::vector<glyph::Entity> added = addedEntities();
+  std::vector<const glyph::Entity*> entities;
+  for (const glyph::Entity& entity : added) entities.push_back(&entity);
+  printEntities(output, entities, listing);
+}
+
+// Returns the stored form of an argument that is a character, an emoji of several characters, or a code of
+// either: a hex code or a hex list. Returns nullopt for another argument.
+std::optional<std::string> storedCode(const std::string& argument) {
+  if (const auto codePoint = codePointOf(argument)) return glyph::toolKit().getHex(*codePoint);
   const std::u32string points = glyph::codePoints(argument);
-  return points.size() == 1 ? std::optional(points.front()) : codePointOf(argument);
+  if (points.size() == 1) return glyph::toolKit().getHex(points.front());
+  const ResolvedText resolved = resolve(argument);
+  const bool isOne = resolved.characters.size() == 1 && !resolved.alternatives;
+  const bool isEmoji = isOne && glyph::emojiPlace(resolved.characters.front().front().computed.symbol);
+  return isEmoji ? std::optional<std::string>(resolved.characters.front().front().computed.hex)
+                 : std::nullopt;
 }
 
 // Appends the codes of the arguments to `codes`, in the form that the catalog stores. Returns false, after an
 // error message, if an argument is not a character.
 bool readCodes(const Names& arguments, Names& codes) {
   for (const std::string& argument : arguments) {
-    const auto codePoint = codeOrCharacter(argument);
-    if (!codePoint) {
+    const auto code = storedCode(argument);
+    if (!code) {
       complain("'" + argument +
                "' is no code of a character; right would be 21d0, U+21D0 or the character itself");
       return false;
     }
-    const std::string hex = glyph::toolKit().getHex(*codePoint);
-    if (glyph::toolKit().addNames({glyph::Unicode(hex).computedEntity()}).empty()) {
-      complain("'" + argument + "' names no character of Unicode 13.0" + nearestCodes(*codePoint));
+    const std::string symbol = glyph::toolKit().getAdvancedSymbol(*code);
+    const std::u32string points = glyph::codePoints(symbol);
+    const bool isNamed = !glyph::toolKit().addNames({glyph::Unicode(*code).computedEntity()}).empty();
+    if (!isNamed && points.size() == 1 &&
+        glyph::characterStatus(points.front()) != glyph::CharacterStatus::assigned) {
+      complain("'" + argument + "' is no character but " + glyph::characterNameOrLabel(points.front()));
       return false;
     }
-    codes.push_back(hex);
+    codes.push_back(*code);
   }
   return true;
 }
 
 }  // namespace
+
+bool isReadable(Key key) {
+  const auto store = glyph::settingsStore();
+  if (const auto failure = store->readFailure(key.rawValue())) {  // why the catalog could not read it
+    complainOfFailure(*failure);
+    return false;
+  }
+  const auto value = store->object(key.rawValue());
+  if (!value || std::holds_alternative<Names>(*value)) return true;
+  complain("the stored setting '" + std::string(key.rawValue()) + "' is damaged: it is not a list of texts");
+  return false;
+}
 
 int displayGroups(Output& output, Choice choice, const Names& groups, bool json) {
   glyph::Glyphorium& catalog = glyph::glyphorium();
@@ -146,7 +161,7 @@ int addCharacters(Output& output, const Names& arguments) {
   if (!readCodes(arguments, codes)) return wrongUse;
   catalog.addCustomAddedEntities(codes);
   if (!isSaved()) return notWritten;
-  printAdded(output, false);
+  printAdded(output, {});
   return found;
 }
 
@@ -160,8 +175,8 @@ int removeCharacters(Output& output, const Names& arguments) {
   for (const std::string& argument : arguments) {
     // The user can remove any stored code by its stored spelling, even a code that is not valid.
     const bool asStored = known.contains(glyph::lowercased(argument));
-    const auto codePoint = codeOrCharacter(argument);
-    const std::string code = asStored || !codePoint ? argument : glyph::toolKit().getHex(*codePoint);
+    const auto parsed = storedCode(argument);
+    const std::string code = asStored || !parsed ? argument : *parsed;
     if (!known.contains(glyph::lowercased(code))) {
       const Names near = nearestTexts(code, added);
       complain("'" + argument + "' is not among the added characters" +
@@ -172,15 +187,15 @@ int removeCharacters(Output& output, const Names& arguments) {
   }
   catalog.removeCustomAddedEntities(codes);
   if (!isSaved()) return notWritten;
-  printAdded(output, false);
+  printAdded(output, {});
   return found;
 }
 
-int listAdded(Output& output, bool json) {
+int listAdded(Output& output, const Listing& listing) {
   glyph::glyphorium().configure();
   if (!isReadable(Key::customAddedEntities)) return notWritten;
-  printAdded(output, json);
-  return glyph::glyphorium().allCustomEntities.empty() ? nothingFound : found;
+  printAdded(output, listing);
+  return addedEntities().empty() ? nothingFound : found;
 }
 
 }  // namespace cli

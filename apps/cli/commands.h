@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "glyphorium/entity/records.h"
+#include "glyphorium/state/settings_keys.h"
+#include "listing.h"
 #include "output.h"
 
 /// The commands. Each function prints to `output` and returns the exit code of the program.
@@ -12,8 +14,16 @@ namespace cli {
 
 // Browsing the catalog.
 int listGroups(Output& output, bool json);
-int listEntities(Output& output, const std::vector<std::string>& groups, bool all, bool json);
-int showCharacters(Output& output, const std::vector<std::string>& arguments, bool json);
+struct ListRequest {
+  std::vector<std::string>
+      groups;  // names of groups and sets of characters; empty means the displayed groups
+  bool all = false;
+  std::string regex;  // only characters whose names it matches somewhere; empty means all
+};
+int listEntities(Output& output, const ListRequest& request, const Listing& listing);
+int showCharacters(Output& output, const std::vector<std::string>& arguments, const Listing& listing);
+int printAscii(Output& output, bool json);
+int listValues(Output& output, const std::string& property, bool json);  // "block", "form" and others
 
 // Searching.
 struct SearchRequest {
@@ -23,18 +33,23 @@ struct SearchRequest {
   bool displayed = false;  // search only in the displayed groups
   bool copy = false;       // copy the first result to the clipboard
 };
-int searchCatalog(Output& output, const SearchRequest& request, bool json);
-int identifyText(Output& output, const std::vector<std::string>& texts, bool json);
+int searchCatalog(Output& output, const SearchRequest& request, const Listing& listing);
+int identifyText(Output& output, const std::vector<std::string>& texts, const Listing& listing);
 
 // The user's choices.
 enum class Choice { show, add, remove, set };
 int displayGroups(Output& output, Choice choice, const std::vector<std::string>& groups, bool json);
 int addCharacters(Output& output, const std::vector<std::string>& codes);
 int removeCharacters(Output& output, const std::vector<std::string>& codes);
-int listAdded(Output& output, bool json);
+int listAdded(Output& output, const Listing& listing);
+int skinTone(Output& output, const std::string& name);  // empty prints the present one
+/// Returns whether the catalog could read the list that is stored under the key. If not, prints the reason.
+/// The user would otherwise mistake the default list for the stored one. Call it after configure().
+bool isReadable(glyph::UserInfluencedEntityKey key);
 
 // The clipboard. `form` is an identifier from glyph::copyForms().
-int copyCharacter(Output& output, const std::string& argument, const std::string& form, bool throughTerminal);
+int copyCharacters(Output& output, const std::vector<std::string>& arguments, const std::string& form,
+                   bool throughTerminal);
 int copyEntities(Output& output, const std::vector<glyph::Entity>& entities, const std::string& form);
 
 // The desktop's search index.

@@ -22,18 +22,20 @@ std::string whyMissing(std::string_view form) {
 
 }  // namespace
 
-int copyCharacter(Output& output, const std::string& argument, const std::string& formName,
-                  bool throughTerminal) {
+int copyCharacters(Output& output, const std::vector<std::string>& arguments, const std::string& formName,
+                   bool throughTerminal) {
   glyph::glyphorium().configure();
   if (throughTerminal) glyph::setPasteboard(std::make_shared<glyph::TerminalPasteboard>());
-  ResolvedText resolved = resolve(argument);
-  if (resolved.characters.empty()) {
-    complain(unknownCharacter(argument));
-    return nothingFound;
-  }
-  if (resolved.alternatives) resolved.characters.resize(1);
   std::vector<Entity> entities;
-  for (Character& character : resolved.characters) entities.push_back(std::move(character.front()));
+  for (const std::string& argument : arguments) {
+    ResolvedText resolved = resolve(argument);
+    if (resolved.characters.empty()) {
+      complain(unknownCharacter(argument));
+      return nothingFound;
+    }
+    if (resolved.alternatives) resolved.characters.resize(1);
+    for (Character& character : resolved.characters) entities.push_back(std::move(character.front()));
+  }
   return copyEntities(output, entities, formName);
 }
 
@@ -48,7 +50,7 @@ int copyEntities(Output& output, const std::vector<Entity>& entities, const std:
       return nothingFound;
     }
     texts.push_back(*text);
-    shown.push_back(visibleSymbol(entity.computed.symbol));
+    shown.push_back(shownSymbol(entity.computed.symbol));
     names.push_back(entity.name() + ", U+" + entity.computed.hex);
   }
   const std::string text = joined(texts, form->separator);

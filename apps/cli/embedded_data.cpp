@@ -3,13 +3,46 @@
 
 #include "card.h"
 #include "commands.h"
+#include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/characters/characters.h"
+#include "glyphorium/characters/names.h"
+#include "glyphorium/characters/property_names.h"
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/data/name_table.h"
 #include "glyphorium/entity/codec.h"
 #include "glyphorium/state/structured_unicodes.h"
+#include "glyphorium/toolkit/copy_forms.h"
 #include "lookup.h"
 
 namespace cli {
+
+namespace {
+
+// Returns entries for the characters that an argument means, with the names of Unicode or the labels in their
+// place.
+std::vector<glyph::RawUnicodeEntity> entriesOf(const std::string& argument) {
+  std::vector<glyph::Entity> entities;
+  if (auto set = charactersOfSet(argument)) {
+    entities = *std::move(set);
+  } else {
+    for (const Character& character : resolve(argument).characters) entities.push_back(character.front());
+  }
+  std::vector<glyph::RawUnicodeEntity> entries;
+  for (const glyph::Entity& entity : entities) {
+    const std::string hex = entity.computed.hex;
+    const bool isSequence = hex.find(',') != std::string::npos;
+    std::string upper = hex;
+    for (char& c : upper) c = c >= 'a' && c <= 'f' ? static_cast<char>(c - ('a' - 'A')) : c;
+    entries.push_back({upper,
+                       isSequence
+                           ? entity.name()
+                           : glyph::characterNameOrLabel(static_cast<char32_t>(entity.computed.decimal)),
+                       false});
+  }
+  return entries;
+}
+
+}  // namespace
 
 int listNames(Output& output, const std::vector<std::string>& hexCodes, bool json) {
   std::vector<glyph::RawUnicodeEntity> entries;
@@ -21,8 +54,12 @@ int listNames(Output& output, const std::vector<std::string>& hexCodes, bool jso
   for (const std::string& hex : hexCodes) {
     if (const auto entry = glyph::findName(hex)) {
       entries.push_back({hex, std::string(entry->name), entry->isSFSymbol});
-    } else {
-      complain("the name table has no entry '" + hex + "'; codes are hexadecimal, of four digits or more");
+      continue;
+    }
+    const std::vector<glyph::RawUnicodeEntity> others = entriesOf(hex);
+    entries.insert(entries.end(), others.begin(), others.end());
+    if (others.empty()) {
+      complain("no character is '" + hex + "'; codes are hexadecimal, of four digits or more");
       exitCode = nothingFound;
     }
   }
@@ -37,6 +74,38 @@ int listNames(Output& output, const std::vector<std::string>& hexCodes, bool jso
   }
   json ? printJsonArray(output, objects) : output.printTable(rows);
   return exitCode;
+}
+
+int listValues(Output& output, const std::string& property, bool json) {
+  std::vector<std::vector<std::string>> rows;
+  if (property == "form") {
+    for (const glyph::CopyForm& form : glyph::copyForms()) rows.push_back({std::string(form.identifier)});
+  } else {
+    using glyph::CharacterProperty;
+    const CharacterProperty kind = property == "block"    ? CharacterProperty::block
+                                   : property == "script" ? CharacterProperty::script
+                                   : property == "age"    ? CharacterProperty::version
+                                                          : CharacterProperty::category;
+    for (const std::string_view value : glyph::valuesOf(kind)) {
+      std::size_t count = 0;
+      for (const auto [first, last] : glyph::charactersWith(kind, value)) count += last - first + 1;
+      rows.push_back({std::string(value), std::to_string(count)});
+      if (kind == CharacterProperty::category) rows.back().emplace_back(glyph::categoryName(value));
+    }
+  }
+  if (!json) {
+    output.printTable(rows);
+    return found;
+  }
+  JsonArray array(output);
+  for (const std::vector<std::string>& row : rows) {
+    nlohmann::ordered_json object{{"value", row[0]}};
+    if (row.size() > 1) object["count"] = std::stoul(row[1]);
+    if (row.size() > 2) object["name"] = row[2];
+    array.add(object.dump());
+  }
+  array.end();
+  return found;
 }
 
 int printTable(Output& output, const std::string& constant, bool json) {

@@ -3,19 +3,23 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <nlohmann/json.hpp>
 #include <system_error>
 #include <unordered_map>
 
 #include "card.h"
 #include "commands.h"
-#include "glyphorium/data/name_table.h"
-#include "glyphorium/search/resolving.h"
+#include "glyphorium/characters/emoji.h"
+#include "glyphorium/characters/supplement.h"
 #include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
+#include "lookup.h"
 
 namespace cli {
 namespace {
+
+using glyph::Entity;
 
 // The table is printed in portions of this many rows. On a terminal, columns are aligned within a portion.
 constexpr std::size_t rowsAtOnce = 2000;
@@ -26,13 +30,14 @@ constexpr std::size_t bytesAtOnce = 1 << 16;
 // In bytes. No real grapheme cluster is longer. A longer sequence is shown in several parts.
 constexpr std::size_t longestCluster = 4096;
 
-// Returns the name of the code point. If there is no name, returns the entry of the name table: a label such
-// as "<control>" says more than an empty text.
 std::string nameOf(char32_t codePoint) {
-  std::string name = glyph::entityOf(codePoint).name();
-  if (!name.empty()) return name;
-  const auto entry = glyph::findName(glyph::toolKit().getHex(codePoint));
-  return std::string(entry ? entry->name : "(not in the Unicode 13.0 name table)");
+  return entityOfCodePoint(codePoint).name();
+}
+
+// Returns the name of an emoji of several characters. Empty for other clusters.
+std::string nameOfSequence(std::string_view cluster) {
+  const auto place = glyph::emojiPlace(cluster);
+  return place ? glyph::shownCharacterName(cluster) : std::string();
 }
 
 // Returns how many bytes at the end of the text belong to a code point that is not complete yet.
@@ -49,9 +54,10 @@ std::size_t unfinishedBytes(std::string_view text) {
 // Names the characters of a text that arrives in pieces. A piece may end anywhere, even within a code point.
 class Identification {
  public:
-  Identification(Output& output, bool json) : output_(output), array_(output), json_(json) {}
+  Identification(Output& output, const Listing& listing)
+      : output_(output), array_(output), json_(listing.json), listing_(listing) {}
 
-  // Returns false if the text is not UTF-8 (after an error message) or if the output cannot be written.
+  // Returns false if the output cannot be written.
   bool add(std::string_view piece) {
     pending_ += piece;
     const std::size_t whole = pending_.size() - unfinishedBytes(pending_);
@@ -66,13 +72,10 @@ class Identification {
   }
 
   bool foundAny() const { return any_; }
+  bool hasBadBytes() const { return hasBadBytes_; }
 
  private:
   bool identify(std::string_view text, bool isEnd) {
-    if (!glyph::isWellFormedUtf8(text)) {
-      complain("the text is not UTF-8; 'iconv' converts other encodings");
-      return false;
-    }
     std::vector<std::string_view> clusters = glyph::graphemeClusters(text);
     // The next piece may continue the last grapheme cluster.
     const bool keepsLast = !isEnd && !clusters.empty() && clusters.back().size() < longestCluster;
@@ -91,14 +94,47 @@ class Identification {
     return true;
   }
 
+  // Bytes that are not UTF-8 have a row, too, so that the place of the damage can be seen.
+  void identifyBytes(std::string_view bytes) {
+    hasBadBytes_ = true;
+    std::string hex;
+    for (const char byte : bytes) {
+      char digits[4];
+      std::snprintf(digits, sizeof digits, "%02X", static_cast<unsigned char>(byte));
+      hex += (hex.empty() ? "" : " ") + std::string(digits);
+    }
+    if (json_) {
+      array_.add(nlohmann::ordered_json{{"bytes", hex}, {"name", "not UTF-8"}}.dump());
+    } else {
+      rows_.push_back({output_.accent("\uFFFD"), output_.faint(hex), "(bytes that are not UTF-8)"});
+    }
+  }
+
   void identifyCluster(std::string_view cluster) {
     any_ = true;
+    if (!glyph::isWellFormedUtf8(cluster)) {
+      identifyBytes(cluster);
+      return;
+    }
     const std::u32string points = glyph::codePoints(cluster);
     // A character of several code points has its own row. Indented rows with its code points follow.
     const bool several = points.size() > 1 && cluster != "\r\n";
+    if (!json_ && !listing_.isTable()) {
+      const Entity entity = glyph::emojiPlace(cluster) ? glyph::supplementEntity(cluster) : Entity();
+      if (several && !entity.name().empty()) {
+        printListing(output_, {&entity}, listing_);
+        return;
+      }
+      for (const char32_t point : points) {
+        const Entity one = entityOfCodePoint(point);
+        printListing(output_, {&one}, listing_);
+      }
+      return;
+    }
+    const std::string sequence = several ? nameOfSequence(cluster) : std::string();
     if (several && !json_) {
       rows_.push_back(
-          {output_.accent(cluster), output_.faint(std::to_string(points.size()) + " code points"), ""});
+          {output_.accent(cluster), output_.faint(std::to_string(points.size()) + " code points"), sequence});
     }
     for (const char32_t point : points) {
       const auto [known, isNew] = names_.try_emplace(point);
@@ -106,12 +142,13 @@ class Identification {
       const std::string hex = glyph::toolKit().getHex(point);
       const std::string symbol = glyph::utf8(point);
       if (json_) {
-        array_.add(nlohmann::ordered_json{
-            {"hex", hex}, {"symbol", symbol}, {"name", known->second}, {"cluster", std::string(cluster)}}
-                       .dump());
+        nlohmann::ordered_json object{
+            {"hex", hex}, {"symbol", symbol}, {"name", known->second}, {"cluster", std::string(cluster)}};
+        if (!sequence.empty()) object["clusterName"] = sequence;
+        array_.add(object.dump());
       } else {
-        rows_.push_back({(several ? "  " : "") + output_.accent(visibleSymbol(symbol)), output_.faint(hex),
-                         known->second});
+        rows_.push_back(
+            {(several ? "  " : "") + output_.accent(shownSymbol(symbol)), output_.faint(hex), known->second});
       }
     }
   }
@@ -119,7 +156,9 @@ class Identification {
   Output& output_;
   JsonArray array_;
   const bool json_;
+  const Listing listing_;
   bool any_ = false;
+  bool hasBadBytes_ = false;
   std::string pending_;  // text at the end that the next piece may continue
   std::vector<std::vector<std::string>> rows_;
   std::unordered_map<char32_t, std::string> names_;  // names of the code points seen so far
@@ -146,8 +185,8 @@ Reading readStandardInput(Identification& identification) {
 
 }  // namespace
 
-int identifyText(Output& output, const std::vector<std::string>& texts, bool json) {
-  Identification identification(output, json);
+int identifyText(Output& output, const std::vector<std::string>& texts, const Listing& listing) {
+  Identification identification(output, listing);
   Reading reading = Reading::done;
   for (const std::string& text : texts) {
     if (reading != Reading::done) break;
@@ -160,6 +199,10 @@ int identifyText(Output& output, const std::vector<std::string>& texts, bool jso
   if (reading == Reading::failed) return notRead;
   if (reading == Reading::done && !identification.end()) reading = Reading::stopped;
   if (reading == Reading::stopped) return output.closed() ? found : wrongUse;
+  if (identification.hasBadBytes()) {
+    complain("some bytes are not UTF-8; 'iconv' converts other encodings");
+    return wrongUse;
+  }
   return identification.foundAny() ? found : nothingFound;
 }
 

@@ -1,10 +1,208 @@
 // SPDX-License-Identifier: MIT
 #include "lookup.h"
 
+#include <algorithm>
+
+#include "glyphorium/characters/annotations.h"
+#include "glyphorium/characters/characters.h"
+#include "glyphorium/characters/emoji.h"
+#include "glyphorium/characters/names.h"
+#include "glyphorium/characters/supplement.h"
+#include "glyphorium/characters/typing.h"
+#include "glyphorium/codes/code_parsing.h"
 #include "glyphorium/search/search.h"
+#include "glyphorium/text/preferred_languages.h"
 #include "glyphorium/text/text_pieces.h"
+#include "glyphorium/text/unicode_text.h"
 
 namespace cli {
+namespace {
+
+using glyph::CharacterProperty;
+using glyph::CodePointRange;
+using glyph::Entity;
+
+constexpr std::string_view variationSelector = "\uFE0F";
+
+Character emojiCharacter(std::size_t place) {
+  return {glyph::supplementEntity(glyph::emojiAt(place).text)};
+}
+
+// Returns the place of an emoji of several characters.
+std::optional<std::size_t> placeOfSequence(std::string_view text) {
+  const auto place = glyph::emojiPlace(text);
+  return place && glyph::emojiAt(*place).kind != "single" ? place : std::nullopt;
+}
+
+// Returns the place of the emoji that has this name in English or in a language of the user, or this
+// shortcode.
+std::optional<std::size_t> emojiNamed(std::string_view text) {
+  const std::string wanted = glyph::lowercased(text);
+  if (wanted.empty()) return std::nullopt;
+  std::vector<std::string> languages = glyph::preferredLanguages();
+  languages.emplace_back("en");
+  for (std::size_t place = 0; place < glyph::emojiCount(); ++place) {
+    const std::string_view emoji = glyph::emojiAt(place).text;
+    if (wanted.front() == ':') {
+      for (const glyph::WayToType& way : glyph::waysToType(emoji)) {
+        if (way.method == "shortcode" && way.text == wanted) return place;
+      }
+      continue;
+    }
+    for (const std::string& language : languages) {
+      if (glyph::lowercased(glyph::annotationOf(emoji, language).name) == wanted) return place;
+    }
+  }
+  return std::nullopt;
+}
+
+Character characterOfCodePoint(char32_t codePoint) {
+  return {entityOfCodePoint(codePoint)};
+}
+
+// Returns the number of a code such as "U+D800" or "d800".
+std::optional<char32_t> anyCode(std::string_view text) {
+  const std::string bare = text.size() >= 4 ? "U+" + std::string(text) : std::string();
+  for (const std::string& form : {std::string(text), bare}) {
+    const std::vector<glyph::ParsedCode> codes = glyph::parseCodes(form);
+    if (codes.size() == 1 && codes.front().htmlName.empty() && codes.front().codePoint <= 0x10FFFF)
+      return codes.front().codePoint;
+  }
+  return std::nullopt;
+}
+
+// Returns the text of a list of bare codes, "1f1e9 1f1ea" or "1F1E9,1F1EA", in which each has four digits or
+// more. Empty for another text.
+std::string textOfCodes(std::string_view list) {
+  std::string text;
+  while (!list.empty()) {
+    const std::size_t end = std::min(list.find_first_of(" ,"), list.size());
+    const auto code = end < 4 ? std::nullopt : codePointOf("U+" + std::string(list.substr(0, end)));
+    if (!code) return {};
+    text += glyph::utf8(*code);
+    list.remove_prefix(std::min(end + 1, list.size()));
+  }
+  return text;
+}
+
+std::optional<Character> outsideTheTables(std::string_view argument) {
+  if (const auto code = anyCode(argument)) return characterOfCodePoint(*code);
+  if (const auto codePoint = glyph::characterNamed(argument)) return characterOfCodePoint(*codePoint);
+  if (const auto place = emojiNamed(argument)) {
+    const glyph::Emoji emoji = glyph::emojiAt(*place);
+    if (emoji.kind == "single") return characterOfCodePoint(glyph::codePoints(emoji.text).front());
+    return emojiCharacter(*place);
+  }
+  return std::nullopt;
+}
+
+// Reads "2190..2193" and "U+2190..U+2193".
+std::optional<CodePointRange> rangeOf(std::string_view argument) {
+  const std::size_t dots = argument.find("..");
+  if (dots == std::string_view::npos) return std::nullopt;
+  const auto first = anyCode(argument.substr(0, dots));
+  const auto last = anyCode(argument.substr(dots + 2));
+  if (!first || !last || *last < *first) return std::nullopt;
+  return CodePointRange{*first, *last};
+}
+
+struct PropertyName {
+  std::string_view prefix;
+  CharacterProperty property;
+};
+constexpr PropertyName properties[] = {{"block:", CharacterProperty::block},
+                                       {"script:", CharacterProperty::script},
+                                       {"category:", CharacterProperty::category},
+                                       {"age:", CharacterProperty::version}};
+
+const PropertyName* propertyOf(std::string_view argument) {
+  const auto found = std::find_if(std::begin(properties), std::end(properties),
+                                  [&](const PropertyName& one) { return argument.starts_with(one.prefix); });
+  return found == std::end(properties) ? nullptr : found;
+}
+
+std::vector<Entity> emojiOfGroup(std::string_view word) {
+  std::vector<Entity> entities;
+  for (std::size_t place = 0; place < glyph::emojiCount(); ++place) {
+    const glyph::Emoji emoji = glyph::emojiAt(place);
+    const std::string group = glyph::lowercased(std::string(emoji.group) + " " + std::string(emoji.subgroup));
+    if (glyph::emojiBase(place) != place || group.find(word) == std::string::npos) continue;
+    const bool isSingle = emoji.kind == "single";
+    entities.push_back(isSingle ? entityOfCodePoint(glyph::codePoints(emoji.text).front())
+                                : glyph::supplementEntity(emoji.text));
+  }
+  return entities;
+}
+
+}  // namespace
+
+Entity entityOfCodePoint(char32_t codePoint) {
+  if (glyph::utf8(codePoint).empty()) return glyph::supplementEntity(codePoint);
+  return glyph::withSupplementName(glyph::entityOf(codePoint));
+}
+
+ResolvedText resolve(std::string_view argument) {
+  if (const auto place = placeOfSequence(argument)) return {{emojiCharacter(*place)}, false};
+  // The selector asks for the colourful form of an emoji and is no character of its own here.
+  if (glyph::emojiPlace(argument) && argument.ends_with(variationSelector))
+    argument.remove_suffix(variationSelector.size());
+  ResolvedText resolved = glyph::resolve(argument);
+  if (resolved.characters.empty()) {
+    if (auto character = outsideTheTables(argument)) return {{*std::move(character)}, false};
+    const std::string codes = textOfCodes(argument);
+    const std::vector<std::string_view> clusters = glyph::graphemeClusters(codes.empty() ? argument : codes);
+    const bool areSigns =
+        !codes.empty() ||
+        (clusters.size() > 1 && std::all_of(clusters.begin(), clusters.end(), [](std::string_view cluster) {
+           return static_cast<unsigned char>(cluster.front()) >= 0x80;
+         }));
+    if (!areSigns) return resolved;
+    for (const std::string_view cluster : clusters) {
+      for (Character& character : resolve(cluster).characters)
+        resolved.characters.push_back(std::move(character));
+    }
+    return resolved;
+  }
+  std::string text;
+  for (Character& character : resolved.characters) {
+    for (Entity& entity : character) entity = glyph::withSupplementName(std::move(entity));
+    text += character.front().computed.symbol;
+  }
+  if (!resolved.alternatives && resolved.characters.size() > 1) {
+    if (const auto place = placeOfSequence(text)) return {{emojiCharacter(*place)}, false};
+  }
+  return resolved;
+}
+
+std::optional<std::vector<Entity>> charactersOfSet(std::string_view argument) {
+  std::vector<CodePointRange> ranges;
+  if (argument == "emoji") return emojiOfGroup("");
+  if (argument.starts_with("emoji:")) return emojiOfGroup(glyph::lowercased(argument.substr(6)));
+  if (const PropertyName* const property = propertyOf(argument)) {
+    ranges = glyph::charactersWith(property->property, argument.substr(property->prefix.size()));
+  } else if (const auto range = rangeOf(argument)) {
+    ranges.push_back(*range);
+  } else {
+    return std::nullopt;
+  }
+  std::vector<Entity> entities;
+  for (const auto [first, last] : ranges) {
+    for (char32_t codePoint = first; codePoint <= last; ++codePoint)
+      entities.push_back(entityOfCodePoint(codePoint));
+  }
+  return entities;
+}
+
+std::string unknownSet(const std::string& argument) {
+  const PropertyName* const property = propertyOf(argument);
+  if (!property) return "no character is in '" + argument + "'";
+  std::vector<std::string> values;
+  for (const std::string_view value : glyph::valuesOf(property->property)) values.emplace_back(value);
+  const std::string prefix(property->prefix);
+  const std::vector<std::string> near = nearestTexts(argument.substr(prefix.size()), values);
+  return "no character is in '" + argument + "'" +
+         (near.empty() ? "" : "; did you mean '" + prefix + glyph::joined(near, "' or '" + prefix) + "'?");
+}
 
 std::string unknownCharacter(const std::string& argument) {
   const auto found = glyph::Search::ofCatalog().query(argument, {1, std::nullopt, {}}).results;

@@ -3,19 +3,43 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "glyphorium/search/resolving.h"
 #include "glyphorium/text/nearest_texts.h"
 
-/// Error messages for arguments that are not a character or not a group.
+/// Functions that convert arguments to characters and groups, and error messages for arguments that are
+/// neither.
 namespace cli {
 
 using glyph::Character;
 using glyph::codePointOf;
 using glyph::groupNamed;
 using glyph::nearestTexts;
-using glyph::resolve;
 using glyph::ResolvedText;
+
+/// Returns the characters that an argument means, in all of Unicode. It understands what glyph::resolve()
+/// does, and
+/// - emoji of several characters, also by their code points;
+/// - names and formal aliases of Unicode, names of emoji, shortcodes with their colons (":+1:");
+/// - surrogates by their code;
+/// - several characters in a row, if none of them is ASCII.
+/// An emoji of several characters is one character. The catalog must be configured.
+ResolvedText resolve(std::string_view argument);
+
+/// Returns the characters of a set, in the order of code points or of Unicode's lists of emoji. An argument
+/// may be:
+/// - a range of codes: "U+2190..2193", "2190..21ff";
+/// - "block:arrows", "script:Greek", "category:Sc", "age:15": see glyph::charactersWith();
+/// - "emoji", or "emoji:food": all emoji without variants of skin tones, or those of which the group or
+/// subgroup has
+///   this word.
+/// Returns nullopt if the argument has none of these forms. The list is empty if the set is. The catalog need
+/// not be configured.
+std::optional<std::vector<glyph::Entity>> charactersOfSet(std::string_view argument);
+
+/// Returns a message that a set is unknown or empty, with the values that are most similar.
+std::string unknownSet(const std::string& argument);
 
 /// Returns a message that the argument is not a character. If a search for the argument finds characters, the
 /// message suggests the first of them.
@@ -23,5 +47,8 @@ std::string unknownCharacter(const std::string& argument);
 
 /// Returns a message that there is no such group. The message suggests the group names that are most similar.
 std::string unknownGroup(std::string_view name);
+
+/// Returns the entity of a code point: that of the catalog if there is one, otherwise that of the supplement.
+glyph::Entity entityOfCodePoint(char32_t codePoint);
 
 }  // namespace cli

@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "commands.h"
+#include "glyphorium/state/skin_tone.h"
 #include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/copy_forms.h"
 #include "glyphorium/version.h"
@@ -20,6 +21,8 @@ struct Options {
   cli::Style style = cli::Style::automatic;
   bool verbose = false;
   bool json = false;
+  cli::Listing listing;
+  cli::ListRequest list;
   bool all = false;
   bool terminal = false;
   std::vector<std::string> words;
@@ -35,31 +38,49 @@ void addJson(CLI::App& command, Options& options) {
   command.add_flag("--json", options.json, "Print a JSON array of objects");
 }
 
+void addListing(CLI::App& command, Options& options) {
+  CLI::Option* const json = command.add_flag("--json", options.listing.json, "Print a JSON array of objects");
+  CLI::Option* const tsv =
+      command.add_flag("--tsv", options.listing.tsv, "Print a table with tabs and a heading");
+  command
+      .add_option("--format", options.listing.format, "Print a line of fields: '%(char) %(hex l:8) %(name)'")
+      ->type_name("TEMPLATE")
+      ->excludes(json)
+      ->excludes(tsv)
+      ->check([](const std::string& format) { return cli::faultOfFormat(format).value_or(""); });
+  tsv->excludes(json);
+}
+
 void addBrowsing(CLI::App& app, Options& options, Run& run) {
   CLI::App* const groups = app.add_subcommand("groups", "The groups of the catalog with their counts");
   addJson(*groups, options);
   groups->callback([&] { run = [&](cli::Output& output) { return cli::listGroups(output, options.json); }; });
 
   CLI::App* const list = app.add_subcommand("list", "The characters of groups, or of the displayed groups");
-  list->add_option("GROUP", options.words, "Names of groups, in any letter case");
-  list->add_flag("--all", options.all, "The whole catalog");
-  addJson(*list, options);
+  list->add_option(
+      "GROUP", options.list.groups,
+      "Groups in any letter case; U+2190..2193, block:arrows, script:Greek, category:Sc, age:15, emoji");
+  list->add_flag("--all", options.list.all, "The whole catalog");
+  list->add_option("--regex", options.list.regex, "Only names that this regular expression matches");
+  addListing(*list, options);
   list->callback([&] {
-    if (options.all && !options.words.empty()) {
+    if (options.list.all && !options.list.groups.empty()) {
       throw CLI::ValidationError("list", "takes names of groups or --all, not both");
     }
-    run = [&](cli::Output& output) {
-      return cli::listEntities(output, options.words, options.all, options.json);
-    };
+    run = [&](cli::Output& output) { return cli::listEntities(output, options.list, options.listing); };
   });
 
   CLI::App* const show = app.add_subcommand("show", "Everything about characters");
   show->add_option("CHARACTER", options.words, "→, U+2192, 2192, '&rarr;', 'rightwards arrow' ...")
       ->required();
-  addJson(*show, options);
+  addListing(*show, options);
   show->callback([&] {
-    run = [&](cli::Output& output) { return cli::showCharacters(output, options.words, options.json); };
+    run = [&](cli::Output& output) { return cli::showCharacters(output, options.words, options.listing); };
   });
+
+  CLI::App* const ascii = app.add_subcommand("ascii", "The table of ASCII");
+  addJson(*ascii, options);
+  ascii->callback([&] { run = [&](cli::Output& output) { return cli::printAscii(output, options.json); }; });
 }
 
 void addSearching(CLI::App& app, Options& options, Run& run) {
@@ -78,16 +99,16 @@ void addSearching(CLI::App& app, Options& options, Run& run) {
       ->expected(1)
       ->take_all();
   search->add_flag("--copy", options.search.copy, "Copy the first one to the clipboard");
-  addJson(*search, options);
+  addListing(*search, options);
   search->callback([&] {
-    run = [&](cli::Output& output) { return cli::searchCatalog(output, options.search, options.json); };
+    run = [&](cli::Output& output) { return cli::searchCatalog(output, options.search, options.listing); };
   });
 
   CLI::App* const identify = app.add_subcommand("identify", "Name each character of a text");
   identify->add_option("TEXT", options.words, "The text, or - for standard input")->required();
-  addJson(*identify, options);
+  addListing(*identify, options);
   identify->callback([&] {
-    run = [&](cli::Output& output) { return cli::identifyText(output, options.words, options.json); };
+    run = [&](cli::Output& output) { return cli::identifyText(output, options.words, options.listing); };
   });
 }
 
@@ -127,8 +148,15 @@ void addChoices(CLI::App& app, Options& options, Run& run) {
       [&] { run = [&](cli::Output& output) { return cli::removeCharacters(output, options.words); }; });
 
   CLI::App* const added = app.add_subcommand("added", "The characters that you added");
-  addJson(*added, options);
-  added->callback([&] { run = [&](cli::Output& output) { return cli::listAdded(output, options.json); }; });
+  addListing(*added, options);
+  added->callback(
+      [&] { run = [&](cli::Output& output) { return cli::listAdded(output, options.listing); }; });
+
+  std::vector<std::string> tones;
+  for (const glyph::SkinTone tone : glyph::allSkinTones) tones.emplace_back(glyph::skinToneName(tone));
+  CLI::App* const tone = app.add_subcommand("tone", "The skin tone that you prefer for emoji");
+  tone->add_option("TONE", options.word, "Store this one")->check(CLI::IsMember(tones));
+  tone->callback([&] { run = [&](cli::Output& output) { return cli::skinTone(output, options.word); }; });
 }
 
 void addCopying(CLI::App& app, Options& options, Run& run) {
@@ -136,7 +164,7 @@ void addCopying(CLI::App& app, Options& options, Run& run) {
   for (const glyph::CopyForm& form : glyph::copyForms()) forms.emplace_back(form.identifier);
   CLI::App* const copy =
       app.add_subcommand("copy", "Copy a character, or one of its code forms, to the clipboard");
-  copy->add_option("CHARACTER", options.word, "→, U+2192, 2192, '&rarr;', 'rightwards arrow' ...")
+  copy->add_option("CHARACTER", options.words, "→, U+2192, 2192, '&rarr;', 'rightwards arrow' ...")
       ->required();
   copy->add_option("--as", options.form, "The form to copy")
       ->capture_default_str()
@@ -146,7 +174,7 @@ void addCopying(CLI::App& app, Options& options, Run& run) {
                  "Copy through the terminal (OSC 52), as in a remote session");
   copy->callback([&] {
     run = [&](cli::Output& output) {
-      return cli::copyCharacter(output, options.word, options.form, options.terminal);
+      return cli::copyCharacters(output, options.words, options.form, options.terminal);
     };
   });
 }
@@ -204,10 +232,20 @@ void addIndexing(CLI::App& app, Options& options, Run& run) {
 
 void addEmbeddedData(CLI::App& app, Options& options, Run& run) {
   CLI::App* const names = app.add_subcommand("names", "The Unicode name table, or its entries of hex codes");
-  names->add_option("HEX", options.words, "Hexadecimal codes of four digits or more");
+  names->add_option("HEX", options.words, "Codes and characters of all of Unicode");
   addJson(*names, options);
   names->callback([&] {
     run = [&](cli::Output& output) { return cli::listNames(output, options.words, options.json); };
+  });
+
+  CLI::App* const values =
+      app.add_subcommand("values", "The values of a property, or the forms of a character");
+  values->add_option("PROPERTY", options.word, "What to list")
+      ->required()
+      ->check(CLI::IsMember({"block", "script", "category", "age", "form"}));
+  addJson(*values, options);
+  values->callback([&] {
+    run = [&](cli::Output& output) { return cli::listValues(output, options.word, options.json); };
   });
 
   CLI::App* const table = app.add_subcommand("table", "The embedded texts, or one of them byte for byte");
@@ -276,6 +314,22 @@ int main(int argc, char** argv) {
   addCopying(app, options, run);
   addIndexing(app, options, run);
   addEmbeddedData(app, options, run);
+
+  CLI::App* const helpCommand = app.add_subcommand("help", "Print the help of a command");
+  helpCommand->add_option("COMMAND", options.words, "A command, or a command and a part of it");
+  helpCommand->callback([&] {
+    const CLI::App* command = &app;
+    for (const std::string& word : options.words) {
+      const auto parts =
+          command->get_subcommands([&](const CLI::App* one) { return one->get_name() == word; });
+      if (parts.empty()) throw CLI::ValidationError("help", "there is no command '" + word + "'");
+      command = parts.front();
+    }
+    run = [text = command->help()](cli::Output& output) {
+      output.print(text);
+      return cli::found;
+    };
+  });
 
   try {
     app.parse(argc, argv);

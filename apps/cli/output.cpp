@@ -10,8 +10,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <mutex>
-#include <span>
+#include <random>
+#include <utility>
 
+#include "glyphorium/characters/display.h"
 #include "glyphorium/services/diagnostics/diagnostics.h"
 #include "glyphorium/text/unicode_text.h"
 #include "glyphorium/text/visible_symbol.h"
@@ -24,25 +26,31 @@ bool noColor() {
   return value && *value;
 }
 
-constexpr std::string_view styles[] = {"\x1b[0m", "\x1b[1m", "\x1b[2m", "\x1b[36m"};
+// Returns a text that no other text contains, because nobody can predict it.
+std::string newMark() {
+  std::random_device random;
+  return "\x1b" + std::to_string(random()) + "," + std::to_string(random()) + ",";
+}
 
 // Returns the text with each control character and direction control replaced by `replaced(control)`. A
 // terminal would execute control characters as commands, and direction controls would reorder the text that
-// follows. Line breaks, tabs and the escape sequences in `allowed` are kept.
+// follows. Line breaks and tabs are kept. If `mark` is not empty, each mark becomes the beginning of an
+// escape sequence.
 template <class Replaced>
-std::string withoutControls(std::string_view text, std::span<const std::string_view> allowed,
-                            Replaced replaced) {
+std::string withoutControls(std::string_view text, std::string_view mark, Replaced replaced) {
   std::string result;
   result.reserve(text.size());
   while (!text.empty()) {
     const auto at = [&](std::size_t i) {
       return i < text.size() ? static_cast<unsigned char>(text[i]) : static_cast<unsigned char>(0);
     };
-    const auto style = std::find_if(allowed.begin(), allowed.end(),
-                                    [&](std::string_view one) { return text.starts_with(one); });
-    std::size_t length = style == allowed.end() ? 1 : style->size();
-    bool control =
-        style == allowed.end() && (at(0) < 0x20 || at(0) == 0x7F) && at(0) != '\n' && at(0) != '\t';
+    if (!mark.empty() && text.starts_with(mark)) {
+      result += "\x1b[";
+      text.remove_prefix(mark.size());
+      continue;
+    }
+    std::size_t length = 1;
+    bool control = (at(0) < 0x20 || at(0) == 0x7F) && at(0) != '\n' && at(0) != '\t';
     if (at(0) == 0xC2 && at(1) >= 0x80 && at(1) <= 0x9F) control = (length = 2) > 0;  // U+0080 to U+009F
     const bool embedding = at(1) == 0x80 && at(2) >= 0xAA && at(2) <= 0xAE;           // U+202A to U+202E
     const bool isolate = at(1) == 0x81 && at(2) >= 0xA6 && at(2) <= 0xA9;             // U+2066 to U+2069
@@ -57,16 +65,15 @@ std::string visibleControl(std::string_view control) {
   return glyph::visibleSymbol(control);
 }
 
-// Returns the display width of a text in columns. Escape sequences for colours have no width.
-int visibleWidth(std::string_view text) {
+// Returns the display width of a text in columns. Escape sequences for colours, which begin with the mark and
+// end with "m", have no width.
+int visibleWidth(std::string_view text, std::string_view mark) {
   int width = 0;
   while (!text.empty()) {
-    const std::size_t escape = text.find("\x1b[");
-    width += glyph::displayWidth(text.substr(0, escape));
+    const std::size_t escape = mark.empty() ? std::string_view::npos : text.find(mark);
+    width += glyph::shownWidth(text.substr(0, escape));
     if (escape == std::string_view::npos) break;
-    const std::size_t end = text.find('m', escape);
-    if (end == std::string_view::npos) break;
-    text.remove_prefix(end + 1);
+    text.remove_prefix(text.find('m', escape) + 1);
   }
   return width;
 }
@@ -75,11 +82,11 @@ int visibleWidth(std::string_view text) {
 
 Output::Output(Style style)
     : onTerminal_(style == Style::terminal || (style == Style::automatic && isatty(STDOUT_FILENO))),
-      coloured_(onTerminal_ && !noColor()) {}
+      mark_(onTerminal_ && !noColor() ? newMark() : "") {}
 
 std::string Output::coloured(const char* code, std::string_view text) const {
-  if (!coloured_ || text.empty()) return std::string(text);
-  return std::string("\x1b[") + code + "m" + withoutControls(text, {}, visibleControl) + "\x1b[0m";
+  if (mark_.empty() || text.empty()) return std::string(text);
+  return mark_ + code + "m" + withoutControls(text, {}, visibleControl) + mark_ + "0m";
 }
 
 void Output::printTable(const std::vector<std::vector<std::string>>& rows) {
@@ -87,23 +94,26 @@ void Output::printTable(const std::vector<std::vector<std::string>>& rows) {
   if (onTerminal_) {
     for (const auto& row : rows) {
       widths.resize(std::max(widths.size(), row.size()));
-      for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], visibleWidth(row[i]));
+      for (std::size_t i = 0; i < row.size(); ++i)
+        widths[i] = std::max(widths[i], visibleWidth(row[i], mark_));
     }
   }
   for (const auto& row : rows) {
     for (std::size_t i = 0; i < row.size(); ++i) {
       text_ += row[i];
       if (i + 1 == row.size()) break;
-      text_ += onTerminal_ ? std::string(static_cast<std::size_t>(widths[i] - visibleWidth(row[i]) + 2), ' ')
-                           : "\t";
+      text_ += onTerminal_
+                   ? std::string(static_cast<std::size_t>(widths[i] - visibleWidth(row[i], mark_) + 2), ' ')
+                   : "\t";
     }
     text_ += '\n';
   }
 }
 
 bool Output::flush() {
-  if (onTerminal_) text_ = withoutControls(text_, styles, visibleControl);
-  std::string_view rest = text_;
+  if (onTerminal_) text_ = withoutControls(text_, mark_, visibleControl);
+  ready_ += std::exchange(text_, {});
+  std::string_view rest = ready_;
   while (!rest.empty()) {
     const ssize_t count = write(STDOUT_FILENO, rest.data(), rest.size());
     if (count >= 0) {
@@ -118,10 +128,10 @@ bool Output::flush() {
     }
     closed_ = errno == EPIPE;
     if (closed_) break;
-    text_ = rest;
+    ready_ = rest;
     return false;
   }
-  text_.clear();
+  ready_.clear();
   return true;
 }
 
@@ -181,7 +191,7 @@ std::vector<std::string> wrapped(std::string_view text, int width) {
   for (std::size_t i = 0; i <= text.size();) {
     const std::size_t end = std::min(text.find_first_of(" \n", i), text.size());
     const std::string_view word = text.substr(i, end - i);
-    const bool fits = glyph::displayWidth(lines.back()) + 1 + glyph::displayWidth(word) <= width;
+    const bool fits = glyph::shownWidth(lines.back()) + 1 + glyph::shownWidth(word) <= width;
     if (lines.back().empty()) {
       lines.back() = word;
     } else if (fits) {

@@ -45,15 +45,19 @@ class Output {
   /// Whether the reader has closed the pipe. Everything printed afterwards is lost.
   bool closed() const { return closed_; }
 
-  std::size_t size() const { return text_.size(); }  ///< number of bytes not yet written
+  std::size_t size() const { return text_.size(); }  ///< number of bytes printed since the last flush()
 
  private:
   std::string coloured(const char* code, std::string_view text) const;
 
   bool onTerminal_;
-  bool coloured_;
+  /// Stands for the beginning of an escape sequence in text_. Because it is different in each run, no stored
+  /// text can contain it, so flush() can tell the colours of this class from other escape sequences. Empty if
+  /// the output is not coloured.
+  std::string mark_;
   bool closed_ = false;
-  std::string text_;
+  std::string text_;   // printed since the last flush
+  std::string ready_;  // bytes that a failed flush has not written
 };
 
 /// Prints an error message on standard error, with control characters in their visible form.

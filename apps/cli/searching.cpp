@@ -23,6 +23,12 @@ std::string highlighted(const Output& output, const std::string& name, const gly
   return text + name.substr(at);
 }
 
+// Returns the JSON object with the member "approximate", if it is true.
+std::string marked(std::string object, bool approximate) {
+  if (approximate) object.insert(object.rfind('}'), ",\"approximate\":true");
+  return object;
+}
+
 // Returns the end of a message for a query that is a character outside all groups. Empty for other queries.
 std::string beyondTheCatalog(const std::string& query) {
   const std::vector<Character> characters = resolve(query).characters;
@@ -37,7 +43,7 @@ std::string beyondTheCatalog(const std::string& query) {
 
 }  // namespace
 
-int searchCatalog(Output& output, const SearchRequest& request, bool json) {
+int searchCatalog(Output& output, const SearchRequest& request, const Listing& listing) {
   glyph::SearchOptions options;
   options.limit = static_cast<std::size_t>(request.limit);
   for (const std::string& name : request.groups) {
@@ -54,6 +60,8 @@ int searchCatalog(Output& output, const SearchRequest& request, bool json) {
   glyph::SearchResults found;
   if (request.displayed) {
     glyph::glyphorium().configure();
+    using Key = glyph::UserInfluencedEntityKey;
+    if (!isReadable(Key::displayedGroups) || !isReadable(Key::customAddedEntities)) return notRead;
     found = glyph::Search(glyph::selectedEntities().get()).query(query, options);
   } else {
     found = catalog.emplace().query(query, options);
@@ -61,26 +69,41 @@ int searchCatalog(Output& output, const SearchRequest& request, bool json) {
   const auto entityOf = [&](const glyph::SearchResult& result) {
     return catalog ? catalog->entity(result) : glyph::selectedEntities().get()[result.index];
   };
+  std::vector<Entity> entities;
   std::vector<std::string> objects;
   std::vector<std::vector<std::string>> rows;
   for (const glyph::SearchResult& result : found.results) {
     const Entity entity = entityOf(result);
-    if (json) {
-      objects.push_back(entityJson(entity));
+    if (listing.json) {
+      objects.push_back(marked(entityJson(entity), found.approximate));
       continue;
     }
-    rows.push_back({output.accent(visibleSymbol(entity.computed.symbol)), output.faint(entity.computed.hex),
+    if (!listing.isTable()) {
+      entities.push_back(entity);
+      continue;
+    }
+    rows.push_back({output.accent(shownSymbol(entity.computed.symbol)), output.faint(entity.computed.hex),
                     highlighted(output, entity.name(), result), output.faint(entity.computed.group)});
+    if (found.approximate && !output.onTerminal()) rows.back().push_back("approximate");
   }
   if (found.results.empty()) {
-    if (json) printJsonArray(output, {});
+    if (listing.json) printJsonArray(output, {});
     complain("nothing found for '" + query + "'" + beyondTheCatalog(query));
     return nothingFound;
   }
-  if (output.onTerminal() && !json && found.approximate)
+  const bool isOnTerminal = output.onTerminal() && listing.isTable();
+  if (isOnTerminal && found.approximate)
     output.printLine(output.faint("there is no exact match; these are similar"));
-  json ? printJsonArray(output, objects) : output.printTable(rows);
-  if (output.onTerminal() && !json && found.total > found.results.size()) {
+  if (listing.isTable()) {
+    output.printTable(rows);
+  } else if (listing.json) {
+    printJsonArray(output, objects);
+  } else {
+    std::vector<const Entity*> pointers;
+    for (const Entity& entity : entities) pointers.push_back(&entity);
+    printListing(output, pointers, listing);
+  }
+  if (isOnTerminal && found.total > found.results.size()) {
     output.printLine(output.faint(std::to_string(found.results.size()) + " of " +
                                   std::to_string(found.total) + "; --limit shows more"));
   }

@@ -48,10 +48,21 @@ TEST(CommandLine, ReturnsExitCodesAndHelpfulMessages) {
       {"show square.and.arrow.up", 0, "Image(systemName: \"square.and.arrow.up\")"},
       {"show 200b", 0, "⬚"},
       {"show 0301", 0, "◌\u0301"},
-      {"show U+4E01", 0, "not in the Unicode 13.0 name table"},
+      {"show U+4E01", 0, "Cjk Unified Ideograph-4E01"},
       {"show 'U+2192 &foo;'", 1, "no character is 'U+2192 &foo;'"},  // all parts of the text must be known
-      {"show U+D800", 1, "no character is 'U+D800'"},
-      {"show nbsp", 1, "no character is 'nbsp'; did you mean 00a0 (Non-Breaking Space)?"},
+      {"show U+D800", 0, "<surrogate-D800>"},
+      {"show U+0378 U+FFFF", 0, "<noncharacter-FFFF>"},
+      {"show nbsp", 0, "U+00A0"},
+      {"show nbbsp", 1, "no character is 'nbbsp'; did you mean 00a0 (Non-Breaking Space)?"},
+      {"show 水", 0, "water, liquid"},
+      {"show '\U0001F1E9\U0001F1EA'", 0, "Flag: Germany  U+1F1E9 U+1F1EA"},
+      {"show '1f1e9 1f1ea' :+1: 'rainbow flag' 'melting face'", 0, "Melting Face"},
+      {"show 'é→'", 0, "Rightwards Arrow"},
+      {"show U+2190..2193 --json", 0, "Downwards Arrow"},
+      {"list script:thai", 0, "Thai Digit Nine"},
+      {"list block:arows", 1, "did you mean 'block:Arrows'"},
+      {"list emoji:flag", 0, "Flag: Germany"},
+      {"list 2193..2190", 2, "there is no group"},
       {"show 'qqqq qqqq'", 1, "no character is 'qqqq qqqq'\n"},
       {"show", 2, "required"},
       {"list ARROWS", 0, "2192\tRightwards Arrow\t&rarr;"},
@@ -60,7 +71,24 @@ TEST(CommandLine, ReturnsExitCodesAndHelpfulMessages) {
       {"list", 1, "display add GROUP"},
       {"list --all arrows", 2, "--all"},
       {"names 0041 1f600", 0, "GRINNING FACE"},
+      {"show → 🇩🇪 --format '%(char) %(hex r:6)|%(name l:20)|%(utf-8)%%\\t%(block)'", 0,
+       "→   2192|Rightwards Arrow    |E2 86 92%\tArrows\n🇩🇪 1f1e9 1f1ea|Flag: Germany "},
+      {"search arrow --limit 1 --format '%(rust)%(c)%(css)%(url)'", 0, "\\u{2192}\\u2192\\002192%E2%86%92\n"},
+      {"list arrows --format '%(nam)'", 2, "there is no field '%(nam)'"},
+      {"list arrows --format '%name'", 2, "%% is a percent sign"},
+      {"list block:arrows --regex '^right.*arrow$' --tsv", 0,
+       "char\thex\tname\thtml\tgroup\tblock\tcategory\tscript\tversion\n→\t2192\tRightwards "
+       "Arrow\t&rarr;\tarrows\t"},
+      {"list arrows --regex '('", 2, "no regular expression"},
+      {"identify '🇩🇪' --format '%(name)'", 0, "Flag: Germany\n"},
+      {"identify 'a🇩🇪'", 0, "🇩🇪\t2 code points\tFlag: Germany\n"},
+      {"ascii", 0, "27\t1b\tESC\t59\t3b\t;\t91\t5b\t[\t123\t7b\t{\n"},
+      {"values block", 0, "Arrows\t112\n"},
+      {"help list", 0, "--regex"},
+      {"help lst", 2, "there is no command 'lst'"},
       {"names 41", 1, "four digits"},
+      {"names 1fae0 → U+0009", 0, "<control-0009>"},
+      {"names 1F1E9,1F1EA", 0, "Flag: Germany"},
       {"table latinBasic", 2, "latinBasicJson"},
       {"table", 0, "sfSymbolsJson\tSF Symbols\t1083\t187853"},
       {"groups", 0, "custom\t0\ndigital typography (latin)\t254\n"},
@@ -72,6 +100,8 @@ TEST(CommandLine, ReturnsExitCodesAndHelpfulMessages) {
       {"search U+FFFD", 1, "no group holds fffd (Replacement Character)"},
       {"search LETTER --group 'LATIN basic' --limit 1", 0, "latin basic\n"},
       {"search letter --group latn", 2, "did you mean"},
+      {"search arow --limit 1", 0, "\tapproximate\n"},
+      {"search arow --limit 1 --json", 0, ",\"approximate\":true}"},
       {"search qqqqqq", 1, "nothing found for 'qqqqqq'"},
       {"search qqqqqq --json 2>/dev/null", 1, "[]\n"},
       {"search arrow --displayed", 1, "nothing found"},
@@ -158,11 +188,13 @@ TEST(CommandLine, WaitsForAFullPipeAndReportsAFullFile) {
 TEST(CommandLine, SendsNoForeignControlCharactersToATerminal) {
   const TemporaryDirectory home;
   SqliteSettingsStore(home / ".config/org.glyphorium.Glyphorium/settings.sqlite")
-      .set("displayedGroups", std::vector<std::string>{"\x1b]0;x\a\u009B"});
+      .set("displayedGroups", std::vector<std::string>{"\x1b]0;x\a\u009B", "\x1b[2mfaint"});
   const std::string own = "HOME=" + home.path().string();
   const auto shown = run("--color always display", own).output;
   EXPECT_THAT(shown, HasSubstr("␛]0;x␇⬚"));
   EXPECT_THAT(shown, testing::Not(HasSubstr("\x1b]")));
+  // The escape sequence of a stored text is shown, even one that the program itself uses for colours.
+  EXPECT_THAT(shown, testing::AllOf(HasSubstr("␛[2mfaint"), HasSubstr("\x1b[2m0\x1b[0m")));
   const auto json = run("--color always identify --json \"$(printf '\\302\\233\\342\\200\\256')\"").output;
   EXPECT_THAT(json, testing::AllOf(HasSubstr("\\u009b"), HasSubstr("\\u202e"),
                                    testing::Not(HasSubstr("\u009B")), testing::Not(HasSubstr("\u202E"))));
@@ -208,7 +240,7 @@ TEST(CommandLine, ShowsAnyIndexedItemAndReportsAnUnreadableIndex) {
   for (const char* const command : {"status", "search x", "add 2192", "reset"}) {
     const ProgramResult result = run("2>&1 index " + std::string(command), own);
     EXPECT_EQ(result.exitCode, 3) << command;
-    EXPECT_THAT(result.output, HasSubstr("no regular file")) << command;
+    EXPECT_THAT(result.output, HasSubstr("not a regular file")) << command;
   }
 }
 
@@ -228,7 +260,7 @@ TEST(CommandLine, KeepsTheUsersChoices) {
       {"display remove armenian", 1, "is not displayed"},
       {"display remove 'SF SYMBOLS'", 0, "custom\t0\narrows\t112\n"},
       {"display --json", 0, "[{\"name\":\"custom\",\"count\":0},\n {\"name\":\"arrows\",\"count\":112}]\n"},
-      {"add 0378", 2, "0377 (GREEK SMALL LETTER PAMPHYLIAN DIGAMMA)"},
+      {"add 0378", 2, "is no character but <reserved-0378>"},
       {"add 21d0 U+110000", 2, "is no code of a character"},
       {"added", 1, ""},  // if one code is invalid, no code is added
       {"add 21D0 é", 0,
@@ -244,6 +276,14 @@ TEST(CommandLine, KeepsTheUsersChoices) {
       {"index add arrows 'smile nothing'", 2, "is no character"},
       {"index add arrows 2603", 0, "Indexed 113 characters\n"},
       {"index remove arrows", 0, "Removed 112 characters from the index\n"},
+      {"add 1fae0 🇩🇪", 0,
+       "é\t00e9\tLatin Small Letter E With Acute\t&eacute;\n→\t2192\tRightwards Arrow\t&rarr;\n"
+       "🫠\t1fae0\tMelting Face\t\n🇩🇪\t1f1e9,1f1ea\tFlag: Germany\t\n"},
+      {"remove 🇩🇪 1FAE0", 0,
+       "é\t00e9\tLatin Small Letter E With Acute\t&eacute;\n→\t2192\tRightwards Arrow\t&rarr;\n"},
+      {"tone", 0, "none\t👋\n"},
+      {"tone medium-dark", 0, "medium-dark\t👋🏾\n"},
+      {"tone green", 2, "green"},
       {"index scope", 0, "all: the desktop's search shows characters of the whole catalog\n"},
       {"index scope mine", 0, "mine: the desktop's search shows what you added and what is in an index\n"},
       {"index scope yours", 2, "mine"},
@@ -263,6 +303,15 @@ TEST(CommandLine, KeepsTheUsersChoices) {
       EXPECT_THAT(result.output, HasSubstr(output)) << arguments;
     }
   }
+  // Choices that cannot be read are not shown as empty lists.
+  writeFile(home / ".config/org.glyphorium.Glyphorium/settings.sqlite", std::string(10'000, '?'));
+  for (const char* const command :
+       {"list", "list --all", "list custom", "search --displayed arrow", "added"}) {
+    const ProgramResult unread = run("2>&1 " + std::string(command), own);
+    EXPECT_EQ(unread.exitCode, 3) << command;
+    EXPECT_THAT(unread.output, HasSubstr("damaged")) << command;
+  }
+  EXPECT_EQ(run("list arrows", own).exitCode, 0);
   // The program reports a choice that cannot be saved. Here, a file is in the place of the directory.
   const ProgramResult unsaved = run("2>&1 display add emoji", own + " XDG_CONFIG_HOME=/dev/null");
   EXPECT_EQ(unsaved.exitCode, 3);
@@ -287,7 +336,7 @@ TEST(CommandLine, HasDocumentationAndCompletionForEveryCommand) {
       EXPECT_THAT(fileContent(folder + "/completions/" + completion), HasSubstr(command)) << completion;
     }
   }
-  EXPECT_EQ(commands, 13u);
+  EXPECT_EQ(commands, 17u);
 
   const auto completed = [&](const std::string& words) {
     return runProgram("bash -c 'glyphorium() { " PROGRAM " \"$@\"; }; . " + folder +
@@ -299,6 +348,9 @@ TEST(CommandLine, HasDocumentationAndCompletionForEveryCommand) {
   EXPECT_EQ(completed("sea"), "search\n");
   EXPECT_EQ(completed("list ARR"), "arrows\n");
   EXPECT_EQ(completed("list digital"), "digital\\ typography\\ \\(latin\\)\n");
+  EXPECT_EQ(completed("show block:ArRo"), "block:Arrows\n");
+  EXPECT_EQ(completed("list block : letterl"), "Letterlike\\ Symbols\n");
+  EXPECT_EQ(completed("--color never tone me"), "medium-light\nmedium\nmedium-dark\n");
   EXPECT_EQ(completed("display a"), "add\n");
   EXPECT_EQ(completed("display add emo"), "emoji\n");
   EXPECT_EQ(completed("table latinB"), "latinBasicJson\n");
@@ -312,12 +364,16 @@ TEST(CommandLine, CopiesEveryCharacterOfItsArgument) {
   };
   EXPECT_THAT(copied("'U+2192, &leftarrow;'"), HasSubstr("\033]52;c;4oaS4oaQ\a"));          // →←
   EXPECT_THAT(copied("e\u0301 --as html-hex"), HasSubstr("]52;c;JiN4NjU7JiN4MzAxOw==\a"));  // &#x65;&#x301;
+  EXPECT_THAT(copied("→ U+2190"), HasSubstr("\033]52;c;4oaS4oaQ\a"));
   EXPECT_THAT(copied("21,22"), HasSubstr("no character is"));
 }
 
 TEST(CommandLine, ShowsUsageNotesInTheUsersLanguage) {
   EXPECT_THAT(run("show 201e", "LC_ALL=de_AT.UTF-8").output, HasSubstr("Anführung"));
   EXPECT_THAT(run("show 2019", "LC_ALL=en_GB.UTF-8 LANGUAGE=fr:en").output, HasSubstr("apostrophe"));
+  EXPECT_THAT(run("show 00d7", "LC_ALL=en_GB.UTF-8").output, HasSubstr("\n    The multiplication sign"));
+  EXPECT_THAT(run("show --json 00d7", "LC_ALL=en_GB.UTF-8").output,
+              HasSubstr("\"note\":\"The multiplication sign"));
 }
 
 }  // namespace

@@ -8,14 +8,33 @@ _glyphorium_names() {  # the first column of a listing, as candidates
   done
 }
 
+_glyphorium_sets() {  # sets of characters: the values of a property once its name is there
+  local property='' wanted=$current prefix='' value IFS=$'\n'
+  # Bash takes the colon for a word of its own, unless COMP_WORDBREAKS was changed.
+  if [[ $current == : ]]; then
+    property=$previous wanted=''
+  elif [[ $previous == : ]]; then
+    property=${COMP_WORDS[COMP_CWORD-2]}
+  elif [[ $current == *:* ]]; then
+    property=${current%%:*} wanted=${current#*:} prefix=$property:
+  else
+    COMPREPLY+=($(compgen -W $'block:\nscript:\ncategory:\nage:\nemoji' -- "$current"))
+    return
+  fi
+  for value in $(glyphorium --color never values "$property" 2>/dev/null | cut -f1); do
+    [[ ${value,,} == "${wanted,,}"* ]] && COMPREPLY+=("$prefix$(printf '%q' "$value")")
+  done
+}
+
 _glyphorium() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]}
-  local commands='groups list show search identify display add remove added copy index names table'
+  local commands='groups list show ascii search identify display add remove added tone copy index names values table help'
   local command='' part='' i
   current=${current//\\/}
   COMPREPLY=()
   for ((i = 1; i < COMP_CWORD; i++)); do
     case ${COMP_WORDS[i]} in
+      --color) ((++i)) ;;  # and its value
       -*) ;;
       *) if [[ -z $command ]]; then command=${COMP_WORDS[i]}; elif [[ -z $part ]]; then part=${COMP_WORDS[i]}; fi ;;
     esac
@@ -23,18 +42,19 @@ _glyphorium() {
   case $previous in
     --color) COMPREPLY=($(compgen -W 'auto always never' -- "$current")); return ;;
     --as)
-      COMPREPLY=($(compgen -W 'character hex decimal code-point html html-hex html-decimal swift swiftui uikit' -- "$current"))
+      COMPREPLY=($(compgen -W 'character hex decimal code-point html html-hex html-decimal swift utf-8 utf-16 utf-32 c javascript json java python rust css url swiftui uikit' -- "$current"))
       return ;;
     --group) _glyphorium_names groups; return ;;
-    --limit) return ;;
+    --limit|--regex|--format) return ;;
   esac
   if [[ $current == -* ]]; then
     local options='--help --verbose --color'
     case $command in
       '') options+=' --version' ;;
-      groups|show|display|added|names|table|identify) options+=' --json' ;;
-      list) options+=' --all --json' ;;
-      search) options+=' --displayed --limit --group --copy --json' ;;
+      groups|display|names|table|ascii|values) options+=' --json' ;;
+      show|added|identify) options+=' --json --tsv --format' ;;
+      list) options+=' --all --regex --json --tsv --format' ;;
+      search) options+=' --displayed --limit --group --copy --json --tsv --format' ;;
       copy) options+=' --as --terminal' ;;
       index) case $part in add) options+=' --all' ;; search) options+=' --limit --json' ;; status) options+=' --json' ;; esac ;;
     esac
@@ -43,7 +63,11 @@ _glyphorium() {
   fi
   case $command in
     '') COMPREPLY=($(compgen -W "$commands" -- "$current")) ;;
-    list) _glyphorium_names groups ;;
+    list) [[ $previous$current == *:* ]] || _glyphorium_names groups; _glyphorium_sets ;;
+    show|names) _glyphorium_sets ;;
+    tone) COMPREPLY=($(compgen -W 'none light medium-light medium medium-dark dark' -- "$current")) ;;
+    values) COMPREPLY=($(compgen -W 'block script category age form' -- "$current")) ;;
+    help) COMPREPLY=($(compgen -W "$commands" -- "$current")) ;;
     table) [[ -n $part ]] || _glyphorium_names table ;;
     remove) _glyphorium_codes ;;
     display)

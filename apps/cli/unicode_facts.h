@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "glyphorium/entity/records.h"
+
+/// What the supplement knows about a character, for its card.
+namespace cli {
+
+/// A line of the card: a label and a value.
+using CardLine = std::pair<std::string, std::string>;
+
+/// Returns the lines of a character or of an emoji of several characters: its properties, how to type it,
+/// escapes of languages, related characters and look-alikes.
+std::vector<CardLine> unicodeLines(const glyph::Entity& entity);
+
+/// Returns the same facts as a JSON object.
+nlohmann::ordered_json unicodeJson(const glyph::Entity& entity);
+
+}  // namespace cli
