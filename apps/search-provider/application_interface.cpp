@@ -33,7 +33,7 @@ void ApplicationInterface::activate(sd_bus_message* call) {
 
 void ApplicationInterface::open(sd_bus_message*) {
   service_.noteCall();
-  throw CallError{SD_BUS_ERROR_NOT_SUPPORTED, "Glyphorium opens no files"};
+  throw CallError{SD_BUS_ERROR_NOT_SUPPORTED, "Glyphorium cannot open files"};
 }
 
 // The only action is "search". Its parameter is the text to search for. Without a text, it shows the whole

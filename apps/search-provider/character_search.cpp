@@ -9,7 +9,9 @@
 #include "character_text.h"
 #include "glyphorium/codes/code_parsing.h"
 #include "glyphorium/services/application/application.h"
+#include "glyphorium/services/settings/settings_store.h"
 #include "glyphorium/state/desktop_search_scope.h"
+#include "glyphorium/state/settings_keys.h"
 #include "glyphorium/text/text_pieces.h"
 #include "glyphorium/text/unicode_text.h"
 
@@ -126,12 +128,22 @@ bool isScoped(std::string_view query) {
   return glyph::lowercased(glyph::trimmed(query).substr(0, scope.size())) == scope;
 }
 
+// A setting that cannot be read keeps the value that it had before, and the next call reads it again.
 void CharacterSearch::readSettings() {
   std::string state = settingsState();
   if (search_ && state == settingsState_) return;
-  settingsState_ = std::move(state);
-  wholeCatalog_ = glyph::desktopSearchesCatalog();
-  if (!search_ || !search_->isCurrent()) search_.emplace();
+  const auto isRead = [](std::string_view key) { return !glyph::settingsStore()->readFailure(key); };
+  const bool wholeCatalog = glyph::desktopSearchesCatalog();
+  const bool scopeIsRead = isRead(glyph::desktopSearchesCatalogKey);
+  if (scopeIsRead) wholeCatalog_ = wholeCatalog;
+
+  constexpr std::string_view addedKey = glyph::UserInfluencedEntityKey::customAddedEntities.rawValue();
+  if (!search_ || !search_->isCurrent()) {
+    glyph::CatalogSearch fresh;
+    if (!search_ || isRead(addedKey)) search_.emplace(std::move(fresh));
+  }
+  settingsState_.reset();
+  if (scopeIsRead && isRead(addedKey)) settingsState_ = std::move(state);
 }
 
 std::optional<Entity> CharacterSearch::entity(std::string_view identifier) {
@@ -151,7 +163,10 @@ std::vector<Found> CharacterSearch::find(std::string_view query, std::size_t lim
     if (seen.insert(identifier).second) found.push_back({identifier, std::move(entity), exactness});
   };
   const std::size_t asked = wholeCatalog_ ? limit : std::max(limit, mostLookUps);
-  for (const SearchResult& result : search_->query(wanted.text, {asked, std::nullopt, {}}).results) {
+  glyph::SearchResults answer = search_->query(wanted.text, {asked, std::nullopt, {}});
+  // The desktop shows the results of many programs. Guesses would only be in the way.
+  if (answer.lacksWords) answer.results.clear();
+  for (const SearchResult& result : answer.results) {
     if (found.size() == limit) break;
     const Entity entity = search_->entity(result);
     const std::string& hex = entity.computed.hex;

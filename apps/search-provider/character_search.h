@@ -52,7 +52,8 @@ class CharacterSearch {
   HostIndexes indexes_;
   std::optional<glyph::CatalogSearch> search_;
   bool wholeCatalog_ = true;
-  std::string settingsState_;  // state of the settings files at the last read
+  // The state of the settings files when all settings were read, or nullopt if they must be read again.
+  std::optional<std::string> settingsState_;
 };
 
 /// Whether the query begins with "qv:". With this prefix the user asks only for Glyphorium's characters.

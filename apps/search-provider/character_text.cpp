@@ -23,7 +23,7 @@ glyph::Entity entityOf(const glyph::SearchableItem& item) {
 
 std::string label(const glyph::Entity& entity) {
   const glyph::RecordText& symbol = entity.computed.symbol;
-  const std::string name = entity.name();
+  std::string name = entity.name();
   if (symbol.empty() || symbol == name) return name;
   return (glyph::runsRightToLeft(symbol) ? "\u200E" : "") + glyph::visibleSymbol(symbol) + " " + name;
 }

@@ -73,9 +73,9 @@ void HostIndexes::ask(const std::function<bool(glyph::SearchableIndexReader&)>& 
     }
     Index& index = indexes_.try_emplace(file, Index{glyph::SearchableIndexReader(file)}).first->second;
     const auto begin = Clock::now();
-    if (begin < index.closedUntil) continue;
+    if (begin < index.skippedUntil) continue;
     const bool done = question(index.reader);
-    if (Clock::now() - begin > 400ms) index.closedUntil = Clock::now() + 1s;
+    if (Clock::now() - begin > 400ms) index.skippedUntil = Clock::now() + 1s;
     if (done) return;
   }
 }

@@ -31,7 +31,7 @@ class HostIndexes {
   using Clock = std::chrono::steady_clock;
   struct Index {
     glyph::SearchableIndexReader reader;
-    Clock::time_point closedUntil{};  // the index is not read before this time
+    Clock::time_point skippedUntil{};  // the index is not read before this time
   };
 
   void lookForFiles();

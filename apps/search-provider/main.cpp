@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/services/sqlite/lock_wait.h"
 #include "glyphorium/version.h"
 #include "service.h"
 
@@ -39,8 +40,8 @@ int printHelp() {
       "session bus starts the program when the desktop asks, as %s:\n"
       "  %s  org.gnome.Shell.SearchProvider2\n"
       "  /runner  org.kde.krunner1\n\n"
-      "      --idle-seconds=SECONDS  exit this long after the last call; 0 means never (default 30)\n"
-      "  -h, --help                  print this\n"
+      "      --idle-seconds=SECONDS  exit so many seconds after the last call; 0 means never (default 30)\n"
+      "  -h, --help                  print this help\n"
       "      --version               print the version\n",
       provider::busName().c_str(), provider::objectPath().c_str());
   return 0;
@@ -53,7 +54,7 @@ int serve(microseconds idleLimit) try {
   complain(error.text);
   return failed;
 } catch (const std::exception& error) {
-  complain(std::string("no service on the session bus: ") + error.what());
+  complain(std::string("the session bus cannot be used: ") + error.what());
   return failed;
 }
 
@@ -85,6 +86,9 @@ int main(int argc, char** argv) {
   // The journal receives the standard error of programs that the bus starts, and the bus's own messages about
   // these programs.
   glyph::setDiagnosticsSink(complain);
+  // Desktops wait for the answer at every key. A setting that another program has locked is read again later.
+  glyph::setLockWaitPolicy(
+      [](std::chrono::milliseconds waited) { return waited < std::chrono::milliseconds(300); });
   std::signal(SIGPIPE, SIG_IGN);
   return serve(idleLimit);
 }

@@ -36,7 +36,7 @@ std::string programFile(const std::string& name) {
   std::string_view rest = path ? path : "/usr/local/bin:/usr/bin:/bin";
   for (;;) {
     const std::size_t colon = rest.find(':');
-    const std::string file = std::string(rest.substr(0, colon)) + "/" + name;
+    std::string file = std::string(rest.substr(0, colon)) + "/" + name;
     if (file.front() == '/' && isProgram(file)) return file;
     if (colon == std::string_view::npos) return {};
     rest.remove_prefix(colon + 1);
@@ -54,7 +54,7 @@ Command terminal() {
     command.front() = programFile(command.front());
     if (!command.front().empty()) return command;
   }
-  throw CallError{SD_BUS_ERROR_FAILED, "No terminal is installed to show the search in"};
+  throw CallError{SD_BUS_ERROR_FAILED, "No terminal program is installed that could show the search"};
 }
 
 // Starts the command in a session of its own. Because of the second fork, init becomes the parent: the
@@ -64,7 +64,7 @@ void startDetached(const Command& command) {
   for (const std::string& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));
   arguments.push_back(nullptr);
   const pid_t child = fork();
-  if (child < 0) throw CallError{SD_BUS_ERROR_FAILED, "The window's program could not be started"};
+  if (child < 0) throw CallError{SD_BUS_ERROR_FAILED, "The program of the window could not be started"};
   if (child == 0) {
     if (setsid() < 0 || fork() != 0) _exit(0);
     sigset_t none;

@@ -21,7 +21,7 @@ using namespace std::chrono_literals;
 // How long an idle program stays on the bus after it has released its names. Clients need some time to learn
 // that a name no longer has an owner. Until then they send calls to the old connection. If the connection
 // were closed, these calls would be lost.
-constexpr std::chrono::microseconds farewell = 1s;
+constexpr std::chrono::microseconds timeForLastCalls = 1s;
 
 // Blocks the signals. The event loop handles them instead, so that a signal does not interrupt a call.
 void catchSignals() {
@@ -75,13 +75,14 @@ void Service::run() {
   // The name is requested last. Until the program owns it, the bus holds back the call that started the
   // program.
   const int taken = sd_bus_request_name(bus, busName().c_str(), 0);
-  if (taken == -EEXIST) throw CallError{SD_BUS_ERROR_FAILED, busName() + " runs already"};
+  if (taken == -EEXIST) throw CallError{SD_BUS_ERROR_FAILED, busName() + " is already running"};
   check(taken);
-  // If the application has an open window, the window owns the application's own name.
+  // If the application has an open window, the program of the window owns the application's own name. This
+  // program then waits in the queue for the name.
   sd_bus_request_name(bus, glyph::applicationIdentifier().c_str(),
                       SD_BUS_NAME_ALLOW_REPLACEMENT | SD_BUS_NAME_QUEUE);
   check(sd_bus_attach_event(bus, loop, SD_EVENT_PRIORITY_NORMAL));
-  patience_ = idleLimit_;
+  quietLimit_ = idleLimit_;
   noteCall();
   check(sd_event_loop(loop));  // the result is only an exit code
   quiet_.reset();
@@ -89,20 +90,20 @@ void Service::run() {
 }
 
 void Service::noteCall() {
-  if (!leaving_ && patience_ == 0s) return;
-  check(sd_event_source_set_time_relative(quiet_.get(), static_cast<std::uint64_t>(patience_.count())));
+  if (!leaving_ && quietLimit_ == 0s) return;
+  check(sd_event_source_set_time_relative(quiet_.get(), static_cast<std::uint64_t>(quietLimit_.count())));
   check(sd_event_source_set_enabled(quiet_.get(), SD_EVENT_ONESHOT));
 }
 
 // Releases the names first and ends the program only later. The bus starts the program again for new calls,
 // and calls that the bus has already sent to this process still get an answer.
-int Service::leave(std::chrono::microseconds patience) noexcept try {
+int Service::leave(std::chrono::microseconds limit) noexcept try {
   if (!leaving_) {
     check(sd_bus_release_name(bus_.get(), busName().c_str()));
     sd_bus_release_name(bus_.get(), glyph::applicationIdentifier().c_str());
   }
   leaving_ = true;
-  patience_ = patience;
+  quietLimit_ = limit;
   noteCall();
   return 0;
 } catch (...) {  // the connection to the bus is lost
@@ -111,7 +112,7 @@ int Service::leave(std::chrono::microseconds patience) noexcept try {
 
 int Service::onQuiet(sd_event_source*, std::uint64_t, void* self) noexcept {
   Service& service = *static_cast<Service*>(self);
-  return service.leaving_ ? sd_event_exit(service.loop_.get(), 0) : service.leave(farewell);
+  return service.leaving_ ? sd_event_exit(service.loop_.get(), 0) : service.leave(timeForLastCalls);
 }
 
 int Service::onSignal(sd_event_source*, const signalfd_siginfo*, void* self) noexcept {
@@ -120,7 +121,9 @@ int Service::onSignal(sd_event_source*, const signalfd_siginfo*, void* self) noe
 
 void Service::copy(const std::string& identifier, std::string (*form)(const glyph::Entity&)) {
   const auto entity = characters_.entity(identifier);
-  if (!entity) throw CallError{SD_BUS_ERROR_INVALID_ARGS, "No character is known as '" + identifier + "'"};
+  if (!entity)
+    throw CallError{SD_BUS_ERROR_INVALID_ARGS,
+                    "There is no character with the identifier '" + identifier + "'"};
   if (!glyph::toolKit().writeToPasteboard(form(*entity), character(*entity))) {
     throw CallError{SD_BUS_ERROR_FAILED, "The clipboard did not accept the text"};
   }

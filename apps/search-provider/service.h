@@ -49,15 +49,16 @@ class Service {
  private:
   static int onQuiet(sd_event_source*, std::uint64_t, void* service) noexcept;
   static int onSignal(sd_event_source*, const signalfd_siginfo*, void* service) noexcept;
-  int leave(std::chrono::microseconds patience) noexcept;
+  int leave(std::chrono::microseconds limit) noexcept;
 
   const std::chrono::microseconds idleLimit_;
   CharacterSearch characters_;
   EventLoop loop_;
   Bus bus_;
-  EventSource quiet_;                     // fires if there has been no call for `patience_`
-  std::chrono::microseconds patience_{};  // zero: no limit before the names are released, no wait afterwards
-  bool leaving_ = false;                  // true after the names are released
+  EventSource quiet_;  // fires if there has been no call for `quietLimit_`
+  // If the names are not released yet, zero means no limit. After their release, zero means to exit at once.
+  std::chrono::microseconds quietLimit_{};
+  bool leaving_ = false;  // true after the names are released
 };
 
 }  // namespace provider

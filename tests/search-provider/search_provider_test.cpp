@@ -70,6 +70,8 @@ TEST_F(SearchProvider, FindsTheSameLetterByLetterAsAtOnce) {
     EXPECT_EQ(session.shell("GetSubsearchResultSet \"['0041', 'gone']\" \"['" + query + "']\""), atOnce);
     EXPECT_EQ(session.shell("GetSubsearchResultSet \"@as []\" \"['" + query + "']\""), atOnce);
   }
+  // No character matches both words.
+  EXPECT_EQ(session.shell("GetInitialResultSet \"['snowman', 'invoice']\""), "(@as [],)\n");
 }
 
 TEST_F(SearchProvider, FindsCharactersOfTheUserAndOfAllHosts) {
@@ -93,6 +95,44 @@ TEST_F(SearchProvider, FindsCharactersOfTheUserAndOfAllHosts) {
   EXPECT_EQ(identifiers("snowman"), "(@as [],)\n");
   EXPECT_EQ(identifiers("rightwards arrow"), "(['2192', '21d2', '27f9'],)\n");
   EXPECT_EQ(identifiers("U+FFFD"), "(['fffd'],)\n");
+  EXPECT_EQ(session.starts(), 1u) << session.log();
+}
+
+TEST_F(SearchProvider, KeepsTheUsersChoicesWhileTheyCannotBeRead) {
+  Session session;
+  const auto file = session / "config/org.glyphorium.Glyphorium/settings.sqlite";
+  const auto choose = [&](const std::string& hex) {
+    SqliteSettingsStore settings(file);
+    settings.set("customAddedEntities", std::vector<std::string>{hex});
+    settings.set("desktopSearchesCatalog", false);
+  };
+  // Replaces the settings by a file that is not a database.
+  const auto damage = [&] {
+    for (const char* const suffix : {"-wal", "-shm"}) std::filesystem::remove(file.string() + suffix);
+    writeFile(session / "garbage", std::string(10'000, '?'));
+    std::filesystem::rename(session / "garbage", file);
+  };
+  const auto search = [&](const std::string& word) {
+    return session.shell("GetInitialResultSet \"['" + word + "']\"");
+  };
+  const std::string none = "(@as [],)\n", snowman = "(['2603'],)\n", comet = "(['2604'],)\n";
+  // At first the program knows no choices. It reads them when they can be read.
+  std::filesystem::create_directories(file.parent_path());
+  damage();
+  EXPECT_THAT(search("snowman"), StartsWith("(['2603', "));
+  std::filesystem::remove(file);
+  choose("2603");
+  EXPECT_EQ(search("snowman"), snowman);
+  EXPECT_EQ(search("comet"), none);
+  damage();
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_EQ(search("snowman"), snowman);
+    EXPECT_EQ(search("comet"), none);
+  }
+  std::filesystem::remove(file);
+  choose("2604");
+  EXPECT_EQ(search("snowman"), none);
+  EXPECT_EQ(search("comet"), comet);
   EXPECT_EQ(session.starts(), 1u) << session.log();
 }
 
@@ -287,7 +327,7 @@ TEST(SearchProviderProgram, ReportsHelpVersionAndWrongArguments) {
   } cases[] = {{"--help", 0, "--idle-seconds"},          {"--version", 0, "glyphorium-search-provider 1."},
                {"--idle-seconds=soon", 2, "not 'soon'"}, {"--idle-seconds=-1", 2, "not '-1'"},
                {"--idle-seconds=nan", 2, "not 'nan'"},   {"--frobnicate", 2, "frobnicate"},
-               {"now", 2, "unexpected argument 'now'"},  {"", 1, "no service on the session bus"}};
+               {"now", 2, "unexpected argument 'now'"},  {"", 1, "the session bus cannot be used"}};
   for (const auto& [arguments, exitCode, output] : cases) {
     const ProgramResult result = runProgram(
         "DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent " SEARCH_PROVIDER " " + arguments + " 2>&1");

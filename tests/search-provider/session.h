@@ -92,8 +92,9 @@ class Session {
       entity.computed.fallbackName = name;
       entity.computed.group = group;
       if (!html.empty()) {
-        entity.additional.emplace().hex = hex;
-        entity.additional->htmlNamed = html;
+        AdditionalData& enrichment = entity.additional.emplace();
+        enrichment.hex = hex;
+        enrichment.htmlNamed = html;
       }
     }
     setSearchableIndex(std::make_shared<SqliteSearchableIndex>(file.empty() ? indexFile() : file));
