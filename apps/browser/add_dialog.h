@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+#include <string>
+#include <vector>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace browser {
+
+class Catalog;
+class LargeGlyph;
+
+/// What a text names for the dialog below.
+struct NamedCharacters {
+  std::vector<std::string> hexes;  ///< empty if the text names nothing that can be added
+  QString message;                 ///< the name of the character, or why there is none
+};
+
+/// Reads codes, a name, an HTML reference or characters.
+NamedCharacters namedCharacters(const Catalog& catalog, const QString& text);
+
+/// Asks for characters to add to the user's own, with a preview.
+class AddDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  AddDialog(Catalog& catalog, QWidget* parent);
+
+  /// The characters that were chosen.
+  const std::vector<std::string>& hexes() const { return hexes_; }
+
+ private:
+  void preview(const QString& text);
+
+  Catalog& catalog_;
+  QLineEdit* field_;
+  LargeGlyph* glyph_;
+  QLabel* message_;
+  QPushButton* add_;
+  std::vector<std::string> hexes_;
+};
+
+}  // namespace browser

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDBusVariant>
+#include <QObject>
+#include <string_view>
+
+namespace browser {
+
+/// The colours of the windows. Where the desktop brings its own style for Qt, as KDE does, that style is used
+/// as it is. Elsewhere the windows get a light or dark look of their own, which follows the desktop's
+/// preference.
+class Appearance : public QObject {
+  Q_OBJECT
+
+ public:
+  enum class Theme { system, light, dark };
+
+  /// The texts with which a theme is stored and chosen: "system", "light", "dark". Any other text gives
+  /// Theme::system.
+  static Theme themeNamed(std::string_view name);
+  static std::string_view nameOf(Theme theme);
+  /// The theme that the user has chosen in the settings.
+  static Theme chosen();
+  static void choose(Theme theme);
+
+  /// Call it once, before the first window.
+  explicit Appearance(Theme theme);
+
+  void setTheme(Theme theme);
+
+ private Q_SLOTS:
+  void changeSetting(const QString& space, const QString& key, const QDBusVariant& value);
+
+ private:
+  void askDesktop();
+  void setDesktopDark(bool dark);
+  void apply();
+
+  Theme theme_;
+  bool hasOwnLook_;
+  bool desktopIsDark_ = false;
+};
+
+}  // namespace browser

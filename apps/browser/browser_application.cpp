@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "browser_application.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+
+#include "glyph_renderer.h"
+#include "main_window.h"
+#include "picker.h"
+#include "preferences.h"
+#include "typing.h"
+
+namespace browser {
+namespace {
+
+constexpr int lingeringMilliseconds = 10 * 60 * 1'000;
+
+// The desktop gives the focus back to the other window before the text is typed.
+constexpr int focusMilliseconds = 180;
+
+}  // namespace
+
+BrowserApplication::BrowserApplication(Appearance::Theme theme) : appearance_(theme) {
+  QApplication::setQuitOnLastWindowClosed(false);
+  lingering_.setSingleShot(true);
+  lingering_.setInterval(lingeringMilliseconds);
+  connect(&lingering_, &QTimer::timeout, this, &BrowserApplication::quitUnlessNeeded);
+  connect(&watch_, &SettingsWatch::changed, &catalog_, &Catalog::readSettings);
+  connect(&service_, &BrowserService::requested, this, &BrowserApplication::serve);
+  GlyphRenderer::shared().setFamily(preferences::glyphFamily());
+}
+
+BrowserApplication::~BrowserApplication() = default;
+
+void BrowserApplication::serve(const Request& request) {
+  if (!request.activationToken.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", request.activationToken.toUtf8());
+  switch (request.kind) {
+    case Request::Kind::window:
+      return showWindow(request.words);
+    case Request::Kind::pick:
+      return pick();
+    case Request::Kind::background:
+      staysInBackground_ = true;
+      return;
+  }
+}
+
+void BrowserApplication::showWindow(const QString& words) {
+  if (!window_) {
+    window_ = std::make_unique<MainWindow>(catalog_, appearance_);
+    connect(window_.get(), &MainWindow::closed, this, [this] {
+      // The window is deleted when it has finished its event.
+      window_.release()->deleteLater();
+      if (!lingering_.isActive()) quitUnlessNeeded();
+    });
+  }
+  window_->search(words);
+  window_->show();
+  window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
+  window_->raise();
+  window_->activateWindow();
+}
+
+void BrowserApplication::pick() {
+  if (!picker_) {
+    picker_ = std::make_unique<Picker>(catalog_);
+    connect(picker_.get(), &Picker::closed, this, &BrowserApplication::finishPick);
+  }
+  lingering_.stop();
+  picker_->open();
+}
+
+void BrowserApplication::finishPick(const QString& text) {
+  lingering_.start();
+  if (text.isEmpty() || !preferences::pickerTypes()) return;
+  QTimer::singleShot(focusMilliseconds, this, [this, text] {
+    typeText(text, [this](bool typed) {
+      if (!typed) explainTyping();
+    });
+  });
+}
+
+// Says once that the text must be pasted, in a notification, because the picker is closed.
+void BrowserApplication::explainTyping() {
+  if (preferences::wasTypingExplained()) return;
+  preferences::setTypingExplained();
+  const QString name = QStringLiteral("org.freedesktop.Notifications");
+  QDBusMessage call = QDBusMessage::createMethodCall(name, QStringLiteral("/org/freedesktop/Notifications"),
+                                                     name, QStringLiteral("Notify"));
+  call << QApplication::applicationName() << 0U << QApplication::desktopFileName()
+       << tr("The character was copied")
+       << tr("This desktop does not let programs type into other windows, or the tool for it is not "
+             "installed. "
+             "Ctrl+V pastes the character.")
+       << QStringList() << QVariantMap() << -1;
+  QDBusConnection::sessionBus().send(call);
+}
+
+void BrowserApplication::quitUnlessNeeded() {
+  const bool isVisible = window_ || (picker_ && picker_->isVisible());
+  if (!isVisible && !staysInBackground_) QCoreApplication::quit();
+}
+
+}  // namespace browser

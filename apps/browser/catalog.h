@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <glyphorium/glyphorium.h>
+
+#include <QObject>
+#include <QUndoStack>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace browser {
+
+/// The library as the windows see it: its lists, its notifications as signals, and the user's commands. There
+/// is one object, which belongs to the thread of the windows.
+class Catalog : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Configures the library's catalog.
+  Catalog();
+
+  /// Returns the entity of a hex code or hex list: an added one, one of the catalog, or one of the
+  /// supplement, whose name is empty if it is no character and no emoji.
+  glyph::Entity entity(
+      const std::string& hex) const;  /// Returns the entity of a character or an emoji, given as UTF-8.
+  glyph::Entity characterOf(std::string_view text) const;
+
+  /// Returns the names of the groups that contain the character.
+  std::vector<std::string> groupsOf(const std::string& hex) const;
+
+  bool isDisplayed(const std::string& group) const;
+  bool isAdded(const std::string& hex) const;
+  bool isFavourite(const std::string& hex) const;
+  const std::vector<std::string>& favourites() const { return favourites_; }
+  const std::vector<std::string>& recentlyCopied() const { return recentlyCopied_; }
+
+  /// Displays the group, or stops displaying it. The displayed list follows a moment later, once for several
+  /// changes.
+  void setDisplayed(const std::string& group, bool displayed);
+
+  /// Adds characters to the group "custom" or removes them. The user can undo it.
+  void add(const std::vector<std::string>& hexes);
+  void remove(const std::vector<std::string>& hexes);
+  QUndoStack& undoStack() { return undoStack_; }
+
+  /// Adds the character to the favourites, or removes it from them. The user can undo it.
+  void toggleFavourite(const std::string& hex);
+
+  /// Copies this form of the character. Does nothing if the character does not have the form.
+  void copy(const glyph::Entity& entity, const glyph::CopyForm& form);
+  /// Returns the form that the user copies with Alt+Enter, or one that every character has.
+  const glyph::CopyForm& otherForm(const glyph::Entity& entity) const;
+  /// Copies a text that was composed from these characters.
+  void copyText(const QString& text, const std::vector<std::string>& hexes);
+
+  void forgetRecentlyCopied();
+
+  /// Takes over what another program has changed in the settings.
+  void readSettings();
+
+ Q_SIGNALS:
+  /// The displayed or the added characters have changed.
+  void contentChanged();
+  /// The displayed groups have changed.
+  void groupsChanged();
+  void favouritesChanged();
+  void recentlyCopiedChanged();
+  /// A text was copied. `text` is what to show of it.
+  void copied(const QString& text);
+  /// The settings could not be stored, or not be read. `reason` is a sentence of the library.
+  void settingsFailed(const QString& reason);
+
+ private:
+  void changeAdded(const std::vector<std::string>& hexes, bool add);
+  void switchFavourite(const std::string& hex);
+  void indexPlaces();
+  void noteCopied(const std::string& hex);
+  void checkStored();
+
+  std::unordered_map<std::string_view, std::size_t> places_;  // of hex codes in buildInEntities()
+  std::vector<std::string> displayedGroups_;
+  std::vector<std::string> added_;
+  std::vector<std::string> favourites_;
+  std::vector<std::string> recentlyCopied_;
+  QUndoStack undoStack_;
+  glyph::NotificationToken contentToken_;
+  glyph::NotificationToken copiedToken_;
+};
+
+}  // namespace browser

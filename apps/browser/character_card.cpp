@@ -1,0 +1,471 @@
+// SPDX-License-Identifier: MIT
+#include "character_card.h"
+
+#include <QDrag>
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QStyleHints>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "catalog.h"
+#include "character_grid.h"
+#include "character_texts.h"
+#include "flow_layout.h"
+#include "group_titles.h"
+#include "icons.h"
+
+namespace browser {
+namespace {
+
+constexpr std::size_t mostRelated = 24;
+
+const QRegularExpression& codeInNote() {
+  static const QRegularExpression expression(QStringLiteral("\\(([0-9a-f]{4,6})\\)"));
+  return expression;
+}
+
+QLabel* newHeading(const QString& title) {
+  auto* const heading = new QLabel(title);
+  QFont font = heading->font();
+  font.setWeight(QFont::DemiBold);
+  heading->setFont(font);
+  return heading;
+}
+
+QToolButton* newIconButton(Symbol symbol, const QString& name) {
+  auto* const button = new QToolButton;
+  button->setIcon(symbolIcon(symbol));
+  button->setAutoRaise(true);
+  button->setToolTip(name);
+  button->setAccessibleName(name);
+  return button;
+}
+
+// A table of titles and values for a label.
+QString tableRow(const QString& title, const QString& value) {
+  return QStringLiteral("<tr><td>%1:&nbsp;&nbsp;</td><td>%2</td></tr>")
+      .arg(title.toHtmlEscaped(), value.toHtmlEscaped());
+}
+
+QString table(const QString& rows) {
+  return rows.isEmpty() ? QString() : QStringLiteral("<table cellspacing=\"2\">%1</table>").arg(rows);
+}
+
+// A button with a character on it.
+class CharacterButton : public QToolButton {
+ public:
+  explicit CharacterButton(const glyph::Entity& entity) : entity_(entity) {
+    setAutoRaise(true);
+    setFixedSize(38, 38);
+    setToolTip(nameText(entity) + QLatin1Char('\n') + codeText(entity));
+    setAccessibleName(nameText(entity));
+    connect(&GlyphRenderer::shared(), &GlyphRenderer::picturesReady, this, qOverload<>(&QWidget::update));
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QToolButton::paintEvent(event);
+    QPainter painter(this);
+    paintCharacter(painter, rect(), entity_, cellRequest(entity_, 38, devicePixelRatioF()),
+                   palette().color(QPalette::Text));
+  }
+
+ private:
+  glyph::Entity entity_;
+};
+
+}  // namespace
+
+std::vector<std::string> codesInNote(const QString& note) {
+  std::vector<std::string> codes;
+  for (auto match = codeInNote().globalMatch(note); match.hasNext();) {
+    const std::string code = match.next().captured(1).toStdString();
+    if (std::find(codes.begin(), codes.end(), code) == codes.end()) codes.push_back(code);
+  }
+  return codes;
+}
+
+LargeGlyph::LargeGlyph(QWidget* parent) : QWidget(parent) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  setCursor(Qt::OpenHandCursor);
+  setToolTip(tr("Drag the character into another window"));
+  connect(&GlyphRenderer::shared(), &GlyphRenderer::picturesReady, this, qOverload<>(&QWidget::update));
+}
+
+void LargeGlyph::setCharacter(const glyph::Entity& entity) {
+  entity_ = entity;
+  setAccessibleName(nameText(entity));
+  update();
+}
+
+void LargeGlyph::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  QColor line = palette().color(QPalette::Text);
+  line.setAlphaF(0.1F);
+  painter.setPen(line);
+  painter.setBrush(palette().base());
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 12, 12);
+  const int side = std::min(width(), height()) - 12;
+  const QRect area((width() - side) / 2, (height() - side) / 2, side, side);
+  GlyphRequest request = cellRequest(entity_, side, devicePixelRatioF());
+  request.size = side * 11 / 20;
+  paintCharacter(painter, area, entity_, request, palette().color(QPalette::Text));
+  const GlyphPicture* const picture =
+      isShownAsBox(entity_) ? nullptr : GlyphRenderer::shared().picture(request);
+  if (picture) Q_EMIT fontKnown(picture->family);
+}
+
+void LargeGlyph::mouseMoveEvent(QMouseEvent* event) {
+  if (!(event->buttons() & Qt::LeftButton)) return;
+  auto* const mime = new QMimeData;
+  mime->setText(fromUtf8(entity_.computed.symbol));
+  auto* const drag = new QDrag(this);
+  drag->setMimeData(mime);
+  drag->exec(Qt::CopyAction);
+}
+
+CharacterCard::CharacterCard(Catalog& catalog, QWidget* parent)
+    : QScrollArea(parent), catalog_(catalog), content_(new QWidget), layout_(new QVBoxLayout(content_)) {
+  setFrameShape(QFrame::NoFrame);
+  setWidgetResizable(true);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setAccessibleName(tr("Character"));
+  setMinimumWidth(240);
+  layout_->setContentsMargins(16, 14, 16, 16);
+  layout_->setSpacing(4);
+  makeHead();
+  note_ = newText(true);
+  note_->setTextFormat(Qt::RichText);
+  noteSection_ = addSection(tr("Usage"), note_);
+  connect(note_, &QLabel::linkActivated, this, &CharacterCard::characterChosen);
+  variants_ = addCharacterRow(tr("Skin tones"));
+  related_ = addCharacterRow(tr("See also"));
+  makeForms();
+  lookAlikes_ = addCharacterRow(tr("Easily mistaken for"));
+  typing_ = newText(true);
+  typing_->setTextFormat(Qt::RichText);
+  typingSection_ = addSection(tr("How to type it"), typing_);
+  terms_ = newText(true);
+  termSection_ = addSection(tr("Also found by"), terms_);
+  facts_ = newText(true);
+  facts_->setTextFormat(Qt::RichText);
+  factSection_ = addSection(tr("Unicode"), facts_);
+  groups_ = newText(false);
+  groups_->setTextFormat(Qt::RichText);
+  groups_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+  groupSection_ = addSection(tr("Groups"), groups_);
+  connect(groups_, &QLabel::linkActivated, this, &CharacterCard::groupChosen);
+  layout_->addStretch();
+  setWidget(content_);
+  setCharacter(nullptr);
+}
+
+QLabel* CharacterCard::newText(bool isSelectable) {
+  auto* const label = new QLabel;
+  label->setWordWrap(true);
+  label->setTextFormat(Qt::PlainText);
+  if (isSelectable) label->setTextInteractionFlags(Qt::TextBrowserInteraction);
+  return label;
+}
+
+void CharacterCard::makeHead() {
+  head_ = new QBoxLayout(QBoxLayout::TopToBottom);
+  head_->setSpacing(12);
+  glyph_ = new LargeGlyph;
+  head_->addWidget(glyph_);
+  connect(glyph_, &LargeGlyph::fontKnown, this, &CharacterCard::showFont);
+  auto* const texts = new QVBoxLayout;
+  texts->setSpacing(3);
+  name_ = newText(true);
+  QFont font = name_->font();
+  font.setPointSizeF(font.pointSizeF() * 1.25);
+  font.setWeight(QFont::DemiBold);
+  name_->setFont(font);
+  texts->addWidget(name_);
+  localName_ = newText(true);
+  texts->addWidget(localName_);
+  code_ = newText(true);
+  unicodeName_ = newText(true);
+  font_ = newText(true);
+  for (QLabel* const label : {code_, unicodeName_, font_}) {
+    label->setForegroundRole(QPalette::PlaceholderText);
+    texts->addWidget(label);
+  }
+  texts->addSpacing(6);
+  texts->addLayout(makeButtons());
+  texts->addStretch();
+  head_->addLayout(texts, 1);
+  layout_->addLayout(head_);
+}
+
+QBoxLayout* CharacterCard::makeButtons() {
+  auto* const row = new QHBoxLayout;
+  row->setSpacing(4);
+  copy_ = new QPushButton(tr("Copy"));
+  copy_->setDefault(true);
+  favourite_ = newIconButton(Symbol::star, tr("Favourite"));
+  add_ = newIconButton(Symbol::add, QString());
+  collect_ = newIconButton(Symbol::collect, tr("Collect"));
+  collect_->setToolTip(tr("Collect, to copy it together with others"));
+  row->addWidget(copy_, 1);
+  for (QToolButton* const button : {favourite_, add_, collect_}) row->addWidget(button);
+  connect(copy_, &QPushButton::clicked, this,
+          [this] { Q_EMIT copyRequested(*glyph::copyForm("character")); });
+  connect(favourite_, &QToolButton::clicked, this, &CharacterCard::favouriteRequested);
+  connect(add_, &QToolButton::clicked, this, &CharacterCard::addOrRemoveRequested);
+  connect(collect_, &QToolButton::clicked, this, &CharacterCard::collectRequested);
+  return row;
+}
+
+void CharacterCard::setCompact(bool compact) {
+  head_->setDirection(compact ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+  glyph_->setSizePolicy(compact ? QSizePolicy::Fixed : QSizePolicy::Expanding, QSizePolicy::Fixed);
+  glyph_->setFixedHeight(compact ? 120 : 168);
+  glyph_->setMinimumWidth(120);
+  glyph_->setMaximumWidth(compact ? 120 : QWIDGETSIZE_MAX);
+}
+
+CharacterCard::Section CharacterCard::addSection(const QString& title, QWidget* content) {
+  QLabel* const heading = newHeading(title);
+  heading->setContentsMargins(0, 14, 0, 2);
+  layout_->addWidget(heading);
+  layout_->addWidget(content);
+  return {heading, content};
+}
+
+void CharacterCard::showSection(const Section& section, bool shown) {
+  section.heading->setVisible(shown);
+  section.content->setVisible(shown);
+}
+
+void CharacterCard::makeForms() {
+  auto* const table = new QWidget;
+  auto* const grid = new QGridLayout(table);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(10);
+  grid->setVerticalSpacing(0);
+  grid->setColumnStretch(1, 1);
+  const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  int row = 0;
+  for (const glyph::CopyForm& form : glyph::copyForms()) {
+    if (form.identifier == "character") continue;
+    auto* const title = new QLabel(formTitle(form));
+    title->setForegroundRole(QPalette::PlaceholderText);
+    auto* const value = new QLabel;
+    value->setFont(fixed);
+    value->setTextFormat(Qt::PlainText);
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    value->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    QToolButton* const button = newIconButton(Symbol::copy, tr("Copy %1").arg(formTitle(form)));
+    button->setIconSize({14, 14});
+    button->setFixedHeight(24);
+    grid->addWidget(title, row, 0);
+    grid->addWidget(value, row, 1);
+    grid->addWidget(button, row, 2);
+    ++row;
+    connect(button, &QToolButton::clicked, this, [this, &form] { Q_EMIT copyRequested(form); });
+    forms_.push_back({&form, title, value, button});
+  }
+  addSection(tr("Codes"), table);
+}
+
+void CharacterCard::setCharacter(const glyph::Entity* entity) {
+  content_->setVisible(entity);
+  if (!entity) return entity_.reset();
+  entity_ = *entity;
+  name_->setText(nameText(*entity));
+  localName_->setText(localNameText(*entity));
+  localName_->setVisible(!localName_->text().isEmpty());
+  code_->setText(codeText(*entity));
+  const QString unicodeName = fromUtf8(entity->computed.fallbackName);
+  unicodeName_->setText(tr("Unicode name: %1").arg(unicodeName));
+  unicodeName_->setVisible(!unicodeName.isEmpty() && unicodeName != name_->text());
+  font_->setVisible(false);
+  glyph_->setCharacter(*entity);
+  showForms();
+  showNote();
+  showRelated();
+  showTyping();
+  showFacts();
+  QString terms;
+  if (entity->additional && entity->additional->searchTerms) {
+    for (const auto& term : *entity->additional->searchTerms) {
+      terms += (terms.isEmpty() ? QString() : QStringLiteral(", ")) + fromUtf8(term);
+    }
+  }
+  terms_->setText(terms);
+  showSection(termSection_, !terms.isEmpty());
+  refresh();
+  verticalScrollBar()->setValue(0);
+}
+
+void CharacterCard::refresh() {
+  if (!entity_) return;
+  const std::string hex = entity_->computed.hex;
+  const bool isFavourite = catalog_.isFavourite(hex);
+  favourite_->setIcon(symbolIcon(isFavourite ? Symbol::starFilled : Symbol::star));
+  favourite_->setToolTip(isFavourite ? tr("Remove from the favourites (Ctrl+D)")
+                                     : tr("Add to the favourites (Ctrl+D)"));
+  const bool isAdded = catalog_.isAdded(hex);
+  add_->setIcon(symbolIcon(isAdded ? Symbol::remove : Symbol::add));
+  const QString title = isAdded ? tr("Remove from your own characters") : tr("Add to your own characters");
+  add_->setToolTip(title);
+  add_->setAccessibleName(title);
+  showGroups();
+}
+
+void CharacterCard::showForms() {
+  for (const FormRow& row : forms_) {
+    const auto text = row.form->text(*entity_);
+    const bool hasForm = text.has_value();
+    for (QWidget* const widget : {static_cast<QWidget*>(row.title), static_cast<QWidget*>(row.value),
+                                  static_cast<QWidget*>(row.button)}) {
+      widget->setVisible(hasForm);
+    }
+    if (!hasForm) continue;
+    row.value->setText(fromUtf8(*text));
+    row.value->setToolTip(fromUtf8(*text));
+  }
+}
+
+void CharacterCard::showNote() {
+  const auto advice = entity_->additional ? entity_->additional->localizedAdvice() : std::nullopt;
+  const QString note = advice ? fromUtf8(*advice) : QString();
+  // Codes in parentheses become links to their characters.
+  QString html = note.toHtmlEscaped();
+  html.replace(codeInNote(), QStringLiteral("(<a href=\"\\1\">\\1</a>)"));
+  html.replace(QLatin1Char('\n'), QLatin1String("<br>"));
+  note_->setText(html);
+  showSection(noteSection_, !note.isEmpty());
+}
+
+void CharacterCard::showGroups() {
+  QStringList links;
+  for (const std::string& group : catalog_.groupsOf(entity_->computed.hex)) {
+    links << QStringLiteral("<a href=\"%1\">%2</a>")
+                 .arg(fromUtf8(group).toHtmlEscaped(), groupTitle(group).toHtmlEscaped());
+  }
+  groups_->setText(links.join(QStringLiteral("<br>")));
+  showSection(groupSection_, !links.isEmpty());
+}
+
+CharacterCard::CharacterRow CharacterCard::addCharacterRow(const QString& title) {
+  auto* const flow = new FlowLayout(2);
+  flow->setContentsMargins(0, 0, 0, 0);
+  auto* const content = new QWidget;
+  content->setLayout(flow);
+  return {addSection(title, content), flow};
+}
+
+void CharacterCard::fill(const CharacterRow& row, const std::vector<std::string>& texts) {
+  while (QLayoutItem* const item = row.flow->takeAt(0)) {
+    item->widget()->hide();
+    item->widget()->deleteLater();
+    delete item;
+  }
+  std::size_t count = 0;
+  for (const std::string& text : texts) {
+    if (++count > mostRelated) break;
+    const glyph::Entity entity = catalog_.characterOf(text);
+    auto* const button = new CharacterButton(entity);
+    const QString hex = fromUtf8(entity.computed.hex);
+    connect(button, &QToolButton::clicked, this, [this, hex] { Q_EMIT characterChosen(hex); });
+    row.flow->addWidget(button);
+  }
+  showSection(row.section, count > 0);
+}
+
+void CharacterCard::showRelated() {
+  const std::string symbol = entity_->computed.symbol;
+  std::vector<std::string> variants, related, lookAlikes;
+  if (const auto place = glyph::emojiPlace(symbol)) {
+    for (const std::size_t variant : glyph::emojiVariants(*place))
+      variants.emplace_back(glyph::emojiAt(variant).text);
+  }
+  const auto add = [&](const std::string& text) {
+    if (text != symbol && std::find(related.begin(), related.end(), text) == related.end())
+      related.push_back(text);
+  };
+  const auto advice = entity_->additional ? entity_->additional->localizedAdvice() : std::nullopt;
+  for (const std::string& code : codesInNote(advice ? fromUtf8(*advice) : QString())) {
+    add(glyph::toolKit().getAdvancedSymbol(code));
+  }
+  const std::u32string points = glyph::codePoints(symbol);
+  if (points.size() == 1) {
+    for (const auto& [relation, characters] : glyph::relatedCharacters(points.front())) {
+      for (const char32_t character : characters) add(glyph::utf8(character));
+    }
+    for (const char32_t character : glyph::lookAlikes(points.front()).characters) {
+      lookAlikes.push_back(glyph::utf8(character));
+    }
+  } else {
+    for (const char32_t point : points) add(glyph::utf8(point));  // the parts of a sequence
+  }
+  fill(variants_, variants);
+  fill(related_, related);
+  fill(lookAlikes_, lookAlikes);
+}
+
+// One way of each method: the usual one.
+void CharacterCard::showTyping() {
+  QString rows;
+  std::string_view last;
+  for (const glyph::WayToType& way : glyph::waysToType(entity_->computed.symbol)) {
+    if (way.method == last) continue;
+    last = way.method;
+    rows += tableRow(typingTitle(way), QString::fromStdString(way.text));
+  }
+  typing_->setText(table(rows));
+  showSection(typingSection_, !rows.isEmpty());
+}
+
+void CharacterCard::showFacts() {
+  const std::u32string points = glyph::codePoints(entity_->computed.symbol.view());
+  QString rows;
+  const auto add = [&](const QString& title, std::string_view value) {
+    if (!value.empty()) rows += tableRow(title, fromUtf8(value));
+  };
+  if (points.size() == 1) {
+    const glyph::CharacterFacts facts = glyph::characterFacts(points.front());
+    std::string aliases;
+    for (const auto* const list : {&facts.formalAliases, &facts.otherNames}) {
+      for (const std::string_view alias : *list) aliases.append(aliases.empty() ? "" : ", ").append(alias);
+    }
+    add(tr("Also called"), aliases);
+    add(tr("Meaning"), facts.hanDefinition);
+    add(tr("Block"), facts.block);
+    add(tr("Script"), facts.script);
+    add(tr("Category"), glyph::categoryName(facts.category));
+    add(tr("Since version"), facts.version);
+  }
+  facts_->setText(table(rows));
+  showSection(factSection_, !rows.isEmpty());
+}
+
+void CharacterCard::showFont(const QString& family) {
+  if (!entity_) return;
+  QString text;
+  if (!family.isEmpty()) {
+    text = tr("Font: %1").arg(family);
+  } else {
+    const QString package = fontPackage(static_cast<char32_t>(entity_->computed.decimal));
+    text = package.isEmpty()
+               ? tr("No installed font draws this character.")
+               : tr("No installed font draws this character. The package %1 has one.").arg(package);
+  }
+  if (font_->text() != text) font_->setText(text);
+  font_->setVisible(true);
+}
+
+}  // namespace browser

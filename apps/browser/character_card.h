@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <glyphorium/glyphorium.h>
+
+#include <QScrollArea>
+#include <optional>
+#include <vector>
+
+class QBoxLayout;
+class QLabel;
+class QPushButton;
+class QToolButton;
+class QVBoxLayout;
+
+namespace browser {
+
+class Catalog;
+class FlowLayout;
+
+/// Shows one character large, with a border. The user can drag it into other programs.
+class LargeGlyph : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit LargeGlyph(QWidget* parent = nullptr);
+  void setCharacter(const glyph::Entity& entity);
+  QSize sizeHint() const override { return {200, 168}; }
+  QSize minimumSizeHint() const override { return {96, 96}; }
+
+ Q_SIGNALS:
+  /// What draws the character has become known. `family` is empty if no installed font does.
+  void fontKnown(const QString& family);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+ private:
+  glyph::Entity entity_;
+};
+
+/// Everything that is known about one character, with buttons to copy each form.
+class CharacterCard : public QScrollArea {
+  Q_OBJECT
+
+ public:
+  explicit CharacterCard(Catalog& catalog, QWidget* parent = nullptr);
+
+  /// Null empties the card.
+  void setCharacter(const glyph::Entity* entity);
+  /// Whether the card is wide and low, so that the glyph stands beside its name.
+  void setCompact(bool compact);
+  /// Shows the favourite mark and the groups anew.
+  void refresh();
+
+ Q_SIGNALS:
+  void copyRequested(const glyph::CopyForm& form);
+  void favouriteRequested();
+  void addOrRemoveRequested();
+  void collectRequested();
+  /// The user chose another character, or a group, on the card.
+  void characterChosen(const QString& hex);
+  void groupChosen(const QString& group);
+
+ private:
+  struct FormRow {
+    const glyph::CopyForm* form;
+    QLabel* title;
+    QLabel* value;
+    QToolButton* button;
+  };
+  struct Section {
+    QLabel* heading;
+    QWidget* content;
+  };
+
+  // Buttons with characters under a heading.
+  struct CharacterRow {
+    Section section;
+    FlowLayout* flow;
+  };
+
+  void makeHead();
+  QBoxLayout* makeButtons();
+  void makeForms();
+  Section addSection(const QString& title, QWidget* content);
+  static void showSection(const Section& section, bool shown);
+  QLabel* newText(bool isSelectable);
+  void showForms();
+  void showNote();
+  void showGroups();
+  CharacterRow addCharacterRow(const QString& title);
+  void fill(const CharacterRow& row, const std::vector<std::string>& texts);
+  void showRelated();
+  void showTyping();
+  void showFacts();
+  void showFont(const QString& family);
+
+  Catalog& catalog_;
+  std::optional<glyph::Entity> entity_;
+  QWidget* content_;
+  QVBoxLayout* layout_;
+  QBoxLayout* head_;
+  LargeGlyph* glyph_;
+  QLabel* name_;
+  QLabel* localName_;
+  QLabel* unicodeName_;
+  QLabel* code_;
+  QLabel* font_;
+  QPushButton* copy_;
+  QToolButton* favourite_;
+  QToolButton* add_;
+  QToolButton* collect_;
+  std::vector<FormRow> forms_;
+  QLabel* note_;
+  QLabel* groups_;
+  QLabel* terms_;
+  QLabel* typing_;
+  QLabel* facts_;
+  Section noteSection_, groupSection_, termSection_, typingSection_, factSection_;
+  CharacterRow variants_, related_, lookAlikes_;
+};
+
+/// Returns the hex codes that a usage note mentions, "(2019)", in their order.
+std::vector<std::string> codesInNote(const QString& note);
+
+}  // namespace browser

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <glyphorium/glyphorium.h>
+
+#include <QObject>
+#include <QString>
+#include <optional>
+#include <string>
+#include <unordered_set>
+#include <vector>
+
+#include "grid_layout.h"
+
+namespace browser {
+
+class Catalog;
+
+/// A part of the catalog that a window shows.
+struct Scope {
+  enum class Kind { all, displayed, favourites, recentlyCopied, group, emoji, block, text, picker };
+  /// Kind::text: the characters of a text. Kind::picker: what the user is likely to want next, which is
+  /// favourites, recently copied characters and those of the checked groups; a query searches everything.
+  Kind kind = Kind::all;
+  std::string group{};  ///< the name of the group, group of emoji or block; of Kind::text the text
+
+  bool operator==(const Scope&) const = default;
+
+  /// The text with which a scope is stored, and the scope of such a text. Any other text gives Kind::all.
+  std::string text() const;
+  static Scope fromText(std::string_view text);
+  /// The name of the scope in the user's language.
+  QString title() const;
+};
+
+/// Which characters a window shows: those of a scope that match what the user typed.
+class CharacterFilter : public QObject {
+  Q_OBJECT
+
+ public:
+  /// The list is kept in `list`; it is absent while the window shows glyph::selectedEntities() as it is. The
+  /// main window passes glyph::filteredEntities(), where other parts of the application find its list.
+  CharacterFilter(Catalog& catalog, std::optional<std::vector<glyph::Entity>>& list);
+
+  const Scope& scope() const { return scope_; }
+  const QString& query() const { return query_; }
+  void setScope(const Scope& scope);
+  void setQuery(const QString& query);
+
+  /// The characters to show, until the next changed().
+  const std::vector<glyph::Entity>& characters() const;
+  const std::vector<GridSection>& sections() const { return sections_; }
+  /// The number of characters outside of the scope that match the query.
+  std::size_t elsewhere() const { return elsewhere_; }
+  /// Whether nothing matches the query as typed, so that it was corrected.
+  bool isApproximate() const { return approximate_; }
+
+ Q_SIGNALS:
+  /// `isSameView` is true if scope and query are as before.
+  void changed(bool isSameView);
+
+ private:
+  void update(bool isSameView);
+  void fillScope();
+  void search();
+  bool searchesEverything() const;
+  std::vector<glyph::Entity> likelyCharacters();
+  std::vector<glyph::Entity> beyondCatalog() const;
+  std::vector<glyph::Entity> charactersOfText() const;
+  std::vector<glyph::Entity> charactersOfBlock() const;
+  std::vector<glyph::Entity> emojiOfGroup(std::string_view group, std::vector<GridSection>& sections) const;
+  const std::unordered_set<std::string>& members();
+
+  Catalog& catalog_;
+  std::optional<std::vector<glyph::Entity>>& list_;
+  Scope scope_;
+  QString query_;
+  std::optional<glyph::CatalogSearch> search_;              // made at the first query
+  std::optional<std::unordered_set<std::string>> members_;  // hex codes of the scope, made when needed
+  std::vector<GridSection> sections_;
+  std::size_t elsewhere_ = 0;
+  bool approximate_ = false;
+};
+
+}  // namespace browser

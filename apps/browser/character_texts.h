@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <glyphorium/glyphorium.h>
+
+#include <QString>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The texts with which the windows present characters.
+namespace browser {
+
+class Catalog;
+
+inline QString fromUtf8(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// "U+2192"; for a sequence the code points are separated by blanks.
+QString codeText(const glyph::Entity& entity);
+
+/// The name, or a text that says that the character has none.
+QString nameText(const glyph::Entity& entity);  /// Whether the entity is a character with a name of its own,
+                                                /// rather than with a label such as "<reserved-0378>".
+bool hasName(const glyph::Entity& entity);
+
+/// What people of the user's language call the character.
+/// Empty if that is not known, or not more than nameText().
+QString localNameText(const glyph::Entity& entity);
+
+/// The character, or a visible substitute if it is invisible.
+QString shownText(const glyph::Entity& entity);
+
+/// The characters with these hex codes, shortened if there are many.
+QString shownTexts(const Catalog& catalog,
+                   const std::vector<std::string>& hexes);  /// The title of a group of emoji
+                                                            /// (glyph::Emoji::group) in the user's language.
+QString emojiGroupTitle(std::string_view group);
+
+/// The title of a way to type a character (glyph::WayToType) in the user's language.
+QString typingTitle(const glyph::WayToType& way);
+
+/// The title of a form in which a character can be copied, in the user's language: "HTML name".
+QString formTitle(const glyph::CopyForm& form);
+
+}  // namespace browser

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace browser {
+
+/// Which of the style classes of fonts suits a character.
+enum class FontClass { sans, serif, emoji };
+
+/// Says which installed fonts draw a text, by the coverage tables of fontconfig. Qt would open one font after
+/// another until one draws the text, which takes seconds where many fonts are installed. One thread may use
+/// an object.
+class FontCoverage {
+ public:
+  /// `preferred` is the family that is tried before all others; it may be empty. `languages` are BCP 47 tags.
+  /// They decide between the national forms of Han characters.
+  FontCoverage(const QString& preferred, const QStringList& languages);
+  ~FontCoverage();
+  FontCoverage(const FontCoverage&) = delete;
+  FontCoverage& operator=(const FontCoverage&) = delete;
+
+  /// Returns the best families, at most `limit`, that have a glyph for each code point. Joiners and variation
+  /// selectors do not count. Empty if there is none.
+  QStringList families(const std::u32string& codePoints, FontClass fontClass, int limit = 4) const;
+
+ private:
+  struct Fonts;
+  const Fonts& fonts(FontClass fontClass) const;
+
+  QString preferred_;
+  QStringList languages_;
+  mutable std::unique_ptr<Fonts> classes_[3];  // made on first use
+};
+
+/// Returns the Debian package whose fonts draw the code point, or an empty text for private-use code points,
+/// which have no common font.
+QString fontPackage(char32_t codePoint);
+
+}  // namespace browser

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QRect>
+#include <QString>
+#include <vector>
+
+namespace browser {
+
+/// A run of cells under one heading.
+struct GridSection {
+  QString title;  ///< empty for a section without a heading
+  int first = 0;  ///< index of its first cell
+  int count = 0;
+};
+
+/// Where the cells and headings of a grid are. Coordinates are those of the whole content, in logical pixels.
+class GridLayout {
+ public:
+  struct Line {
+    int y;
+    int height;
+    int section;
+    int first;
+    int count;  ///< 0 in the line of a heading
+  };
+
+  /// The sections must be in order and without gaps.
+  void setSections(std::vector<GridSection> sections);
+  const std::vector<GridSection>& sections() const { return sections_; }
+
+  /// `cell` is the smallest width and the height of a cell. `ruler` is the space before the first column.
+  void setGeometry(int width, int cell, int ruler, int heading);
+
+  int count() const { return count_; }
+  int columns() const { return columns_; }
+  int cell() const { return cell_; }
+  int height() const { return height_; }
+
+  QRect cellRect(int index) const;
+  /// Returns the index of the cell at this point, or -1.
+  int indexAt(QPoint point) const;
+  /// Returns the index of the cell that is `lines` lines of cells below (or above, if negative), in the same
+  /// column as far as possible. Stays within the grid.
+  int moved(int index, int lines) const;
+  int firstOfLine(int index) const { return lines_[lineOf(index)].first; }
+  int lastOfLine(int index) const;
+
+  /// Returns the lines that touch this range of y.
+  std::vector<Line> linesBetween(int top, int bottom) const;
+  /// Returns the section that is at this y.
+  int sectionAt(int y) const;
+
+ private:
+  void layOut();
+  std::size_t lineOf(int index) const;
+
+  std::vector<GridSection> sections_;
+  std::vector<Line> lines_;
+  int width_ = 1;
+  int cell_ = 1;
+  int ruler_ = 0;
+  int heading_ = 0;
+  int columns_ = 1;
+  int count_ = 0;
+  int height_ = 0;
+};
+
+}  // namespace browser

@@ -1,0 +1,577 @@
+// SPDX-License-Identifier: MIT
+#include "main_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QDragEnterEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSplitter>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "add_dialog.h"
+#include "catalog.h"
+#include "character_card.h"
+#include "character_grid.h"
+#include "character_texts.h"
+#include "collector.h"
+#include "icons.h"
+#include "preferences_dialog.h"
+#include "sidebar.h"
+#include "toast.h"
+#include "window_settings.h"
+
+namespace browser {
+namespace {
+
+// Below this width, in logical pixels, the card and the groups do not stand beside the characters.
+constexpr int narrowWidth = 860;
+
+QToolButton* newButton(Symbol symbol, const QString& name) {
+  auto* const button = new QToolButton;
+  button->setIcon(symbolIcon(symbol));
+  button->setAutoRaise(true);
+  button->setToolTip(name);
+  button->setAccessibleName(name);
+  return button;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Catalog& catalog, Appearance& appearance)
+    : catalog_(catalog),
+      appearance_(appearance),
+      filter_(catalog, glyph::filteredEntities()),
+      columns_(new QSplitter),
+      characterAndCard_(new QSplitter),
+      sidebar_(new Sidebar(catalog)),
+      card_(new CharacterCard(catalog)) {
+  setWindowTitle(QStringLiteral("Glyphorium"));
+  setAcceptDrops(true);
+  auto* const whole = new QHBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->setSizeConstraint(QLayout::SetNoConstraint);  // the narrow window has another arrangement
+  setMinimumSize(400, 360);
+  whole->addWidget(columns_);
+  for (QSplitter* const splitter : {columns_, characterAndCard_}) {
+    splitter->setChildrenCollapsible(false);
+    splitter->setHandleWidth(1);
+  }
+  characterAndCard_->addWidget(makeMiddle());
+  characterAndCard_->addWidget(card_);
+  characterAndCard_->setStretchFactor(0, 1);
+  columns_->addWidget(sidebar_);
+  columns_->addWidget(characterAndCard_);
+  columns_->setStretchFactor(1, 1);
+  makeActions();
+  connectCatalog();
+  restore();
+}
+
+MainWindow::~MainWindow() = default;
+
+QWidget* MainWindow::makeHeader() {
+  auto* const header = new QWidget;
+  auto* const row = new QHBoxLayout(header);
+  row->setContentsMargins(8, 8, 8, 8);
+  sidebarButton_ = newButton(Symbol::sidebar, tr("Groups (F9)"));
+  searchField_ = new QLineEdit;
+  searchField_->setPlaceholderText(tr("Search by name, meaning, code or character"));
+  searchField_->setClearButtonEnabled(true);
+  searchField_->addAction(symbolIcon(Symbol::search), QLineEdit::LeadingPosition);
+  searchField_->setAccessibleName(tr("Search"));
+  searchField_->setMinimumHeight(searchField_->fontMetrics().height() + 16);
+  searchField_->installEventFilter(this);
+  auto* const add = newButton(Symbol::add, tr("Add a character (Ctrl+N)"));
+  auto* const menuButton = newButton(Symbol::menu, tr("Menu (F10)"));
+  menuButton->setPopupMode(QToolButton::InstantPopup);
+  menu_ = new QMenu(this);
+  menuButton->setMenu(menu_);
+  for (QWidget* const widget : {static_cast<QWidget*>(sidebarButton_), static_cast<QWidget*>(searchField_),
+                                static_cast<QWidget*>(add), static_cast<QWidget*>(menuButton)}) {
+    row->addWidget(widget, widget == searchField_ ? 1 : 0);
+  }
+  auto* const openMenu = new QAction(this);
+  openMenu->setShortcut(Qt::Key_F10);
+  connect(openMenu, &QAction::triggered, menuButton, &QToolButton::showMenu);
+  QWidget::addAction(openMenu);
+  connect(sidebarButton_, &QToolButton::clicked, this, &MainWindow::toggleSidebar);
+  connect(add, &QToolButton::clicked, this, &MainWindow::addCharacter);
+  connect(searchField_, &QLineEdit::textChanged, &filter_, &CharacterFilter::setQuery);
+  return header;
+}
+
+QWidget* MainWindow::makeHitBar() {
+  hitBar_ = new QWidget;
+  auto* const row = new QHBoxLayout(hitBar_);
+  row->setContentsMargins(14, 0, 10, 6);
+  hits_ = new QLabel;
+  hits_->setForegroundRole(QPalette::PlaceholderText);
+  hits_->setTextFormat(Qt::PlainText);
+  hits_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  elsewhere_ = new QPushButton;
+  elsewhere_->setFlat(true);
+  row->addWidget(hits_, 1);
+  row->addWidget(elsewhere_);
+  connect(elsewhere_, &QPushButton::clicked, this, [this] {
+    chooseScope({Scope::Kind::all});
+    grid_->setFocus();
+  });
+  return hitBar_;
+}
+
+QWidget* MainWindow::makeMiddle() {
+  auto* const middle = new QWidget;
+  auto* const column = new QVBoxLayout(middle);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  grid_ = new CharacterGrid;
+  collector_ = new Collector;
+  toast_ = new Toast(grid_);
+  column->addWidget(makeHeader());
+  column->addWidget(makeHitBar());
+  column->addWidget(grid_, 1);
+  column->addWidget(collector_);
+  grid_->setFavouriteTest(
+      [this](const glyph::Entity& entity) { return catalog_.isFavourite(entity.computed.hex); });
+  // The card follows when the user pauses: each of its texts takes a moment, which typing and walking do not
+  // wait for.
+  cardTimer_.setSingleShot(true);
+  cardTimer_.setInterval(30);
+  connect(&cardTimer_, &QTimer::timeout, this, [this] { card_->setCharacter(grid_->currentCharacter()); });
+  connect(grid_, &CharacterGrid::currentChanged, &cardTimer_, qOverload<>(&QTimer::start));
+  connect(grid_, &CharacterGrid::activated, this, &MainWindow::copyCharacter);
+  connect(grid_, &CharacterGrid::collected, this, &MainWindow::collect);
+  connect(grid_, &CharacterGrid::menuRequested, this, &MainWindow::showMenu);
+  connect(grid_, &CharacterGrid::typed, this, [this](const QString& text) {
+    searchField_->setFocus();
+    searchField_->setText(text);
+  });
+  connect(grid_, &CharacterGrid::backspacePressed, this, [this] {
+    searchField_->setFocus();
+    searchField_->backspace();
+  });
+  connect(collector_, &Collector::copyRequested, this,
+          [this](const QString& text) { catalog_.copyText(text, collected_); });
+  connect(collector_, &Collector::left, this, [this] {
+    if (collector_->text().isEmpty()) collected_.clear();
+    grid_->setFocus();
+  });
+  return middle;
+}
+
+QAction* MainWindow::addAction(QMenu& menu, const QString& text, const QKeySequence& keys,
+                               void (MainWindow::*slot)()) {
+  QAction* const action = menu.addAction(text);
+  action->setShortcut(keys);
+  connect(action, &QAction::triggered, this, slot);
+  QWidget::addAction(action);  // the shortcut works while the menu is closed
+  return action;
+}
+
+void MainWindow::makeActions() {
+  QMenu& menu = *menu_;
+  addAction(menu, tr("&Search"), QKeySequence::Find, &MainWindow::focusSearch);
+  addAction(menu, tr("&Copy"), QKeySequence::Copy, &MainWindow::copyCurrent);
+  copyMenu_ = menu.addMenu(tr("Copy &as"));
+  int number = 1;
+  for (const glyph::CopyForm& form : glyph::copyForms()) {
+    QAction* const action = copyMenu_->addAction(formTitle(form), this, [this, &form] { copyAs(form); });
+    if (number <= 9) action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(number)));
+    ++number;
+    QWidget::addAction(action);
+    action->setData(fromUtf8(form.identifier));
+  }
+  addAction(menu, tr("Co&llect"), Qt::CTRL | Qt::Key_Return, &MainWindow::collectCurrent);
+  addAction(menu, tr("&Favourite"), Qt::CTRL | Qt::Key_D, &MainWindow::toggleFavourite);
+  menu.addSeparator();
+  addAction(menu, tr("&Add a character …"), QKeySequence::New, &MainWindow::addCharacter);
+  removeAction_ = addAction(menu, tr("&Remove from your own"), Qt::Key_Delete, &MainWindow::removeCharacter);
+  addAction(menu, tr("&Identify the clipboard’s text"), QKeySequence::Paste, &MainWindow::paste);
+  for (QAction* const action : {catalog_.undoStack().createUndoAction(this, tr("Undo:")),
+                                catalog_.undoStack().createRedoAction(this, tr("Redo:"))}) {
+    menu.addAction(action);
+    QWidget::addAction(action);
+  }
+  menu.actions().at(menu.actions().size() - 2)->setShortcut(QKeySequence::Undo);
+  menu.actions().last()->setShortcut(QKeySequence::Redo);
+  menu.addSeparator();
+  QMenu& view = *menu.addMenu(tr("&View"));
+  addAction(view, tr("&Groups"), Qt::Key_F9, &MainWindow::toggleSidebar);
+  addAction(view, tr("&Larger"), QKeySequence::ZoomIn, &MainWindow::zoomIn);
+  addAction(view, tr("&Smaller"), QKeySequence::ZoomOut, &MainWindow::zoomOut);
+  addAction(view, tr("&Usual size"), Qt::CTRL | Qt::Key_0, &MainWindow::zoomBack);
+  QAction* const forget = view.addAction(tr("Forget the &recently copied characters"));
+  connect(forget, &QAction::triggered, &catalog_, &Catalog::forgetRecentlyCopied);
+  menu.addSeparator();
+  addAction(menu, tr("&Preferences …"), Qt::CTRL | Qt::Key_Comma, &MainWindow::showPreferences);
+  addAction(menu, tr("&Keys and mouse"), Qt::Key_F1, &MainWindow::showShortcuts);
+  addAction(menu, tr("A&bout"), {}, &MainWindow::showAbout);
+  QAction* const quit = menu.addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+  QWidget::addAction(quit);
+  connect(&menu, &QMenu::aboutToShow, this, [this] {
+    const glyph::Entity* const entity = grid_->currentCharacter();
+    removeAction_->setEnabled(entity && catalog_.isAdded(entity->computed.hex));
+  });
+  connect(copyMenu_, &QMenu::aboutToShow, this, [this] {
+    const glyph::Entity* const entity = grid_->currentCharacter();
+    for (QAction* const action : copyMenu_->actions()) {
+      const glyph::CopyForm* const form = glyph::copyForm(action->data().toString().toStdString());
+      action->setVisible(entity && form && form->text(*entity));
+    }
+  });
+}
+
+void MainWindow::connectCatalog() {
+  connect(&filter_, &CharacterFilter::changed, this, &MainWindow::showCharacters);
+  connect(sidebar_, &Sidebar::scopeChosen, this, &MainWindow::chooseScope);
+  connect(card_, &CharacterCard::copyRequested, this, &MainWindow::copyAs);
+  connect(card_, &CharacterCard::favouriteRequested, this, &MainWindow::toggleFavourite);
+  connect(card_, &CharacterCard::collectRequested, this, &MainWindow::collectCurrent);
+  connect(card_, &CharacterCard::characterChosen, this, &MainWindow::chooseCharacter);
+  connect(card_, &CharacterCard::groupChosen, this, [this](const QString& group) {
+    const QString hex =
+        fromUtf8(grid_->currentCharacter() ? grid_->currentCharacter()->computed.hex.view() : "");
+    chooseScope({Scope::Kind::group, group.toStdString()});
+    chooseCharacter(hex);
+  });
+  connect(card_, &CharacterCard::addOrRemoveRequested, this, [this] {
+    const glyph::Entity* const entity = grid_->currentCharacter();
+    if (!entity) return;
+    const std::string hex = entity->computed.hex;
+    catalog_.isAdded(hex) ? catalog_.remove({hex}) : catalog_.add({hex});
+  });
+  const auto refresh = [this] {
+    card_->refresh();
+    grid_->viewport()->update();
+  };
+  connect(&catalog_, &Catalog::groupsChanged, this, refresh);
+  connect(&catalog_, &Catalog::favouritesChanged, this, refresh);
+  connect(&catalog_, &Catalog::copied, this,
+          [this](const QString& text) { toast_->showMessage(tr("Copied: %1").arg(text)); });
+  connect(&catalog_, &Catalog::settingsFailed, this,
+          [this](const QString& reason) { toast_->showMessage(reason, 6'000); });
+}
+
+void MainWindow::showCharacters(bool isSameView) {
+  grid_->setRulerShown(filter_.query().trimmed().isEmpty());
+  grid_->setCharacters(filter_.characters(), filter_.sections(), isSameView);
+  showHits();
+}
+
+void MainWindow::showHits() {
+  const int count = grid_->count();
+  const bool isSearch = !filter_.query().trimmed().isEmpty();
+  QString text = tr("%Ln characters", nullptr, count);
+  if (isSearch && filter_.isApproximate() && count > 0)
+    text = tr("Nothing matches exactly. %Ln similar characters:", nullptr, count);
+  const bool isPart = filter_.scope().kind != Scope::Kind::all;
+  hits_->setText(isPart ? filter_.scope().title() + QStringLiteral(" · ") + text : text);
+  elsewhere_->setVisible(isSearch && filter_.elsewhere() > 0);
+  elsewhere_->setText(tr("%Ln more in all characters", nullptr, static_cast<int>(filter_.elsewhere())));
+  QString empty;
+  if (isSearch) {
+    empty = tr("Nothing found for “%1”.").arg(filter_.query().trimmed());
+  } else if (filter_.scope().kind == Scope::Kind::displayed) {
+    empty = tr("No group has a check mark. Check groups at the left to see their characters together here.");
+  } else if (filter_.scope().kind == Scope::Kind::favourites) {
+    empty = tr("No favourites yet. Ctrl+D makes the current character a favourite.");
+  } else if (filter_.scope().kind == Scope::Kind::recentlyCopied) {
+    empty = tr("What you copy appears here.");
+  } else {
+    empty = tr("No characters yet. Ctrl+N adds a character by its code, its name or by pasting it.");
+  }
+  grid_->setEmptyText(empty);
+}
+
+void MainWindow::chooseScope(const Scope& scope) {
+  sidebar_->setScope(scope);
+  filter_.setScope(scope);
+  if (isNarrow_ && sidebar_->isVisible()) {
+    sidebar_->hide();
+    characterAndCard_->show();
+  }
+}
+
+// Shows the character in the grid: where it is, or else alone.
+void MainWindow::chooseCharacter(const QString& hex) {
+  const std::string code = hex.toStdString();
+  const auto isShown = [&] {
+    for (int i = 0; i < grid_->count(); ++i) {
+      if (grid_->character(i).computed.hex == code) {
+        grid_->setCurrent(i);
+        return true;
+      }
+    }
+    return false;
+  };
+  if (isShown()) return;
+  searchField_->clear();
+  if (isShown()) return;
+  chooseScope({Scope::Kind::all});
+  if (!isShown()) identify(fromUtf8(catalog_.entity(code).computed.symbol));
+}
+
+void MainWindow::copyCharacter(int index, Qt::KeyboardModifiers modifiers) {
+  if (modifiers & Qt::ControlModifier) return collect(index);
+  grid_->setCurrent(index);
+  modifiers& Qt::AltModifier ? copyOther() : copyCurrent();
+}
+
+void MainWindow::copyCurrent() {
+  copyAs(*glyph::copyForm("character"));
+}
+
+void MainWindow::copyOther() {
+  if (const glyph::Entity* const entity = grid_->currentCharacter()) copyAs(catalog_.otherForm(*entity));
+}
+
+void MainWindow::copyAs(const glyph::CopyForm& form) {
+  if (const glyph::Entity* const entity = grid_->currentCharacter())
+    catalog_.copy(glyph::Entity(*entity), form);
+}
+
+void MainWindow::collect(int index) {
+  const glyph::Entity& entity = grid_->character(index);
+  collected_.push_back(entity.computed.hex);
+  collector_->collect(fromUtf8(entity.computed.symbol));
+}
+
+void MainWindow::collectCurrent() {
+  if (grid_->current() >= 0) collect(grid_->current());
+}
+
+void MainWindow::toggleFavourite() {
+  if (const glyph::Entity* const entity = grid_->currentCharacter())
+    catalog_.toggleFavourite(entity->computed.hex);
+}
+
+void MainWindow::addCharacter() {
+  AddDialog dialog(catalog_, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  catalog_.add(dialog.hexes());
+  searchField_->clear();
+  chooseScope({Scope::Kind::group, std::string(glyph::customGroup)});
+  if (!dialog.hexes().empty()) chooseCharacter(QString::fromStdString(dialog.hexes().back()));
+  grid_->setFocus();
+}
+
+void MainWindow::removeCharacter() {
+  const glyph::Entity* const entity = grid_->currentCharacter();
+  if (entity && catalog_.isAdded(entity->computed.hex)) catalog_.remove({entity->computed.hex});
+}
+
+void MainWindow::paste() {
+  identify(QGuiApplication::clipboard()->text());
+}
+
+void MainWindow::identify(const QString& text) {
+  if (text.isEmpty()) return;
+  searchField_->clear();
+  chooseScope({Scope::Kind::text, text.toStdString()});
+  grid_->setFocus();
+}
+
+void MainWindow::showMenu(int, QPoint globalPosition) {
+  QMenu menu;
+  const glyph::Entity entity = *grid_->currentCharacter();
+  for (const glyph::CopyForm& form : glyph::copyForms()) {
+    const auto text = form.text(entity);
+    if (!text) continue;
+    const QString shown = form.identifier == "character" ? shownText(entity) : fromUtf8(*text);
+    const QString title = tr("Copy %1").arg(formTitle(form));
+    menu.addAction(
+        title + QLatin1Char('\t') + QString(shown.left(28)).replace(QLatin1Char('&'), QLatin1String("&&")),
+        this, [this, &form] { copyAs(form); });
+  }
+  menu.addSeparator();
+  menu.addAction(symbolIcon(Symbol::collect), tr("Collect"), this, &MainWindow::collectCurrent);
+  const bool isFavourite = catalog_.isFavourite(entity.computed.hex);
+  menu.addAction(symbolIcon(isFavourite ? Symbol::starFilled : Symbol::star),
+                 isFavourite ? tr("Remove from the favourites") : tr("Add to the favourites"), this,
+                 &MainWindow::toggleFavourite);
+  const std::string hex = entity.computed.hex;
+  if (catalog_.isAdded(hex)) {
+    menu.addAction(symbolIcon(Symbol::remove), tr("Remove from your own characters"), this,
+                   &MainWindow::removeCharacter);
+  } else {
+    menu.addAction(symbolIcon(Symbol::add), tr("Add to your own characters"), this,
+                   [this, hex] { catalog_.add({hex}); });
+  }
+  menu.exec(globalPosition);
+}
+
+void MainWindow::search(const QString& text) {
+  if (!text.isEmpty()) {
+    chooseScope({Scope::Kind::all});
+    searchField_->setText(text);
+  }
+  focusSearch();
+}
+
+void MainWindow::focusSearch() {
+  searchField_->setFocus();
+  searchField_->selectAll();
+}
+
+void MainWindow::escape() {
+  if (!searchField_->text().isEmpty()) return searchField_->clear();
+  grid_->setFocus();
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != searchField_ || event->type() != QEvent::KeyPress)
+    return QWidget::eventFilter(watched, event);
+  auto* const key = static_cast<QKeyEvent*>(event);
+  switch (key->key()) {
+    case Qt::Key_Escape:
+      escape();
+      return true;
+    case Qt::Key_Down:
+    case Qt::Key_PageDown:
+      grid_->setFocus();
+      return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (grid_->current() >= 0) copyCharacter(grid_->current(), key->modifiers());
+      return true;
+    default:
+      return false;
+  }
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasText() && !event->source()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  event->acceptProposedAction();
+  identify(event->mimeData()->text());
+}
+
+void MainWindow::zoomIn() {
+  grid_->setCellSize(grid_->cellSize() + 8);
+}
+
+void MainWindow::zoomOut() {
+  grid_->setCellSize(grid_->cellSize() - 8);
+}
+
+void MainWindow::zoomBack() {
+  grid_->setCellSize(CharacterGrid::commonCell);
+}
+
+void MainWindow::toggleSidebar() {
+  const bool show = !sidebar_->isVisible();
+  if (isNarrow_) {
+    characterAndCard_->setVisible(!show);
+  } else {
+    isSidebarWanted_ = show;
+  }
+  sidebar_->setVisible(show);
+  show ? sidebar_->setFocus() : grid_->setFocus();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  arrange();
+}
+
+void MainWindow::arrange() {
+  const bool narrow = width() < narrowWidth;
+  if (narrow == isNarrow_) return;
+  isNarrow_ = narrow;
+  characterAndCard_->setOrientation(narrow ? Qt::Vertical : Qt::Horizontal);
+  characterAndCard_->setSizes(narrow ? QList<int>{height() * 3 / 5, height() * 2 / 5}
+                                     : QList<int>{width() - 320, 320});
+  card_->setCompact(narrow);
+  sidebar_->setVisible(!narrow && isSidebarWanted_);
+  characterAndCard_->show();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  save();
+  QWidget::closeEvent(event);
+  Q_EMIT closed();
+}
+
+void MainWindow::restore() {
+  const WindowSettings settings = readWindowSettings();
+  resize(1'120, 740);
+  if (!settings.geometry.isEmpty()) restoreGeometry(settings.geometry);
+  columns_->setSizes({250, 870});
+  characterAndCard_->setSizes({590, 310});
+  if (!settings.columns.isEmpty()) columns_->restoreState(settings.columns);
+  if (!settings.card.isEmpty()) characterAndCard_->restoreState(settings.card);
+  isSidebarWanted_ = settings.hasSidebar;
+  sidebar_->setVisible(isSidebarWanted_);
+  if (settings.cellSize > 0) grid_->setCellSize(settings.cellSize);
+  chooseScope(Scope::fromText(settings.scope));
+  grid_->setFocus();
+}
+
+void MainWindow::save() const {
+  WindowSettings settings;
+  settings.geometry = saveGeometry();
+  if (!isNarrow_) {
+    settings.columns = columns_->saveState();
+    settings.card = characterAndCard_->saveState();
+  }
+  settings.hasSidebar = isSidebarWanted_;
+  settings.cellSize = grid_->cellSize();
+  settings.scope = filter_.scope().text();
+  writeWindowSettings(settings);
+}
+
+void MainWindow::showShortcuts() {
+  struct Row {
+    QString keys, effect;
+  };
+  const Row rows[] = {
+      {tr("Letters"), tr("search")},
+      {tr("Enter, double click"), tr("copy the character")},
+      {tr("Alt+Enter"), tr("copy its HTML reference")},
+      {tr("Ctrl+1 … Ctrl+9"), tr("copy another form")},
+      {tr("Space, Ctrl+Enter, Ctrl+click"), tr("collect, to copy several characters together")},
+      {tr("Ctrl+D"), tr("favourite")},
+      {tr("Ctrl+N"), tr("add a character of your own")},
+      {tr("Delete"), tr("remove a character of your own")},
+      {tr("Ctrl+V, drop a text"), tr("show the characters of a text")},
+      {tr("Ctrl+Z, Ctrl+Shift+Z"), tr("undo, redo")},
+      {tr("Ctrl++, Ctrl+-, Ctrl+wheel"), tr("zoom")},
+      {tr("Ctrl+F, Escape"), tr("into the search field, empty it")},
+      {tr("F9"), tr("show or hide the groups")},
+  };
+  QString table = QStringLiteral("<table cellspacing=\"6\">");
+  for (const Row& row : rows) {
+    table += QStringLiteral("<tr><td><b>%1</b>&nbsp;&nbsp;</td><td>%2</td></tr>").arg(row.keys, row.effect);
+  }
+  QMessageBox box(this);
+  box.setWindowTitle(tr("Keys and mouse"));
+  box.setText(table + QStringLiteral("</table>"));
+  box.exec();
+}
+
+void MainWindow::showPreferences() {
+  PreferencesDialog(appearance_, this).exec();
+}
+
+void MainWindow::showAbout() {
+  QMessageBox::about(
+      this, tr("About Glyphorium"),
+      QStringLiteral("<h3>Glyphorium %1</h3><p>%2</p><p>%3</p>")
+          .arg(fromUtf8(GlyphoriumVersionString),
+               tr("A character catalog: Unicode characters, HTML character entities and symbols."),
+               tr("Under the MIT licence. Data of the Unicode Character Database and of CLDR stands "
+                  "under the Unicode licence.")));
+}
+
+}  // namespace browser

@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: MIT
+#include "picker.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "catalog.h"
+#include "character_grid.h"
+#include "character_texts.h"
+#include "collector.h"
+#include "icons.h"
+#include "preferences.h"
+
+namespace browser {
+namespace {
+
+constexpr QSize pickerSize(440, 420);
+constexpr int pickerCell = 46;
+
+}  // namespace
+
+// The size is fixed, because tiling window managers let such windows float.
+Picker::Picker(Catalog& catalog)
+    : QWidget(nullptr, Qt::Dialog | Qt::WindowStaysOnTopHint | Qt::FramelessWindowHint),
+      catalog_(catalog),
+      filter_(catalog, list_),
+      field_(new QLineEdit),
+      grid_(new CharacterGrid),
+      name_(new QLabel),
+      keys_(new QLabel),
+      collector_(new Collector) {
+  setWindowTitle(tr("Pick a character"));
+  setFixedSize(pickerSize);
+  auto* const column = new QVBoxLayout(this);
+  column->setContentsMargins(1, 10, 1, 8);
+  column->setSpacing(6);
+  field_->setPlaceholderText(tr("Search by name, meaning, code or character"));
+  field_->setAccessibleName(tr("Search"));
+  field_->addAction(symbolIcon(Symbol::search), QLineEdit::LeadingPosition);
+  field_->setMinimumHeight(field_->fontMetrics().height() + 16);
+  field_->installEventFilter(this);
+  grid_->setRulerShown(false);
+  grid_->setCellSize(pickerCell);
+  grid_->setEmptyText(tr("Nothing found."));
+  grid_->setFavouriteTest(
+      [this](const glyph::Entity& entity) { return catalog_.isFavourite(entity.computed.hex); });
+  name_->setTextFormat(Qt::PlainText);
+  name_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  keys_->setForegroundRole(QPalette::PlaceholderText);
+  keys_->setText(tr("Enter: copy · Ctrl+Enter: collect · Alt+Enter: other form"));
+  QFont small = keys_->font();
+  small.setPointSizeF(small.pointSizeF() * 0.86);
+  keys_->setFont(small);
+  const auto inset = [&](QWidget* widget) {
+    auto* const row = new QHBoxLayout;
+    row->setContentsMargins(12, 0, 12, 0);
+    row->addWidget(widget);
+    column->addLayout(row);
+  };
+  inset(field_);
+  column->addWidget(grid_, 1);
+  column->addWidget(collector_);
+  inset(name_);
+  inset(keys_);
+  connect(field_, &QLineEdit::textChanged, &filter_, &CharacterFilter::setQuery);
+  connect(&filter_, &CharacterFilter::changed, this, &Picker::showCharacters);
+  connect(grid_, &CharacterGrid::currentChanged, this, &Picker::showCurrent);
+  connect(grid_, &CharacterGrid::activated, this, &Picker::pick);
+  connect(grid_, &CharacterGrid::clicked, this, [this](int index) { pick(index, Qt::NoModifier); });
+  connect(grid_, &CharacterGrid::collected, this, &Picker::collect);
+  connect(grid_, &CharacterGrid::typed, this, [this](const QString& text) {
+    field_->setFocus();
+    field_->insert(text);
+  });
+  connect(grid_, &CharacterGrid::backspacePressed, this, [this] {
+    field_->setFocus();
+    field_->backspace();
+  });
+  connect(collector_, &Collector::copyRequested, this, [this](const QString& text) {
+    catalog_.copyText(text, collected_);
+    finish(text);
+  });
+  connect(collector_, &Collector::left, field_, qOverload<>(&QWidget::setFocus));
+}
+
+void Picker::open() {
+  collected_.clear();
+  collector_->clear();
+  field_->clear();
+  filter_.setScope({Scope::Kind::picker});
+  const QPoint pointer = QCursor::pos();
+  const QScreen* const screen = QGuiApplication::screenAt(pointer);
+  const QRect area = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+  move(std::clamp(pointer.x() - 40, area.left(), std::max(area.left(), area.right() - width())),
+       std::clamp(pointer.y() + 12, area.top(), std::max(area.top(), area.bottom() - height())));
+  show();
+  raise();
+  activateWindow();
+  field_->setFocus();
+}
+
+void Picker::showCharacters() {
+  grid_->setCharacters(filter_.characters(), filter_.sections(), false);
+  showCurrent();
+}
+
+void Picker::showCurrent() {
+  const glyph::Entity* const entity = grid_->currentCharacter();
+  const QString text = entity ? nameText(*entity) + QStringLiteral("  ") + codeText(*entity) : QString();
+  name_->setText(name_->fontMetrics().elidedText(text, Qt::ElideMiddle, width() - 30));
+}
+
+void Picker::pick(int index, Qt::KeyboardModifiers modifiers) {
+  if (modifiers & Qt::ControlModifier) return collect(index);
+  // Enter takes the collection, if there is one.
+  if (!collector_->text().isEmpty() && !(modifiers & Qt::AltModifier)) {
+    Q_EMIT collector_->copyRequested(collector_->text());
+    return;
+  }
+  const glyph::Entity entity = grid_->character(index);
+  const glyph::CopyForm* form = glyph::copyForm("character");
+  if (modifiers & Qt::AltModifier) form = &catalog_.otherForm(entity);
+  const auto text = form->text(entity);
+  if (!text) return;
+  catalog_.copy(entity, *form);
+  finish(fromUtf8(*text));
+}
+
+void Picker::collect(int index) {
+  const glyph::Entity& entity = grid_->character(index);
+  collected_.push_back(entity.computed.hex);
+  collector_->collect(fromUtf8(entity.computed.symbol));
+}
+
+void Picker::finish(const QString& text) {
+  hide();
+  Q_EMIT closed(text);
+}
+
+bool Picker::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != field_ || event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+  auto* const key = static_cast<QKeyEvent*>(event);
+  switch (key->key()) {
+    case Qt::Key_Down:
+    case Qt::Key_PageDown:
+    case Qt::Key_Tab:
+      grid_->setFocus();
+      return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (grid_->current() >= 0) pick(grid_->current(), key->modifiers());
+      return true;
+    default:
+      return false;
+  }
+}
+
+void Picker::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) return finish({});
+  const glyph::Entity* const entity = grid_->currentCharacter();
+  if (entity && event->key() == Qt::Key_D && event->modifiers() == Qt::ControlModifier) {
+    return catalog_.toggleFavourite(entity->computed.hex);
+  }
+  QWidget::keyPressEvent(event);
+}
+
+void Picker::closeEvent(QCloseEvent* event) {
+  QWidget::closeEvent(event);
+  Q_EMIT closed({});
+}
+
+void Picker::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  // A click beside the window closes it, unless the user has collected something.
+  const bool isLeft = event->type() == QEvent::ActivationChange && isVisible() && !isActiveWindow();
+  if (isLeft && collector_->text().isEmpty() && !QGuiApplication::focusWindow()) finish({});
+}
+
+void Picker::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().window());
+  QColor line = palette().color(QPalette::Text);
+  line.setAlphaF(0.25F);
+  painter.setPen(line);
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+}  // namespace browser

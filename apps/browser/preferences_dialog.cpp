@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "preferences_dialog.h"
+
+#include <glyphorium/glyphorium.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFontDatabase>
+#include <QFormLayout>
+#include <QLabel>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "appearance.h"
+#include "character_texts.h"
+#include "glyph_renderer.h"
+#include "preferences.h"
+#include "typing.h"
+
+namespace browser {
+namespace {
+
+QLabel* newText(const QString& text) {
+  auto* const label = new QLabel(text);
+  label->setWordWrap(true);
+  label->setTextInteractionFlags(Qt::TextBrowserInteraction);
+  return label;
+}
+
+// What each desktop needs to start the picker with a key.
+QString keyBindings() {
+  struct Desktop {
+    QString name, how;
+  };
+  const QString command = QStringLiteral("<code>glyphorium-browser --pick</code>");
+  const Desktop desktops[] = {
+      {QStringLiteral("GNOME"),
+       PreferencesDialog::tr("Settings › Keyboard › View and Customise Shortcuts › Custom Shortcuts: "
+                             "add a shortcut with the command %1")
+           .arg(command)},
+      {QStringLiteral("KDE"),
+       PreferencesDialog::tr("System Settings › Shortcuts › Add Command: %1").arg(command)},
+      {QStringLiteral("Sway, i3"),
+       PreferencesDialog::tr("a line in the configuration: %1")
+           .arg(QStringLiteral("<code>bindsym $mod+period exec glyphorium-browser --pick</code>"))},
+  };
+  QString text = QStringLiteral("<p>%1</p><ul style=\"margin-left:-24px\">")
+                     .arg(PreferencesDialog::tr("A key opens the picker over every window:"));
+  for (const Desktop& desktop : desktops) {
+    text += QStringLiteral("<li><b>%1</b>: %2</li>").arg(desktop.name, desktop.how);
+  }
+  return text + QStringLiteral("</ul>");
+}
+
+}  // namespace
+
+PreferencesDialog::PreferencesDialog(Appearance& appearance, QWidget* parent) : QDialog(parent) {
+  setWindowTitle(tr("Preferences"));
+  auto* const column = new QVBoxLayout(this);
+  auto* const pages = new QTabWidget;
+  pages->setDocumentMode(true);
+  pages->addTab(makeGeneralPage(appearance), tr("General"));
+  pages->addTab(makePickerPage(), tr("Picker"));
+  pages->addTab(makeSearchPage(), tr("Desktop search"));
+  auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  column->addWidget(pages);
+  column->addWidget(buttons);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  resize(520, 400);
+}
+
+QWidget* PreferencesDialog::makeGeneralPage(Appearance& appearance) {
+  auto* const page = new QWidget;
+  auto* const form = new QFormLayout(page);
+  form->setContentsMargins(12, 16, 12, 12);
+  form->setVerticalSpacing(12);
+
+  auto* const theme = new QComboBox;
+  theme->addItems({tr("Like the desktop"), tr("Light"), tr("Dark")});
+  theme->setCurrentIndex(static_cast<int>(Appearance::chosen()));
+  connect(theme, &QComboBox::activated, this, [&appearance](int index) {
+    const auto chosen = static_cast<Appearance::Theme>(index);
+    Appearance::choose(chosen);
+    appearance.setTheme(chosen);
+  });
+  form->addRow(tr("&Theme:"), theme);
+
+  auto* const font = new QComboBox;
+  font->addItem(tr("Chosen for each character"));
+  font->addItems(QFontDatabase::families());
+  font->setCurrentIndex(std::max(0, font->findText(preferences::glyphFamily(), Qt::MatchExactly)));
+  font->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  connect(font, &QComboBox::activated, this, [font](int index) {
+    const QString family = index == 0 ? QString() : font->itemText(index);
+    preferences::setGlyphFamily(family);
+    GlyphRenderer::shared().setFamily(family);
+  });
+  form->addRow(tr("&Font of the characters:"), font);
+
+  auto* const tone = new QComboBox;
+  for (const glyph::SkinTone one : glyph::allSkinTones) {
+    tone->addItem(QString::fromStdString(glyph::withSkinTone("👋", one)));
+  }
+  tone->setCurrentIndex(static_cast<int>(glyph::preferredSkinTone()));
+  connect(tone, &QComboBox::activated, this, [](int index) {
+    glyph::setPreferredSkinTone(glyph::allSkinTones[static_cast<std::size_t>(index)]);
+  });
+  form->addRow(tr("&Skin tone of emoji:"), tone);
+
+  auto* const other = new QComboBox;
+  for (const glyph::CopyForm& one : glyph::copyForms()) {
+    if (one.identifier != "character") other->addItem(formTitle(one), fromUtf8(one.identifier));
+  }
+  other->setCurrentIndex(other->findData(QString::fromStdString(preferences::otherForm())));
+  connect(other, &QComboBox::activated, this,
+          [other] { preferences::setOtherForm(other->currentData().toString().toStdString()); });
+  form->addRow(tr("&Alt+Enter copies:"), other);
+  return page;
+}
+
+QWidget* PreferencesDialog::makePickerPage() {
+  auto* const page = new QWidget;
+  auto* const column = new QVBoxLayout(page);
+  column->setContentsMargins(12, 16, 12, 12);
+  column->setSpacing(10);
+  auto* const types = new QCheckBox(tr("&Type the character into the window that had the focus"));
+  types->setChecked(preferences::pickerTypes());
+  connect(types, &QCheckBox::toggled, this, &preferences::setPickerTypes);
+  column->addWidget(types);
+  if (typingTool().program.isEmpty()) {
+    column->addWidget(
+        newText(tr("For this, install the package xdotool (X11) or wtype (Sway and other wlroots desktops). "
+                   "Without it, Ctrl+V pastes the character.")));
+  }
+  auto* const starts = new QCheckBox(tr("&Start with the desktop, so that the picker opens at once"));
+  starts->setChecked(preferences::startsWithDesktop());
+  connect(starts, &QCheckBox::toggled, this, [starts](bool on) {
+    if (!preferences::setStartsWithDesktop(on)) starts->setChecked(preferences::startsWithDesktop());
+  });
+  column->addWidget(starts);
+  column->addWidget(newText(keyBindings()));
+  column->addStretch();
+  return page;
+}
+
+QWidget* PreferencesDialog::makeSearchPage() {
+  auto* const page = new QWidget;
+  auto* const column = new QVBoxLayout(page);
+  column->setContentsMargins(12, 16, 12, 12);
+  column->setSpacing(10);
+  column->addWidget(
+      newText(tr("GNOME Shell and KRunner find characters when glyphorium-search-provider is installed.")));
+  auto* const whole = new QCheckBox(tr("The desktop’s search finds &all characters, not only your own"));
+  whole->setChecked(glyph::desktopSearchesCatalog());
+  connect(whole, &QCheckBox::toggled, this, [](bool on) { glyph::setDesktopSearchesCatalog(on); });
+  auto* const index = new QCheckBox(tr("The desktop’s search finds the characters that you &add"));
+  index->setChecked(glyph::EntityUserData::useSpotlightExtension());
+  connect(index, &QCheckBox::toggled, this, [](bool on) {
+    glyph::EntityUserData::setUseSpotlightExtension(on);
+    const std::vector<glyph::Entity>& added = glyph::glyphorium().allCustomEntities;
+    on ? glyph::toolKit().addToSpotlight(added) : glyph::toolKit().removeFromSpotlight(added);
+  });
+  column->addWidget(whole);
+  column->addWidget(index);
+  column->addStretch();
+  return page;
+}
+
+}  // namespace browser

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+class QFormLayout;
+
+namespace browser {
+
+class Appearance;
+
+/// The user's choices about windows, the picker and the desktop's search. Each takes effect at once.
+class PreferencesDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  PreferencesDialog(Appearance& appearance, QWidget* parent);
+
+ private:
+  QWidget* makeGeneralPage(Appearance& appearance);
+  QWidget* makePickerPage();
+  QWidget* makeSearchPage();
+};
+
+}  // namespace browser

@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: MIT
+#include "main_window.h"
+
+#include <gmock/gmock.h>
+
+#include <QAccessible>
+#include <QAction>
+#include <QLabel>
+#include <QToolButton>
+#include <QTranslator>
+
+#include "appearance.h"
+#include "browser_fixture.h"
+#include "character_card.h"
+#include "glyph_renderer.h"
+#include "picker.h"
+#include "settings_watch.h"
+#include "sidebar.h"
+
+namespace browser {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+
+struct MainWindowTest : BrowserTest {
+  MainWindowTest() {
+    window.resize(1'100, 700);
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+  }
+
+  std::string current() const { return grid.currentCharacter() ? grid.currentCharacter()->computed.hex : ""; }
+  void type(const QString& text) {
+    field.clear();
+    // Keys can be pressed only for ASCII; other text comes from an input method, as one.
+    text.toLatin1() == text.toUtf8() ? QTest::keyClicks(&field, text) : field.insert(text);
+  }
+  void choose(const Scope& scope) {
+    sidebar.setCurrentIndex(static_cast<ScopeModel*>(sidebar.model())->indexOf(scope));
+  }
+  void check(const std::string& group) {
+    const QModelIndex row = static_cast<ScopeModel*>(sidebar.model())->indexOf({Scope::Kind::group, group});
+    sidebar.scrollTo(row);
+    const QRect area = sidebar.visualRect(row);
+    QTest::mouseClick(sidebar.viewport(), Qt::LeftButton, {}, {area.left() + 20, area.center().y()});
+  }
+
+  Catalog catalog;
+  Appearance appearance{Appearance::Theme::light};
+  MainWindow window{catalog, appearance};
+  QLineEdit& field = *window.findChild<QLineEdit*>();
+  CharacterGrid& grid = *window.findChild<CharacterGrid*>();
+  Sidebar& sidebar = *window.findChild<Sidebar*>();
+};
+
+TEST_F(MainWindowTest, FindsWalksAndCopies) {
+  QTest::keyClick(&grid, 'a');  // typing anywhere searches
+  QTest::keyClicks(&field, "rrow");
+  EXPECT_EQ(field.text(), "arrow");
+  EXPECT_EQ(current(), "2192");
+  QTest::keyClick(&field, Qt::Key_Return);
+  EXPECT_EQ(clipboardText(), "→");
+  QTest::keyClick(&field, Qt::Key_Down);
+  QTest::keyClick(&grid, Qt::Key_Right);
+  const std::string second = current();
+  EXPECT_NE(second, "2192");
+  QTest::keyClick(&grid, Qt::Key_Return);
+  EXPECT_EQ(clipboardText().toStdString(), grid.currentCharacter()->computed.symbol);
+  type("&rarr;");
+  QTest::keyClick(&field, Qt::Key_Return, Qt::AltModifier);
+  EXPECT_EQ(clipboardText(), "&rarr;");
+  EXPECT_THAT(storedList("recentlyCopiedCharacters"), ElementsAre("2192", second));
+  choose({Scope::Kind::recentlyCopied});
+  EXPECT_EQ(grid.count(), 1) << "the words still restrict the list";
+  QTest::keyClick(&field, Qt::Key_Escape);
+  EXPECT_EQ(grid.count(), 2);
+}
+
+TEST_F(MainWindowTest, SearchStaysInItsScopeAndOffersTheRest) {
+  choose({Scope::Kind::group, "math operators"});
+  type("arrow");
+  for (int i = 0; i < grid.count(); ++i) EXPECT_EQ(grid.character(i).computed.group, "math operators");
+  const int inScope = grid.count();
+  EXPECT_EQ(glyph::filteredEntities()->size(), static_cast<std::size_t>(inScope));
+  choose({Scope::Kind::all});
+  EXPECT_GT(grid.count(), inScope + 300);
+  for (const auto& [words, hex] :
+       {std::pair{"U+4E00", "4e00"}, {"melting face", "1fae0"}, {"🇩🇪", "1f1e9,1f1ea"}}) {
+    type(words);
+    EXPECT_EQ(current(), hex) << "beyond the catalog: " << words;
+  }
+  type("U+1D6A5");
+  EXPECT_EQ(current(), "1d6a5");
+  type("zzzzqqqq");
+  EXPECT_EQ(grid.count(), 0);
+  EXPECT_EQ(grid.current(), -1);
+}
+
+TEST_F(MainWindowTest, CheckedGroupsAreDisplayedAndStored) {
+  choose({Scope::Kind::displayed});
+  EXPECT_EQ(grid.count(), 0);
+  check("arrows");
+  check("box drawing");
+  QTRY_COMPARE(grid.count(), 112 + 128);
+  EXPECT_THAT(storedList("displayedGroups"), ElementsAre("custom", "arrows", "box drawing"));
+  check("arrows");
+  QTRY_COMPARE(grid.count(), 128);
+}
+
+TEST_F(MainWindowTest, OwnCharactersAndFavouritesCanBeUndone) {
+  catalog.add({"21d0", "1d6a5"});
+  EXPECT_THAT(storedList("customAddedEntities"), ElementsAre("21d0", "1d6a5"));
+  choose({Scope::Kind::group, "custom"});
+  EXPECT_EQ(grid.count(), 2);
+  grid.setCurrent(0);
+  QTest::keyClick(&grid, Qt::Key_D, Qt::ControlModifier);
+  EXPECT_THAT(storedList("favouriteCharacters"), ElementsAre("21d0"));
+  QTest::keyClick(&grid, Qt::Key_Delete);
+  EXPECT_THAT(storedList("customAddedEntities"), ElementsAre("1d6a5"));
+  EXPECT_EQ(grid.count(), 1);
+  for (int i = 0; i < 2; ++i) QTest::keyClick(&grid, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_THAT(storedList("customAddedEntities"), Contains("21d0"));
+  EXPECT_TRUE(storedList("favouriteCharacters").empty());
+}
+
+TEST_F(MainWindowTest, FollowsTheCommandLine) {
+  SettingsWatch watch;
+  QObject::connect(&watch, &SettingsWatch::changed, &catalog, &Catalog::readSettings);
+  choose({Scope::Kind::displayed});
+  const std::string cli = PROGRAM;
+  ASSERT_EQ(glyph::runProgram(cli + " display add arrows >&2").exitCode, 0);
+  QTRY_COMPARE(grid.count(), 112);
+  ASSERT_EQ(glyph::runProgram(cli + " add 1d6a5 >&2").exitCode, 0);
+  QTRY_COMPARE(grid.count(), 113);
+  EXPECT_TRUE(catalog.isAdded("1d6a5"));
+}
+
+TEST_F(MainWindowTest, IsReadableForAssistiveTechnology) {
+  type("leftwards double arrow");
+  QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(&grid);
+  ASSERT_EQ(list->childCount(), grid.count());
+  QAccessibleInterface* const cell = list->child(0);
+  EXPECT_EQ(cell->text(QAccessible::Name), "Leftwards Double Arrow");
+  EXPECT_EQ(cell->text(QAccessible::Description), "U+21D0");
+  EXPECT_TRUE(cell->state().selected);
+  EXPECT_EQ(list->indexOfChild(cell), 0);
+  cell->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(clipboardText(), "⇐");
+  for (const QWidget* const widget : window.findChildren<QWidget*>()) {
+    const bool isControl = widget->focusPolicy() & Qt::TabFocus && widget->isVisible();
+    const QAccessibleInterface* const interface =
+        QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+    const bool isText = qobject_cast<const QLabel*>(widget);
+    if (!isControl || isText || widget->objectName().startsWith("qt_")) continue;
+    EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty()) << widget->metaObject()->className();
+  }
+}
+
+TEST_F(MainWindowTest, RemembersHowItWasLeft) {
+  choose({Scope::Kind::group, "arrows"});
+  grid.setCellSize(80);
+  window.close();
+  MainWindow next(catalog, appearance);
+  EXPECT_EQ(next.findChild<CharacterGrid*>()->count(), 112);
+  EXPECT_EQ(next.findChild<CharacterGrid*>()->cellSize(), 80);
+}
+
+TEST_F(MainWindowTest, DrawsEachCharacterOrABoxForIt) {
+  GlyphRenderer& renderer = GlyphRenderer::shared();
+  const auto drawn = [&](const glyph::Entity& entity) {
+    const GlyphRequest request = cellRequest(entity, 64, 1);
+    const GlyphPicture* picture = nullptr;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return (picture = renderer.picture(request)) != nullptr; }));
+    return *picture;
+  };
+  const GlyphPicture letter = drawn(catalog.entity("0041"));
+  EXPECT_FALSE(letter.image.isNull());
+  EXPECT_TRUE(QRectF(0, 0, 64, 64).contains(QRectF(letter.corner, letter.image.size())));
+  EXPECT_TRUE(drawn(glyph::entityOf(0x10F000)).image.isNull());
+  for (const char* const invisible : {"0020", "200d", "000a", "feff"}) {
+    EXPECT_TRUE(isShownAsBox(catalog.entity(invisible))) << invisible;
+  }
+  EXPECT_EQ(cellRequest(catalog.entity("0301"), 64, 1).text, QString::fromUtf8("◌\u0301"));
+}
+
+TEST_F(MainWindowTest, PickerCopiesAndCloses) {
+  window.hide();  // its shortcuts must not answer
+  catalog.toggleFavourite("21d0");
+  Picker picker(catalog);
+  QString picked;
+  QObject::connect(&picker, &Picker::closed, [&](const QString& text) { picked = text; });
+  auto& pickerField = *picker.findChildren<QLineEdit*>().front();
+  auto& pickerGrid = *picker.findChild<CharacterGrid*>();
+  picker.open();
+  EXPECT_EQ(pickerGrid.currentCharacter()->computed.hex, "21d0") << "favourites come first";
+  QTest::keyClicks(&pickerField, "euro");
+  QTest::keyClick(&pickerField, Qt::Key_Return);
+  EXPECT_EQ(picked, "€");
+  EXPECT_FALSE(picker.isVisible());
+  picker.open();
+  QTest::keyClick(&pickerField, Qt::Key_Return, Qt::ControlModifier);
+  QTest::keyClicks(&pickerField, "->");
+  QTest::keyClick(&pickerField, Qt::Key_Return, Qt::ControlModifier);
+  QTest::keyClick(&pickerField, Qt::Key_Return);
+  EXPECT_EQ(picked, "⇐→");
+  EXPECT_EQ(clipboardText(), "⇐→");
+  EXPECT_THAT(storedList("recentlyCopiedCharacters"), ElementsAre("2192", "21d0", "20ac"));
+}
+
+// In each language all texts are there, and the window still fits on a narrow screen.
+TEST_F(BrowserTest, SpeaksFiveLanguages) {
+  for (const char* const language : {"en", "de", "fr", "it", "es"}) {
+    QTranslator translator;
+    const bool isSource = std::string_view(language) == "en";
+    ASSERT_TRUE(isSource || translator.load(QString("glyphorium_") + language, ":/translations")) << language;
+    QApplication::installTranslator(&translator);
+    Catalog catalog;
+    Appearance appearance(Appearance::Theme::light);
+    MainWindow window(catalog, appearance);
+    window.resize(480, 700);
+    window.show();
+    EXPECT_EQ(window.width(), 480) << language;
+    EXPECT_EQ(window.findChild<QLineEdit*>()->placeholderText().startsWith("Search by"), isSource)
+        << language;
+    Picker picker(catalog);
+    for (const QLabel* const label : picker.findChildren<QLabel*>()) {
+      EXPECT_LE(label->minimumSizeHint().width(), picker.width() - 24)
+          << language << ": " << label->text().toStdString();
+    }
+    QApplication::removeTranslator(&translator);
+  }
+}
+
+}  // namespace
+}  // namespace browser
