@@ -10,7 +10,7 @@ add_library(glyphorium_warnings INTERFACE)
 target_compile_options(glyphorium_warnings INTERFACE
   $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow>)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  # GCC 12 warns of overlapping copies inside std::string, wrongly (GCC bug 105651).
+  # GCC 12 falsely warns of overlapping copies inside std::string (GCC bug 105651).
   target_compile_options(glyphorium_warnings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)
 endif()
 

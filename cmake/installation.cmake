@@ -1,5 +1,5 @@
 # Installs the library and the files by which find_package(Glyphorium) and pkg-config find it. The component "runtime"
-# is what programs need to run, "development" what is needed to build them.
+# contains what programs need to run, and "development" what is needed to build them.
 include(CMakePackageConfigHelpers)
 
 install(TARGETS glyphorium EXPORT GlyphoriumTargets
@@ -27,7 +27,8 @@ write_basic_package_version_file(
 install(FILES ${PROJECT_BINARY_DIR}/GlyphoriumConfig.cmake ${PROJECT_BINARY_DIR}/GlyphoriumConfigVersion.cmake
         DESTINATION ${package_directory} COMPONENT development)
 
-# The prefix is relative to the file, so that the installed folder may be moved and the prefix chosen when installing.
+# The prefix is relative to the file. So the prefix can be chosen during installation, and the installed folder can be
+# moved later.
 set(pkgconfig_directory ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH pkgconfig_prefix ${CMAKE_INSTALL_PREFIX}/${pkgconfig_directory} ${CMAKE_INSTALL_PREFIX})
 configure_file(${CMAKE_CURRENT_LIST_DIR}/glyphorium.pc.in ${PROJECT_BINARY_DIR}/glyphorium.pc @ONLY)
