@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: MIT
-// Measures decoding and joining the catalog, compared with only parsing the same bytes.
+// Measures configuring the catalog, and decoding and joining its tables, compared with only parsing or
+// copying the same bytes.
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 #include <simdjson.h>
 
+#include "benchmarks/fresh_process.h"
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/data/embedded_texts.h"
 #include "glyphorium/data/name_table.h"
 #include "glyphorium/entity/decoding.h"
 #include "glyphorium/entity/enrichment.h"
 #include "glyphorium/entity/table_repair.h"
+#include "glyphorium/services/diagnostics/diagnostics.h"
+#include "glyphorium/services/settings/memory_settings_store.h"
 #include "glyphorium/state/structured_unicodes.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"
 
@@ -44,7 +48,63 @@ void bareParse(benchmark::State& state) {
 }
 BENCHMARK(bareParse)->Unit(benchmark::kMillisecond);
 
-// Decodes the tables in the same steps as configure().
+// The lower limit of any pass over the tables: copying their bytes.
+void copyBytes(benchmark::State& state) {
+  const auto tables = configuredTables();
+  std::string copy;
+  for (auto _ : state) {
+    copy.clear();
+    for (const std::string_view table : tables) copy += table;
+    benchmark::DoNotOptimize(copy.data());
+  }
+  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(copy.size()));
+}
+BENCHMARK(copyBytes)->Unit(benchmark::kMillisecond);
+
+// Configures with no displayed group, as a new user does, or with all groups.
+void configure(bool allGroups) {
+  const auto settings = std::make_shared<MemorySettingsStore>();
+  if (allGroups) {
+    std::vector<std::string> groups;
+    for (const EmbeddedText& text : embeddedTexts()) {
+      if (text.configured) groups.emplace_back(text.group);
+    }
+    settings->set(UserInfluencedEntityKey::displayedGroups.rawValue(), groups);
+  }
+  setSettingsStore(settings);
+  glyphorium().configure();
+}
+
+void configureAgain(benchmark::State& state, bool allGroups) {
+  for (auto _ : state) configure(allGroups);
+}
+BENCHMARK_CAPTURE(configureAgain, noGroups, false)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(configureAgain, allGroups, true)->Unit(benchmark::kMillisecond);
+
+const Actions actions{
+    {"nothing", [] {}},
+    {"bareParse",
+     [] {
+       simdjson::dom::parser parser;
+       for (const EmbeddedText& text : embeddedTexts()) {
+         const bool isTable = text.configured || text.text.data() == additionalJson.data();
+         if (isTable)
+           benchmark::DoNotOptimize(parser.parse(text.text.data(), text.text.size(), false).error());
+       }
+     }},
+    {"configure", [] { configure(false); }},
+    {"configureAllGroups", [] { configure(true); }},
+    {"oneEntity", [] { benchmark::DoNotOptimize(buildInEntity(4000)); }}};
+constexpr int processes = 20;
+BENCHMARK_CAPTURE(inFreshProcess, nothing, "nothing")->UseManualTime()->Iterations(processes);
+BENCHMARK_CAPTURE(inFreshProcess, bareParse, "bareParse")->UseManualTime()->Iterations(processes);
+BENCHMARK_CAPTURE(inFreshProcess, configure, "configure")->UseManualTime()->Iterations(processes);
+BENCHMARK_CAPTURE(inFreshProcess, configureAllGroups, "configureAllGroups")
+    ->UseManualTime()
+    ->Iterations(processes);
+BENCHMARK_CAPTURE(inFreshProcess, oneEntity, "oneEntity")->UseManualTime()->Iterations(processes);
+
+// Decodes the tables as a host decodes tables of its own.
 std::vector<Entity> decodedRows() {
   std::vector<Entity> records;
   records.reserve(17532);
@@ -128,6 +188,8 @@ BENCHMARK(decodeNameTable)->Unit(benchmark::kMicrosecond);
 }  // namespace
 
 int main(int argc, char** argv) {
+  setDiagnosticsSink([](std::string_view) {});
+  if (runAction(argc, argv, actions)) return 0;
   // The parser keeps its memory, so let malloc() keep freed memory too. Otherwise the comparison would mainly
   // measure the time that the kernel needs for new pages. (A new process needs about 1 ms for 4 MB, once.)
   mallopt(M_TRIM_THRESHOLD, 1 << 30);

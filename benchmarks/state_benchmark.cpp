@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Measures building the displayed list and adding a character. For comparison, it also measures configuring
-// the catalog, and a plain sort and copy.
+// Measures building the displayed list and adding characters, and how both costs grow. For comparison, it
+// also measures a plain sort and copy, and writing to the settings.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -12,6 +12,8 @@
 #include "glyphorium/services/settings/memory_settings_store.h"
 #include "glyphorium/services/settings/sqlite_settings_store.h"
 #include "glyphorium/state/selected_entities.h"
+#include "glyphorium/state/structured_unicodes.h"
+#include "glyphorium/text/unicode_text.h"
 
 namespace {
 
@@ -33,17 +35,16 @@ void displayAllGroups(Glyphorium& catalog) {
   catalog.setSelectedGroups(allBuildInEntityGroups());
 }
 
-void configure(benchmark::State& state) {
-  displayAllGroups(configuredCatalog());
-  for (auto _ : state) configuredCatalog().configure();
+// The argument is the number of displayed groups. With all groups, compare with plainSortAndCopy.
+void buildGroups(benchmark::State& state) {
+  Glyphorium& catalog = configuredCatalog();
+  std::vector<std::string> groups = allBuildInEntityGroups();
+  groups.resize(static_cast<std::size_t>(state.range(0)) + 1);  // the first group is "custom", which is empty
+  catalog.setSelectedGroups(groups);
+  for (auto _ : state) catalog.setSelectedEntities();
+  state.counters["entities"] = static_cast<double>(selectedEntities()->size());
 }
-BENCHMARK(configure)->Unit(benchmark::kMillisecond);
-
-void buildAllGroups(benchmark::State& state) {
-  displayAllGroups(configuredCatalog());
-  for (auto _ : state) configuredCatalog().setSelectedEntities();
-}
-BENCHMARK(buildAllGroups)->Unit(benchmark::kMillisecond);
+BENCHMARK(buildGroups)->Arg(1)->Arg(10)->Arg(112)->Unit(benchmark::kMicrosecond);
 
 // The lower limit of the time: the same entities are only sorted and copied.
 void plainSortAndCopy(benchmark::State& state) {
@@ -61,26 +62,85 @@ void plainSortAndCopy(benchmark::State& state) {
     selectedEntities() = std::move(sorted);
   }
 }
-BENCHMARK(plainSortAndCopy)->Unit(benchmark::kMillisecond);
+BENCHMARK(plainSortAndCopy)->Unit(benchmark::kMicrosecond);
 
-// Adds and removes a character while a few groups are displayed. With the argument 0 the settings are stored
-// in memory, with 1 on disk.
-void addOneCharacter(benchmark::State& state) {
-  Glyphorium& catalog = configuredCatalog();
-  const auto folder = std::filesystem::temp_directory_path() / "glyphorium-state-benchmark";
-  if (state.range(0) == 1) {
-    setSettingsStore(std::make_shared<SqliteSettingsStore>(folder / "settings.sqlite"));
+// Settings on the disk, which are deleted at the end.
+class DurableSettings {
+ public:
+  DurableSettings() { setSettingsStore(std::make_shared<SqliteSettingsStore>(folder_ / "settings.sqlite")); }
+  DurableSettings(const DurableSettings&) = delete;
+  DurableSettings& operator=(const DurableSettings&) = delete;
+  ~DurableSettings() {
+    setSettingsStore(std::make_shared<MemorySettingsStore>());
+    std::filesystem::remove_all(folder_);
   }
-  catalog.setSelectedGroups({"custom", "arrows", "punctuation"});
+
+ private:
+  const std::filesystem::path folder_ = std::filesystem::temp_directory_path() / "glyphorium-state-benchmark";
+};
+
+// Adds and removes a character while all groups are displayed. These are two durable writes.
+void addAndRemove(benchmark::State& state) {
+  Glyphorium& catalog = configuredCatalog();
+  const DurableSettings settings;
+  displayAllGroups(catalog);
   for (auto _ : state) {
     catalog.addCustomAddedEntity("21d0");
     catalog.removeCustomAddedEntity("21d0");
   }
-  setSettingsStore(std::make_shared<MemorySettingsStore>());
-  std::filesystem::remove_all(folder);
-  state.SetLabel(state.range(0) == 1 ? "add and remove, durable" : "add and remove, in memory");
 }
-BENCHMARK(addOneCharacter)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(addAndRemove)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+// The lower limit of the time: the two writes alone.
+void writeTwice(benchmark::State& state) {
+  const DurableSettings settings;
+  for (auto _ : state) {
+    for (const char* const code : {"21d0", "21d1"}) {
+      settingsStore()->set("customAddedEntities", std::vector<std::string>{code});
+      settingsStore()->synchronize();
+    }
+  }
+}
+BENCHMARK(writeTwice)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+// Returns the codes of characters that have names.
+std::vector<std::string> namedCodes(std::size_t count) {
+  if (structuredUnicodes().empty()) loadStructuredUnicodes();
+  std::vector<std::string> codes;
+  for (std::size_t i = 0; i < count; ++i) codes.push_back(lowercased(structuredUnicodes()[1000 + i].hex));
+  return codes;
+}
+
+// Adds as many characters as the argument says, in one step and without a disk.
+void addMany(benchmark::State& state) {
+  Glyphorium& catalog = configuredCatalog();
+  const auto codes = namedCodes(static_cast<std::size_t>(state.range(0)));
+  for (auto _ : state) {
+    catalog.addCustomAddedEntities(codes);
+    state.PauseTiming();
+    catalog.removeCustomAddedEntities(codes);
+    setSearchableIndex(std::make_shared<MemorySearchableIndex>());  // it records all requests
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(addMany)->Arg(1)->Arg(100)->Arg(10000)->Unit(benchmark::kMicrosecond);
+
+// Adds one character to as many characters as the argument says, without a disk.
+void addOneMore(benchmark::State& state) {
+  Glyphorium& catalog = configuredCatalog();
+  catalog.setCustomAddedEntityUnicodes(namedCodes(static_cast<std::size_t>(state.range(0))));
+  for (auto _ : state) {
+    state.PauseTiming();
+    setSearchableIndex(std::make_shared<MemorySearchableIndex>());
+    state.ResumeTiming();
+    catalog.addCustomAddedEntity("1f600");
+    state.PauseTiming();
+    catalog.removeCustomAddedEntity("1f600");
+    state.ResumeTiming();
+  }
+  catalog.setCustomAddedEntityUnicodes({});
+}
+BENCHMARK(addOneMore)->Arg(1)->Arg(100)->Arg(10000)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+// Measures what the user waits for in the window: a key stroke in the search field, and a page of the grid.
+// The counter "worst_ms" is the longest single step, because one long step is what people notice. Glyphs are
+// drawn on another thread: "pages" measures how long the thread of the window is kept busy while that
+// happens.
+#include <benchmark/benchmark.h>
+#include <glyphorium/glyphorium.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <algorithm>
+#include <chrono>
+#include <ctime>
+#include <fstream>
+
+#include "appearance.h"
+#include "catalog.h"
+#include "character_grid.h"
+#include "main_window.h"
+
+namespace {
+
+using namespace browser;
+using Clock = std::chrono::steady_clock;
+
+double processorMilliseconds() {
+  timespec time{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+  return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+// The longest step so far, by the clock on the wall and by the time that this thread had a processor. The
+// difference is waiting: for the other thread, or for other programs on a busy machine.
+struct Longest {
+  double wall = 0, processor = 0;
+  QString what;
+
+  void measure(const QString& name, const auto& step) {
+    const auto begin = Clock::now();
+    const double beginProcessor = processorMilliseconds();
+    step();
+    wall = std::max(wall, std::chrono::duration<double, std::milli>(Clock::now() - begin).count());
+    const double used = processorMilliseconds() - beginProcessor;
+    if (used > processor) what = name;
+    processor = std::max(processor, used);
+  }
+  void report(benchmark::State& state) const {
+    state.counters["worst_ms"] = wall;
+    state.counters["worst_cpu_ms"] = processor;
+    state.SetLabel("longest: " + what.toStdString());
+  }
+};
+
+struct Window {
+  Catalog catalog;
+  Appearance appearance{Appearance::Theme::light};
+  MainWindow window{catalog, appearance};
+  QLineEdit& field = *window.findChild<QLineEdit*>();
+  CharacterGrid& grid = *window.findChild<CharacterGrid*>();
+
+  Window() {
+    window.resize(1'200, 800);
+    window.show();
+    // The first card is part of the start.
+    const auto begin = Clock::now();
+    while (Clock::now() - begin < std::chrono::milliseconds(300)) QApplication::processEvents();
+  }
+};
+
+// Every tenth query of the list, as typing all of them takes minutes.
+std::vector<QString> queries() {
+  std::vector<QString> result;
+  int number = 0;
+  std::ifstream list(SEARCH_QUERY_LIST);
+  for (std::string line; std::getline(list, line);) {
+    if (!line.starts_with("# ") && number++ % 10 == 0)
+      result.push_back(QString::fromStdString(line.substr(0, line.find('\t'))));
+  }
+  return result;
+}
+
+// Each query is typed letter by letter; every letter includes painting the grid.
+void keyStrokes(benchmark::State& state) {
+  Window shown;
+  Longest longest;
+  std::int64_t count = 0;
+  for (auto _ : state) {
+    for (const QString& query : queries()) {
+      for (qsizetype length = 1; length <= query.size(); ++length) {
+        longest.measure(query.left(length), [&] {
+          shown.field.setText(query.left(length));
+          shown.grid.viewport()->repaint();
+        });
+        ++count;
+      }
+    }
+  }
+  longest.report(state);
+  state.counters["keys"] = static_cast<double>(count);
+}
+BENCHMARK(keyStrokes)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// From the first page to the last, first while glyphs are being drawn, then with what is kept of them.
+void pages(benchmark::State& state) {
+  Window shown;
+  QScrollBar& bar = *shown.grid.verticalScrollBar();
+  Longest longest;
+  for (auto _ : state) {
+    for (int y = 0; y < bar.maximum(); y += bar.pageStep()) {
+      longest.measure(QString::number(y), [&] {
+        bar.setValue(y);
+        shown.grid.viewport()->repaint();
+        QApplication::processEvents();
+      });
+    }
+  }
+  longest.report(state);
+  state.counters["pages"] = static_cast<double>(bar.maximum()) / bar.pageStep();
+}
+BENCHMARK(pages)->Unit(benchmark::kMillisecond)->Iterations(2);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  glyph::setDiagnosticsSink([](std::string_view) {});
+  glyph::setSettingsStore(std::make_shared<glyph::MemorySettingsStore>());
+  glyph::setSearchableIndex(std::make_shared<glyph::MemorySearchableIndex>());
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+}
