@@ -1,14 +1,23 @@
-# The commands of this project. Each installs missing packages, builds what has changed and asks no question.
+# The commands of this project. Each installs missing packages and builds what has changed. None asks a question.
 
 JOBS ?= $(shell nproc)
 ARGS ?=
 
-.PHONY: run test asan tsan fuzz attack bench install clean
+.PHONY: run browser test asan tsan fuzz attack bench compare tidy docs install clean
 
 run: build/release/.configured-run
 	@cmake --build build/release -j $(JOBS) --target glyphorium-cli >build/release/build.log 2>&1 \
 	  || { cat build/release/build.log; exit 1; }
 	@scripts/show
+
+# The window. ARGS="--search arrow" searches at once.
+browser:
+	@scripts/bootstrap browser
+	@echo 'Building the window (some minutes the first time) ...' >&2
+	@mkdir -p build/release && { cmake --preset release -DGLYPHORIUM_BUILD_BROWSER=ON && \
+	  cmake --build build/release -j $(JOBS) --target glyphorium-browser; } >build/release/build.log 2>&1 \
+	  || { cat build/release/build.log; exit 1; }
+	@build/release/apps/browser/glyphorium-browser $(ARGS)
 
 test:
 	@scripts/bootstrap test
@@ -16,14 +25,14 @@ test:
 	cmake --build --preset test -j $(JOBS)
 	ctest --preset test -j $(JOBS)
 
-# The whole test suite once more under a sanitizer.
+# The whole test suite under a sanitizer.
 asan tsan:
 	@scripts/bootstrap test
 	cmake --preset $@
 	cmake --build --preset $@ -j $(JOBS)
 	ctest --preset $@ -j $(JOBS)
 
-# The fuzzers, each for as many seconds.
+# Runs each fuzzer for so many seconds.
 FUZZ_SECONDS ?= 5
 fuzz:
 	@scripts/bootstrap fuzz
@@ -31,7 +40,8 @@ fuzz:
 	cmake --build --preset fuzz -j $(JOBS)
 	ctest --preset fuzz -j $(JOBS)
 
-# Attacks on what the user has stored: ARGS="settings 2000 kills" makes 2,000 of one kind.
+# Runs scripts/attack, which checks that stored data survives attacks. ARGS="settings 2000 kills" runs 2,000 rounds of
+# one kind.
 attack:
 	@scripts/bootstrap test
 	cmake --preset test
@@ -42,13 +52,30 @@ bench:
 	@scripts/bootstrap bench
 	cmake --preset bench
 	cmake --build --preset bench -j $(JOBS)
-	@for b in build/bench/benchmarks/*_benchmark; do dbus-run-session -- "$$b" $(ARGS) || exit 1; done
+	@scripts/measure $(ARGS) build/bench
 
-# Installs the library, the programs and what a desktop needs to find them.
+# Whether the working tree is slower than a commit: ARGS=main compares it with main.
+compare:
+	@scripts/bootstrap bench
+	@scripts/compare-speed $(ARGS)
+
+# Runs clang-tidy on all sources; ARGS="glyphorium/text apps/cli" on those in some folders. Takes about half an hour.
+tidy:
+	@scripts/bootstrap tidy
+	cmake --preset tidy
+	@JOBS=$(JOBS) scripts/tidy $(ARGS)
+
+# Writes the reference of the library to build/release/docs/html.
+docs:
+	@scripts/bootstrap docs
+	cmake --preset release -DGLYPHORIUM_BUILD_DOCS=ON
+	cmake --build --preset release -j $(JOBS) --target docs
+
+# Installs the library, the programs and the files by which desktops find them.
 PREFIX ?= /usr/local
 install:
 	@scripts/bootstrap install
-	cmake --preset release -DCMAKE_INSTALL_PREFIX=$(PREFIX) -DGLYPHORIUM_BUILD_SEARCH_PROVIDER=ON
+	cmake --preset release -DCMAKE_INSTALL_PREFIX=$(PREFIX) -DGLYPHORIUM_BUILD_SEARCH_PROVIDER=ON -DGLYPHORIUM_BUILD_BROWSER=ON
 	cmake --build --preset release -j $(JOBS)
 	cmake --install build/release
 
