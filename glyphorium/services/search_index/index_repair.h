@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "glyphorium/services/search_index/lock_wait.h"
+#include "glyphorium/services/search_index/index_locks.h"
 #include "glyphorium/services/sqlite/sqlite.h"
 
 namespace glyph {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "glyphorium/services/search_index/lock_wait.h"
+#include "glyphorium/services/search_index/index_locks.h"
 #include "glyphorium/services/search_index/searchable_index.h"
 #include "glyphorium/services/sqlite/sqlite.h"
 

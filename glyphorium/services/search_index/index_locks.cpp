@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "glyphorium/services/search_index/lock_wait.h"
+#include "glyphorium/services/search_index/index_locks.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
