@@ -33,6 +33,7 @@ class WordSearch {
       if (complete) typed = std::move(begun);
     }
     if (complete) keep(typed);
+    if (complete && !isName(typed.matches)) addNamesInOtherLanguages();
     // Words that are split or joined may be a whole text: "thumbsup".
     if (complete && !typed.matches.best.whole) addWholeRespellings();
     if (complete || !persistently) return std::move(found_);
@@ -93,6 +94,21 @@ class WordSearch {
     std::vector<std::vector<std::string>> spellings = respellings(index_, words_, languages_);
     spellings.resize(std::min(spellings.size(), mostRespellings));
     return spellings;
+  }
+
+  // Whether the query is a whole text of the best match, and not just an abbreviation in HTML.
+  bool isName(const Matches& matches) const {
+    return matches.best.whole && index_.phrases[matches.best.phrase].kind != PhraseKind::htmlName;
+  }
+
+  // A word of another language may begin a word of this one: "luna" is the moon, and the beginning of "lunate".
+  void addNamesInOtherLanguages() {
+    MatchFilter others = filter_;
+    others.languages = ~filter_.languages;
+    Reading other =
+        read(dictionaryWords(words_, languagesOf(index_, others.languages), false), others, otherReadingCost);
+    std::erase_if(other.matches.all, [](const Match& match) { return !match.whole; });
+    if (!other.matches.all.empty()) keep(other);
   }
 
   void addWholeRespellings() {
