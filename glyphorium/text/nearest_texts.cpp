@@ -35,8 +35,7 @@ std::vector<std::string> nearestTexts(std::string_view text, const std::vector<s
   std::vector<std::pair<std::size_t, const std::string*>> near;
   for (const std::string& candidate : candidates) {
     const std::string other = lowercased(candidate);
-    // A candidate that contains the text counts as near as a spelling mistake, even if the candidate is much
-    // longer.
+    // A candidate that contains the text gets the distance 1, even if the candidate is much longer.
     const bool part = lower.size() >= 3 && other.find(lower) != std::string::npos;
     const std::size_t lengths =
         other.size() > lower.size() ? other.size() - lower.size() : lower.size() - other.size();

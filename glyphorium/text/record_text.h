@@ -18,21 +18,23 @@ namespace glyph {
 /// copied: such a text is a constant in the read-only image of the library, and the field refers to it. Any
 /// other text is a copy that the field owns.
 ///
-/// A RecordText converts to std::string and to std::string_view, and is compared and joined with both. It has
-/// the functions of std::string that read, and `=`, `+=` and clear(). To change single bytes, change a
-/// std::string and assign it. Three kinds of expressions need a conversion by hand:
+/// A RecordText converts to std::string and to std::string_view, and is compared and joined with both. It
+/// has the const functions of std::string, and `=`, `+=` and clear(). To change single bytes, change a
+/// std::string and assign it. Three kinds of expressions need an explicit conversion:
 /// - The operator ?: with a std::string on the other side: `cond ? text : std::string()` does not compile;
 ///   `cond ? text : ""` does.
 /// - A template that deduces its parameter from std::string, such as std::regex_match() or std::max(), and
 ///   std::filesystem::path: pass std::string(text) or view().
-/// - A reference to a std::string that is changed, or a vector of std::string: copy the field first.
+/// - A function that changes a std::string through a reference, or a vector of std::string: copy the field
+/// first.
 ///
-/// Lifetime: view(), data() and iterators are valid until the RecordText is changed or destroyed, as those of
-/// a std::string are. The constants live as long as the library is loaded. The shared library stays loaded
-/// until the process ends, even after dlclose(). If a plugin contains the static library, its records and
-/// their copies must not be used after the plugin is unloaded; texts as std::string may be.
+/// Lifetime: view(), data() and iterators are valid until the RecordText is changed or destroyed, as those
+/// of a std::string are. The constants live as long as the library is loaded. The shared library stays
+/// loaded until the process ends, even after dlclose(). If a plugin contains the static library, the
+/// plugin's records and their copies must not be used after the plugin is unloaded. Copies of their texts
+/// as std::string stay valid.
 ///
-/// Threads: as for std::string. Copies share no state that changes.
+/// Thread safety: as for std::string. Copies share constants only.
 class RecordText {
  public:
   using value_type = char;
@@ -46,8 +48,8 @@ class RecordText {
   RecordText(const std::string& text) : RecordText(std::string_view(text)) {}  // implicit, as in std::string
   explicit RecordText(std::string_view text) : RecordText(copyOf(text), text.size(), true) {}
 
-  /// Returns a text that refers to a constant instead of copying it. The constant must live as long as every
-  /// copy of the result, and a zero byte must follow it.
+  /// Returns a text that refers to a constant instead of copying it. The constant must be null-terminated
+  /// and must live as long as every copy of the result.
   static constexpr RecordText ofConstant(std::string_view constant) noexcept {
     return {constant.data(), constant.size(), false};
   }
@@ -81,9 +83,9 @@ class RecordText {
 
   constexpr std::string_view view() const noexcept { return {data(), size()}; }
   constexpr operator std::string_view() const noexcept { return view(); }  // implicit, as in std::string
-  operator std::string() const { return std::string(view()); }  // implicit, because it reads like one
+  operator std::string() const { return std::string(view()); }  // implicit, for uses as a std::string
 
-  /// The bytes of the text. A zero byte follows them.
+  /// The bytes of the text, null-terminated.
   constexpr const char* data() const noexcept { return data_; }
   constexpr const char* c_str() const noexcept { return data_; }
   constexpr std::size_t size() const noexcept { return static_cast<std::size_t>(sizeAndOwned_ >> 1); }
@@ -97,7 +99,7 @@ class RecordText {
   constexpr const char& front() const noexcept { return *data_; }
   constexpr const char& back() const noexcept { return data_[size() - 1]; }
 
-  // The arguments and results are those of std::string.
+  // These functions have the parameters and the results of those of std::string.
   const char& at(std::size_t position) const { return view().at(position); }
   std::string substr(std::size_t begin = 0, std::size_t count = npos) const {
     return std::string(view().substr(begin, count));
@@ -139,7 +141,8 @@ class RecordText {
     return view().find_last_not_of(arguments...);
   }
 
-  // The other operand is any text. These are templates, so that no conversion of it is ambiguous.
+  // The other operand is of any type that converts to std::string_view. Templates avoid ambiguous
+  // conversions of that operand.
   template <std::convertible_to<std::string_view> T>
   friend bool operator==(const RecordText& a, const T& b) noexcept {
     return a.view() == std::string_view(b);
@@ -183,7 +186,7 @@ class RecordText {
   constexpr bool isOwned() const noexcept { return sizeAndOwned_ & 1; }
 
   const char* data_ = "";
-  std::uint64_t sizeAndOwned_ = 0;  // the size, and in the lowest bit whether data_ is to be deleted
+  std::uint64_t sizeAndOwned_ = 0;  // twice the size, plus 1 if data_ must be deleted
 };
 
 }  // namespace glyph

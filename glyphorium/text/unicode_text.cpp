@@ -38,8 +38,8 @@ icu::BreakIterator* characterIterator() {
   return iterator.get();
 }
 
-// Sets the iterator to the text until the end of the scope. Then resets the iterator, so that it does not
-// refer to the text of the caller any more.
+// Sets the iterator to the text. The destructor resets the iterator, so that it no longer refers to the
+// caller's text.
 class IteratedText {
  public:
   IteratedText(icu::BreakIterator& iterator, std::string_view text, UErrorCode& status)

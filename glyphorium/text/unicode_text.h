@@ -9,8 +9,8 @@
 
 #include "glyphorium/export.h"
 
-/// Unicode functions for UTF-8 text. They use ICU, but ASCII text takes a fast path without ICU. Ill-formed
-/// UTF-8 is not an error: each comment says how the function treats it. Any thread may call these functions.
+/// Unicode functions for UTF-8 text. They use ICU, except for a fast path for ASCII text. Ill-formed UTF-8
+/// is not an error: the comment of each function says what it gives. Any thread may call these functions.
 namespace glyph {
 
 /// Returns the text in lower case, by the full Unicode mapping, which does not depend on the language ("İ"
