@@ -12,8 +12,8 @@ namespace glyph {
 
 /// The textual forms of a character's code. A hex code is a code point in hexadecimal digits without a
 /// prefix, in upper or lower case: "0020", "1f600". A hex list is several hex codes joined by ",", for a
-/// character of more than one code point: "0041,030a". No function fails: for bad input each function returns
-/// the neutral result that its comment names. All functions are pure; any thread may call them.
+/// character of more than one code point: "0041,030a". No function fails: each comment below says what bad
+/// input gives. All functions are pure; any thread may call them.
 class GLYPHORIUM_EXPORT CodeFormats {
  public:
   /// Converts a hex code to a number: "0020" gives 32. A character that is not a hexadecimal digit counts as
@@ -25,11 +25,12 @@ class GLYPHORIUM_EXPORT CodeFormats {
   /// counts as 0.
   std::string getHex(std::int64_t from) const;
 
-  /// Converts a hex code to an HTML reference: "0020" gives "&#x20;". The result is in lower case and has no
-  /// leading zeros. The digits are not checked. "0000" and the empty text give "&#x;".
+  /// Converts a hex code to a hexadecimal HTML character reference: "0020" gives "&#x20;". The result is in
+  /// lower case and has no leading zeros. The digits are not checked. "0000" and the empty text give
+  /// "&#x;".
   std::string getHtmlHex(std::string_view from) const;
 
-  /// Converts a number to an HTML reference: 32 gives "&#32;", -5 gives "&#-5;".
+  /// Converts a number to a decimal HTML character reference: 32 gives "&#32;", -5 gives "&#-5;".
   std::string getHtmlDecimal(std::int64_t from) const;
 
   /// Returns the text with its XML references replaced: "&#x20;" gives a blank. See xmlUnescaped().
@@ -39,11 +40,11 @@ class GLYPHORIUM_EXPORT CodeFormats {
   /// is left out. A text of fewer than three characters gives an empty list.
   std::vector<std::int64_t> getAdvancedDecimal(std::string_view from) const;
 
-  /// Converts numbers to HTML references: 65 and 778 give "&#65;&#778;".
+  /// Converts numbers to decimal HTML character references: 65 and 778 give "&#65;&#778;".
   std::string getAdvancedHtmlDecimal(const std::vector<std::int64_t>& from) const;
 
-  /// Converts a hex list to HTML references: "0041,030A" gives "&#x41;&#x30a;". An empty component gives
-  /// "&#x;".
+  /// Converts a hex list to hexadecimal HTML character references: "0041,030A" gives "&#x41;&#x30a;". An
+  /// empty component gives "&#x;".
   std::string getAdvancedHtmlHex(std::string_view from) const;
 
   /// Converts a hex list to text: "0041,030a" gives the text of these two code points. A component may have a

@@ -11,8 +11,8 @@
 namespace glyph {
 namespace {
 
-// Reads codes one after another from the beginning of a text. If a code cannot be read, the position is
-// undefined, and the caller then rejects the whole text.
+// Reads codes one after another from the beginning of a text. After a code that cannot be read, the
+// position is undefined, and the caller must reject the whole text.
 class CodeReader {
  public:
   explicit CodeReader(std::string_view text) : rest_(text) {}
@@ -26,7 +26,7 @@ class CodeReader {
     if (const auto arguments = callBegin()) return call(*arguments);
     if (take("&")) return reference();
     if (take("#"))
-      return numericReference(4);  // a reference without its "&"; with fewer digits it is probably a tag
+      return numericReference(4);  // as in "&#8594;" without "&"; fewer digits are probably a hashtag
     if (take("\\")) return escape();
     if (take("%")) return bytes("%");
     if (take("<U+")) return closed(number(16, 1, 8), ">");
@@ -36,7 +36,7 @@ class CodeReader {
       return ended(number(16, least, 8));
     }
     if (take("0x") || take("0X")) return ended(number(16, 1, 8));
-    if (take("uni")) return ended(number(16, 4, 4));  // a glyph name of a font
+    if (take("uni")) return ended(number(16, 4, 4));  // a glyph name in a font
     // Without "+", at least four digits are required, as in the usual notation of code points. A shorter form
     // may be a word.
     if (take("u") || take("U")) return ended(number(16, 4, 8));
@@ -110,8 +110,7 @@ class CodeReader {
   }
 
   // Reads the two digits of a byte. Then reads further bytes, each after `introducer`, until the bytes form
-  // one UTF-8 sequence. If they do not form a UTF-8 sequence, only the first byte is read, and its value is
-  // the code point.
+  // one UTF-8 sequence. If they never do, only the first byte is read, and its value is the code point.
   std::optional<ParsedCode> bytes(std::string_view introducer) {
     const auto byte = [&]() -> std::optional<char> {
       const auto value = rest_.size() < 2 ? std::nullopt : ascii::number(rest_.substr(0, 2), 16);
