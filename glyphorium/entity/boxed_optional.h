@@ -11,11 +11,11 @@ namespace glyph {
 /// An optional value whose object is as small as a pointer, which suits a field that is absent in most
 /// records of a long list. The value is on the heap, or it is a constant that many objects share.
 ///
-/// It is read like a std::optional: value() throws std::bad_optional_access if the value is absent. There are
-/// two differences. A BoxedOptional that was moved from is empty. `*` and `->` give a constant, because the
-/// value may be shared; edit() gives a value that can be changed in place.
+/// It is read like a std::optional: value() throws std::bad_optional_access if the value is absent. There
+/// are two differences. A BoxedOptional that was moved from is empty. `*` and `->` give const access,
+/// because the value may be shared; use edit() to change it in place.
 ///
-/// Threads: as for std::optional. Copies share no state that changes.
+/// Thread safety: as for std::optional. Copies share constants only.
 template <class T>
 class BoxedOptional {
  public:
@@ -71,14 +71,14 @@ class BoxedOptional {
     return has_value() ? *pointer() : static_cast<T>(std::forward<Default>(otherwise));
   }
 
-  /// Returns the value for changing it in place. If the value is a constant, it is copied first. Throws
-  /// std::bad_optional_access if the value is absent.
+  /// Returns a reference through which the value can be changed. If the value is a shared constant, it is
+  /// copied first. Throws std::bad_optional_access if the value is absent.
   T& edit() {
     if (!isOwned()) *this = BoxedOptional(value());
     return *pointer();
   }
 
-  /// Replaces the value with a new value, constructed from the arguments, and returns it for changing.
+  /// Replaces the value with one constructed from the arguments, and returns a reference to the new value.
   template <class... Arguments>
   T& emplace(Arguments&&... arguments) {
     const std::uintptr_t box = newBox(std::forward<Arguments>(arguments)...);

@@ -75,15 +75,16 @@ void read(dom::element value, std::string_view key, std::optional<T>& field) {
   }
 }
 
-// A key and its field. For each record, the fields are listed below in the order of the keys in the embedded
-// texts. Decoding such a row therefore compares each key only once.
+// A JSON key and the field of the record that it fills. For each type of record, the fields are listed
+// below in the order of the keys in the embedded texts, so that decoding a row of an embedded text compares
+// each key only once.
 template <class Record, class T>
 struct Field {
   std::string_view key;
   T Record::*member;
 };
 template <class Record, class T>
-Field(std::string_view, T Record::*) -> Field<Record, T>;  // Clang cannot deduce aggregates before version 17
+Field(std::string_view, T Record::*) -> Field<Record, T>;  // Clang before version 17 needs this guide
 
 template <class Record>
 constexpr auto fieldsOf();

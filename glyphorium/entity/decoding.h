@@ -12,8 +12,8 @@
 namespace glyph {
 
 /// Decodes JSON arrays in UTF-8. One decoder can decode several arrays, one after another, and reuses its
-/// parser. If an object has the same key twice, the first value counts. An embedded text is parsed in place;
-/// any other text is copied once.
+/// parser. If an object has the same key twice, the first value counts. A text that is embedded in the
+/// library is parsed in place; any other text is copied first.
 class TableDecoder {
  public:
   TableDecoder();
@@ -21,9 +21,9 @@ class TableDecoder {
   TableDecoder(const TableDecoder&) = delete;
   TableDecoder& operator=(const TableDecoder&) = delete;
 
-  /// Appends the records of `json` to `records`. Returns an empty text on success. Record is ComputedEntity,
-  /// AdditionalData, RawUnicodeEntity or Entity. For Entity, the rows are those of a group table, and the
-  /// entities have no enrichment. If one row is faulty, the whole array is rejected: `records` stays
+  /// Appends the records of `json` to `records`. Returns an empty text on success. Record is
+  /// ComputedEntity, AdditionalData, RawUnicodeEntity or Entity. With Entity, `json` must be a group table,
+  /// and the entities get no enrichment. If one row is faulty, the whole array is rejected: `records` stays
   /// unchanged, and the function returns one line that describes the error.
   template <class Record>
   std::string append(std::string_view json, std::vector<Record>& records);

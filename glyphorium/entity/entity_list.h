@@ -8,9 +8,9 @@
 
 namespace glyph {
 
-/// Returns an empty list with memory for `count` entities. The kernel provides this memory in one step if it
-/// can. Otherwise it would provide it page by page while the list is filled, which takes longer than the
-/// filling itself. Any thread may call this function.
+/// Returns an empty list with memory for `count` entities. If possible, the kernel provides all pages of
+/// this memory at once. Otherwise it provides each page when the page is first written, which takes longer
+/// than filling the list. Any thread may call this function.
 std::vector<Entity> entityListFor(std::size_t count);
 
 }  // namespace glyph

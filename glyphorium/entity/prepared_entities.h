@@ -7,8 +7,8 @@
 
 #include "glyphorium/entity/records.h"
 
-/// The entities of the catalog, made of the rows that the build prepared. Their texts are constants of the
-/// library. Any thread may call these functions.
+/// The entities of the catalog, made from the rows that the build prepared. Their texts are constants of
+/// the library. Any thread may call these functions.
 namespace glyph {
 
 /// Returns the entities of all configured tables, in the order of the tables, each joined with its
@@ -16,12 +16,12 @@ namespace glyph {
 /// their enrichment.
 const std::vector<Entity>& preparedEntities();
 
-/// Returns a copy of one entity of this list without creating the list. Returns nullopt if the index is too
-/// large.
+/// Returns a copy of the entity at the index `place` of preparedEntities(), without creating that list.
+/// Returns nullopt if the index is too large.
 std::optional<Entity> preparedEntity(std::size_t place);
 
-/// Returns the enrichment that an entity with this hex code is joined with. Hex codes are compared byte for
-/// byte. Returns nullopt if there is none.
+/// Returns the enrichment of the entities with this hex code. Hex codes are compared byte for byte. Returns
+/// nullopt if there is no enrichment for the hex code.
 std::optional<AdditionalData> preparedEnrichmentOf(std::string_view hex);
 
 }  // namespace glyph

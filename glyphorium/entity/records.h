@@ -12,9 +12,9 @@
 #include "glyphorium/export.h"
 #include "glyphorium/text/record_text.h"
 
-/// The records that describe characters. They are also members of the catalog type: Glyphorium::Entity and so
-/// on. The records do not check or normalise their fields. They are values: a copy shares nothing that can
-/// change. RecordText describes how their texts convert to std::string, and how long they live.
+/// The records that describe characters. They are also members of the catalog type: Glyphorium::Entity and
+/// so on. The records do not check or normalise their fields. They are values: copies share constants only.
+/// See RecordText for the conversion of the texts to std::string and for their lifetime.
 namespace glyph {
 
 struct Entity;
@@ -43,8 +43,8 @@ struct AdditionalDataAdvice {
   RecordText text;
 };
 
-/// A row of the enrichment table: additional facts about a code point that its group table does not have. An
-/// empty text counts as a present value.
+/// A row of the enrichment table: facts about a code point that are not in its group table. An empty text
+/// counts as a present value.
 struct GLYPHORIUM_EXPORT AdditionalData {
   RecordText hex;
   std::optional<RecordText> betterName;  ///< if not empty, shown instead of the table's name
@@ -70,12 +70,13 @@ struct GLYPHORIUM_EXPORT Entity {
   /// the name in the table.
   std::string name() const;
 
-  /// Returns the usage note to show for the character, in the first language of preferredLanguages(), lower
-  /// case, or else in English. In each of the two languages, the note of the enrichment comes first. If the
-  /// enrichment has none, the library may have a supplementary note, which depends on the hex code only. The
-  /// supplementary notes cover some 150 characters; they are not in the tables and the search does not read
-  /// them. Returns nullopt if there is no note or if preferredLanguages() is empty. A line feed in the note
-  /// begins a line of a list ("• "), two line feeds begin a paragraph. Any thread may call this function.
+  /// Returns the usage note to show for the character. The note is in the first language of
+  /// preferredLanguages(), lower-cased, or, if there is no such note, in English. In each of the two
+  /// languages, the note of the enrichment is preferred. If there is none, the library may have a
+  /// supplementary note for the hex code. Supplementary notes exist for some 150 characters; they are not
+  /// in the tables, and the search does not read them. Returns nullopt if there is no note or if
+  /// preferredLanguages() is empty. A line feed in the note begins a line of a list ("• "), two line feeds
+  /// begin a paragraph. Any thread may call this function.
   std::optional<std::string> usageNote() const;
 
   /// Returns the escape sequence of a Swift string literal, "\u{1f600}", with the hex code as stored.
