@@ -10,7 +10,7 @@
 
 namespace glyph {
 
-/// The identifier of this project's own programs, a reverse-DNS name. It applies to a host that does not set
+/// The identifier of this project's own programs, a reverse-DNS name. It is used if the host does not set
 /// an identifier.
 inline constexpr std::string_view defaultApplicationIdentifier = "org.glyphorium.Glyphorium";
 
@@ -20,7 +20,7 @@ inline constexpr std::string_view defaultApplicationIdentifier = "org.glyphorium
 GLYPHORIUM_EXPORT std::string applicationIdentifier();
 
 /// Sets the identifier. Call this before the first use of settings, clipboard or index. The text must be
-/// usable as a file name. Otherwise (it is empty, "." or "..", or contains "/" or NUL) it is ignored, and a
+/// usable as a file name: if it is empty, "." or "..", or contains "/" or NUL, it is ignored, and a
 /// diagnostic line is printed. May be called from any thread.
 GLYPHORIUM_EXPORT void setApplicationIdentifier(std::string_view identifier);
 

@@ -29,8 +29,8 @@ class NotificationName {
   std::string rawValue_;
 };
 
-/// A message to the observers of a name. `object` is a text that belongs to the message; not every message
-/// has an object.
+/// A message to the observers of `name`. `object` is a text whose meaning depends on the name; it may be
+/// absent.
 struct Notification {
   NotificationName name;
   std::optional<std::string> object{};

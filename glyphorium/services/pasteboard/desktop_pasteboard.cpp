@@ -33,13 +33,13 @@ bool desktopIs(std::string_view name) {
   }
 }
 
-// Returns the path of the program. The build and the installation both put the program at a fixed path
-// relative to the library's own file. Returns an empty string if the path of the library is not known.
+// Returns the path of glyphorium-clipboard-owner. The build and the installation both put this program at a
+// fixed path relative to the library's own file. Returns an empty string if the path of the library is not
+// known.
 std::string installedOwnerProgram() {
   Dl_info library{};
   const auto* const code = reinterpret_cast<const void*>(&installedOwnerProgram);
-  // A relative path is relative to the working directory at the time of loading. The working directory may
-  // have changed since.
+  // A relative path is useless: the working directory may have changed since the library was loaded.
   if (!dladdr(code, &library) || !library.dli_fname || library.dli_fname[0] != '/') return {};
   std::error_code error;
   const auto file = std::filesystem::canonical(library.dli_fname, error);

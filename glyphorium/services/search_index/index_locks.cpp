@@ -40,7 +40,7 @@ bool LockWait::pause() noexcept {
   if (waited >= longWait && !std::exchange(reported_, true)) {
     try {
       printProblem("Waiting for another program that has locked the search index: " + file_->string());
-    } catch (const std::bad_alloc&) {  // then the line is not printed
+    } catch (const std::bad_alloc&) {  // without memory, the line is not printed
     }
   }
   return waitForLock(std::chrono::duration_cast<std::chrono::milliseconds>(waited));

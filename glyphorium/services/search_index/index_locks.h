@@ -15,8 +15,8 @@ namespace glyph {
 /// is printed. Only one thread may use a LockWait, except that any thread may call abandon() and abandoned().
 class LockWait {
  public:
-  /// Starts the time limit anew, for the next batch. `file` is the path that the diagnostic line names. The
-  /// LockWait keeps a pointer to `file`.
+  /// Resets the waiting time to zero for the next batch. The diagnostic line contains the path `file`,
+  /// which must outlive the LockWait.
   void renew(const std::filesystem::path& file) noexcept;
   /// Sleeps for a few milliseconds and returns true. Returns false immediately if the
   /// LockWaitPolicy refuses to wait longer or abandon() was called.

@@ -21,9 +21,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The suffixes of the files that belong to a database. The database itself is the last. If a process is
-// killed while it renames these files, the damaged database is still in place, and the next process finds the
-// damage again.
+// The suffixes of the files that belong to a database, in the order in which they are renamed. The database
+// itself comes last: if a process is killed between two renamings, the damaged database is still in place,
+// and the next process finds the damage again.
 constexpr const char* suffixes[] = {"-journal", "-wal", "-shm", ""};
 
 fs::path withSuffix(fs::path file, std::string_view suffix) {
@@ -42,8 +42,8 @@ void refuseLink(const fs::path& file, std::string_view why) {
 }
 
 // Returns a description of the damage, or an empty text if the file is intact. Leaves a transaction open,
-// unless the damage prevents this. The transaction keeps other processes from writing until the file has been
-// renamed. They notice the renaming when they begin their own transactions.
+// unless the damage prevents this. The transaction keeps other processes from writing until the file has
+// been renamed. When they begin their own transactions, they notice that the file was renamed.
 std::string damageOf(Database& database) try {
   database.execute("BEGIN IMMEDIATE");
   if (!isIndex(database)) return {};
@@ -73,7 +73,7 @@ std::vector<SearchableItem> readableItems(const Database& database) {
         const bool intact = packTexts(item.keywords) == row.text(6) && lowercased(item.name()) == row.text(8);
         if (intact) place->second = std::move(item);
       }
-    } catch (const SqliteError&) {  // the damage is reached, or the table is missing
+    } catch (const SqliteError&) {  // the next row is damaged, or the table is missing
     }
   }
   std::vector<SearchableItem> items;

@@ -21,8 +21,9 @@
 namespace glyph {
 namespace {
 
-// `symbol` and `name` (in lower case) are the two parts of the title. Search results are ordered by them.
-// `uid` alone must be unique, because items are replaced and deleted by their identifier alone.
+// `symbol` and `name` (in lower case) are the two parts of the title. Search results are ordered by these
+// two columns. `uid` alone must be unique, because items are replaced and deleted by their identifier
+// alone.
 constexpr const char* itemTable =
     "CREATE TABLE item(id INTEGER PRIMARY KEY, uid TEXT NOT NULL UNIQUE, domain TEXT NOT NULL,"
     " content_type TEXT NOT NULL, title TEXT NOT NULL, comment TEXT, genre TEXT NOT NULL,"
@@ -129,14 +130,14 @@ IndexStore::IndexStore(std::filesystem::path file, LockWait& wait, const Directo
 void IndexStore::open(const DirectoryLock&) {
   identity_ = regularFile(file_);
   if (!identity_) {
-    // If SQLite created the file, other users could read it.
+    // The file is created here, because other users could read a file that SQLite creates.
     const int created = ::open(file_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (created >= 0) close(created);
     identity_ = regularFile(file_);
   }
   database_ = openIndexFile(file_, SQLITE_OPEN_READWRITE);
   sqlite3_busy_handler(database_->handle(), LockWait::whileBusy, &wait_);
-  const bool isNew = !isIndex(*database_);  // checked before writing: it may not be our file
+  const bool isNew = !isIndex(*database_);  // before any write: another program may own it
   for (;;) {
     try {
       database_->execute("PRAGMA journal_mode=WAL");

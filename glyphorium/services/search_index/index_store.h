@@ -48,7 +48,8 @@ Database openIndexFile(const std::filesystem::path& file, int flags);
 /// SQLITE_NOTADB for the database of another program.
 bool isIndex(const Database& database);
 /// Whether the file's first page is that of an index. Unlike isIndex(), this also works if the disk is full
-/// or the rest of the file is damaged. It releases all locks that the process has on the file.
+/// or the rest of the file is damaged. Calling this function releases all locks that the process has on the
+/// file.
 bool beginsAsIndex(const std::filesystem::path& file);
 
 /// The index file, open for writing. Its constructors and operations throw SqliteError.
@@ -57,7 +58,7 @@ class IndexStore {
   /// Opens the file. Creates the file and its directory if they are missing; only the user can read them.
   /// `wait` must outlive this object.
   IndexStore(std::filesystem::path file, LockWait& wait);
-  /// Does the same for a caller that has already locked the directory, which must exist.
+  /// The same for a caller that has already locked the directory. The directory must exist.
   IndexStore(std::filesystem::path file, LockWait& wait, const DirectoryLock& lock);
   /// Rolls back a transaction that was not committed.
   ~IndexStore();

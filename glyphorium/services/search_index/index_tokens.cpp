@@ -11,13 +11,13 @@
 namespace glyph {
 namespace {
 
-// A keyword of every item. Users type it to search only among the items of this application, often without a
-// space after it.
+// A keyword that every item has. Users type it, often without a space after it, to search only among the
+// items of this application.
 constexpr std::string_view scope = "qv:";
 
-// Whether the index's tokenizer treats the code point as a separator. These are the code points of the
+// Whether the index's tokenizer treats the code point as a separator, as it does with the general
 // categories Cc and Z. A term of a query must not contain a separator: the tokenizer would make a phrase of
-// it, and the index does not support phrases.
+// such a term, and the index does not support phrases.
 bool separates(char32_t c) {
   return c <= 0x20 || (c >= 0x7f && c <= 0xa0) || c == 0x1680 || c == 0x180e ||
          (c >= 0x2000 && c <= 0x200a) || c == 0x2028 || c == 0x2029 || c == 0x202f || c == 0x205f ||
@@ -28,8 +28,8 @@ bool isAsciiPunctuation(char c) {
   return (c >= '!' && c <= '/') || (c >= ':' && c <= '@') || (c >= '[' && c <= '`') || (c >= '{' && c <= '~');
 }
 
-// Replaces each ill-formed sequence with U+FFFD, because the tokenizer would treat some of them as
-// separators.
+// Replaces each ill-formed UTF-8 sequence with U+FFFD, because the tokenizer would treat some of these
+// sequences as separators.
 std::string wellFormed(std::string text) {
   if (isWellFormedUtf8(text)) return text;
   std::string result;
@@ -81,7 +81,8 @@ std::string indexTokens(const SearchableItem& item) {
   std::vector<std::string_view> tokens;
   for (const std::string_view piece : pieces(text)) appendTokens(tokens, piece);
   std::sort(tokens.begin(), tokens.end());
-  // Queries look for beginnings of tokens. So a token that equals the next one or begins it is not needed.
+  // Queries look for prefixes of tokens, so a token that is a prefix of the next token or equals it is not
+  // needed.
   std::string result;
   for (std::size_t i = 0; i < tokens.size(); ++i) {
     if (i + 1 < tokens.size() && tokens[i + 1].starts_with(tokens[i])) continue;

@@ -9,8 +9,9 @@
 namespace glyph {
 
 /// The SQL statement that creates the full-text table of the items' tokens. By default, the tokenizer drops
-/// symbols, and characters that are newer than its Unicode tables. With these categories it keeps them, and
-/// only white space and control characters separate tokens. indexTokens() does all further splitting.
+/// symbols and the characters that are newer than its Unicode tables. With the categories given here, it
+/// keeps these characters, and only white space and control characters separate tokens. indexTokens() does
+/// all further splitting.
 inline constexpr const char* tokenTable =
     "CREATE VIRTUAL TABLE token USING fts5(tok, detail=none, prefix='1 2 3',"
     " tokenize=\"unicode61 remove_diacritics 0 categories 'L* M* N* P* S* Co Cf Cn'\")";
@@ -20,7 +21,8 @@ inline constexpr const char* tokenTable =
 /// punctuation, the parts between the punctuation are tokens too: "&amp;" gives "&amp;" and "amp".
 std::string indexTokens(const SearchableItem& item);
 
-/// A query in the forms that the index needs. indexQuery() makes it from the text that a user has typed.
+/// A query in the forms that the index needs. indexQuery() creates it from the text that the user has
+/// typed.
 struct IndexQuery {
   std::string match;    ///< the FTS5 expression; empty if the query has no words
   std::string exact;    ///< the words without the prefix "qv:"; compared with an item's symbol and identifier

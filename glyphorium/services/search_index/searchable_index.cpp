@@ -18,8 +18,8 @@ struct Current {
 
 Current& current();
 
-// A host expects that every request is carried out. Therefore the program waits for the current index before
-// it ends.
+// A host expects that every request is carried out, so the program waits for the requests of the current
+// index before it ends.
 struct DrainAtExit {
   ~DrainAtExit() {
     std::shared_ptr<SearchableIndex> last;
@@ -28,7 +28,7 @@ struct DrainAtExit {
       last = current().index;
     }
     if (!last) return;
-    // Meanwhile the index remains the current one, because completions may make further requests.
+    // During the wait, this index stays the current one, because completions may make further requests.
     last->waitUntilIdle(std::chrono::seconds(5));
     const std::lock_guard lock(current().mutex);
     if (current().index == last) current().index.reset();

@@ -62,15 +62,15 @@ class GLYPHORIUM_EXPORT SearchableIndex {
   /// Deletes every item of the application.
   virtual void deleteAllItems(Completion completion) = 0;
 
-  /// Waits until all requests are carried out, but at most for the time `limit`. It is for programs that must
-  /// not end while work remains. Calls `progress` on the calling thread with the remaining work, once at the
-  /// beginning and then whenever the amount has changed. Returns true if no work remains.
+  /// Waits until all requests are carried out, but at most for the time `limit`. Programs that must not end
+  /// while work remains call this. Calls `progress` on the calling thread with the remaining work, once at
+  /// the beginning and then whenever the amount has changed. Returns true if no work remains.
   virtual bool waitUntilIdle(std::chrono::milliseconds limit, const Progress& progress = {}) = 0;
 };
 
-/// Returns the current index. This is a SqliteSearchableIndex in the application's data directory, unless the
-/// host has set another index. Never null. Before the program ends, it waits until the current index has
-/// carried out its requests, but at most a few seconds.
+/// Returns the current index. This is a SqliteSearchableIndex in the application's data directory, unless
+/// the host has set another index. Never null. At its end, the program waits a few seconds at most until
+/// the current index has carried out its requests.
 GLYPHORIUM_EXPORT std::shared_ptr<SearchableIndex> searchableIndex();
 
 /// Replaces the current index with the host's own index. Null restores the default. May be called from any

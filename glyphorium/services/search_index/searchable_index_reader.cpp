@@ -41,7 +41,7 @@ class SearchableIndexReader::File {
       error_ = reason.what();
       if (std::exchange(reported_, true)) return;
       printProblem("Search index not readable (" + error_ + "): " + path_->string());
-    } catch (const std::exception&) {  // then the line is not printed
+    } catch (const std::exception&) {  // without memory, the line is not printed
     }
   }
 
@@ -57,7 +57,7 @@ class SearchableIndexReader::File {
     sqlite3_busy_timeout(database_->handle(), 500);
     sqlite3_db_config(database_->handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     if (isIndex(*database_)) return true;
-    database_.reset();  // a writer has just created the file, which has no tables yet
+    database_.reset();  // a writer has just created the file and not yet its tables
     return false;
   }
 

@@ -14,12 +14,12 @@
 
 namespace glyph {
 
-/// Reads the index file that a SqliteSearchableIndex writes, even while another process writes to it. It sees
-/// only committed changes. A missing file counts as an empty index, and each call looks for the file again.
-/// If the file cannot be read (it is locked for half a second, damaged or not an index), calls return empty
-/// results, and error() returns the reason. A diagnostic line is then printed once, and again only if the
-/// file was readable in the meantime. count(), item() and search() do not throw. Only one thread at a time
-/// may use a reader.
+/// Reads the index file that a SqliteSearchableIndex writes, even while another process writes to it. A
+/// reader sees only committed changes. A missing file counts as an empty index, and each call looks for the
+/// file again. If the file cannot be read (it is locked for half a second, damaged or not an index), calls
+/// return empty results, and error() returns the reason. A diagnostic line is then printed once, and again
+/// only if the file was readable in the meantime. count(), item() and search() do not throw. Only one
+/// thread at a time may use a reader.
 class GLYPHORIUM_EXPORT SearchableIndexReader {
  public:
   /// Reads the index of this application; see applicationIdentifier().
@@ -39,10 +39,10 @@ class GLYPHORIUM_EXPORT SearchableIndexReader {
   /// Returns the item with this identifier, or nullopt if there is no such item.
   std::optional<SearchableItem> item(std::string_view uniqueIdentifier);
 
-  /// Returns at most `limit` items that match all words of the query. The query is split into words at white
-  /// space. A query word matches if a word of the item, or a part of such a word after ASCII punctuation,
-  /// begins with it. Case is ignored. A query has no operators. Users type the keyword "qv:" to find only
-  /// items of this application. At the beginning of a query, it needs no space after it.
+  /// Returns at most `limit` items that match all words of the query. The query is split into words at
+  /// white space. A query word matches if it is a prefix of a word of the item, or of the part of such a
+  /// word after ASCII punctuation. Case is ignored. A query has no operators. With the keyword "qv:", users
+  /// find only items of this application. At the beginning of a query, no space is needed after "qv:".
   ///
   /// The order is: items whose symbol equals the query, then those whose identifier does, then those whose
   /// name does, then all others. Within each of these groups, items are ordered by the length of the name,

@@ -47,7 +47,8 @@ void carryOut(const SearchableIndexRequest& request, IndexStore& store) {
 constexpr std::size_t batchRequests = 256;
 constexpr std::size_t batchItems = 20'000;
 
-// Returns the error's message. If there is no memory for it, returns a short text that needs no allocation.
+// Returns the error's message. If there is no memory for the message, returns a short text that needs no
+// allocation.
 std::string text(const std::exception& error) noexcept {
   try {
     return error.what();

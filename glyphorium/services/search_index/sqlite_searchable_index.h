@@ -19,8 +19,9 @@ namespace glyph {
 /// default at most five seconds, and then fail. A diagnostic line is printed after one second.
 ///
 /// A damaged file is renamed, the items that can still be read are copied into a new file, and a diagnostic
-/// line is printed. Two kinds of files are never changed, so that every request fails: a file that a later
-/// version has written, and a file that is not an index and is reached through a symbolic link.
+/// line is printed. Two kinds of files are never changed; requests fail on them: a file that a later
+/// version of the library has written, and a file that is not an index and is reached through a symbolic
+/// link.
 ///
 /// A child process that was created by fork() without exec() must not use this object.
 class GLYPHORIUM_EXPORT SqliteSearchableIndex final : public SearchableIndex {

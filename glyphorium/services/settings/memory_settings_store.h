@@ -10,8 +10,8 @@
 
 namespace glyph {
 
-/// Keeps settings in memory, only as long as the store exists. For tests, and for hosts that must not leave
-/// files on the disk. Thread-safe.
+/// A store that keeps the settings in memory, so they are lost when the store is destroyed. For tests, and
+/// for hosts that must not leave files on the disk. Thread-safe.
 class MemorySettingsStore final : public SettingsStore {
  public:
   std::optional<SettingValue> object(std::string_view key) override {

@@ -31,7 +31,7 @@ std::filesystem::path followLinks(std::filesystem::path file) {
   for (int links = 0; links < 40; ++links) {
     const auto target = std::filesystem::read_symlink(file, error);
     if (error) break;
-    file = file.parent_path() / target;  // an absolute target replaces the whole path
+    file = file.parent_path() / target;  // operator/ with an absolute target gives the target
   }
   return file;
 }
@@ -70,7 +70,7 @@ Outcome select(const Database& database, const std::string& key, std::string& js
 bool isCut(const Database& database, const std::filesystem::path& file) {
   struct stat status {};
   if (stat(file.c_str(), &status) != 0) return false;
-  Statement pageSize(database, "PRAGMA page_size");  // valid after SQLite has read the file
+  Statement pageSize(database, "PRAGMA page_size");  // known only after SQLite has read the file
   return pageSize.step() && status.st_size % pageSize.integer(0) != 0;
 }
 
@@ -97,12 +97,12 @@ Outcome SettingsDatabase::attempt(Step step) try {
 
 void SettingsDatabase::close() {
   if (connection_ && process_ != getpid()) {
-    // A forked process has a copy of the handle but not the locks. Even closing the handle could damage the
-    // parent's database, so the handle is never closed.
+    // A forked child process has a copy of the handle, but not the locks of its parent. Even closing the
+    // handle could damage the parent's database, so the handle is never closed.
     static_cast<void>(connection_.release());
   } else if (connection_ && damaged_) {
-    // On closing, SQLite normally copies the pages of the log into the file. A damaged file must stay
-    // unchanged.
+    // When a connection is closed, SQLite normally copies the pages of the log into the file. A damaged
+    // file must stay unchanged.
     sqlite3_db_config(connection_->handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
   }
   connection_.reset();
@@ -124,13 +124,14 @@ bool SettingsDatabase::goOnWaiting(bool first) {
 
 void SettingsDatabase::connect() {
   process_ = getpid();
-  // The caller uses its own lock for the connection, so the connection does not need a lock of SQLite.
+  // The caller locks its own mutex around every use of the connection, so the connection needs no mutex of
+  // SQLite.
   connection_ = std::make_unique<Database>(file_, SQLITE_OPEN_READWRITE);
   sqlite3_busy_handler(connection_->handle(), waitWhileBusy, this);
 }
 
 // Throws SqliteError if the file is damaged. Without this check, SQLite finds damage only on the pages that
-// it reads, and does not find all damage on these pages. A lost row would then seem absent and be
+// it reads, and not even all damage there. A row on a damaged page would then count as missing and be
 // overwritten.
 void SettingsDatabase::check(Database& database) const {
   Statement check(database, "PRAGMA quick_check(1)");
@@ -151,10 +152,10 @@ bool SettingsDatabase::moved() const {
 
 Outcome SettingsDatabase::create() {
   if (!createPrivateDirectory(file_.parent_path())) return failBySystem();
-  // Create the file with private permissions before SQLite opens it. Otherwise the umask would decide who may
-  // read the file. SQLite gives its other files the same permissions. O_EXCL makes sure that only a new file
-  // is opened here. Closing a file that a connection of this process uses would release the locks of that
-  // connection.
+  // Create the file with private permissions before SQLite opens it. Otherwise the umask would decide who
+  // may read the file. SQLite gives its other files the same permissions. O_EXCL makes sure that only a new
+  // file is opened here: closing a file that a connection of this process uses would release the locks of
+  // that connection.
   const FileDescriptor file(::open(file_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
   return file.get() >= 0 || errno == EEXIST ? Outcome::done : failBySystem();
 }
@@ -239,9 +240,9 @@ Outcome SettingsDatabase::begin() {
     if (!checked_ || isCut(*connection_, file_)) check(*connection_);
     checked_ = true;
     if (!configured_) {
-      // With a write-ahead log, EXTRA is the same as FULL. Without a write-ahead log, EXTRA gives the same
-      // safety. Some network file systems do not support a write-ahead log, and another process may prevent
-      // the switch at this moment. In both cases, continue without a write-ahead log.
+      // With a write-ahead log, EXTRA is the same as FULL. Without one, only EXTRA keeps a commit through a
+      // power failure. Some network file systems do not support a write-ahead log, and another process may
+      // prevent the switch at this moment. In both cases, continue without a write-ahead log.
       connection_->execute("PRAGMA synchronous = EXTRA");
       try {
         connection_->execute("PRAGMA journal_mode = WAL");
@@ -284,8 +285,7 @@ void SettingsDatabase::rollback() {
 
 Outcome SettingsDatabase::putAside(std::filesystem::path& name) {
   name.clear();
-  // A second process may have found the damage too. The lock prevents the second process from renaming the
-  // new file.
+  // Another process may have found the damage too. The lock prevents it from renaming the new file.
   const FileDescriptor directory(::open(file_.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (directory.get() < 0) return failBySystem();
   for (bool first = true; flock(directory.get(), LOCK_EX | LOCK_NB) != 0; first = false) {
@@ -294,7 +294,7 @@ Outcome SettingsDatabase::putAside(std::filesystem::path& name) {
   const bool replaced = !connection_ || moved();
   close();
   if (replaced) return Outcome::done;
-  // Check the file again. The damage may only have been a write of another program that was not yet complete.
+  // Check the file again. What looked like damage may have been an incomplete write of another program.
   const Outcome again = attempt([&] {
     connect();
     check(*connection_);

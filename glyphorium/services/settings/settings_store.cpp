@@ -36,8 +36,9 @@ std::optional<std::string> SettingsStore::readFailure(std::string_view) {
 }
 
 std::shared_ptr<SettingsStore> settingsStore() {
-  // The store is destroyed when the process ends. The destructor saves the remaining values and closes the
-  // file, and SQLite then deletes its log. Code that runs even later creates a new store.
+  // Destroys the store at the end of the process. The destructor of the store saves the remaining values
+  // and closes the file, and SQLite then deletes its log. Code that uses settings even later creates a new
+  // store.
   static const struct AtExit {
     ~AtExit() { setSettingsStore(nullptr); }
   } atExit;

@@ -74,8 +74,8 @@ class GLYPHORIUM_EXPORT SettingsStore {
 /// with atexit(). May be called from any thread.
 GLYPHORIUM_EXPORT std::shared_ptr<SettingsStore> settingsStore();
 
-/// Replaces the store that the library uses by the host's own store. Call this function before settings are
-/// used. nullptr restores the default store.
+/// Makes the library use the host's own store. Call this function before settings are used. nullptr
+/// restores the default store.
 GLYPHORIUM_EXPORT void setSettingsStore(std::shared_ptr<SettingsStore> store);
 
 }  // namespace glyph

@@ -29,9 +29,9 @@ struct GLYPHORIUM_LOCAL SqliteSettingsStore::Impl {
     std::optional<std::string> computedFrom;
   };
 
-  // Locks the store as long as the session exists. Prints the diagnostics after unlocking, because the host's
-  // code receives them. Sessions may be nested. The end of the outermost session, also by an exception, rolls
-  // back an open transaction, so that other processes do not wait for it.
+  // Locks the store as long as the session exists. Prints the diagnostics after unlocking, because printing
+  // may call code of the host. Sessions may be nested. The end of the outermost session, also by an
+  // exception, rolls back an open transaction, so that other processes do not wait for it.
   class Session {
    public:
     explicit Session(Impl& impl) : impl_(impl) {
@@ -203,7 +203,7 @@ void SqliteSettingsStore::set(std::string_view key, SettingValue value) {
   if (!json) return;
   impl_->unsaved.insert_or_assign(name, Impl::Unsaved{*std::move(json), true, std::nullopt});
   impl_->lost.erase(name);
-  // If this is called during update(), update() saves the value.
+  // If `change` has called set() during update(), update() saves the value.
   if (!impl_->updating && impl_->begin()) impl_->save();
 }
 

@@ -25,8 +25,8 @@ namespace glyph {
 ///   at most five seconds. For half a minute after a wait has timed out, operations that find the file locked
 ///   fail without waiting.
 ///
-/// After fork(), the child process must not use a store that was used before the fork. It must call exec()
-/// first.
+/// After fork(), the child process must not use a store that was used before the fork. It may use new
+/// stores after exec().
 class GLYPHORIUM_EXPORT SqliteSettingsStore final : public SettingsStore {
  public:
   /// Uses the file "settings.sqlite" in applicationConfigDirectory().

@@ -39,7 +39,7 @@ bool waitForLock(milliseconds waited) noexcept try {
     policy = current().policy;
   }
   if (!(policy ? (*policy)(waited) : waited < milliseconds(5000))) return false;
-  // Most locks last only a few milliseconds. So the first pauses are short, and later ones are longer.
+  // Most locks last only a few milliseconds, so the first pauses are short.
   std::this_thread::sleep_for(waited < milliseconds(50) ? milliseconds(1) : milliseconds(10));
   return true;
 } catch (...) {  // the policy is the host's code and may throw

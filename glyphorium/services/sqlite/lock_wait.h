@@ -12,9 +12,9 @@ namespace glyph {
 /// index. `waited` is the time that this operation on the settings, or this batch of index requests, has
 /// waited so far. If the policy returns false or throws, the operation fails.
 ///
-/// The policy is called many times a second on the waiting thread, which is a thread of the library for the
-/// index. So several threads may call it at the same time. The library has locked its own mutexes
-/// during the call, so the policy may print or count, but must not call the library.
+/// The policy is called many times a second on the waiting thread. An operation on the index waits on a
+/// thread of the library, so several threads may call the policy at the same time. The library holds its
+/// own mutexes during the call, so the policy may print or count, but must not call the library.
 using LockWaitPolicy = std::function<bool(std::chrono::milliseconds waited)>;
 
 /// Replaces the policy. This is useful for a program that must end within a certain time, or that informs its

@@ -30,9 +30,9 @@ class SqliteError : public std::runtime_error {
   int code_;
 };
 
-/// Called repeatedly by an operation that waits for a locked file. `waited` is the time that it has waited so
-/// far. Asks the LockWaitPolicy whether to continue. If so, sleeps for a few milliseconds and returns true.
-/// Otherwise returns false, and the operation must fail.
+/// Called repeatedly by an operation that waits for a locked file. `waited` is the time that the operation
+/// has waited so far. If the LockWaitPolicy allows to continue, sleeps for a few milliseconds and returns
+/// true. Otherwise returns false, and the operation must fail.
 bool waitForLock(std::chrono::milliseconds waited) noexcept;
 
 /// A connection to a database file. Only one thread at a time may use it. Its functions throw SqliteError.
