@@ -43,7 +43,7 @@ std::string codePoint(char32_t point) {
   return "U+" + text;
 }
 
-// Appends the number in upper-case hexadecimal digits, with zeros before it up to so many digits.
+// Appends the number in upper-case hexadecimal digits, padded with zeros to `digits` digits.
 void appendHex(std::string& text, std::uint32_t number, int digits) {
   char buffer[16];
   text.append(buffer, static_cast<std::size_t>(std::snprintf(buffer, sizeof buffer, "%0*X", digits, number)));
@@ -60,7 +60,7 @@ std::vector<std::uint32_t> utf16Units(char32_t point) {
   return {0xD800 + ((point - 0x10000) >> 10), 0xDC00 + ((point - 0x10000) & 0x3FF)};
 }
 
-// Writes each number with a prefix and so many digits at least.
+// Returns the numbers in hexadecimal, each after the prefix and padded with zeros to `digits` digits.
 std::string numbered(const std::vector<std::uint32_t>& numbers, std::string_view prefix, int digits,
                      std::string_view separator = "") {
   std::string text;
@@ -72,8 +72,8 @@ std::string numbered(const std::vector<std::uint32_t>& numbers, std::string_view
   return text;
 }
 
-// C allows no universal character name for ASCII. An octal escape ends after three digits, whatever follows
-// it.
+// Below U+00A0, C does not allow universal character names such as "\u0041". An octal escape always ends
+// after three digits, so any character may follow it.
 std::string escapedForC(char32_t point) {
   if (point >= 0xA0) return numbered({point}, point < 0x10000 ? "\\u" : "\\U", point < 0x10000 ? 4 : 8);
   char buffer[8];
@@ -88,7 +88,7 @@ std::string escapedForJavaScript(char32_t point) {
   return point < 0x10000 ? numbered({point}, "\\u", 4) : "\\u{" + numbered({point}, "", 1) + "}";
 }
 
-// The letters, digits and signs that a URL never escapes.
+// URLs never escape ASCII letters, ASCII digits and the four signs below (RFC 3986, unreserved characters).
 std::string escapedForUrl(char32_t point) {
   const bool isUnreserved =
       point < 0x80 && (ascii::isAlphanumeric(static_cast<char>(point)) || point == U'-' || point == U'.' ||
@@ -96,7 +96,7 @@ std::string escapedForUrl(char32_t point) {
   return isUnreserved ? std::string(1, static_cast<char>(point)) : numbered(utf8Bytes(point), "%", 2);
 }
 
-// Snippets need the original spelling of the symbol's name, and only the name table has it.
+// Snippets need the original spelling of the symbol's name, which only the Unicode name table has.
 Text snippet(const Entity& entity, std::string (CodeFormats::*format)(std::string_view) const) {
   const auto entry = findName(entity.computed.hex);
   if (!entry || !entry->isSFSymbol) return std::nullopt;

@@ -28,10 +28,9 @@ struct CopyForm {
 /// - "html-hex": "&#x2192;"; "html-decimal": "&#8594;";
 /// - "swift": "\u{2192}", the escape of a string literal;
 /// - "utf-8": "E2 86 92"; "utf-16": "2192"; "utf-32": "00002192"; bytes or units in hexadecimal digits;
-/// - "c": "\u2192", or an octal escape below U+00A0; "javascript": "\u2192", "\u{1F600}"; "json", "java":
-/// "\u2192",
-///   "\uD83D\uDE00"; "python": "\u2192", "\U0001F600"; "rust": "\u{2192}"; "css": "\002192", which needs no
-///   blank after it; "url": "%E2%86%92";
+/// - "c": "\u2192", or an octal escape below U+00A0; "javascript": "\u2192", "\u{1F600}"; "json" and "java":
+///   "\u2192", "\uD83D\uDE00"; "python": "\u2192", "\U0001F600"; "rust": "\u{2192}";
+/// - "css": "\002192", always six digits, so that no blank is needed after them; "url": "%E2%86%92";
 /// - "swiftui", "uikit": the source line that shows the symbol; only for SF Symbols.
 /// For a character of several code points (a hex list, see CodeFormats), the numeric forms contain the number
 /// of each code point in order. The list and its texts live until the program ends.

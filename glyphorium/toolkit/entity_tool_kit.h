@@ -13,13 +13,13 @@
 
 namespace glyph {
 
-/// Operations on entities. The code formats are inherited. The toolkit has no state.
+/// Operations on entities. The class inherits the conversions of CodeFormats and has no state.
 class GLYPHORIUM_EXPORT EntityToolKit : public CodeFormats {
  public:
-  /// Adds names to the records and returns them. Each record gets `fallbackName` and `isSFSymbol` from the
-  /// first entry of the Unicode name table that has the hex code of the record, in upper or lower case. A
-  /// record without an entry is not changed. Then some records are removed: those without a name, those with
-  /// the name "<control>" and those of the group "Private Use Area". Any thread may call this function.
+  /// Returns the records with their names. Each record gets `fallbackName` and `isSFSymbol` from the first
+  /// entry of the Unicode name table that has the hex code of the record, in upper or lower case. A record
+  /// without an entry is not changed. Finally, the records without a name, with the name "<control>" or of
+  /// the group "Private Use Area" are removed. Any thread may call this function.
   std::vector<ComputedEntity> addNames(std::vector<ComputedEntity> to) const;
 
   /// Posts "contentHasChanged" on NotificationCenter::defaultCenter(). A host calls this function to refresh
@@ -33,9 +33,9 @@ class GLYPHORIUM_EXPORT EntityToolKit : public CodeFormats {
   bool writeToPasteboard(std::string_view text,
                          const std::optional<std::string>& displayedValue = std::nullopt) const;
 
-  /// Returns the item with which the desktop's search finds the entity. The title consists of the symbol and
-  /// the name, the comment is the usage note, the genre is the group, and the keywords include the words of
-  /// the search string.
+  /// Returns the item that represents the entity in the desktop's search. The title consists of the symbol
+  /// and the name, the comment is the usage note, the genre is the group, and the keywords include the
+  /// words of the search string.
   SearchableItem searchableItem(const Entity& entity) const;
 
   /// Sends searchableIndex() one request to add or replace the items of the entities. Does not wait for the
