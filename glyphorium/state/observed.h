@@ -34,19 +34,19 @@ class Observed {
     return *this;
   }
 
-  /// Calls `change(T&)`, which changes the value in place, and then calls the function once.
+  /// Calls `change(T&)`, which changes the value in place, and then calls the observing function once.
   template <class Change>
   void modify(Change change) {
     change(value_);
     didSet_(value_);
   }
 
-  /// Stores the value without calling the function. It is used when a structure with observed fields is
-  /// copied.
+  /// Stores the value without calling the observing function, for copying a structure that has observed
+  /// fields.
   void assignSilently(T value) noexcept { value_ = std::move(value); }
 
   const T& get() const noexcept { return value_; }
-  operator const T&() const noexcept { return value_; }  // implicit, because it reads like a const T
+  operator const T&() const noexcept { return value_; }  // implicit, for uses as a const T
   const T* operator->() const noexcept { return &value_; }
   const T& operator*() const noexcept { return value_; }
 

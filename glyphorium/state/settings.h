@@ -9,8 +9,8 @@
 namespace glyph {
 
 /// The user's settings other than the displayed groups and the added characters. Every function reads or
-/// writes settingsStore(). Every write is durable when the function returns. If a stored value has another
-/// type, reading returns the default. Reading never writes.
+/// writes settingsStore(). Every write is durable when the function returns. If a stored value has the
+/// wrong type, the getter returns the default. Getters never write.
 struct GLYPHORIUM_EXPORT EntityUserData {
   /// Returns whether characters that the user adds are put into the desktop's search index automatically. The
   /// default is true.

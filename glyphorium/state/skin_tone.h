@@ -22,11 +22,11 @@ GLYPHORIUM_EXPORT std::string_view skinToneName(SkinTone tone) noexcept;
 /// Returns the tone with exactly this name, or nullopt if there is none.
 GLYPHORIUM_EXPORT std::optional<SkinTone> skinToneNamed(std::string_view name) noexcept;
 
-/// The key of this setting in settingsStore(). The value is a name of skinToneName().
+/// The key of this setting in settingsStore(). The value is a result of skinToneName().
 inline constexpr std::string_view preferredSkinToneKey = "preferredSkinTone";
 
-/// Returns the tone that emoji of people and hands take where the user chooses none. The default is `none`.
-/// Every call reads settingsStore().
+/// Returns the tone of emoji of people and hands if the user does not choose a tone for the single emoji.
+/// The default is `none`. Every call reads settingsStore().
 GLYPHORIUM_EXPORT SkinTone preferredSkinTone();
 
 /// Stores the choice. Returns false if the choice could not be stored.

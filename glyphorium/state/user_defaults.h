@@ -33,10 +33,10 @@ std::string keepUnderAnotherKey(SettingsStore& store, std::string_view key, cons
 /// Prints one diagnostic line about a value that keepUnderAnotherKey() has stored under another key.
 void printKeptValue(std::string_view key, const std::string& keptAs);
 
-/// Changes the stored value of the key in one step of the store. `change(T&)` receives the stored value, or
-/// the default if there is no stored value of type T. If `change` returns false, the store stays unchanged.
-/// If a stored value of another type would be overwritten, it is first copied with keepUnderAnotherKey().
-/// Returns the result of `change`.
+/// Changes the stored value of the key by one call of SettingsStore::update(). `change(T&)` receives the
+/// stored value, or the default if there is no stored value of type T. If `change` returns false, the store
+/// stays unchanged. If a stored value of another type would be overwritten, it is first copied with
+/// keepUnderAnotherKey(). Returns the result of `change`.
 template <class T, class Change>
 bool changeUserDefaults(std::string_view key, T defaultValue, Change change) {
   const auto store = settingsStore();
