@@ -16,14 +16,14 @@ using Codes = std::vector<std::string>;
 
 constexpr std::string_view key = UserInfluencedEntityKey::customAddedEntities.rawValue();
 
-// The codes of the requests that this process has sent to the index. The value is true if the process has
-// asked the index to add the item and false if it has asked to delete the item.
+// The codes for which this process has sent requests to the index. The value is true if the last request
+// added the item, and false if it deleted the item.
 using Requested = std::map<std::string, bool>;
 
 // Updates the index so that it matches the stored list. Several processes may change the list at the same
-// time, and their requests may reach the index in any order. Therefore each process compares the index with
-// the list again after its last request is done. The process whose requests end last sees the final list.
-// Runs on the thread that calls the completions of the index.
+// time, and their requests may reach the index in any order. Therefore each process compares its requests
+// with the stored list again after its last request is done. The process whose requests end last sees the
+// final list. Runs on the thread that calls the completions of the index.
 void reconcileIndex(Requested requested) {
   if (!EntityUserData::useSpotlightExtension()) return;
   const Codes stored = storedCustomCodes();
@@ -55,15 +55,15 @@ std::vector<std::string> Glyphorium::customAddedEntityUnicodes() const {
 // The effects have a fixed order, which observers can see: the old entities leave the index before the list
 // is saved, and the new entities enter the index before the displayed list is published. The settings are
 // locked only while `change` computes the list, because all other steps call code of the host. `change`
-// returns whether it has changed the list. If `change` returns false, the list is not saved and this function
-// returns false.
+// returns true if it has changed the list. Otherwise the list is not saved, and this function returns
+// false.
 bool Glyphorium::changeCustomAddedEntityUnicodes(
     const std::function<bool(std::vector<std::string>&)>& change) {
   if (EntityUserData::useSpotlightExtension()) toolKit().removeFromSpotlight(allCustomEntities);
   Requested requested;
   const bool changed = changeUserDefaults(key, Codes(), [&](Codes& codes) {
-    // The index may contain the items of the stored codes even after the deletion above: another process may
-    // have added them again. So these codes count as indexed.
+    // The index may contain the items of the stored codes even after the deletion above, because another
+    // process may have added them again. So these codes count as indexed.
     for (const std::string& code : codes) requested[code] = true;
     return change(codes);
   });

@@ -9,8 +9,8 @@
 namespace glyph {
 
 /// Returns the entities of the characters with these hex codes or hex lists, in the same order. Each entity
-/// is in the group "custom" and has its name from the name table and its enrichment. A code without a name is
-/// left out.
+/// has the group "custom", the name in the Unicode name table, and its enrichment. A code without a name in
+/// that table is left out.
 std::vector<Entity> customEntities(const std::vector<std::string>& codes);
 
 }  // namespace glyph

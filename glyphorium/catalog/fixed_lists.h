@@ -5,7 +5,7 @@
 
 namespace glyph {
 
-/// Code points that are never shown: signs that many people read as symbols of hate.
+/// Code points that are never shown, because many people see them as symbols of hate.
 inline constexpr std::array<const char*, 6> initialForbiddenUnicodes{"5350", "543d", "0fd5",
                                                                      "0fd6", "0fd7", "0fd8"};
 

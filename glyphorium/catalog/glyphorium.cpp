@@ -41,8 +41,8 @@ Glyphorium::Glyphorium(const Glyphorium& other) : Glyphorium() {
 Glyphorium::~Glyphorium() = default;
 
 Glyphorium& Glyphorium::operator=(const Glyphorium& other) {
-  // Makes all copies first, because copying may run out of memory. The assignments below cannot fail, so the
-  // catalog is never half assigned.
+  // Makes all copies first, because copying may run out of memory. The assignments after that cannot fail,
+  // so the catalog is never partly assigned.
   auto forbidden = other.forbiddenUnicodes;
   auto custom = other.allCustomEntities.get();
   auto counts = other.allEntityGroupNamesWithCount.get();

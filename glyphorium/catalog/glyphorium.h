@@ -18,14 +18,14 @@
 namespace glyph {
 
 /// The character catalog. It is a value type; glyphorium() is the shared instance. Its functions do not
-/// report errors: for bad input each function returns the neutral value that its comment names, and a
-/// diagnostic line describes the problem. Do not use a catalog, or the library's global lists, from two
-/// threads at once.
+/// report errors: for bad input each function returns the neutral value that is documented with it, and
+/// prints a diagnostic line that describes the problem. Do not use a catalog, or the library's global
+/// lists, from two threads at once.
 ///
 /// The only exception that the library throws is std::bad_alloc. Every function that is not noexcept may
-/// throw it, unless the comment of the function says otherwise (see Search::query() for an example). After
-/// the exception, each list of the catalog and each stored choice is either unchanged or complete. The
-/// function can then be called again.
+/// throw it, unless its documentation says otherwise (see Search::query() for an example). After the
+/// exception, each list of the catalog and each stored choice is either unchanged or complete. The function
+/// can then be called again.
 struct GLYPHORIUM_EXPORT Glyphorium {
   using ComputedEntity = glyph::ComputedEntity;
   using AdditionalData = glyph::AdditionalData;
@@ -99,9 +99,9 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   /// that list. The library holds no lock while `change` runs.
   void modifyCustomAddedEntityUnicodes(const std::function<void(std::vector<std::string>&)>& change);
 
-  /// Appends the lower-cased code unless the list already contains it, adds "custom" to the displayed groups
-  /// and counts the groups again. Has the effects of setCustomAddedEntityUnicodes() even if the code was
-  /// already in the list.
+  /// Appends the lower-cased code unless the list already contains it, adds "custom" to the displayed
+  /// groups and updates allEntityGroupNamesWithCount. Has the effects of setCustomAddedEntityUnicodes()
+  /// even if the code was already in the list.
   void addCustomAddedEntity(std::string_view unicode);
 
   /// Does the same as addCustomAddedEntity() for several codes in one change: either all codes are stored or
@@ -153,10 +153,10 @@ struct GLYPHORIUM_EXPORT Glyphorium {
 /// catalog is empty until configure() is called, and it lives until the process ends.
 GLYPHORIUM_EXPORT Glyphorium& glyphorium();
 
-/// Returns a copy of a single entity: the one that configure() puts at this index of buildInEntities(). It is
-/// for programs that show a few characters, such as results of Search::ofCatalog(), and do not need the whole
-/// list. Returns nullopt if the index is too large. configure() need not have been called. Any thread may
-/// call this function.
+/// Returns a copy of a single entity: the one that configure() puts at this index of buildInEntities().
+/// This function is for programs that show only a few characters, such as results of Search::ofCatalog(),
+/// and do not need the whole list. Returns nullopt if the index is too large. configure() need not have
+/// been called. Any thread may call this function.
 GLYPHORIUM_EXPORT std::optional<Entity> buildInEntity(std::size_t place);
 
 /// Returns the group names in display order: "custom", then three fixed groups ("digital typography (latin)",

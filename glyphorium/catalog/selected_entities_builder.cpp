@@ -39,7 +39,7 @@ class Ranks {
 struct Candidate {
   const Entity* entity;
   Rank rank;
-  std::uint32_t codePoint;  // of the row, if it is a candidate of a table
+  std::uint32_t codePoint;  // valid only for the entity of a table
 };
 
 bool before(const Candidate& a, const Candidate& b) {
@@ -66,8 +66,8 @@ std::vector<std::uint32_t> hiddenCodePoints(const std::unordered_set<std::string
   return hidden;
 }
 
-// Returns the displayed entities of the tables in code-point order. The build has sorted the rows, and a
-// table is a group, so this compares no texts.
+// Returns the displayed entities of the tables in code-point order. No texts are compared: the build has
+// sorted the rows, and all rows of a table have the same group.
 std::vector<Candidate> tableCandidates(const std::vector<Entity>& entities, const Ranks& ranks,
                                        const std::unordered_set<std::string>& forbidden) {
   std::vector<Rank> rankOfTable;
@@ -97,15 +97,15 @@ std::vector<Candidate> tableCandidates(const std::vector<Entity>& entities, cons
   return candidates;
 }
 
-// Adds the custom entities to the candidates of the tables. A host may put any entities into this list, so
-// their texts are compared.
+// Adds the custom entities to the candidates of the tables. A host may put any entities into the list of
+// custom entities, so their texts must be compared.
 void addCustomCandidates(const std::vector<Entity>& entities, const Ranks& ranks,
                          const std::unordered_set<std::string>& forbidden,
                          std::vector<Candidate>& candidates) {
   const std::unordered_set<std::string_view> notDisplayable(initialNotDisplayableUnicodes.begin(),
                                                             initialNotDisplayableUnicodes.end());
   const std::size_t ofTables = candidates.size();
-  std::unordered_map<std::string_view, std::size_t> added;  // the places of the other candidates
+  std::unordered_map<std::string_view, std::size_t> added;  // the indexes of the candidates added here
   const auto placeOf = [&](std::string_view hex) {
     const std::uint32_t codePoint = ascii::number(hex, 16).value_or(UINT32_MAX);
     const auto end = candidates.begin() + static_cast<std::ptrdiff_t>(ofTables);
@@ -134,10 +134,10 @@ void addCustomCandidates(const std::vector<Entity>& entities, const Ranks& ranks
       candidates[place].rank = rank;
     }
   }
-  // A stable order keeps different spellings of the same number ("0041", "00041") in the order of the
+  // A stable sort keeps different spellings of the same number ("0041", "00041") in the order of the
   // catalog.
   const auto middle = candidates.begin() + static_cast<std::ptrdiff_t>(ofTables);
-  // An entity of the host may have another number than the entity of a table that it replaces.
+  // A custom entity may have another number than the entity of a table that it replaces.
   if (!std::is_sorted(candidates.begin(), middle, before))
     std::stable_sort(candidates.begin(), middle, before);
   std::stable_sort(middle, candidates.end(), before);

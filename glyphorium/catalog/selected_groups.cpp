@@ -10,7 +10,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-// If the list contains "custom", moves it to the beginning and removes its repetitions.
+// If the list contains "custom", moves this name to the beginning and removes its duplicates.
 Names normalised(Names groups) {
   if (std::erase(groups, customGroup) > 0) groups.emplace(groups.begin(), customGroup);
   return groups;
