@@ -16,7 +16,7 @@ using glyph::glyphorium;
 
 namespace {
 
-// Runs `change`, which sets values in the settings store. Returns whether all values are stored.
+// Runs `change`, which sets values in the settings store. Returns whether all values were stored.
 template <class Change>
 bool stored(Change change) {
   return guarded([&] {

@@ -27,7 +27,7 @@ struct glyphorium_entities {
 
 namespace glyph::c {
 
-/// Sets what glyphorium_last_status() returns on this thread.
+/// Sets the status that glyphorium_last_status() returns on this thread.
 void setStatus(glyphorium_status status) noexcept;
 
 /// Runs the body of a function and returns its result. Returns the neutral value of the result's type if the
@@ -45,11 +45,12 @@ auto guarded(Body body) noexcept -> decltype(body()) {
   return decltype(body())();
 }
 
-/// Reports a bad argument and converts to the neutral value of the function's result.
+/// The result of a function that got a bad argument. Sets the status and converts to the neutral value of
+/// the function's result type.
 struct InvalidArgument {
   InvalidArgument() { setStatus(GLYPHORIUM_INVALID_ARGUMENT); }
   template <class T>
-  operator T() const {  // implicit: stands for any neutral value
+  operator T() const {  // implicit, because it is returned as any result type
     return T();
   }
 };
@@ -60,7 +61,7 @@ inline bool succeeded(bool success) {
   return success;
 }
 
-/// An entity is its own handle: glyphorium_entity is never defined.
+/// A pointer to an Entity serves as the handle; the type glyphorium_entity is declared but never defined.
 inline const Entity& entityOf(const glyphorium_entity* handle) {
   return *reinterpret_cast<const Entity*>(handle);
 }
@@ -109,8 +110,8 @@ inline std::shared_ptr<void> userOf(void* user, glyphorium_destroy destroy) {
 }
 
 /// Returns a copy of the host's structure. A host that was built with an older version passes a shorter
-/// structure; the members that it lacks are zero in the copy. Returns nullopt if the structure is shorter than
-/// `least` bytes.
+/// structure; the members that it lacks are zero in the copy. Returns nullopt if the structure is shorter
+/// than `least` bytes.
 template <class Structure>
 std::optional<Structure> structureOf(const Structure* given, std::size_t least) {
   if (given->struct_size < least) return std::nullopt;

@@ -388,7 +388,7 @@ bool glyphorium_index_reset(glyphorium_done done, void* user) {
 }
 
 bool glyphorium_index_wait(int64_t milliseconds) {
-  // A much longer wait would overflow the clock.
+  // The limit prevents an overflow of the deadline.
   constexpr std::int64_t longest = INT_MAX;
   return guarded([=] {
     const std::chrono::milliseconds limit(std::clamp<std::int64_t>(milliseconds, 0, longest));
