@@ -53,8 +53,8 @@ void Display::internAtoms() {
   }
 }
 
-// The server reports every change of a property in an event that contains the server's time. Appending
-// nothing also counts as a change.
+// The server reports every change of a property in an event that contains the server's time. Appending zero
+// bytes counts as a change too.
 std::optional<xcb_timestamp_t> Display::serverTime() {
   xcb_change_property(connection_, XCB_PROP_MODE_APPEND, window_, atoms_.copiedAt, XCB_ATOM_CARDINAL, 32, 0,
                       nullptr);

@@ -8,10 +8,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// The server stores one piece of each transfer, so it stores at most 16 MiB.
+// The server stores at most one piece of each transfer, so these limits keep its memory use below 16 MiB.
 constexpr std::size_t mostTransfers = 64;
 constexpr std::size_t mostBytes = std::size_t{256} * 1024;
-// A reader must read each piece within this time. A working program needs milliseconds.
+// A transfer ends if its reader does not read a piece within this time. Working programs read a piece
+// within milliseconds.
 constexpr auto readTimeout = 5s;
 
 }  // namespace

@@ -11,9 +11,9 @@
 
 namespace clipboard {
 
-/// Sends texts that are too large for one property, in pieces, by the INCR protocol of X11. Each piece is
-/// sent after the reader has deleted the previous piece, so the server stores only one piece of each
-/// transfer. Not thread-safe.
+/// Sends texts that are too large for one property, piece by piece, with the INCR protocol of X11. Each
+/// piece is sent after the reader has deleted the previous piece, so the server stores only one piece of
+/// each transfer. Not thread-safe.
 class IncrementalTransfers {
  public:
   using Clock = std::chrono::steady_clock;

@@ -50,8 +50,8 @@ std::optional<std::string> standardInput() {
   }
 }
 
-// Another program may wait until our output is closed, or may have given us an open file. The background
-// process must not keep these files open.
+// Replaces the standard streams of the background process with /dev/null. Otherwise a program that waits for
+// the end of our output would wait as long as the background process runs.
 void releaseStandardStreams() {
   const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
   for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(nothing, stream);
@@ -65,7 +65,7 @@ int endingSignals() {
   sigemptyset(&signals);
   for (const int signal : {SIGTERM, SIGINT, SIGHUP}) sigaddset(&signals, signal);
   sigprocmask(SIG_BLOCK, &signals, nullptr);
-  signal(SIGPIPE, SIG_IGN);  // writing to a server that has ended must not end this process
+  signal(SIGPIPE, SIG_IGN);  // if the X server has ended, writing to it must not kill this process
   return signalfd(-1, &signals, SFD_CLOEXEC);
 }
 
@@ -88,7 +88,7 @@ int copy(SelectionOwner::Clock::time_point requestedAt) {
       break;
   }
   // Fork only now, because the caller may use the clipboard as soon as this process has ended. The child
-  // continues to use the connection. The parent must not use the connection any more.
+  // continues to use the connection. From here on, the parent must not use the connection.
   const pid_t child = fork();
   if (child < 0) return failure("the background process could not be started");
   if (child > 0) {

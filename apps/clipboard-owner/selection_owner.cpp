@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// The longest time that the clipboard manager may use to read the text.
+// The clipboard manager has this much time to read the text.
 constexpr auto handOverLimit = 5s;
 // The most conversions that one MULTIPLE request may contain. No known program requests so many.
 constexpr std::uint32_t mostConversions = 128;
@@ -63,8 +63,8 @@ SelectionOwner::Acquired SelectionOwner::acquire(Clock::time_point requestedAt) 
     }
     if (owner == display_.window() || released_) return Acquired::owned;
     if (isLaterCopy(owner)) return Acquired::overtaken;
-    // Another program has acquired the selection meanwhile, perhaps to keep the previous content. This copy
-    // is still in progress, so its text is newer.
+    // Another program has acquired the selection since this copy was requested, perhaps to keep the
+    // previous content. The text of this copy is newer, so try again.
     ownedSince_ = display_.serverTime().value_or(0);
   }
   return Acquired::failed;
@@ -73,7 +73,7 @@ SelectionOwner::Acquired SelectionOwner::acquire(Clock::time_point requestedAt) 
 bool SelectionOwner::isLaterCopy(xcb_window_t owner) {
   if (owner == XCB_NONE) return false;
   const auto copiedAt = display_.values(owner, atoms_.copiedAt, XCB_ATOM_CARDINAL, 1);
-  // The server's clock starts again at 0 after 49 days. Compare times only by their difference.
+  // The server's clock restarts at 0 every 49 days, so times are compared by the sign of their difference.
   return copiedAt && copiedAt->size() == 1 &&
          static_cast<std::int32_t>(copiedAt->front() - copiedAt_) > simultaneous;
 }
@@ -97,13 +97,14 @@ void SelectionOwner::serve(int signals) {
     if (inputs[1].revents) {
       // A signalfd_siginfo has 128 bytes.
       char information[128];
-      // If end_ is set, this is the second signal: stop without waiting for the clipboard manager.
+      // If `end_` is already set, this is the second signal: stop without waiting for the clipboard
+      // manager.
       if (end_ || read(signals, information, sizeof information) <= 0) break;
       handOver();
     }
   }
-  // When a connection closes, the server discards the requests that it has not read yet. Its answer to this
-  // last request shows that it has read all requests.
+  // When the connection closes, the server discards the requests that it has not read yet. Wait for the
+  // answer to one last request: then the server has read all requests.
   display_.ownerOf(atoms_.clipboard);
 }
 
@@ -145,10 +146,10 @@ void SelectionOwner::handle(const xcb_generic_event_t& event) {
   }
 }
 
-// The time in the request is ignored. This process offers the same text at all times. A program that pastes
-// after a click sends the time of the click, which may be before the copy.
+// Ignores the time in the request, because the offered text never changes, and because the time may be
+// earlier than the copy: a program that pastes after a click sends the time of the click.
 void SelectionOwner::answer(const xcb_selection_request_event_t& request) {
-  // Old programs do not name a property. The target is then also the name of the property.
+  // Old programs do not name a property. Then the target is used as the property (ICCCM).
   const xcb_atom_t property = request.property ? request.property : request.target;
   const bool given =
       request.selection == atoms_.clipboard &&
@@ -174,7 +175,7 @@ bool SelectionOwner::convert(xcb_window_t reader, xcb_atom_t property, xcb_atom_
   } else if (target == atoms_.timestamp) {
     display_.setValues(reader, property, XCB_ATOM_INTEGER, {ownedSince_});
   } else if (target == atoms_.saveTargets) {
-    // This target has no content. It only shows that handOver() is supported.
+    // This target has no content. Its success only shows that this owner supports clipboard managers.
     display_.setValues(reader, property, atoms_.null, {});
   } else if (const auto form = text_.form(target)) {
     if (form->bytes.size() > transfers_.pieceSize()) return transfers_.begin(reader, property, *form);
@@ -186,8 +187,8 @@ bool SelectionOwner::convert(xcb_window_t reader, xcb_atom_t property, xcb_atom_
   return true;
 }
 
-// The property contains pairs of a target and a property. Each target that cannot be converted is replaced by
-// None.
+// The property contains pairs of a target and a property. In each pair whose target cannot be converted,
+// the property is replaced by None.
 bool SelectionOwner::convertSeveral(xcb_window_t reader, xcb_atom_t property) {
   auto pairs = display_.values(reader, property, atoms_.atomPair, 2 * mostConversions);
   if (!pairs || pairs->size() % 2 != 0) return false;

@@ -12,8 +12,8 @@
 namespace clipboard {
 
 /// Owns the selection CLIPBOARD of an X server and answers requests with one text, as described in the
-/// Inter-Client Communication Conventions Manual (ICCCM). Not thread-safe. The display must exist as long as
-/// this object.
+/// Inter-Client Communication Conventions Manual (ICCCM). Not thread-safe. The display must outlive this
+/// object.
 class SelectionOwner {
  public:
   using Clock = std::chrono::steady_clock;
@@ -26,8 +26,8 @@ class SelectionOwner {
   Acquired acquire(Clock::time_point requestedAt);
 
   /// Answers requests until another program owns the selection and all transfers are finished, or until the
-  /// connection breaks. When `signals` (a signalfd) becomes readable, gives the text to the clipboard manager
-  /// and returns. A second signal makes this function return at once.
+  /// connection breaks. At the first signal from `signals` (a signalfd), gives the text to the clipboard
+  /// manager and returns. A second signal makes this function return at once.
   void serve(int signals);
 
  private:
