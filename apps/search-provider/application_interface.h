@@ -7,9 +7,9 @@ namespace provider {
 
 class Service;
 
-/// The interface org.freedesktop.Application (desktop entries of freedesktop.org, D-Bus activation). Its bus
-/// name is the application identifier. Its methods open the search in a window. This program offers the
-/// interface because the application has no other process on the bus.
+/// The interface org.freedesktop.Application (desktop entries of freedesktop.org, D-Bus activation). Its
+/// bus name is the application identifier. Its methods open the search in a window. This program implements
+/// the interface because no other program of the application is always reachable on the bus.
 class ApplicationInterface {
  public:
   explicit ApplicationInterface(Service& service) : service_(service) {}

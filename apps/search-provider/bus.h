@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT
-// Helpers for sd-bus: owning pointers, and errors as exceptions. A method that throws sends an error reply.
+// SPDX-License-Identifier: MIT Helpers for sd-bus: smart pointers for its objects, and exceptions for its
+// errors. If a D-Bus method throws an exception, the caller gets an error reply.
 #pragma once
 
 #include <systemd/sd-bus.h>
@@ -22,7 +22,7 @@ using Message = std::unique_ptr<sd_bus_message, Releaser<sd_bus_message, sd_bus_
 /// returns the result.
 int check(int result);
 
-/// An exception. A D-Bus method that throws it sends this error to its caller.
+/// An exception with a D-Bus error. If a D-Bus method throws it, its caller gets this error.
 struct CallError {
   const char* name;  ///< a D-Bus error name
   std::string text;
@@ -37,8 +37,8 @@ bool isBusText(std::string_view text);
 
 std::string readText(sd_bus_message* message);
 
-/// Reads the next argument of the message, an array of texts, and returns its first `most` texts. If it
-/// returns `most` texts, the following arguments of the message can no longer be read.
+/// Reads the next argument of the message, an array of texts, and returns its first `most` texts. If the
+/// array has `most` or more texts, the arguments after it can no longer be read.
 std::vector<std::string> readTexts(sd_bus_message* message, std::size_t most);
 void skipTexts(sd_bus_message* message);
 void append(sd_bus_message* message, const std::vector<std::string>& texts);

@@ -24,15 +24,16 @@ using glyph::SearchResult;
 
 constexpr std::string_view scope = "qv:";
 
-// In bytes. No one types a longer query. The index would split and sort all its words while other callers
-// wait.
+// The maximum length of a query in bytes. No one types a longer query, and splitting and sorting its words
+// would delay the answers to other callers.
 constexpr std::size_t longestQuery = 1000;
 
-// If the user leaves the catalog out, this many of the best characters of the catalog are looked up in the
+// If the user has excluded the catalog from the search, the catalog still finds characters, but only those
+// that are also in an index are shown. This is the maximum number of characters that are looked up in the
 // indexes.
 constexpr std::size_t mostLookUps = 200;
 
-// A query with fewer letters is ignored, because too many other words begin with these letters.
+// A query with fewer letters is ignored, because it is a prefix of too many words.
 constexpr std::size_t fewestLetters = 3;
 
 // Maximum number of results for an everyday word. Only the best characters are shown, because the user may
@@ -44,8 +45,8 @@ std::string_view withoutScope(std::string_view query) {
   return isScoped(wanted) ? glyph::trimmed(wanted.substr(scope.size())) : wanted;
 }
 
-// Whether the text is a code in an unmistakable form, such as "U+2192", "&rarr;" or "\u2192". A text that may
-// also be a number, a word or a file name is not such a code.
+// Whether the text can only be a code, such as "U+2192", "&rarr;" or "\u2192", and not also a number, a
+// word or a file name.
 bool isFullCode(std::string_view text) {
   const std::u32string points = glyph::codePoints(text);
   const bool marked = !points.empty() && !glyph::isAlphanumeric(points.front());
@@ -74,7 +75,7 @@ bool isWords(std::string_view text) {
          static_cast<std::size_t>(letters + joints) == points.size();
 }
 
-// A query without its "qv:", and what is computed from it.
+// A query without its prefix "qv:", and values computed from it.
 struct Wanted {
   explicit Wanted(std::string_view query)
       : text(withoutScope(query)), lowered(glyph::lowercased(text)), fullCode(isFullCode(text)) {}
@@ -93,7 +94,7 @@ Exactness exactnessOf(const Wanted& wanted, const Entity& entity, const SearchRe
   return result.field == SearchField::htmlName ? Exactness::part : Exactness::word;
 }
 
-// The same for a character that only an index contains.
+// Returns the exactness for a character that only an index contains.
 Exactness exactnessOf(const Wanted& wanted, const Entity& entity) {
   if (wanted.text.empty()) return Exactness::part;
   if (entity.computed.symbol == wanted.text || entity.computed.hex == wanted.lowered) return Exactness::code;
@@ -128,7 +129,7 @@ bool isScoped(std::string_view query) {
   return glyph::lowercased(glyph::trimmed(query).substr(0, scope.size())) == scope;
 }
 
-// A setting that cannot be read keeps the value that it had before, and the next call reads it again.
+// If a setting cannot be read, the previous value is used until a later call can read it.
 void CharacterSearch::readSettings() {
   std::string state = settingsState();
   if (search_ && state == settingsState_) return;
@@ -164,7 +165,8 @@ std::vector<Found> CharacterSearch::find(std::string_view query, std::size_t lim
   };
   const std::size_t asked = wholeCatalog_ ? limit : std::max(limit, mostLookUps);
   glyph::SearchResults answer = search_->query(wanted.text, {asked, std::nullopt, {}});
-  // The desktop shows the results of many programs. Guesses would only be in the way.
+  // Results that lack words of the query are guesses. They are dropped, because the desktop shows the
+  // results of many programs.
   if (answer.lacksWords) answer.results.clear();
   for (const SearchResult& result : answer.results) {
     if (found.size() == limit) break;

@@ -28,8 +28,8 @@ struct Found {
   Exactness exactness;
 };
 
-/// The search that the desktop uses. It finds characters of the catalog, characters that the user added, and
-/// items that hosts put into their indexes. The user can leave out the catalog, see
+/// The search that the desktop uses. It finds characters of the catalog, characters that the user added,
+/// and items that hosts put into their indexes. The user can exclude the catalog, see
 /// glyph::desktopSearchesCatalog(). The methods throw only if memory runs out.
 class CharacterSearch {
  public:
@@ -38,12 +38,12 @@ class CharacterSearch {
   /// come first, in its order, then those that only an index contains.
   std::vector<Found> find(std::string_view query, std::size_t limit);
 
-  /// Returns only characters that the query certainly means, for desktops that send every query to every
-  /// program. Such a query is the character itself, a full code or HTML reference, a whole name or a whole
-  /// everyday word. If the query begins with "qv:", returns the same as find().
+  /// Like find(), but returns only characters that the query clearly asks for. It is for desktops that send
+  /// every query to every program. The query must be the character itself, a full code or HTML reference, a
+  /// whole name or a whole everyday word. If the query begins with "qv:", returns the same as find().
   std::vector<Found> findMeant(std::string_view query, std::size_t limit);
 
-  /// Returns the character with the identifier of a result, or nullopt if there is no such character.
+  /// Returns the character with this identifier (see Found), or nullopt if there is no such character.
   std::optional<glyph::Entity> entity(std::string_view identifier);
 
  private:
@@ -56,7 +56,8 @@ class CharacterSearch {
   std::optional<std::string> settingsState_;
 };
 
-/// Whether the query begins with "qv:". With this prefix the user asks only for Glyphorium's characters.
+/// Whether the query begins with "qv:". With this prefix, the user asks for characters from Glyphorium
+/// only.
 bool isScoped(std::string_view query);
 
 }  // namespace provider

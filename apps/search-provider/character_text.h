@@ -10,7 +10,7 @@
 namespace provider {
 
 /// Converts an item of an index to an entity. The hex code is the item's identifier and the group is its
-/// genre. The symbol and the name are those of the item. An item without a symbol gets its title as the
+/// genre. The symbol and the name are those of the item. If the item has no symbol, its title is the
 /// symbol.
 glyph::Entity entityOf(const glyph::SearchableItem& item);
 

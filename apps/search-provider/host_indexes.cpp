@@ -17,8 +17,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// The maximum numbers of indexes and of directory entries that are read. Real users have fewer hosts. Other
-// programs also create entries in the directory, so a huge directory must not delay the search.
+// The maximum numbers of indexes and of directory entries that are read. Real users have fewer indexes.
+// Other programs also create entries in the directory, and a huge directory must not delay the search.
 constexpr std::size_t mostIndexes = 16;
 constexpr int mostEntries = 2000;
 
@@ -62,8 +62,8 @@ void HostIndexes::lookForFiles() {
 }
 
 // Calls `question` for one index after the other until it returns true. If another program has locked an
-// index, the reader waits up to half a second. Desktops send a query for every key. An index that caused such
-// a wait is therefore left out for the next second. Otherwise, each waiting query would take as long.
+// index, the reader waits up to half a second. Desktops send a query for every key press, and each of these
+// queries would wait as long. Therefore, an index that caused a wait is left out for the next second.
 void HostIndexes::ask(const std::function<bool(glyph::SearchableIndexReader&)>& question) {
   lookForFiles();
   for (const std::filesystem::path& file : files_) {

@@ -13,14 +13,14 @@
 
 namespace provider {
 
-/// The search indexes of all hosts of this user. The index of a host is the file index.sqlite in the
-/// directory of $XDG_DATA_HOME that has the host's application identifier as its name. Only regular files
-/// that belong to the user are read, and only a limited number of them. The index of this application comes
-/// first. An index that cannot be read counts as empty. The methods throw only if memory runs out.
+/// The search indexes of all hosts of this user. The index of a host is the file
+/// $XDG_DATA_HOME/<application identifier>/index.sqlite. Only regular files that belong to the user are
+/// read, and only a limited number of them. The index of this application comes first. An index that cannot
+/// be read counts as empty. The methods throw only if memory runs out.
 class HostIndexes {
  public:
-  /// Returns the item with the identifier from the first index that contains such an item. nullopt if there
-  /// is no such index.
+  /// Returns the item with this identifier from the first index that has one, or nullopt if no index has
+  /// one.
   std::optional<glyph::SearchableItem> item(std::string_view identifier);
 
   /// Returns the items that the indexes find: at most `limit` items of the first index, then those of the

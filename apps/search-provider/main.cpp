@@ -83,10 +83,11 @@ int main(int argc, char** argv) {
     return wrongUse;
   }
 
-  // The journal receives the standard error of programs that the bus starts, and the bus's own messages about
-  // these programs.
+  // Diagnostics go to standard error, because the system journal records the standard error of programs
+  // that the bus starts.
   glyph::setDiagnosticsSink(complain);
-  // Desktops wait for the answer at every key. A setting that another program has locked is read again later.
+  // Desktops wait for the answer after every key press. If another program has locked the settings, they
+  // are read again at a later call.
   glyph::setLockWaitPolicy(
       [](std::chrono::milliseconds waited) { return waited < std::chrono::milliseconds(300); });
   std::signal(SIGPIPE, SIG_IGN);

@@ -18,7 +18,7 @@ namespace {
 
 using Command = std::vector<std::string>;
 
-// The output goes through a pager, which keeps the terminal open and has the usual keys for scrolling.
+// The output goes through the pager less, which keeps the terminal open and lets the user scroll.
 constexpr const char* script =
     "if [ -n \"$1\" ]; then glyphorium --color always search --limit 500 -- \"$1\" 2>&1; "
     "else glyphorium --color always list --all; fi | LESS= less -R";
@@ -57,8 +57,8 @@ Command terminal() {
   throw CallError{SD_BUS_ERROR_FAILED, "No terminal program is installed that could show the search"};
 }
 
-// Starts the command in a session of its own. Because of the second fork, init becomes the parent: the
-// command may run longer than this program, and this program need not wait for it.
+// Starts the command in a session of its own. The second fork makes init the parent of the command, so the
+// command can outlive this program, and this program need not wait for the command.
 void startDetached(const Command& command) {
   std::vector<char*> arguments;
   for (const std::string& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));

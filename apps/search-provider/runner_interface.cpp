@@ -9,7 +9,8 @@
 namespace provider {
 namespace {
 
-// A small number, because the desktop shows the matches among the results of other programs.
+// The maximum number of matches. It is small, because the desktop shows the matches among the results of
+// other programs.
 constexpr std::size_t matchLimit = 12;
 
 struct Action {
@@ -26,8 +27,7 @@ constexpr Action allActions[] = {
     {"code-point", "Copy Code Point", "accessories-character-map", codePoint},
 };
 
-// Returns the category relevance of a match. These numbers have the same meaning in versions 5 and 6 of the
-// desktop's libraries.
+// Returns the category relevance of a match. The numbers have the same meaning for KRunner 5 and 6.
 int categoryRelevance(Exactness exactness, bool scoped) {
   if (exactness == Exactness::code) return 100;
   return exactness == Exactness::name || scoped ? 70 : 30;

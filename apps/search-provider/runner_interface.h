@@ -5,8 +5,8 @@
 
 namespace provider {
 
-/// The interface org.kde.krunner1. KRunner and other programs that use its library call it to get matches
-/// with the texts and icons to show, and to run a match with its default action or another action.
+/// The interface org.kde.krunner1. KRunner, and other programs with the same library, call this interface
+/// to get matches with the texts and icons to show, and to run one of the actions of a match.
 class RunnerInterface {
  public:
   explicit RunnerInterface(Service& service) : service_(service) {}

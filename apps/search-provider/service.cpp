@@ -18,12 +18,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// How long an idle program stays on the bus after it has released its names. Clients need some time to learn
-// that a name no longer has an owner. Until then they send calls to the old connection. If the connection
-// were closed, these calls would be lost.
+// How long this program stays connected to the bus after it has released its names. Until clients learn
+// that a name has no owner any more, they send calls to the connection that owned it. These calls would be
+// lost if the connection were closed at once.
 constexpr std::chrono::microseconds timeForLastCalls = 1s;
 
-// Blocks the signals. The event loop handles them instead, so that a signal does not interrupt a call.
+// Blocks SIGTERM, SIGINT and SIGHUP. The event loop handles them, so that they do not interrupt a call.
 void catchSignals() {
   sigset_t signals;
   sigemptyset(&signals);
@@ -58,7 +58,7 @@ void Service::run() {
   sd_event_source* quiet = nullptr;
   check(sd_event_add_time_relative(loop, &quiet, CLOCK_MONOTONIC, 0, 1000, &Service::onQuiet, this));
   quiet_.reset(quiet);
-  // The timer comes after all messages that are waiting on the bus.
+  // The timer has a lower priority than all messages that are waiting on the bus.
   check(sd_event_source_set_priority(quiet, SD_EVENT_PRIORITY_IDLE));
   check(sd_event_source_set_enabled(quiet, SD_EVENT_OFF));
 
@@ -72,19 +72,19 @@ void Service::run() {
   runner.addTo(bus);
   ApplicationInterface application(*this);
   application.addTo(bus);
-  // The name is requested last. Until the program owns it, the bus holds back the call that started the
-  // program.
+  // Request the name only after everything else is ready: as soon as this program owns the name, the bus
+  // delivers the call that started the program.
   const int taken = sd_bus_request_name(bus, busName().c_str(), 0);
   if (taken == -EEXIST) throw CallError{SD_BUS_ERROR_FAILED, busName() + " is already running"};
   check(taken);
-  // If the application has an open window, the program of the window owns the application's own name. This
-  // program then waits in the queue for the name.
+  // While a window of the application is open, the program of that window owns the name of the application,
+  // and this program waits in the queue for the name.
   sd_bus_request_name(bus, glyph::applicationIdentifier().c_str(),
                       SD_BUS_NAME_ALLOW_REPLACEMENT | SD_BUS_NAME_QUEUE);
   check(sd_bus_attach_event(bus, loop, SD_EVENT_PRIORITY_NORMAL));
   quietLimit_ = idleLimit_;
   noteCall();
-  check(sd_event_loop(loop));  // the result is only an exit code
+  check(sd_event_loop(loop));  // the result is only the exit code of the loop
   quiet_.reset();
   bus_.reset();
 }
@@ -95,8 +95,8 @@ void Service::noteCall() {
   check(sd_event_source_set_enabled(quiet_.get(), SD_EVENT_ONESHOT));
 }
 
-// Releases the names first and ends the program only later. The bus starts the program again for new calls,
-// and calls that the bus has already sent to this process still get an answer.
+// Releases the names first, and ends the program a little later. In between, calls that the bus has already
+// sent to this process still get an answer. For new calls, the bus starts the program again.
 int Service::leave(std::chrono::microseconds limit) noexcept try {
   if (!leaving_) {
     check(sd_bus_release_name(bus_.get(), busName().c_str()));

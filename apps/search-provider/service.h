@@ -25,9 +25,9 @@ using EventLoop = std::unique_ptr<sd_event, Releaser<sd_event, sd_event_unref>>;
 using EventSource =
     std::unique_ptr<sd_event_source, Releaser<sd_event_source, sd_event_source_disable_unref>>;
 
-/// The program on the session bus. It acquires its names and answers calls. It exits if there has been no
-/// call for a while, if it receives SIGTERM, SIGINT or SIGHUP, or if the bus ends. The bus starts it again
-/// for the next call.
+/// The program on the session bus. It acquires its bus names and answers calls. It exits if there has been
+/// no call for a while, if it receives SIGTERM, SIGINT or SIGHUP, or if the connection to the bus is lost.
+/// The bus starts it again for the next call.
 class Service {
  public:
   /// The program exits if there is no call for `idleLimit`. Zero means that it does not exit when idle.
@@ -39,7 +39,7 @@ class Service {
 
   CharacterSearch& characters() { return characters_; }
 
-  /// Restarts the idle time. Every D-Bus method calls it first.
+  /// Restarts the idle timer. Every D-Bus method calls this function first.
   void noteCall();
 
   /// Copies a form of the character to the clipboard. Throws CallError if there is no such character or if

@@ -9,11 +9,11 @@
 namespace provider {
 namespace {
 
-// The shell itself shows only five results.
+// The maximum number of results. GNOME Shell itself shows only five.
 constexpr std::size_t resultLimit = 20;
 
-// The maximum numbers of identifiers and terms that are read from one call. Shells send fewer. Any further
-// ones are ignored, because they would delay other callers.
+// The maximum numbers of identifiers and terms that are read from one call. The desktop sends fewer.
+// Additional ones are ignored, because they would delay the answers to other callers.
 constexpr std::size_t mostIdentifiers = 200;
 constexpr std::size_t mostTerms = 100;
 
@@ -85,7 +85,8 @@ void ShellInterface::getResultMetas(sd_bus_message* call) {
     appendEntry(reply.get(), "name", busText(label(*entity)));
     appendEntry(reply.get(), "description", busText(description(*entity)));
     appendEntry(reply.get(), "gicon", glyph::applicationIdentifier());
-    // The shell copies this text itself. If the bus cannot carry the text, only activateResult() can copy it.
+    // The shell copies this text itself. If sd-bus does not accept the text, only activateResult() can copy
+    // it.
     const std::string text = character(*entity);
     if (isBusText(text)) appendEntry(reply.get(), "clipboardText", text);
     check(sd_bus_message_close_container(reply.get()));

@@ -5,9 +5,9 @@
 
 namespace provider {
 
-/// The interface org.gnome.Shell.SearchProvider2. The overview of GNOME Shell calls it for the identifiers of
-/// the results while the user types, for the texts of the few results that it shows, and when the user
-/// chooses one.
+/// The interface org.gnome.Shell.SearchProvider2. GNOME Shell calls this interface to get the identifiers
+/// of the results while the user types, to get the texts of the results that it shows, and to activate the
+/// result that the user chooses.
 class ShellInterface {
  public:
   explicit ShellInterface(Service& service) : service_(service) {}
