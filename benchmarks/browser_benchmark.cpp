@@ -1,8 +1,7 @@
-// SPDX-License-Identifier: MIT
-// Measures what the user waits for in the window: a key stroke in the search field, and a page of the grid.
-// The counter "worst_ms" is the longest single step, because one long step is what people notice. Glyphs are
-// drawn on another thread: "pages" measures how long the thread of the window is kept busy while that
-// happens.
+// SPDX-License-Identifier: MIT Measures how long the user of the window waits for the result of a key press
+// in the search field, and for a page of the grid. The counter "worst_ms" is the time of the longest single
+// step, because users notice long steps. "pages" measures how long the main thread is busy while another
+// thread draws the glyphs.
 #include <benchmark/benchmark.h>
 #include <glyphorium/glyphorium.h>
 
@@ -30,8 +29,8 @@ double processorMilliseconds() {
   return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
 }
 
-// The longest step so far, by the clock on the wall and by the time that this thread had a processor. The
-// difference is waiting: for the other thread, or for other programs on a busy machine.
+// The longest step so far, in wall-clock time and in CPU time of this thread. The difference is the time that
+// the thread waited for the other thread, or for other programs on a busy machine.
 struct Longest {
   double wall = 0, processor = 0;
   QString what;
@@ -62,13 +61,13 @@ struct Window {
   Window() {
     window.resize(1'200, 800);
     window.show();
-    // The first card is part of the start.
+    // Wait until the window has shown its first card, which is not measured.
     const auto begin = Clock::now();
     while (Clock::now() - begin < std::chrono::milliseconds(300)) QApplication::processEvents();
   }
 };
 
-// Every tenth query of the list, as typing all of them takes minutes.
+// Returns every tenth query of the list, because typing all of them would take minutes.
 std::vector<QString> queries() {
   std::vector<QString> result;
   int number = 0;
@@ -80,7 +79,7 @@ std::vector<QString> queries() {
   return result;
 }
 
-// Each query is typed letter by letter; every letter includes painting the grid.
+// Types each query letter by letter. The time of a letter includes painting the grid.
 void keyStrokes(benchmark::State& state) {
   Window shown;
   Longest longest;
@@ -101,7 +100,8 @@ void keyStrokes(benchmark::State& state) {
 }
 BENCHMARK(keyStrokes)->Unit(benchmark::kMillisecond)->Iterations(1);
 
-// From the first page to the last, first while glyphs are being drawn, then with what is kept of them.
+// Scrolls through the grid page by page. In the first iteration the glyphs are being drawn, in the second
+// they are cached.
 void pages(benchmark::State& state) {
   Window shown;
   QScrollBar& bar = *shown.grid.verticalScrollBar();

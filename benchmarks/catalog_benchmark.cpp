@@ -61,7 +61,7 @@ void copyBytes(benchmark::State& state) {
 }
 BENCHMARK(copyBytes)->Unit(benchmark::kMillisecond);
 
-// Configures with no displayed group, as a new user does, or with all groups.
+// Configures the catalog either for a new user, who has no displayed groups, or with all groups displayed.
 void configure(bool allGroups) {
   const auto settings = std::make_shared<MemorySettingsStore>();
   if (allGroups) {
@@ -104,7 +104,7 @@ BENCHMARK_CAPTURE(inFreshProcess, configureAllGroups, "configureAllGroups")
     ->Iterations(processes);
 BENCHMARK_CAPTURE(inFreshProcess, oneEntity, "oneEntity")->UseManualTime()->Iterations(processes);
 
-// Decodes the tables as a host decodes tables of its own.
+// Decodes the embedded tables in the way in which a host decodes its own tables.
 std::vector<Entity> decodedRows() {
   std::vector<Entity> records;
   records.reserve(17532);
@@ -120,7 +120,8 @@ std::vector<Entity> decodedRows() {
   return records;
 }
 
-// Measures `make`, but not the destruction of its result: a program fills its catalog once and keeps it.
+// Measures `make`, but not the destruction of its result, because a program fills its catalog once and keeps
+// it.
 template <class Make>
 void measureMaking(benchmark::State& state, Make make) {
   for (auto _ : state) {

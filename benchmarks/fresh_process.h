@@ -12,20 +12,20 @@
 #include <map>
 #include <string>
 
-/// Measures what an action costs in a process that has done nothing before. Such a process pays for memory
-/// that it touches for the first time, which later repetitions do not show.
+/// Measures an action in a process that has done nothing else before. The first use of memory takes time in
+/// such a process, which repetitions in the same process would not show.
 namespace glyph {
 
 using Actions = std::map<std::string, std::function<void()>>;
 
-/// Runs the action that the command line names, prints its cost and returns true. Returns false if the
-/// command line names none. Call this at the beginning of main().
+/// Runs the action that the command line names, prints its time and memory use, and returns true. Returns
+/// false if the command line names no action. Call this at the beginning of main().
 inline bool runAction(int argc, char** argv, const Actions& actions) {
   if (argc != 3 || std::string(argv[1]) != "--action") return false;
   const auto begin = std::chrono::steady_clock::now();
   actions.at(argv[2])();
   const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - begin;
-  double kilobytes = 0;  // memory of this process alone; pages of files are shared with other processes
+  double kilobytes = 0;  // private memory only, because other processes share the pages of files
   std::ifstream memory("/proc/self/smaps_rollup");
   for (std::string line; std::getline(memory, line);) {
     if (line.starts_with("Anonymous:")) kilobytes = std::atof(line.c_str() + line.find(':') + 1);
@@ -34,8 +34,8 @@ inline bool runAction(int argc, char** argv, const Actions& actions) {
   return true;
 }
 
-/// A benchmark of the action. Its time is that of the action alone. Its counter is the private memory of the
-/// process after the action.
+/// A benchmark that runs the action in a new process. Its time is that of the action alone. Its counter is
+/// the private memory of the process after the action.
 inline void inFreshProcess(benchmark::State& state, const char* action) {
   const std::string program = std::filesystem::read_symlink("/proc/self/exe");
   double kilobytes = 0;

@@ -60,7 +60,7 @@ void indexAll(benchmark::State& state) {
       state.ResumeTiming();
       index.indexItems(std::move(items), {});
       index.waitUntilIdle(patience);
-      state.PauseTiming();  // closing the file is not measured, as in the plain table
+      state.PauseTiming();  // does not measure closing the file, like plainTable()
     }
     state.ResumeTiming();
   }
@@ -130,8 +130,9 @@ void clear(benchmark::State& state) {
 }
 BENCHMARK(clear)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(2);
 
-// Writes one row for each item into a new file, in one transaction: the lower limits of the time. `create` is
-// the statement that makes the table t, and `columns` returns the texts of a row.
+// Writes one row for each item into a new file, in one transaction. This is a lower limit for the time of
+// indexing. `create` is the SQL statement that creates the table t, and `columns` returns the texts of the
+// row for an item.
 template <class Columns>
 void writeRows(benchmark::State& state, const char* create, const char* insertRow, Columns columns) {
   for (auto _ : state) {
@@ -175,7 +176,7 @@ void plainTable(benchmark::State& state) {
 }
 BENCHMARK(plainTable)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-// Only the full-text index of the items' words, as SQLite makes it by default.
+// Only a full-text index of the items' words, with the default settings of SQLite.
 void fullTextOfWords(benchmark::State& state) {
   writeRows(state, "CREATE VIRTUAL TABLE t USING fts5(words)", "INSERT INTO t VALUES(?)",
             [](const SearchableItem& item) { return std::vector<std::string>{joined(item.keywords, " ")}; });

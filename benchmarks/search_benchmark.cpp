@@ -1,7 +1,6 @@
-// SPDX-License-Identifier: MIT
-// Measures the search of the whole catalog: building it, and answering a query. Other ways to find the same
-// words are measured for comparison. Compare only figures from the same run, because other programs run on
-// the same machine.
+// SPDX-License-Identifier: MIT Measures the search of the whole catalog: building it, and answering a query.
+// Other libraries and data structures that find the same words are measured for comparison. Compare only
+// figures from the same run, because other programs run on the same machine.
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <malloc.h>
@@ -61,7 +60,7 @@ struct ListedQuery {
 };
 
 // Returns the queries from the list of everyday queries. If `typed` is true, returns all prefixes of each
-// query instead, as if the user typed it letter by letter.
+// query instead, as they occur when the user types the query.
 std::vector<ListedQuery> listedQueries(bool typed) {
   std::vector<ListedQuery> queries;
   std::ifstream file(SEARCH_QUERY_LIST);
@@ -89,8 +88,8 @@ void buildingSearch(benchmark::State& state) {
 }
 BENCHMARK(buildingSearch)->Unit(benchmark::kMillisecond);
 
-// Measures each query separately, because users notice slow queries rather than the mean. The time of a query
-// is the median of its runs, because other processes have little influence on the median.
+// Measures each query separately, because users notice single slow queries. The time of a query is the median
+// of its runs, because other processes have little influence on the median.
 void measureQueries(benchmark::State& state, bool typed) {
   using Clock = std::chrono::steady_clock;
   const std::vector<ListedQuery> queries = listedQueries(typed);
@@ -247,8 +246,8 @@ void fullTextQuery(benchmark::State& state, const char* match) {
 BENCHMARK_CAPTURE(fullTextQuery, arrow, "arrow*")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(fullTextQuery, let, "let*")->Unit(benchmark::kMicrosecond);
 
-// Decodes only the entities of the results. A program that shows results and needs nothing else from the
-// catalog does the same.
+// Decodes only the entities of the results, like a program that shows results and needs nothing else from the
+// catalog.
 void decodingTwentyResults(benchmark::State& state) {
   const auto results = Search::ofCatalog().query("arrow", {20, {{"en"}}, {}}).results;
   for (auto _ : state) {
@@ -257,7 +256,7 @@ void decodingTwentyResults(benchmark::State& state) {
 }
 BENCHMARK(decodingTwentyResults)->Unit(benchmark::kMicrosecond);
 
-// Measures a whole program from its start to its end, without stored settings.
+// Measures the run of a program from its start to its end, without stored settings.
 void wholeProcess(benchmark::State& state, std::vector<std::string> command) {
   std::vector<char*> arguments;
   for (std::string& argument : command) arguments.push_back(argument.data());

@@ -35,8 +35,8 @@ sd_bus* bus() {
   return connection;
 }
 
-// Returns the number of results. Callers check this number, because an empty answer would be misleadingly
-// fast.
+// Returns the number of results. Callers check that it is not 0, because an empty answer would be
+// misleadingly fast.
 std::size_t search(const char* word) {
   sd_bus_message* reply = nullptr;
   std::size_t results = 0;

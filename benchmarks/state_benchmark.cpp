@@ -1,6 +1,5 @@
-// SPDX-License-Identifier: MIT
-// Measures building the displayed list and adding characters, and how both costs grow. For comparison, it
-// also measures a plain sort and copy, and writing to the settings.
+// SPDX-License-Identifier: MIT Measures building the displayed list and adding characters, and how both times
+// grow. For comparison, it also measures a plain sort and copy, and writes to the settings.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -35,7 +34,7 @@ void displayAllGroups(Glyphorium& catalog) {
   catalog.setSelectedGroups(allBuildInEntityGroups());
 }
 
-// The argument is the number of displayed groups. With all groups, compare with plainSortAndCopy.
+// The argument is the number of displayed groups. Compare the time for all groups with plainSortAndCopy.
 void buildGroups(benchmark::State& state) {
   Glyphorium& catalog = configuredCatalog();
   std::vector<std::string> groups = allBuildInEntityGroups();
@@ -46,7 +45,7 @@ void buildGroups(benchmark::State& state) {
 }
 BENCHMARK(buildGroups)->Arg(1)->Arg(10)->Arg(112)->Unit(benchmark::kMicrosecond);
 
-// The lower limit of the time: the same entities are only sorted and copied.
+// A lower limit for the time of building: only sorts and copies the same entities.
 void plainSortAndCopy(benchmark::State& state) {
   displayAllGroups(configuredCatalog());
   configuredCatalog().setSelectedEntities();
@@ -64,7 +63,7 @@ void plainSortAndCopy(benchmark::State& state) {
 }
 BENCHMARK(plainSortAndCopy)->Unit(benchmark::kMicrosecond);
 
-// Settings on the disk, which are deleted at the end.
+// Stores the settings in a file, which the destructor deletes.
 class DurableSettings {
  public:
   DurableSettings() { setSettingsStore(std::make_shared<SqliteSettingsStore>(folder_ / "settings.sqlite")); }
@@ -91,7 +90,7 @@ void addAndRemove(benchmark::State& state) {
 }
 BENCHMARK(addAndRemove)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
-// The lower limit of the time: the two writes alone.
+// A lower limit for the time of addAndRemove: only its two writes.
 void writeTwice(benchmark::State& state) {
   const DurableSettings settings;
   for (auto _ : state) {
@@ -111,7 +110,7 @@ std::vector<std::string> namedCodes(std::size_t count) {
   return codes;
 }
 
-// Adds as many characters as the argument says, in one step and without a disk.
+// Adds several characters in one step; the argument is their number. The settings are in memory.
 void addMany(benchmark::State& state) {
   Glyphorium& catalog = configuredCatalog();
   const auto codes = namedCodes(static_cast<std::size_t>(state.range(0)));
@@ -119,13 +118,13 @@ void addMany(benchmark::State& state) {
     catalog.addCustomAddedEntities(codes);
     state.PauseTiming();
     catalog.removeCustomAddedEntities(codes);
-    setSearchableIndex(std::make_shared<MemorySearchableIndex>());  // it records all requests
+    setSearchableIndex(std::make_shared<MemorySearchableIndex>());  // drops the recorded requests
     state.ResumeTiming();
   }
 }
 BENCHMARK(addMany)->Arg(1)->Arg(100)->Arg(10000)->Unit(benchmark::kMicrosecond);
 
-// Adds one character to as many characters as the argument says, without a disk.
+// Adds one character; the argument is the number of characters already added. The settings are in memory.
 void addOneMore(benchmark::State& state) {
   Glyphorium& catalog = configuredCatalog();
   catalog.setCustomAddedEntityUnicodes(namedCodes(static_cast<std::size_t>(state.range(0))));
