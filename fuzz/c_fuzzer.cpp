@@ -88,8 +88,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   read(entity);
   glyphorium_entity_free(entity);
   bool alternatives = false;
-  // Resolving a name and searching for words look at the whole catalog, which is slow, so only some inputs do
-  // it. The search has its own fuzzer.
+  // Resolving a name and searching for words are slow, because they read the whole catalog, so only some
+  // inputs do this. The search has its own fuzzer.
   const bool isSlowRound = size % 16 == 0;
   if (isSlowRound || first.size() < 5) read(glyphorium_resolve(a, first.size(), &alternatives));
   glyphorium_entities* const decoded = glyphorium_entities_decode(a, first.size(), b, second.size());

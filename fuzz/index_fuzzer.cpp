@@ -1,7 +1,6 @@
-// SPDX-License-Identifier: MIT
-// Tests the words of the search index, with an index in memory. Every item is found by its name, and no query
-// causes an error. The first line of the input is a query, the second line is the item's symbol, and the rest
-// is the item's name.
+// SPDX-License-Identifier: MIT Tests how the search index splits texts into words, with an index in memory.
+// Every item must be found by its name, and no query may cause an error. The first line of the input is a
+// query, the second line is the item's symbol, and the rest is the item's name.
 #include <algorithm>
 #include <cstdint>
 #include <exception>
@@ -73,8 +72,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(wanted.lowered == glyph::lowercased(wanted.exact),
             "the lowered text is the exact text in lower case");
     const bool found = index.finds(wanted);
-    // The typed query need not match. A "qv:" at the beginning of a query is not searched for, so a text with
-    // "qv:" need not find its item either.
+    // The first line of the input need not match the item. The prefix "qv:" of a query is not searched for,
+    // so a text with "qv:" need not find its item either.
     if (query == typed || wanted.match.empty() ||
         glyph::lowercased(item.title).find("qv:") != std::string::npos) {
       continue;

@@ -1,7 +1,6 @@
-// SPDX-License-Identifier: MIT
-// Compares name completion with a plain look-up of the hex code in the decoded name table. Each line of the
-// input is a record: its hex code, a space and its name. A name that ends with "!" puts the record into the
-// private use area.
+// SPDX-License-Identifier: MIT Compares name completion with a plain look-up of the hex code in the decoded
+// name table. Each line of the input is a record: its hex code, a space and its name. If the name ends with
+// "!", the record gets the group "Private Use Area".
 #include <algorithm>
 #include <cstdint>
 #include <string>

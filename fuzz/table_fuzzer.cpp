@@ -33,7 +33,7 @@ bool differsByDesign(std::string_view text) {
 }
 
 // Whether the other library rejects the text because a number exceeds the range of floating point. Our
-// decoder ignores such a number if it does not know the key.
+// decoder ignores such a number if its key is unknown.
 bool holdsHugeNumber(std::string_view text) {
   try {
     static_cast<void>(json::parse(text));
@@ -45,7 +45,7 @@ bool holdsHugeNumber(std::string_view text) {
   }
 }
 
-// Parses the text with the other library, but follows the rules of our decoder. If a key occurs twice in an
+// Parses the text with the other library, but by the rules of our decoder. If a key occurs twice in an
 // object, our decoder uses the first value and the other library the last, so later values are skipped here.
 // The other library treats a NUL byte as the end of the text, but our decoder rejects it as invalid JSON.
 json strictlyRead(std::string_view text) {
@@ -144,7 +144,7 @@ void replaceAll(std::string& text, std::string_view what, std::string_view with)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view text(reinterpret_cast<const char*>(data), size);
   static const glyph::Glyphorium catalog;
-  // Most inputs are faulty. Without this, the decoder would print a line for each of them.
+  // Most inputs are faulty. Without this sink, the decoder would print a line for each of them.
   glyph::setDiagnosticsSink([](std::string_view) {});
 
   std::string repaired(text);
