@@ -11,7 +11,7 @@ int main(int argc, char **argv) {
     strncat(words, " ", sizeof words - strlen(words) - 1);
   }
 
-  glyphorium_search *search = glyphorium_search_all(); /* the whole catalog, and what the user added */
+  glyphorium_search *search = glyphorium_search_all(); /* the catalog and the user's characters */
   glyphorium_search_options options = GLYPHORIUM_SEARCH_OPTIONS;
   options.limit = 5;
   glyphorium_results *found = glyphorium_search_query(search, words, &options);

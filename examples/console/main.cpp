@@ -6,7 +6,7 @@
 
 int main(int argc, char** argv) {
   const std::string words = glyph::joined(std::vector<std::string>(argv + 1, argv + argc), " ");
-  const glyph::CatalogSearch search;  // the whole catalog, and what the user added
+  const glyph::CatalogSearch search;  // the whole catalog, and the characters that the user added
   glyph::SearchOptions options;
   options.limit = 5;
   const glyph::SearchResults found = search.query(words, options);

@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-/* A window that searches the catalog while one types. A click or Enter copies. */
+/* A window that searches the catalog while the user types. A click or Enter copies the character. */
 #include <glyphorium/c/glyphorium.h>
 #include <gtk/gtk.h>
 
@@ -32,7 +32,7 @@ static void copy(GtkListBox *list, GtkListBoxRow *row, gpointer user) {
   glyphorium_copy(symbol, GLYPHORIUM_TERMINATED, NULL);
 }
 
-/* The clipboard of GTK takes the place of the library's own. */
+/* Makes the library copy with GTK instead of its own programs. */
 static bool setText(void *user, const char *text, size_t size) {
   (void)size;
   gdk_clipboard_set_text(gtk_widget_get_clipboard(GTK_WIDGET(user)), text);

@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT
-// A window that filters the displayed characters while one types. Enter copies.
+// SPDX-License-Identifier: MIT A window that filters the displayed characters while the user types. Enter
+// copies the selected character.
 #include <glyphorium/glyphorium.h>
 
 #include <QApplication>
