@@ -7,7 +7,7 @@
 
 #include "tests/support/display_server.h"
 
-// The program as a user runs it: real key events on an X server, another program that pastes, and a crash.
+// Tests the program with real key events on an X server, with another program that pastes, and with a crash.
 namespace browser {
 namespace {
 
@@ -32,7 +32,7 @@ struct BrowserProgramTest : testing::Test {
     setenv("DBUS_SESSION_BUS_ADDRESS", address.substr(0, address.find('\n')).c_str(), 1);
   }
 
-  // Returns the process of the program when its window is there.
+  // Starts the program and waits for its window. Returns the process identifier.
   int start(const std::string& arguments) {
     const std::string log = (home / "log").string();
     runProgram(std::string(BROWSER) + " " + arguments + " >" + log + " 2>&1 & echo $! >" +
@@ -61,7 +61,7 @@ TEST_F(BrowserProgramTest, CopiesForOtherProgramsAndKeepsChoicesThroughACrash) {
   keys("key Return");
   EXPECT_TRUE(eventually([] { return pasted() == "⇐"; }));
 
-  // A second start hands its words to the first and ends.
+  // A second process passes its arguments to the first process and ends.
   EXPECT_EQ(runProgram(std::string(BROWSER) + " --search 1d6a5").exitCode, 0);
   keys("key Return");
   EXPECT_TRUE(eventually([] { return pasted() == "\U0001D6A5"; }));

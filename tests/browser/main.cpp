@@ -5,7 +5,7 @@
 
 #include "grid_accessibility.h"
 
-// The windows of these tests need no display.
+// Uses Qt's platform "offscreen", so that the windows of these tests need no display.
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -33,7 +33,7 @@ struct MainWindowTest : BrowserTest {
   std::string current() const { return grid.currentCharacter() ? grid.currentCharacter()->computed.hex : ""; }
   void type(const QString& text) {
     field.clear();
-    // Keys can be pressed only for ASCII; other text comes from an input method, as one.
+    // QTest can press keys only for ASCII characters. Other text is inserted at once, as by an input method.
     text.toLatin1() == text.toUtf8() ? QTest::keyClicks(&field, text) : field.insert(text);
   }
   void choose(const Scope& scope) {
@@ -55,7 +55,7 @@ struct MainWindowTest : BrowserTest {
 };
 
 TEST_F(MainWindowTest, FindsWalksAndCopies) {
-  QTest::keyClick(&grid, 'a');  // typing anywhere searches
+  QTest::keyClick(&grid, 'a');  // typing in the grid searches, too
   QTest::keyClicks(&field, "rrow");
   EXPECT_EQ(field.text(), "arrow");
   EXPECT_EQ(current(), "2192");
@@ -185,7 +185,7 @@ TEST_F(MainWindowTest, DrawsEachCharacterOrABoxForIt) {
 }
 
 TEST_F(MainWindowTest, PickerCopiesAndCloses) {
-  window.hide();  // its shortcuts must not answer
+  window.hide();  // so that its shortcuts do not react
   catalog.toggleFavourite("21d0");
   Picker picker(catalog);
   QString picked;
@@ -208,7 +208,7 @@ TEST_F(MainWindowTest, PickerCopiesAndCloses) {
   EXPECT_THAT(storedList("recentlyCopiedCharacters"), ElementsAre("2192", "21d0", "20ac"));
 }
 
-// In each language all texts are there, and the window still fits on a narrow screen.
+// In each language, the texts are translated, and the windows still fit on a narrow screen.
 TEST_F(BrowserTest, SpeaksFiveLanguages) {
   for (const char* const language : {"en", "de", "fr", "it", "es"}) {
     QTranslator translator;

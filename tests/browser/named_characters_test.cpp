@@ -16,7 +16,7 @@ TEST_F(NamedCharactersTest, SaysWhatATextNamesOrWhyItNamesNothing) {
   struct Case {
     const char* text;
     Hexes hexes;
-    const char* message;  // a part of it
+    const char* message;  // a part of the message
   };
   const Case cases[] = {
       {"21d0", {"21d0"}, "Leftwards Double Arrow"},
@@ -45,7 +45,7 @@ TEST(CodesInNote, AreThoseInParentheses) {
             (Hexes{"2019", "0027", "1d11e"}));
 }
 
-// The fonts differ from machine to machine, but each has one for letters, and none for private-use code
+// Machines have different fonts, but each machine has a font for letters, and none for these private-use code
 // points.
 TEST(FontCoverageTest, FindsTheFontsThatHaveAllCodePoints) {
   const FontCoverage coverage({}, {"en"});

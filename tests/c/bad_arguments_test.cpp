@@ -41,7 +41,7 @@ struct Arguments {
     if constexpr (std::is_same_v<T, const char*>) {
       return std::array<const char*, 5>{nullptr, "", "\xC3\x28\xFF", "arrows", "2192,030a"};
     } else if constexpr (std::is_same_v<T, const char* const*>) {
-      // The NULL at the end stops a function that would read too many elements.
+      // A function that wrongly reads too many elements gets NULL.
       static const char* const list[] = {"arrows", "\xED\xA0\x80", nullptr};
       return std::array<const char* const*, 2>{nullptr, list};
     } else if constexpr (std::is_same_v<T, std::size_t>) {
@@ -89,14 +89,15 @@ struct Arguments {
         return structure;
       }();
       return std::array<T, 3>{&empty, &noFunctions,
-                              nullptr};  // NULL is the last one, because it restores the default
+                              nullptr};  // NULL comes last, because it restores the default
     } else {
-      // Functions of the host, their `user`, and types of handles that this test does not create.
+      // Only NULL or 0 for callbacks, for `user` pointers, and for types of handles that this test does not
+      // create.
       return std::array<T, 1>{};
     }
   }
 
-  // Results that belong to the caller.
+  // Frees the results that belong to the caller.
   static void release(char* text) { glyphorium_free(text); }
   static void release(glyphorium_texts* handle) { glyphorium_texts_free(handle); }
   static void release(glyphorium_entity* handle) { glyphorium_entity_free(handle); }
@@ -106,7 +107,7 @@ struct Arguments {
   static void release(glyphorium_results* handle) { glyphorium_results_free(handle); }
   static void release(glyphorium_items* handle) { glyphorium_items_free(handle); }
   static void release(glyphorium_observation* handle) { glyphorium_observation_free(handle); }
-  // All other results are values or borrowed. A borrowed text can be read to its end.
+  // All other results are values or borrowed objects. A borrowed text must be null-terminated.
   static void release(glyphorium_text text) {
     if (text.data) {
       EXPECT_EQ(text.data[text.size], '\0');
@@ -205,7 +206,7 @@ TEST(CBadArguments, DoNoHarm) {
             glyphorium_observation_free, glyphorium_free);
     EXPECT_GT(arguments.calls, 1'000);
   }
-  // After all these calls, the interface still works.
+  // After all these calls, the interface must still work.
   EXPECT_TRUE(glyphorium_set_languages(nullptr, 0));
   char* const symbol = glyphorium_symbol_of_hex("2192", nullptr);
   EXPECT_STREQ(symbol, "→");

@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT
-// A host in C that has its own settings, clipboard, index and observers, and reads the catalog.
+// SPDX-License-Identifier: MIT Tests a host that uses the C interface, with its own settings store,
+// clipboard, index and observers.
 #include <gmock/gmock.h>
 
 #include <map>
@@ -71,7 +71,7 @@ class CHost : public testing::Test {
               for (std::size_t i = 0; i < glyphorium_items_count(items); ++i) {
                 self(user).indexed.emplace_back(view(glyphorium_items_title(items, i)));
               }
-              // The request is ended later and on another thread, as an index of a host may do.
+              // Ends the request on another thread, as the index of a host may do.
               std::thread([=] { glyphorium_request_done(request, nullptr); }).join();
             },
         .remove =

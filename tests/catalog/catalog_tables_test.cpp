@@ -33,7 +33,7 @@ TEST(CatalogTables, EveryRowAgreesWithItsCodePoint) {
     rows += records->size();
     std::vector<ComputedEntity> named;
     for (const ComputedEntity& record : *records) {
-      // All other code forms can be computed from the hex code.
+      // All other code forms equal those that are computed from the hex code.
       const ComputedEntity rebuilt = Unicode(record.hex).computedEntity();
       ASSERT_EQ(record.decimal, rebuilt.decimal);
       ASSERT_EQ(record.htmlHex, rebuilt.htmlHex);
@@ -46,13 +46,13 @@ TEST(CatalogTables, EveryRowAgreesWithItsCodePoint) {
       ASSERT_EQ(record.group, table.group);
       ASSERT_EQ(record.isSFSymbol, table.constant == "sfSymbolsJson" ? std::optional(true) : std::nullopt);
       named.push_back(rebuilt);
-      // Rows of different tables with the same code point differ in the group only.
+      // Rows with the same code point in different tables differ only in the group.
       const auto [other, isNew] = first.try_emplace(record.hex, record);
       if (isNew) continue;
       ASSERT_EQ(record.fallbackName, other->second.fallbackName);
       ASSERT_NE(record.group, other->second.group) << record.hex << " occurs twice in " << table.constant;
     }
-    // Name completion gives each row the same name that it has in the table.
+    // addNames() gives each row the name that it has in the table.
     named = toolKit().addNames(named);
     ASSERT_EQ(named.size(), records->size()) << table.constant;
     for (std::size_t i = 0; i < named.size(); ++i) {
@@ -78,13 +78,13 @@ TEST(CatalogTables, EnrichmentRowsHaveAllKeysAndSomeCodePointsHaveTwoRows) {
         << row.hex;
     for (const RecordText& term : *row.searchTerms) terms[row.hex].push_back(term + *row.htmlNamed);
   }
-  // U+2153 has two rows, with different terms and references.
+  // U+2153 has two rows with different search terms and HTML names.
   EXPECT_THAT(terms["0026"], testing::ElementsAre("and&amp;", "et&amp;", "+&amp;"));
   EXPECT_THAT(terms["2153"],
               testing::ElementsAre("1 3 13 1/3 0,3", "33%", "fraction&frac13;", "1 3 13 1/3&frac13;"));
 }
 
-// Returns all fields as text. Each text must have a zero byte at its end.
+// Returns all fields as text. Checks that texts are null-terminated.
 std::string fields(const Entity& entity) {
   EXPECT_EQ(entity.computed.symbol.c_str()[entity.computed.symbol.size()], '\0');
   EXPECT_EQ(entity.computed.group.c_str()[entity.computed.group.size()], '\0');

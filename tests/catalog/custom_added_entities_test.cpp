@@ -33,7 +33,7 @@ TEST_F(CustomAddedEntities, AddingAndRemovingHaveTheirEffectsInOrder) {
   EXPECT_EQ(stored("customAddedEntities"), SettingValue(Names({"0041", "21d0"})));
   EXPECT_EQ(catalog.allEntityGroupNamesWithCount->at("custom"), 2);
 
-  // Adding a stored code again does not change the list but repeats all effects.
+  // Adding a stored code again does not change the list, but all effects happen again.
   catalog.addCustomAddedEntity("21d0");
   EXPECT_THAT(taken(), ElementsAre("deleted 0041 21d0", "saved customAddedEntities",
                                    "didSet ↘ allCustomEntities '2'", "indexed 0041 21d0",
@@ -69,7 +69,8 @@ TEST_F(CustomAddedEntities, StoredCodesAreComparedAsStored) {
   EXPECT_EQ(custom[0].additional->htmlNamed, "&eacute;");
 }
 
-// An index that keeps the code of each of its items, and that lets another process act during a request.
+// An index that stores the codes of its items. `whileIndexing` and `whileDeleting` simulate another process
+// that acts during a request.
 class SharedIndex final : public SearchableIndex {
  public:
   void indexItems(std::vector<SearchableItem> items, Completion completion) override {
@@ -104,20 +105,21 @@ TEST_F(CustomAddedEntities, TheIndexMatchesTheStoredListDespiteOtherProcesses) {
   shared->whileIndexing = [&] { store("customAddedEntities", Names{"2190", "2192", "2193"}); };
   catalog.addCustomAddedEntity("2193");
   EXPECT_THAT(shared->codes, ElementsAre("2190", "2192", "2193"));
-  // Another process, which has an old list, adds a character to the index while this process removes the
-  // character.
+  // While this process removes a character, another process with an old list adds the same character to the
+  // index.
   shared->whileDeleting = [&] { shared->codes.insert("2192"); };
   catalog.removeCustomAddedEntities({"2192", "2190"});
   EXPECT_THAT(shared->codes, ElementsAre("2193"));
-  // Another process removes all characters. While this process deletes them from the index, the other process
-  // adds one of them again.
+  // Another process removes all characters from the list. While this process deletes them from the index, the
+  // other process adds one of them to the list again.
   shared->whileIndexing = [&] {
     store("customAddedEntities", Names{});
     shared->whileDeleting = [&] { store("customAddedEntities", Names{"2193"}); };
   };
   catalog.removeCustomAddedEntity("2190");
   EXPECT_THAT(shared->codes, ElementsAre("2193"));
-  // The host's function is called again with the list that another process has stored while the function ran.
+  // While the host's function runs, another process stores a list. The function is called again with that
+  // list.
   int calls = 0;
   catalog.modifyCustomAddedEntityUnicodes([&](Names& codes) {
     if (++calls == 1) store("customAddedEntities", Names{"2194"});
@@ -127,12 +129,12 @@ TEST_F(CustomAddedEntities, TheIndexMatchesTheStoredListDespiteOtherProcesses) {
 }
 
 // A host may forward each callback to another thread and wait for that thread. So the library must not call
-// back while the settings are locked.
+// callbacks while the settings are locked.
 TEST_F(CustomAddedEntities, CallbacksCanWaitForAThreadThatReadsSettings) {
   class Waiting {
    public:
     void read() {
-      // Not std::async: its result would wait for the thread for ever.
+      // Does not use std::async, because the destructor of its future would wait for the thread.
       const auto done = std::make_shared<std::promise<void>>();
       std::thread([done] {
         settingsStore()->object("displayedGroups");

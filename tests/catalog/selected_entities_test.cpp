@@ -81,9 +81,9 @@ TEST(Globals, AreCreatedOnceWhenSeveralThreadsUseThemFirst) {
 
 TEST_F(SelectedEntitiesTest, KeepsTheEntityOfTheEarliestGroupInCodePointOrder) {
   Glyphorium catalog;
-  // Each text consists of a hex code and a group. The last five codes test the two lists of hidden code
-  // points: forbidden code points are dropped in upper and lower case, code points that cannot be displayed
-  // are dropped in lower case only.
+  // Each text is the hex code and the group of an entity. The last five entities have code points of the two
+  // lists of hidden code points. Forbidden code points are dropped in upper and lower case; code points that
+  // cannot be displayed are dropped only in lower case.
   std::vector<Entity> entities;
   for (const std::string text :
        {"2190 custom", "00e9 Latin", "00E9 latin", "0041 latin", "2190 arrows", "0041 LATIN", "2192 arrows",
@@ -118,7 +118,7 @@ TEST_F(SelectedEntitiesTest, KeepsTheEntityOfTheEarliestGroupInCodePointOrder) {
   EXPECT_THAT(built({"arrows", "emoji"}), ElementsAre("2190 arrows"));
 }
 
-// Builds the list as its rules say, one group after the other.
+// Builds the displayed list in the simplest way, for comparison with the library's list.
 std::vector<std::string> builtByTheRules(const Glyphorium& catalog) {
   std::vector<const Entity*> kept;
   std::unordered_map<std::string, std::size_t> places;

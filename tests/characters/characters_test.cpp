@@ -34,7 +34,7 @@ std::vector<std::string> linesOf(std::istream& text) {
   return lines;
 }
 
-// Properties that later versions of Unicode have corrected differ in a few of ten thousand code points.
+// A few of ten thousand code points may differ, because later versions of Unicode have corrected properties.
 TEST(Characters, AgreeWithPythonsCopyOfTheDatabase) {
   const unsigned seed = std::random_device()();
   SCOPED_TRACE("seed " + std::to_string(seed));
@@ -53,7 +53,7 @@ TEST(Characters, AgreeWithPythonsCopyOfTheDatabase) {
       EXPECT_EQ(column(line, 2), "Cn") << line;
       continue;
     }
-    // Python has no names of Tangut ideographs.
+    // Python has no names for Tangut ideographs.
     if (facts.script != "Tangut") {
       EXPECT_EQ(facts.name, column(line, 1));
     }

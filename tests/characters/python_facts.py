@@ -1,5 +1,6 @@
-# Prints facts that Python's own copy of the character database has about random code points: half of them from all
-# of Unicode, half from those that have a name. The first argument is the seed, the second how many.
+# Prints the properties of random code points from Python's copy of the Unicode Character Database. One half
+# is chosen from all code points, the other half from code points with a name. The arguments are the seed of
+# the random numbers and the number of code points.
 import random
 import sys
 import unicodedata

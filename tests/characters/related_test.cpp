@@ -66,7 +66,7 @@ TEST(WaysToType, OfEveryMethod) {
                                         testing::Field(&WayToType::text, one.text))))
         << one.character << " " << one.method;
   }
-  // The command that most sources know comes first.
+  // The command that occurs in the most sources comes first.
   const std::vector<WayToType> ways = waysToType("→");
   const auto latex = std::find_if(ways.begin(), ways.end(), [](auto& way) { return way.method == "latex"; });
   EXPECT_EQ(latex->text, "\\rightarrow");

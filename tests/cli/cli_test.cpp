@@ -39,7 +39,7 @@ TEST(CommandLine, ReturnsExitCodesAndHelpfulMessages) {
   const struct {
     std::string arguments;
     int exitCode;
-    std::string output;  // a part of standard output or standard error
+    std::string output;  // must occur in standard output or standard error
   } cases[] = {
       {"show U+2192", 0, "&rarr;"},
       {"show '→'", 0, "Rightwards Arrow"},
@@ -49,7 +49,7 @@ TEST(CommandLine, ReturnsExitCodesAndHelpfulMessages) {
       {"show 200b", 0, "⬚"},
       {"show 0301", 0, "◌\u0301"},
       {"show U+4E01", 0, "Cjk Unified Ideograph-4E01"},
-      {"show 'U+2192 &foo;'", 1, "no character is 'U+2192 &foo;'"},  // all parts of the text must be known
+      {"show 'U+2192 &foo;'", 1, "no character is 'U+2192 &foo;'"},  // fails, because one part is unknown
       {"show U+D800", 0, "<surrogate-D800>"},
       {"show U+0378 U+FFFF", 0, "<noncharacter-FFFF>"},
       {"show nbsp", 0, "U+00A0"},
@@ -148,7 +148,7 @@ TEST(CommandLine, IdentifiesTextOfAnyLengthInPiecesOfAnySize) {
                                   std::to_string(at + 1) + " " + file + ") | " PROGRAM " identify -";
     EXPECT_EQ(runProgram(piecewise).output, whole) << cut;
   }
-  // The limit of the address space is too small to keep the whole text in memory.
+  // The program must not keep the whole text in memory: the limit of its address space is too small for that.
   EXPECT_EQ(runProgram("(" MEMORY_LIMIT " yes '" + std::string("a → e\u0301") +
                        "' | head -c 4000000 | " PROGRAM " identify - | tail -n 1)")
                 .output,
@@ -193,7 +193,8 @@ TEST(CommandLine, SendsNoForeignControlCharactersToATerminal) {
   const auto shown = run("--color always display", own).output;
   EXPECT_THAT(shown, HasSubstr("␛]0;x␇⬚"));
   EXPECT_THAT(shown, testing::Not(HasSubstr("\x1b]")));
-  // The escape sequence of a stored text is shown, even one that the program itself uses for colours.
+  // An escape sequence in a stored text is made visible, even if the program itself uses the same sequence
+  // for colours.
   EXPECT_THAT(shown, testing::AllOf(HasSubstr("␛[2mfaint"), HasSubstr("\x1b[2m0\x1b[0m")));
   const auto json = run("--color always identify --json \"$(printf '\\302\\233\\342\\200\\256')\"").output;
   EXPECT_THAT(json, testing::AllOf(HasSubstr("\\u009b"), HasSubstr("\\u202e"),
@@ -250,7 +251,7 @@ TEST(CommandLine, KeepsTheUsersChoices) {
   const struct {
     std::string arguments;
     int exitCode;
-    std::string output;  // the whole standard output; after a failure, a part of the output
+    std::string output;  // the whole standard output; if the command fails, only a part of the output
   } steps[] = {
       {"list", 1, "display add GROUP"},
       {"added", 1, ""},
@@ -262,7 +263,7 @@ TEST(CommandLine, KeepsTheUsersChoices) {
       {"display --json", 0, "[{\"name\":\"custom\",\"count\":0},\n {\"name\":\"arrows\",\"count\":112}]\n"},
       {"add 0378", 2, "is no character but <reserved-0378>"},
       {"add 21d0 U+110000", 2, "is no code of a character"},
-      {"added", 1, ""},  // if one code is invalid, no code is added
+      {"added", 1, ""},  // if one code is invalid, the command adds no code
       {"add 21D0 é", 0,
        "⇐\t21d0\tLeftwards Double Arrow\t&lArr;\né\t00e9\tLatin Small Letter E With Acute\t&eacute;\n"},
       {"index status --json", 0, "{\"enabled\":true,\"items\":2}\n"},
@@ -303,7 +304,7 @@ TEST(CommandLine, KeepsTheUsersChoices) {
       EXPECT_THAT(result.output, HasSubstr(output)) << arguments;
     }
   }
-  // Choices that cannot be read are not shown as empty lists.
+  // If the stored choices cannot be read, the commands fail and do not show empty lists.
   writeFile(home / ".config/org.glyphorium.Glyphorium/settings.sqlite", std::string(10'000, '?'));
   for (const char* const command :
        {"list", "list --all", "list custom", "search --displayed arrow", "added"}) {
@@ -312,7 +313,7 @@ TEST(CommandLine, KeepsTheUsersChoices) {
     EXPECT_THAT(unread.output, HasSubstr("damaged")) << command;
   }
   EXPECT_EQ(run("list arrows", own).exitCode, 0);
-  // The program reports a choice that cannot be saved. Here, a file is in the place of the directory.
+  // The program reports a choice that cannot be saved, here because /dev/null is not a directory.
   const ProgramResult unsaved = run("2>&1 display add emoji", own + " XDG_CONFIG_HOME=/dev/null");
   EXPECT_EQ(unsaved.exitCode, 3);
   EXPECT_THAT(unsaved.output, HasSubstr("cannot be saved"));

@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT
-// Checks the user's choices after the program that changes them is killed or runs several times at once.
+// SPDX-License-Identifier: MIT Checks the user's choices after programs that change them were killed or ran
+// at the same time.
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <signal.h>
@@ -20,7 +20,8 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-// Starts the program with the environment of this process and without output. Returns its process identifier.
+// Starts the program with the environment of this process and discards its output. Returns its process
+// identifier.
 pid_t start(Names arguments) {
   const pid_t child = fork();
   if (child != 0) return child;
@@ -54,9 +55,9 @@ TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
   const ScopedVariable dataHome("XDG_DATA_HOME", data.path().string());
   const int rounds = killRounds(60);
   std::mt19937 random(20260101);
-  // The test makes these changes in turn and starts again after the last. The command "add" first displays
-  // the group "custom" and then adds all its characters in one step. If it is killed between the two steps,
-  // the group is displayed but the characters are missing: this is the state `halfway`.
+  // The test makes these changes in turn, again and again. The command "add" first displays the group
+  // "custom" and then adds all characters in one step. If it is killed between these two steps, the group is
+  // displayed but the characters are missing: this is the state `halfway`.
   const struct {
     Names arguments;
     State halfway, after;
@@ -65,7 +66,8 @@ TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
       {{"display", "set", "arrows"}, {}, {{"arrows"}, {"2603", "2604"}}},
       {{"remove", "2603", "2604"}, {}, {{"arrows"}, {}}}};
   State before{{"arrows"}, {}};
-  // Measures a run that is not killed, so that some kills happen before the change and some after it.
+  // Measures the time of a run that is not killed. The random times of the kills depend on it, so that some
+  // kills happen before the change and some after it.
   const auto begin = std::chrono::steady_clock::now();
   ASSERT_EQ(runProgram(PROGRAM " display set arrows").exitCode, 0);
   const std::chrono::duration<double, std::micro> usual = std::chrono::steady_clock::now() - begin;
@@ -86,8 +88,8 @@ TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
     before = now;
   }
   RecordProperty("changed", static_cast<int>(changed));
-  EXPECT_GT(changed, 0u);                                // some programs were killed after their change
-  EXPECT_LT(changed, static_cast<std::size_t>(rounds));  // and some before it
+  EXPECT_GT(changed, 0u);                                // some were killed after their change
+  EXPECT_LT(changed, static_cast<std::size_t>(rounds));  // and some before
 }
 
 TEST(SeveralPrograms, KeepAllTheirChanges) {
@@ -123,7 +125,8 @@ TEST(UnreadableChoices, AreDistinguishedFromEmptyOnes) {
       store.set(key, RawJson{R"(["2192",5])"});
     }
   };
-  // The order matters: only the last two commands can change the stored choices.
+  // The commands that can change the stored choices come last, because they may replace the unreadable
+  // choices.
   constexpr const char* commands[] = {"added",    "remove 2192",       "display", "display remove arrows",
                                       "add 2192", "display add arrows"};
   const struct {

@@ -41,8 +41,8 @@ struct Value {
 
 // Another X11 program. It reads selections and can own one.
 struct Client : clipboard::Display {
-  // Returns the next event of this type and drops the events before it. Returns null if no event arrives
-  // within 20 seconds, which means that the program under test is faulty.
+  // Returns the next event of this type and drops the events before it. Returns null if no such event arrives
+  // within 20 seconds; the test then fails.
   template <class Event>
   Owned<Event> next(std::uint8_t type) const {
     for (xcb_flush(connection()); connected();) {
@@ -66,8 +66,8 @@ struct Client : clipboard::Display {
     xcb_convert_selection(connection(), window(), atoms().clipboard, target, property, XCB_CURRENT_TIME);
     xcb_flush(connection());
   }
-  // Returns the first answer, or nullopt if the owner rejects the request. For a large text the answer is
-  // only the beginning of a transfer.
+  // Returns the owner's answer, or nullopt if the owner rejects the request. For a large text, the answer
+  // only announces a transfer.
   std::optional<Value> begin(xcb_atom_t target, xcb_atom_t property = here) const {
     ask(target, property);
     const auto answer = next<xcb_selection_notify_event_t>(XCB_SELECTION_NOTIFY);
@@ -112,7 +112,7 @@ auto isText(const std::string& text) {
 
 class ClipboardOwner : public testing::Test {
  protected:
-  // The background processes of the program become children of this process.
+  // Makes the background processes of the program children of this process, so that it can wait for them.
   ClipboardOwner() { prctl(PR_SET_CHILD_SUBREAPER, 1); }
   ~ClipboardOwner() override {
     x.server.end();
@@ -200,7 +200,7 @@ TEST_F(ClipboardOwner, SurvivesReadersThatExitStopReadingOrSendInvalidRequests) 
   copy(large);
   const Client stopped, old, modern;
   const auto& a = old.atoms();
-  EXPECT_THAT(stopped.begin(a.utf8String), Optional(FieldsAre(a.incr, _)));  // this reader then stops reading
+  EXPECT_THAT(stopped.begin(a.utf8String), Optional(FieldsAre(a.incr, _)));  // reads nothing after this
   for (int i = 0; i < 100; ++i) {
     const Client vanishing;
     if (i % 2) {
@@ -237,7 +237,7 @@ TEST_F(ClipboardOwner, OffersTheTextOfTheLatestCopy) {
 
   asked = Clock::now();
   std::this_thread::sleep_for(100ms);
-  client.own(client.atoms().clipboard);  // clipboard managers do this after an owner has ended
+  client.own(client.atoms().clipboard);  // as clipboard managers do after an owner has ended
   EXPECT_EQ(ended(), 0);
   copy("latest", asked);
   EXPECT_THAT(Client().text(), isText("latest"));

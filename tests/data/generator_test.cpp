@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Runs the generator as a program, as the build does, on a copy of the sources.
+// Runs the generator on a copy of the sources, in the same way as the build does.
 struct Generation {
   const TemporaryDirectory folder;
   const fs::path sources = folder / "sources";

@@ -38,8 +38,8 @@ TEST(UsageNote, ComesFromTheTableFirstThenFromTheSupplementInEachLanguage) {
   EXPECT_EQ(noteOf(enriched, {"en"}), "A note of the host.");
 }
 
-// Every character for which there are facts has a note of its own in every language: in the table or in the
-// supplement.
+// Every character in the file of facts has its own note in every language, either in the table or in the
+// supplementary notes.
 TEST(UsageNote, IsInEveryLanguageForEveryCharacterWithFacts) {
   std::set<char32_t> characters;
   std::istringstream facts(fileContent(FACTS));

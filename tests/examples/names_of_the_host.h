@@ -4,6 +4,6 @@
 #include <string>
 #include <vector>
 
-/// What the examples use and leave to the host.
+/// Names that the examples in the documentation use, and that a host must define.
 inline void show(const std::string&, const std::string&) {}
 inline const std::string typed = "arrow";

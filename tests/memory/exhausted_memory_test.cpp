@@ -1,7 +1,6 @@
-// SPDX-License-Identifier: MIT
-// Runs an operation many times, and each time another allocation fails. Either the caller gets std::bad_alloc
-// or the operation succeeds. Afterwards the library must still work correctly. With the address sanitizer,
-// these tests also find leaks.
+// SPDX-License-Identifier: MIT Runs an operation many times. Each time, a different memory allocation fails.
+// The operation must either succeed or throw std::bad_alloc, and the library must still work correctly
+// afterwards. With the address sanitizer, these tests also find leaks.
 #include <gmock/gmock.h>
 
 #include <cstdint>
@@ -143,7 +142,8 @@ TEST_F(ExhaustedMemory, LeavesACatalogThatCanBeConfigured) {
   setSettingsStore(nullptr);
 }
 
-// The C interface has no exceptions. It returns the neutral value, and the status has the reason.
+// The functions of the C interface do not throw. They return the neutral value, and the status contains the
+// reason.
 TEST_F(ExhaustedMemory, SetsTheStatusOfTheCInterface) {
   setSettingsStore(std::make_shared<MemorySettingsStore>());
   const char* const codes[] = {"2190", "1f600"};
@@ -226,7 +226,7 @@ TEST_F(ExhaustedMemory, LeavesTheOldOrTheNewSetting) {
         });
       },
       [&](bool succeeded) {
-        // Another connection must be able to read the value. This checks that no transaction was left open.
+        // Another connection must be able to read and write values: no transaction may be left open.
         const std::size_t now = stored();
         EXPECT_EQ(now, succeeded || now != size ? size + 1 : size);
         size = now;

@@ -49,7 +49,7 @@ TEST_F(SearchProvider, AnswersTheShell) {
       {"GetResultMetas \"['0301']\"", HasSubstr("'name': <'◌\u0301 Combining Acute Accent'>")},
       {"GetResultMetas \"['05d0']\"", HasSubstr("'name': <'\\u200eא Hebrew Letter Alef'>")},
       {"GetResultMetas \"['2028']\"", HasSubstr("'name': <'⬚ Line Separator'>")},
-      // A result that the bus rejects does not affect the other results.
+      // A text that sd-bus would reject does not affect the other results.
       {"GetResultMetas \"['ffff', '2192']\"",
        testing::AllOf(HasSubstr("{'id': <'ffff'>"), HasSubstr("{'id': <'2192'>"))},
       {"ActivateResult 2192 \"['arrow']\" 0", "()\n"},
@@ -60,8 +60,8 @@ TEST_F(SearchProvider, AnswersTheShell) {
   EXPECT_EQ(session.starts(), 1u) << session.log();
 }
 
-// The shell sends a query after every letter, together with the results of the previous query. The search
-// must not be limited to these results, because the last letters may identify another character.
+// GNOME Shell sends a query after every letter, together with the results of the previous query. The search
+// must not be limited to these results, because the longer query may find other characters.
 TEST_F(SearchProvider, FindsTheSameLetterByLetterAsAtOnce) {
   Session session;
   for (const std::string query : {"U+2192", "\\\\u2192", "arow", "pfeil", "&rarr;"}) {
@@ -90,7 +90,7 @@ TEST_F(SearchProvider, FindsCharactersOfTheUserAndOfAllHosts) {
   settings.set("customAddedEntities", std::vector<std::string>{"fffd"});
   EXPECT_EQ(identifiers("replacement character"), "(['fffd'],)\n");
   EXPECT_THAT(session.shell("GetResultMetas \"['fffd']\""), HasSubstr("custom · U+FFFD"));
-  // The user leaves out the catalog.
+  // The user excludes the catalog from the search.
   settings.set("desktopSearchesCatalog", false);
   EXPECT_EQ(identifiers("snowman"), "(@as [],)\n");
   EXPECT_EQ(identifiers("rightwards arrow"), "(['2192', '21d2', '27f9'],)\n");
@@ -116,7 +116,7 @@ TEST_F(SearchProvider, KeepsTheUsersChoicesWhileTheyCannotBeRead) {
     return session.shell("GetInitialResultSet \"['" + word + "']\"");
   };
   const std::string none = "(@as [],)\n", snowman = "(['2603'],)\n", comet = "(['2604'],)\n";
-  // At first the program knows no choices. It reads them when they can be read.
+  // The settings are damaged when the program starts, so it uses the defaults until it can read the settings.
   std::filesystem::create_directories(file.parent_path());
   damage();
   EXPECT_THAT(search("snowman"), StartsWith("(['2603', "));
@@ -183,7 +183,7 @@ TEST_F(SearchProvider, AnswersTheRunner) {
   const std::string actions = "'actions': <['character', 'html', 'code-point']>}";
   const std::string noMatch = "(@a(sssida{sv}) [],)\n", icon = "', 'org.glyphorium.Glyphorium', ";
   const struct {
-    std::string call, answer;  // the beginning of the answer, up to the category relevance of the first match
+    std::string call, answer;  // a prefix of the answer, up to the category relevance of the first match
   } cases[] = {
       {"Match →", "([('2192', '→ Rightwards Arrow" + icon +
                       "100, 1.0, {'category': <'Characters'>, 'subtext': <'arrows · U+2192'>, " + actions +
@@ -201,7 +201,7 @@ TEST_F(SearchProvider, AnswersTheRunner) {
       {"Teardown", "()\n"},
   };
   for (const auto& [call, answer] : cases) EXPECT_THAT(session.runner(call), StartsWith(answer)) << call;
-  // The runner sends everything that users type. These texts should not find a character.
+  // KRunner sends everything that users type. These queries must not give results.
   for (const std::string other : {"l", "5", "5+5", "2192", "0x2192", "konsole", "https://example.org/arrow",
                                   "arrow.txt", "/home", "rarr", "int", "less-than sig", "a <", "?", "arow"}) {
     EXPECT_EQ(session.runner("Match '" + other + "'"), noMatch) << other;
@@ -270,7 +270,8 @@ TEST_F(SearchProvider, AnswersManyCallersWhileOthersAreKilled) {
 TEST_F(SearchProvider, ExitsWhenIdleWithoutLosingACall) {
   Session session("0.02");
   session.index();
-  // The pauses are close to the idle time, so that many calls arrive while the program is about to exit.
+  // The pauses are about as long as the idle time, so that many calls arrive when the program is about to
+  // exit.
   const std::string result = runProgram("for client in 1 2; do for pause in $(seq 10 35); do " +
                                         session.shellCommand("GetInitialResultSet \"['→']\"") +
                                         " 2>&1; sleep 0.0$pause; done & done; wait")

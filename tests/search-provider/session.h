@@ -14,15 +14,16 @@
 
 namespace glyph {
 
-/// A separate desktop session for a test: a bus that starts the program from its service file, empty data and
-/// config homes, a clipboard that is a file, and a terminal that writes its arguments to a file. The bus name
-/// and the object path of the program come from the files that the desktops read.
+/// A separate desktop session for a test. It has a bus that starts the program from its service file, empty
+/// data and config directories, a clipboard program that writes the text to a file, and a terminal that
+/// writes its arguments to a file. The bus name and the object path of the program are read from the files
+/// that the desktops read.
 class Session {
  public:
   explicit Session(const std::string& idleSeconds = "30") {
     std::filesystem::create_directories(directory_ / "share/dbus-1/services");
     std::filesystem::create_directories(directory_ / "bin");
-    // Records each start, and each end with its exit code, so that tests can check them.
+    // Records each start of the program, and the exit code at each end, so that tests can check them.
     writeProgram(directory_ / "program", "echo started >>" + path("starts") +
                                              "\n" SEARCH_PROVIDER " --idle-seconds=" + idleSeconds +
                                              "\necho $? >>" + path("ends") + "\n");

@@ -23,8 +23,8 @@ std::vector<std::string> hexes(const CatalogSearch& search, const std::string& q
   return found;
 }
 
-// The results must have the same order as those of a single Search over both lists. But building a
-// single Search takes two hundred times as long.
+// A CatalogSearch must give results in the same order as a single Search over the catalog and the added
+// characters. Building such a Search takes two hundred times as long.
 TEST(CatalogSearch, RanksResultsLikeASingleSearchOverBothLists) {
   const std::vector<std::string> codes{"2192", "05d0", "fffd", "0041,030a", "1f600", "2e3b"};
   const CatalogSearch search(codes);
@@ -70,7 +70,7 @@ TEST(CatalogSearch, PrefersEntitiesOfTheUserAndNoticesChanges) {
   EXPECT_EQ(search.entityOfHex("21d2")->name(), "Rightwards Double Arrow");
   for (const char* const unknown : {"", "21D2", "021d2", "fffd", "zzzz"})
     EXPECT_FALSE(search.entityOfHex(unknown)) << unknown;
-  EXPECT_FALSE(search.isCurrent());  // the store of the test contains no added characters
+  EXPECT_FALSE(search.isCurrent());  // the settings of the test contain no added characters
 }
 
 TEST(CatalogSearch, MarksOnlyExactMatchesAsExact) {

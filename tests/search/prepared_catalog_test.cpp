@@ -11,8 +11,8 @@ namespace {
 
 using testing::CatalogSearch;
 
-// The index that the library contains equals the index of a Search that a host builds over the configured
-// catalog.
+// The prepared index in the library must equal the index that is built from the configured catalog at run
+// time.
 TEST(PreparedCatalog, IndexInTheLibraryEqualsANewlyBuiltIndex) {
   const search::IndexImage built = search::buildIndex(CatalogSearch::instance().entities);
   EXPECT_TRUE(std::ranges::equal(built, search::catalogIndexImage()));

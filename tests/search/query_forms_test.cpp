@@ -34,8 +34,8 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"\\2192", {"2192"}, SearchField::code},
       {"\\uD83D\\uDE00", {"1f600"}, SearchField::code},
       {"U+2192, U+2190", {"2192", "2190"}, SearchField::code},
-      {"2665", {"2665"}, SearchField::code},          // not decimal: 2665 is U+0A69
-      {"0169", {"0169", "00a9"}, SearchField::code},  // first as hexadecimal, then as decimal
+      {"2665", {"2665"}, SearchField::code},          // hexadecimal, not decimal
+      {"0169", {"0169", "00a9"}, SearchField::code},  // hexadecimal first, then decimal
       {"169", {"00a9", "0169"}, SearchField::code},
       {"U-0001F600", {"1f600"}, SearchField::code},
       {"U+ 2713", {"2713"}, SearchField::code},
@@ -60,11 +60,11 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"&rarr;&larr;", {"2192", "2190"}, SearchField::htmlName},
       {"&#8594;", {"2192"}, SearchField::code},
       {"&#x2192", {"2192"}, SearchField::code},
-      {"&rArr;", {"21d2"}, SearchField::htmlName},  // letter case counts
+      {"&rArr;", {"21d2"}, SearchField::htmlName},  // HTML names are case-sensitive
       {"&Rarr;", {"21a0"}, SearchField::htmlName},
       {"rightarrow", {"2192"}, SearchField::htmlName},
       {"RightArrow", {"2192"}, SearchField::htmlName},
-      {"rpar", {"0029"}, SearchField::htmlName},  // the enrichment table has another reference
+      {"rpar", {"0029"}, SearchField::htmlName},  // the enrichment table has another HTML name
       // the characters themselves
       {"→", {"2192"}, SearchField::character},
       {"→←", {"2192", "2190"}, SearchField::character},
@@ -78,29 +78,29 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"👨\u200D👩\u200D👧", {"1f468", "1f469", "1f467"}, SearchField::character},
       {"\u200D", {"200d"}, SearchField::character},
       {"жук", {"0436", "0443", "043a"}, SearchField::character},
-      // signs that people type in place of a character; the signs themselves come after that character
+      // ASCII signs that people type in place of a character; the signs themselves come after this character
       {"->", {"2192", "002d", "003e"}, SearchField::searchTerm},
       {"(C)", {"00a9"}, SearchField::searchTerm},
       {"1/2", {"00bd"}, SearchField::searchTerm},
       {"!=", {"2260", "0021", "003d"}, SearchField::searchTerm},
       {"...", {"2026"}, SearchField::searchTerm},
-      // how other programs write the characters
+      // notations for characters in other programs, such as LaTeX and Alt codes
       {"\\neq", {"2260"}, SearchField::notation},
-      {"\\cdot", {"22c5", "00b7"}, SearchField::notation},  // the first has more sources
-      {"\\AA", {"00c5"}, SearchField::notation},            // not the bytes AA
+      {"\\cdot", {"22c5", "00b7"}, SearchField::notation},  // more sources have the first
+      {"\\AA", {"00c5"}, SearchField::notation},            // not the escape of U+00AA
       {"$\\Rightarrow$", {"21d2"}, SearchField::notation},
       {"\\'e", {"00e9"}, SearchField::notation},
       {"\\c c", {"00e7"}, SearchField::notation},
-      {"\\'i", {"00ed"}, SearchField::notation},  // the command has a dotless i
+      {"\\'i", {"00ed"}, SearchField::notation},  // the LaTeX command has a dotless i
       {"\\not\\in", {"2209"}, SearchField::notation},
       {"\\mathbb{R}", {"211d"}, SearchField::notation},
-      {"\\righta", {"2192"}, SearchField::notation},  // the beginning of a command
+      {"\\righta", {"2192"}, SearchField::notation},  // a prefix of a command
       {":tada:", {"1f389"}, SearchField::notation},
       {":+1:", {"1f44d"}, SearchField::notation},
       {":tad", {"1f389"}, SearchField::notation},
       {"alt 0176", {"00b0"}, SearchField::notation},
       {"Alt+3", {"2665"}, SearchField::notation},
-      {"alt-228", {"03a3", "00f5"}, SearchField::notation},  // in two code pages
+      {"alt-228", {"03a3", "00f5"}, SearchField::notation},  // differs between two code pages
       {"Compose < 3", {"2665"}, SearchField::notation},
       {"^K a:", {"00e4"}, SearchField::notation},
       {"U 2014", {"2014"}, SearchField::code},
@@ -128,12 +128,12 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
   }
 }
 
-// The signs that are part of a code ("&", "#", "+") are not results.
+// The characters of the code itself, such as "&", "#" and "+", must not be results.
 TEST(SearchQueryForms, CodeFindsOnlyItsCharacter) {
   for (const char* const code : {"U+2192", "\\u2192", "\\u{2192}", "&#8594;", "&#x2192;"})
     EXPECT_EQ(CatalogSearch::instance().hexes(code), std::vector<std::string>{"2192"}) << code;
   EXPECT_EQ(CatalogSearch::instance().hexes("&#"),
-            (std::vector<std::string>{"0026", "0023"}));  // not a complete code, so the signs are results
+            (std::vector<std::string>{"0026", "0023"}));  // an incomplete code finds its characters
 }
 
 TEST(SearchQueryForms, EveryHtmlReferenceFindsItsCharacterFirst) {
@@ -189,7 +189,7 @@ TEST(SearchQueryForms, GroupRestrictsTheResults) {
     std::size_t total;
     const char* first;
   } cases[] = {
-      {"group:arrows", {}, inGroup("arrows"), "2190"},  // the whole group, in the order of the list
+      {"group:arrows", {}, inGroup("arrows"), "2190"},  // all entities of the group, in the order of the list
       {"group:Currency", {}, inGroup("currency symbols"), "20a0"},
       {"group:\"math operators\"", {}, inGroup("math operators"), "2200"},
       {"group:emoji cat", {}, catalog.search.query("cat", {0, {{"en"}}, {"emoji"}}).total, "1f408"},

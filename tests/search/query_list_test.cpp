@@ -35,8 +35,8 @@ std::vector<ListedQuery> listedQueries() {
   return queries;
 }
 
-// Returns the place of the first wanted character in the results, starting at 1. Returns 0 if no wanted
-// character was found.
+// Returns the position of the first wanted character in the results, starting at 1. Returns 0 if there is no
+// wanted character in the results.
 std::size_t placeOf(const ListedQuery& query, const std::vector<std::string>& found) {
   for (std::size_t i = 0; i < found.size(); ++i) {
     if (("," + query.wanted + ",").find("," + found[i] + ",") != std::string::npos) return i + 1;
@@ -44,14 +44,14 @@ std::size_t placeOf(const ListedQuery& query, const std::vector<std::string>& fo
   return 0;
 }
 
-// The queries whose first result is not a wanted character, with the place of the first wanted character. If
-// a change improves a query so that it finds a wanted character first, remove the query from this list. Add a
-// query only if the benefit of a change is worth it.
+// The queries whose first result is not a wanted character, with the position of the first wanted character.
+// If a change makes a query find a wanted character first, remove the query from this list. Add a query only
+// if the change that spoils it has a greater benefit.
 const std::map<std::string, std::size_t> knownMisses{
     {"aproximately equal", 2}, {"gear", 2}, {"skull", 2}, {"trash", 2}, {"wifi", 2}, {"étoiles", 2},
 };
 
-// The queries in the list are those that people type. They were not chosen to suit the search.
+// The queries in the list are those that people type. They were not chosen to give good results.
 TEST(SearchQueryList, EachQueryFindsItsCharacterFirstExceptKnownMisses) {
   const std::vector<ListedQuery> queries = listedQueries();
   ASSERT_GE(queries.size(), 815u);

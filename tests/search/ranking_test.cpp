@@ -57,11 +57,11 @@ TEST(SearchRanking, WordsAreLeftOutIfNoCharacterMatchesAllOfThem) {
     const char* language;
     const char* first;  // nullptr if nothing is found
   } cases[] = {
-      {"face with tears and joy", "en", "1f602"},  // leaves out function words
-      {"purple qzwxv snowman", "en", "2603"},      // leaves out an unknown word
+      {"face with tears and joy", "en", "1f602"},  // "and" instead of the name's "of"
+      {"purple qzwxv snowman", "en", "2603"},      // ignores an unknown word
       {"frozen snwman", "en", "2603"},             // the other word is mistyped
-      {"square anchor", "en", "2693"},             // leaves out the word that describes the noun
-      {"ancla cuadrada", "es", "2693"},            // in Spanish, this is the second word
+      {"square anchor", "en", "2693"},             // ignores the adjective
+      {"ancla cuadrada", "es", "2693"},            // in Spanish, the adjective comes second
       {"pfeil nach rechts", "de", "2192"},
       {"Geburtstagstorte", "de", "1f382"},           // a linking letter joins the parts of the word
       {"qzwxv vxzwq zzqqv snowman", "en", nullptr},  // one matching word of four is not enough
@@ -79,16 +79,16 @@ TEST(SearchRanking, EachPartOfTheScoreDecidesAmongResults) {
     const char* first;
   } cases[] = {
       {"circle slash", "en", "2298"},
-      {"circle with a slash", "en", "2298"},  // words that only join others say next to nothing
-      {"circled number 5", "en", "2464"},     // digits and their names are one word
+      {"circle with a slash", "en", "2298"},  // words such as "with" and "a" have little weight
+      {"circled number 5", "en", "2464"},     // digits equal their names ("five")
       {"voiceless postalveolar fricative", "en", "0283"},
-      {"stimmloser postalveolarer Frikativ", "de", "0283"},  // other forms of words have the same synonyms
-      {"è maiuscola", "it", "00c8"},                         // the accent counts
+      {"stimmloser postalveolarer Frikativ", "de", "0283"},  // inflected words have the same synonyms
+      {"è maiuscola", "it", "00c8"},                         // the accent matters
       {"í con tilde mayúscula", "es", "00cd"},
-      {"u mit zwei Punkten", "de", "00fc"},  // how the letter looks
-      {"power set", "en", "1d4ab"},          // not the character whose note warns of this one
-      {"estreya", "es", "2605"},            // letters that sound alike
-      {"co", "en", "00a9"},                  // not the syllables of this name
+      {"u mit zwei Punkten", "de", "00fc"},  // a description of the shape
+      {"power set", "en", "1d4ab"},          // not the character whose note mentions this one
+      {"estreya", "es", "2605"},             // a spelling that sounds alike
+      {"co", "en", "00a9"},                  // not a character with the syllable "Co" in its name
       {"giove", "it", "2643"},
   };
   for (const auto& test : cases) {
@@ -99,7 +99,7 @@ TEST(SearchRanking, EachPartOfTheScoreDecidesAmongResults) {
 
 TEST(SearchRanking, CharactersThatMatchMuchLessThanTheBestAreLeftOut) {
   const auto& search = CatalogSearch::instance().search;
-  EXPECT_LT(search.query("circle slash", english).total, 30u);  // hundreds have one of the words
+  EXPECT_LT(search.query("circle slash", english).total, 30u);  // hundreds match only one of the words
   const SearchResults incomplete = search.query("snowman invoice", english);
   EXPECT_TRUE(incomplete.lacksWords && incomplete.approximate);
   const SearchResults corrected = search.query("snoman", english);
@@ -162,7 +162,7 @@ TEST(SearchRanking, ReportsEachCharacterOnceAndCountsAllInTheTotal) {
   }
 }
 
-// A query for the name of a character finds this character. Only characters that have the same name, or have
+// The name of a character, as a query, finds this character. Only characters with the same name, or with
 // another text that equals the name, may come before this character.
 TEST(SearchRanking, EveryNameFindsItsCharacter) {
   const CatalogSearch& catalog = CatalogSearch::instance();
@@ -182,7 +182,7 @@ TEST(SearchRanking, EveryNameFindsItsCharacter) {
       reached = other == entity;
       if (reached) break;
       const bool calledSo = result.field != SearchField::name || loose(other.name()) == loose(name);
-      // SF Symbols come after Unicode characters: "Bell" comes after "Bell Symbol".
+      // An SF Symbol may come after Unicode characters with other names: "Bell" comes after "Bell Symbol".
       EXPECT_TRUE(calledSo || entity.computed.isSFSymbol.value_or(false))
           << entity.computed.hex << " " << name << ": " << other.name();
     }

@@ -58,7 +58,7 @@ TEST(SearchRobustness, UnusualListsCanBeSearched) {
   std::vector<Entity> entities(3);
   entities[0].computed.hex = "0041,030a";  // two code points
   entities[0].computed.fallbackName = "Two Of Them";
-  entities[1].computed.hex = "2192";  // has annotations, but no name and no group
+  entities[1].computed.hex = "2192";  // has annotations in the library, but no name and no group here
   entities[2].computed.hex = "";
   const Search search(entities);
   EXPECT_EQ(search.query("two them", {10, {{"en"}}, {}}).total, 1u);

@@ -79,7 +79,7 @@ TEST_F(NotificationCenterTest, PrintsExceptionsOfObserversAndCallsTheOthers) {
 
 TEST(NotificationToken, MayOutliveItsCenter) {
   auto center = std::make_unique<NotificationCenter>();
-  // When the registration ends, the objects that the observer captured are destroyed. A destructor of such an
+  // The end of the registration destroys the objects that the observer captured. The destructor of such an
   // object may use the center.
   auto held =
       std::shared_ptr<void>(nullptr, [&](void*) { center->addObserver("other", [](auto&) {}).reset(); });
@@ -95,7 +95,7 @@ TEST(NotificationToken, MayOutliveItsCenter) {
 }
 
 TEST(NotificationCenterThreads, PostWhileOthersRegister) {
-  // The first use of the default center happens on all threads at the same time.
+  // Several threads use the default center for the first time at the same time.
   const auto center = []() -> NotificationCenter& { return NotificationCenter::defaultCenter(); };
   std::atomic<int> always{0}, sometimes{0};
   std::vector<std::thread> threads;

@@ -133,8 +133,8 @@ TEST(DesktopPasteboard, BackgroundProcessInheritsNothingFromTheHost) {
   int ends[2];
   ASSERT_EQ(pipe(ends), 0);  // without O_CLOEXEC, which is common in hosts
   const auto before = signal(SIGCHLD, SIG_IGN);
-  // SIGCHLD is ignored, so there are no exit codes. /bin/false does not print "copied", so the next program
-  // is started.
+  // SIGCHLD is ignored, so there are no exit codes. /bin/false does not print "copied", so it counts as
+  // failed, and the next program is started.
   EXPECT_TRUE(DesktopPasteboard(20s, "/bin/false").setPlainText("→"));
   signal(SIGCHLD, before);
   close(ends[1]);
@@ -151,12 +151,13 @@ std::string output(const std::string& command) {
   return runProgram("exec 2>/dev/null; " + command).output;
 }
 
-// Copies the text in a process that ends before anything reads the text.
+// Copies the text in a child process that ends before another program reads the text.
 void copyAndEnd(const std::string& text, const std::string& ownerProgram = OWNER_PROGRAM) {
   EXPECT_EQ(inChild([&] { return DesktopPasteboard(60s, ownerProgram).setPlainText(text) ? 0 : 1; }), 0);
 }
 
-// Copies texts and reads them with another program. Then stops the server, so that a copy must time out.
+// Copies texts and reads them with another program. Finally stops the display server, so that a copy must
+// time out.
 void exchangeTexts(const BackgroundProgram& server, const std::string& list,
                    const testing::Matcher<std::string>& types, const std::string& paste) {
   const std::string large(10'000'000, 'm');
@@ -201,9 +202,9 @@ TEST(DesktopPasteboard, TextRemainsAfterTheProcessEndsOnWayland) {
 }
 
 // Copies pairs of texts while other programs keep the processors busy. When "entityCopied" is posted for the
-// second text of a pair, other programs must be able to read this text, and it must remain. In most pairs
-// another process makes one of the copies. If `overlapping` is true, the first copy may still be in progress
-// when the second copy is requested.
+// second text of a pair, other programs must be able to read this text, and it must stay on the clipboard. In
+// most pairs, another process makes one of the copies. If `overlapping` is true, the first copy may still be
+// in progress when the second copy is requested.
 void copyUnderLoad(const std::string& paste, bool overlapping) {
   const char* const asked = getenv("GLYPHORIUM_COPIES");
   const int pairs = asked ? (std::stoi(asked) + 1) / 2 : 12;

@@ -106,7 +106,8 @@ TEST(SearchableIndex, FindsItemsByTypedSymbolsAndWords) {
       {"2190 2192 100202", {"qv:arrow"}},
       {"0026 0061 0041 00c1", {"a latin"}},
       {"0041 0026 2190 2192 100202 0061 0301 00c1", {"A"}},
-      // A query has no operators, and no text can break out of the FTS5 expression.
+      // A query has no operators, and no text may change the meaning of the SQL statement or the FTS5
+      // expression.
       {"",
        {"arrow OR comma", "tok:arrow", "arrow*", "-comma", "arr\" OR \"comma", "(", "';DROP TABLE item;--"}},
       {"", {"", "\0"s, "\xff\x80\xa0", " \t\u00a0\u3000\u180e", std::string(100'000, '"'), manyTerms}}};
@@ -204,7 +205,7 @@ TEST(SearchableIndex, PutsDamagedFilesAsideAndKeepsReadableItems) {
     EXPECT_EQ(reader.error(), "");
   }
 
-  // Damage that only some queries detect, while another program has the file open.
+  // Tests damage that only some queries detect, while another program has the file open.
   removeIndex(file);
   {
     SqliteSearchableIndex index(file);
@@ -302,7 +303,7 @@ TEST(SearchableIndex, PassesDiskErrorsToTheCompletion) {
   SearchableIndexReader reader(directory / "index");
   EXPECT_EQ(reader.count(), 0u);
   EXPECT_EQ(indexAndWait(index, {glyphItem("1", "→", "Arrow")}), "");
-  EXPECT_EQ(reader.count(), 1u);  // the reader now has the log open
+  EXPECT_EQ(reader.count(), 1u);  // keeps the log open from here on
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
   const rlimit small{200'000, before.rlim_max};
@@ -324,7 +325,7 @@ TEST(SearchableIndex, PassesDiskErrorsToTheCompletion) {
   EXPECT_EQ(reader.count(), 0u);
   EXPECT_EQ(indexAndWait(index, {glyphItem("1", "→", "Arrow")}), "");
 
-  // The file is deleted while both the index and the reader have it open.
+  // Deletes the file while both the index and the reader have it open.
   removeIndex(directory / "index");
   EXPECT_EQ(reader.count(), 0u);
   EXPECT_EQ(indexAndWait(index, {glyphItem("2", "→", "Arrow")}), "");
@@ -350,7 +351,7 @@ TEST(SearchableIndex, AllWaitingRequestsShareOneWaitForALock) {
   EXPECT_LT(std::chrono::steady_clock::now() - begin, 9s);
   EXPECT_THAT(outcomes, AllOf(SizeIs(601), Each(HasSubstr("locked"))));
 
-  // A host that does not want to wait gets its answer at once.
+  // If the lock wait policy refuses to wait, the request fails at once.
   setLockWaitPolicy([](std::chrono::milliseconds) { return false; });
   const auto again = std::chrono::steady_clock::now();
   blocked.deleteAllItems(noting(outcomes));
@@ -377,7 +378,7 @@ TEST(SearchableIndex, CarriesOutAllRequestsBeforeTheProgramEnds) {
 }
 
 TEST(SearchableIndex, ACompletionMayUseAndDestroyTheIndex) {
-  std::thread([] {}).join();  // a sanitizer starts a permanent thread along with the first one
+  std::thread([] {}).join();  // with the first thread, a sanitizer starts its own permanent thread
   const auto threads = [] {
     return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
   };
@@ -418,7 +419,7 @@ TEST(SearchableIndex, KeepsAcknowledgedRequestsWhenItsProcessIsKilled) {
     }
   };
   for (int round = killRounds(20); round > 0; --round) {
-    if (kept > 20'000) {  // keeps many rounds from becoming slow
+    if (kept > 20'000) {  // a larger index would make later rounds slow
       removeIndex(file);
       kept = 0;
     }

@@ -23,7 +23,7 @@ List listIn(const Value& value) {
 TEST(SettingsProcesses, DoNotOverwriteChangesOfEachOther) {
   const TemporaryDirectory directory;
   const auto file = directory / "settings.sqlite";
-  // At first there is no file, so all processes try to create it.
+  // There is no file yet, so all processes try to create it.
   const auto append = [&](int process) {
     SqliteSettingsStore store(file);
     for (int i = 0; i < 200; ++i) {
@@ -35,7 +35,7 @@ TEST(SettingsProcesses, DoNotOverwriteChangesOfEachOther) {
     }
     return store.synchronize() ? 0 : 1;
   };
-  // A reader that runs at the same time sees only complete lists, and the lists never become shorter.
+  // This process reads at the same time. It must see only complete lists, which never become shorter.
   SqliteSettingsStore reader(file);
   const auto read = [&] {
     for (std::size_t reads = 0, seen = 0; reads < 300; ++reads) {
@@ -53,7 +53,8 @@ TEST(SettingsProcesses, DoNotOverwriteChangesOfEachOther) {
   EXPECT_EQ(list, expected) << "the entries of each process must be in the order of its writes";
 }
 
-// Returns the state with this number. The lengths vary, so that pages of the database are added and freed.
+// Returns a list that identifies the state with this number. The lengths vary, so that the database adds and
+// frees pages.
 List state(std::size_t number) {
   return List(number * 37 % 500 + 1, std::to_string(number));
 }
@@ -71,8 +72,8 @@ TEST(SettingsProcesses, KeepAllAcknowledgedWritesWhenKilled) {
         if (!store.synchronize() || write(acknowledgements, "", 1) != 1) return;
       }
     };
-    // In every second round, the writer may be killed before its first statement. In the other rounds it is
-    // killed after its first write.
+    // In every second round, the writer is killed at any time after its start, in the other rounds after its
+    // first write.
     const std::size_t acknowledged = kept + writesUntilKilled(round % 2 == 1, 20ms, writeForEver,
                                                               [] { std::this_thread::sleep_for(100us); });
     const List found = listIn(SqliteSettingsStore(file).object("state"));

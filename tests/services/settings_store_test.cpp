@@ -89,7 +89,7 @@ TEST_F(SettingsStoreTest, ReturnsValuesOfEveryTypeUnchanged) {
   }
   EXPECT_THAT(diagnostics.take(), IsEmpty());
 
-  // Values that JSON cannot express.
+  // Tests values that JSON cannot express.
   sqlite.set("bytes", List{"a\xFFz", "b"});
   sqlite.set("number", std::nan(""));
   EXPECT_EQ(stored("number"), SettingValue(RawJson{"null"}));
@@ -106,7 +106,7 @@ TEST_F(SettingsStoreTest, DoesNotChangeValuesOfOtherPrograms) {
       {"{\"a\":1,\"a\":2}", RawJson{"{\"a\":1,\"a\":2}"}},
       {"not json", RawJson{"not json"}},
       {"1e999", RawJson{"1e999"}},
-      {"true' || char(0) || 'x", RawJson{std::string("true\0x", 6)}},  // SQL for a text with a NUL byte
+      {"true' || char(0) || 'x", RawJson{std::string("true\0x", 6)}},  // SQL that makes a text with a NUL
       {" [\"a\"] ", List{"a"}},
       {deep, RawJson{deep}}};
   for (const auto& [text, value] : foreign) {
@@ -117,7 +117,7 @@ TEST_F(SettingsStoreTest, DoesNotChangeValuesOfOtherPrograms) {
     EXPECT_EQ(stored("foreign"), SettingValue(RawJson{"found"})) << "another process's value was overwritten";
   }
   EXPECT_THAT(diagnostics.take(), IsEmpty());
-  // A database of another program.
+  // Turns the file into the database of another program.
   execute("DROP TABLE setting; CREATE TABLE other (x)");
   SqliteSettingsStore(file).set("own", true);
   EXPECT_EQ(stored("own"), SettingValue(true));
@@ -158,7 +158,7 @@ TEST_F(SettingsStoreTest, UpdatesInOneStep) {
     }
     for (auto& thread : threads) thread.join();
     EXPECT_EQ(store->object("sum"), SettingValue(std::int64_t{200}));
-    // The function that update() calls may use the store.
+    // The function that update() calls may use the same store.
     store->update("sum", [&](Value) -> Value {
       store->set("inner", true);
       store->update("inner", [&](Value inner) -> Value { return inner != SettingValue(true); });
@@ -177,7 +177,7 @@ TEST_F(SettingsStoreTest, UpdatesInOneStep) {
   };
   EXPECT_THROW(sqlite.update("sum", failing), std::runtime_error);
   EXPECT_EQ(sqlite.object("inner"), SettingValue(false));
-  sqlite.set("sum", true);  // the failed update must not leave a lock
+  sqlite.set("sum", true);  // works, because the failed update left no lock
   EXPECT_EQ(stored("sum"), SettingValue(true));
   EXPECT_THAT(diagnostics.take(), IsEmpty());
 }
@@ -225,7 +225,7 @@ TEST_F(SettingsStoreTest, RenamesADamagedFileOnTheNextWrite) {
     EXPECT_EQ(fileContent(aside.string() + "2-wal"), pending);
     EXPECT_EQ(fileContent(aside), "an older one");
     EXPECT_THAT(diagnostics.take(), Contains(HasSubstr("kept in " + aside.string() + "2")).Times(1));
-    // A store that has already opened the damaged file uses the new file. It does not rename a file again.
+    // A store that has already opened the damaged file switches to the new file, and does not rename it.
     witness.set("other", true);
     EXPECT_EQ(stored("key"), SettingValue(true));
     EXPECT_EQ(stored("other"), SettingValue(true));
@@ -240,7 +240,8 @@ TEST_F(SettingsStoreTest, SurvivesTruncatedFilesAndChangedBytes) {
   for (std::size_t i = 0; i < good.size(); i += i < 100 ? 9 : 1021) {
     std::string flipped = good;
     flipped[i] = static_cast<char>(flipped[i] ^ 0x55);
-    // These two bytes contain version numbers of the format. SQLite must not write a file of a newer format.
+    // The bytes at 18 and 47 contain version numbers of the file format. Changed, they mean a newer format,
+    // and SQLite does not write to such a file.
     const bool newer = i == 18 || i == 47;
     for (const auto& [bytes, writable] : {std::pair(good.substr(0, i), true), std::pair(flipped, !newer)}) {
       for (const auto& entry : fs::directory_iterator(directory.path())) fs::remove(entry);
@@ -264,7 +265,7 @@ TEST_F(SettingsStoreTest, UsesTheNewFileAfterTheFileWasReplaced) {
   sqlite.set("other", true);
   EXPECT_EQ(stored("other"), SettingValue(true));
 
-  // A forked process inherits the handle of the open file but not the locks.
+  // A forked child process inherits the handle of the open file, but not the locks of its parent.
   asNobody([&] {
     sqlite.set("key", "forked");
     EXPECT_FALSE(sqlite.synchronize());
@@ -274,7 +275,8 @@ TEST_F(SettingsStoreTest, UsesTheNewFileAfterTheFileWasReplaced) {
   EXPECT_EQ(sqlite.object("key"), SettingValue("new"));
 }
 
-// A value could not be stored at first. Tests whether it is stored when storing is possible again.
+// At first, a lock prevents a value from being stored. Tests whether the value is stored after the lock has
+// ended.
 TEST_F(SettingsStoreTest, DropsResultsComputedFromAnOutdatedValue) {
   std::atomic<int> asked = 0;
   setLockWaitPolicy([&](std::chrono::milliseconds) { return ++asked % 3 != 0; });
@@ -306,7 +308,7 @@ TEST_F(SettingsStoreTest, DropsResultsComputedFromAnOutdatedValue) {
         Database other(file, SQLITE_OPEN_READWRITE);
         other.execute(lock);
         how == How::set ? store->set("key", List{"old", "new"}) : store->update("key", append);
-        // The next operation does not wait again.
+        // After a wait that timed out, the next operation does not wait.
         const int before = asked;
         EXPECT_GT(before, 0);
         EXPECT_FALSE(store->synchronize());
@@ -387,7 +389,8 @@ TEST_F(SettingsStoreTest, ReadsNumbersInEveryLocale) {
   EXPECT_EQ(read, SettingValue(1234.5));
 }
 
-// Each case prevents settings from being saved until the cause is removed.
+// Each case prevents settings from being saved and then removes the obstacle. After that, the settings must
+// be saved.
 TEST_F(SettingsStoreTest, KeepsUnsavedValuesUntilTheyCanBeSaved) {
   const auto check = [&](SettingsStore& store, const std::function<void()>& clear) {
     const List large(5000, "a text that does not fit on the disk");
@@ -439,8 +442,8 @@ TEST_F(SettingsStoreTest, KeepsUnsavedValuesUntilTheyCanBeSaved) {
       check(store, [&, &changed = place, &permissions = usual] { fs::permissions(changed, permissions); });
     }
 
-    // The file cannot be read. A value that was computed without the present value never replaces the present
-    // value.
+    // The file cannot be read, so update() computes a new value without the stored value. Such a result must
+    // never replace the stored value.
     fs::permissions(file, fs::perms(0));
     SqliteSettingsStore blind(file);
     blind.update("large", [](Value present) -> Value { return List{present ? "both" : "more"}; });
@@ -451,7 +454,7 @@ TEST_F(SettingsStoreTest, KeepsUnsavedValuesUntilTheyCanBeSaved) {
     EXPECT_EQ(stored("other"), SettingValue(false));
     fs::remove_all(own);
 
-    // There is no home directory.
+    // There is no home directory, so the store has no file.
     unsetenv("HOME");
     unsetenv("XDG_CONFIG_HOME");
     SqliteSettingsStore homeless;

@@ -87,8 +87,7 @@ TEST_F(SettingsTest, EachChangeOfGroupsNormalisesSavesAndSetsTheFlagOnce) {
     Names after;
     bool saved = true;
   } cases[] = {
-      // "custom" is stored once, at the beginning. This applies only to this exact word, and only if the list
-      // contains it.
+      // If the list contains "custom" in exactly this spelling, this name is stored once, at the beginning.
       {{}, set({"arrows", "custom", "armenian", "custom"}), {"custom", "arrows", "armenian"}},
       {{}, set({"arrows", "Custom"}), {"arrows", "Custom"}},
       {{"arrows"}, set({}), {}},

@@ -19,8 +19,8 @@
 
 namespace glyph {
 
-/// A test with empty settings, index and clipboard in memory. `events` records all writes, index requests,
-/// notifications and diagnostic lines in order.
+/// A test whose settings, index and clipboard are in memory and empty at the start. `events` records all
+/// writes, index requests, notifications and diagnostic lines in order.
 class CatalogFixture : public testing::Test {
  protected:
   using Names = std::vector<std::string>;

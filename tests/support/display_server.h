@@ -42,7 +42,8 @@ class BackgroundProgram {
   pid_t process_;
 };
 
-/// A separate X server for a test. DISPLAY contains its name. `usable` is false if Xvfb is not installed.
+/// A separate X server for a test. Sets DISPLAY to the name of the server. `usable` is false if Xvfb is not
+/// installed.
 struct XServer {
   bool usable = isInstalled("Xvfb");
   TemporaryDirectory directory;
@@ -59,8 +60,8 @@ struct XServer {
   }
 };
 
-/// A separate Wayland compositor for a test. WAYLAND_DISPLAY contains its name. `usable` is false if sway or
-/// wl-copy is not installed.
+/// A separate Wayland compositor for a test. Sets WAYLAND_DISPLAY to the name of the compositor. `usable` is
+/// false if sway or wl-copy is not installed.
 struct WaylandServer {
   bool usable = isInstalled("sway") && isInstalled("wl-copy");
   TemporaryDirectory directory;
@@ -68,8 +69,7 @@ struct WaylandServer {
   ScopedVariable variables[6] = {{"XDG_RUNTIME_DIR", runtime}, {"DISPLAY", {}},
                                  {"WLR_BACKENDS", "headless"}, {"WLR_LIBINPUT_NO_DEVICES", "1"},
                                  {"WLR_RENDERER", "pixman"},   {"HOME", "/nonexistent"}};
-  // WAYLAND_DISPLAY is not set while sway starts: otherwise, sway would connect to the compositor that it
-  // names.
+  // Unsets WAYLAND_DISPLAY while sway starts. Otherwise sway would connect to the compositor with this name.
   ScopedVariable nobody{"WAYLAND_DISPLAY", {}};
   BackgroundProgram server{command()};
   ScopedVariable display{"WAYLAND_DISPLAY", usable ? started() : ""};
@@ -87,7 +87,7 @@ struct WaylandServer {
     return asNobody + "sway -c " + (directory / "config").string() + " >/dev/null 2>&1";
   }
   std::string started() const {
-    // Sway chooses the first free number.
+    // Sway chooses the first free name, beginning with "wayland-1".
     EXPECT_TRUE(eventually([&] { return std::filesystem::exists(runtime + "/wayland-1"); }));
     return "wayland-1";
   }

@@ -15,7 +15,7 @@ TEST(PreferredLanguages, FollowTheRulesOfGettextWithoutRegions) {
     Languages languages;
     std::optional<std::string> lang = {}, language = {}, messages = {}, all = {};
   } cases[] = {{{"en"}},
-               // Which variable counts.
+               // The first variable that is set determines the locale.
                {{"de"}, "de_AT.UTF-8"},
                {{"fr"}, "de_DE", {}, "fr_FR"},
                {{"it"}, "de_DE", {}, "fr_FR", "it_IT"},
@@ -28,7 +28,7 @@ TEST(PreferredLanguages, FollowTheRulesOfGettextWithoutRegions) {
                {{"en"}, {}, "fr"},
                {{"fr"}, "C.UTF-8", "fr"},
                {{"en"}, "C.UTF-8"},
-               // Different forms of locale names, also malformed names.
+               // Locale names in different forms, some of them malformed.
                {{"sr-Latn"}, "sr_RS.UTF-8@latin"},
                {{"zh-Hant"}, "ZH-hANT"},
                {{"en"}, "../../x"},

@@ -20,7 +20,7 @@ TEST(UnicodeText, LowerCasesWithTheFullMapping) {
   } cases[] = {{"", ""},
                {"Latin BASIC & [Z]@`{", "latin basic & [z]@`{"},
                {"É", "é"},
-               {"İ", "i̇"},                     // one code point becomes two
+               {"İ", "i̇"},                     // one code point gives two
                {"ΟΔΟΣ", "οδος"},               // a sigma at the end of a word
                {"Z\xFFZ\xC3", "z\xFFz\xC3"}};  // ill-formed bytes do not change
   for (const auto& [text, lower] : cases) EXPECT_EQ(lowercased(text), lower);

@@ -6,7 +6,7 @@
 
 namespace {
 
-// Does what a host does when its user types into the search field.
+// Filters the displayed entities, as a host does when the user types into its search field.
 void filter(const glyph::Search& search, const std::string& typed) {
   std::vector<glyph::Entity> filtered;
   for (const glyph::SearchResult& result : search.query(typed).results) {
