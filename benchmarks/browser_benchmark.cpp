@@ -1,7 +1,7 @@
-// SPDX-License-Identifier: MIT Measures how long the user of the window waits for the result of a key press
-// in the search field, and for a page of the grid. The counter "worst_ms" is the time of the longest single
-// step, because users notice long steps. "pages" measures how long the main thread is busy while another
-// thread draws the glyphs.
+// SPDX-License-Identifier: MIT
+// Measures how long the user of the window waits for the result of a key press in the search field, and for a
+// page of the grid. The counter "worst_ms" is the time of the longest single step, because users notice long
+// steps. "pages" measures how long the main thread is busy while another thread draws the glyphs.
 #include <benchmark/benchmark.h>
 #include <glyphorium/glyphorium.h>
 

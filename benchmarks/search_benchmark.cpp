@@ -1,6 +1,7 @@
-// SPDX-License-Identifier: MIT Measures the search of the whole catalog: building it, and answering a query.
-// Other libraries and data structures that find the same words are measured for comparison. Compare only
-// figures from the same run, because other programs run on the same machine.
+// SPDX-License-Identifier: MIT
+// Measures the search of the whole catalog: building it, and answering a query. Other libraries and data
+// structures that find the same words are measured for comparison. Compare only figures from the same run,
+// because other programs run on the same machine.
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <malloc.h>

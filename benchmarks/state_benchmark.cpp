@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT Measures building the displayed list and adding characters, and how both times
-// grow. For comparison, it also measures a plain sort and copy, and writes to the settings.
+// SPDX-License-Identifier: MIT
+// Measures building the displayed list and adding characters, and how both times grow. For comparison, it
+// also measures a plain sort and copy, and writes to the settings.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>

@@ -1,6 +1,6 @@
-// SPDX-License-Identifier: MIT Writes texts as arguments into D-Bus messages, and reads them back. It must be
-// possible to write every text, and to read it back unchanged. The messages are never sent. Each line of the
-// input is a text.
+// SPDX-License-Identifier: MIT
+// Writes texts as arguments into D-Bus messages, and reads them back. It must be possible to write every
+// text, and to read it back unchanged. The messages are never sent. Each line of the input is a text.
 #include <sys/socket.h>
 #include <systemd/sd-bus.h>
 

@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT Tests codes in every notation, the code formats and XML references. Every code
-// that is written must be read back unchanged, and well-formed text must stay well-formed.
+// SPDX-License-Identifier: MIT
+// Tests codes in every notation, the code formats and XML references. Every code that is written must be read
+// back unchanged, and well-formed text must stay well-formed.
 #include <algorithm>
 #include <cstdint>
 #include <cstring>

@@ -1,6 +1,7 @@
-// SPDX-License-Identifier: MIT Tests how the search index splits texts into words, with an index in memory.
-// Every item must be found by its name, and no query may cause an error. The first line of the input is a
-// query, the second line is the item's symbol, and the rest is the item's name.
+// SPDX-License-Identifier: MIT
+// Tests how the search index splits texts into words, with an index in memory. Every item must be found by
+// its name, and no query may cause an error. The first line of the input is a query, the second line is the
+// item's symbol, and the rest is the item's name.
 #include <algorithm>
 #include <cstdint>
 #include <exception>

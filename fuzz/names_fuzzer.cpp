@@ -1,6 +1,7 @@
-// SPDX-License-Identifier: MIT Compares name completion with a plain look-up of the hex code in the decoded
-// name table. Each line of the input is a record: its hex code, a space and its name. If the name ends with
-// "!", the record gets the group "Private Use Area".
+// SPDX-License-Identifier: MIT
+// Compares name completion with a plain look-up of the hex code in the decoded name table. Each line of the
+// input is a record: its hex code, a space and its name. If the name ends with "!", the record gets the group
+// "Private Use Area".
 #include <algorithm>
 #include <cstdint>
 #include <string>

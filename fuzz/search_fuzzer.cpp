@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT Tests that every query that a user may type or paste gets an answer, and that
-// a host can display all results.
+// SPDX-License-Identifier: MIT
+// Tests that every query that a user may type or paste gets an answer, and that a host can display all
+// results.
 #include <algorithm>
 #include <cstdint>
 #include <set>

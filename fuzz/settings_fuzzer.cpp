@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT Tests that every text can be read as the stored form of a setting, and that
-// every stored value is read back unchanged.
+// SPDX-License-Identifier: MIT
+// Tests that every text can be read as the stored form of a setting, and that every stored value is read back
+// unchanged.
 #include <cmath>
 #include <cstdint>
 #include <cstring>

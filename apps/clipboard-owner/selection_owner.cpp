@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 // The clipboard manager has this much time to read the text.
 constexpr auto handOverLimit = 5s;
-// The most conversions that one MULTIPLE request may contain. No known program requests so many.
+// The maximum number of conversions in one MULTIPLE request. No known program requests more.
 constexpr std::uint32_t mostConversions = 128;
 // Copies that were requested within this time, in milliseconds, count as simultaneous. The clock of the
 // server may be coarse, and the result of serverTimeAt() may be wrong by some milliseconds.

@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT Helpers for sd-bus: smart pointers for its objects, and exceptions for its
-// errors. If a D-Bus method throws an exception, the caller gets an error reply.
+// SPDX-License-Identifier: MIT
+// Helpers for sd-bus: smart pointers for its objects, and exceptions for its errors. If a D-Bus method throws
+// an exception, the caller gets an error reply.
 #pragma once
 
 #include <systemd/sd-bus.h>

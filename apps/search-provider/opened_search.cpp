@@ -57,8 +57,8 @@ Command terminal() {
   throw CallError{SD_BUS_ERROR_FAILED, "No terminal program is installed that could show the search"};
 }
 
-// Starts the command in a session of its own. The second fork makes init the parent of the command, so the
-// command can outlive this program, and this program need not wait for the command.
+// Starts the command in a new session. The second fork makes init the parent of the command, so the command
+// can outlive this program, and this program need not wait for the command.
 void startDetached(const Command& command) {
   std::vector<char*> arguments;
   for (const std::string& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));

@@ -32,7 +32,7 @@ static void copy(GtkListBox *list, GtkListBoxRow *row, gpointer user) {
   glyphorium_copy(symbol, GLYPHORIUM_TERMINATED, NULL);
 }
 
-/* Makes the library copy with GTK instead of its own programs. */
+/* The library calls this function to copy a text, because activate() sets it as the pasteboard. */
 static bool setText(void *user, const char *text, size_t size) {
   (void)size;
   gdk_clipboard_set_text(gtk_widget_get_clipboard(GTK_WIDGET(user)), text);

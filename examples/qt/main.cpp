@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT A window that filters the displayed characters while the user types. Enter
-// copies the selected character.
+// SPDX-License-Identifier: MIT
+// A window that filters the displayed characters while the user types. Enter copies the selected character.
 #include <glyphorium/glyphorium.h>
 
 #include <QApplication>
@@ -35,7 +35,7 @@ int main(int argc, char** argv) {
     row->setData(Qt::UserRole, text(entity.computed.symbol));
     list->addItem(row);
   };
-  const glyph::Search search(glyph::selectedEntities());  // built again after "contentHasChanged"
+  const glyph::Search search(glyph::selectedEntities());  // build it again after "contentHasChanged"
   const auto fill = [&] {
     list->clear();
     const std::string typed = field->text().toStdString();

@@ -21,8 +21,8 @@
  *
  * A function that gets a bad argument (NULL, ill-formed UTF-8, an index that is out of range) returns the
  * neutral value: NULL, 0, false or an empty text. glyphorium_last_status() returns the reason. No function
- * throws a C++ exception, not even when memory runs out. Callbacks of the host must not throw C++ exceptions
- * and must not call longjmp().
+ * throws a C++ exception, not even when memory runs out. Callbacks that the host implements must not throw
+ * C++ exceptions and must not call longjmp().
  *
  * Threads: the catalog (catalog.h) may be used by one thread at a time. All other functions may be called
  * from any thread. An object may be read by several threads at once.
@@ -81,8 +81,7 @@ GLYPHORIUM_EXPORT glyphorium_text glyphorium_texts_at(const glyphorium_texts *te
 GLYPHORIUM_EXPORT void glyphorium_texts_free(glyphorium_texts *texts);
 
 /** Frees the `user` pointer of a callback. The library calls this function once, after the last call of the
- * callback. If the callback cannot be set, the function that should set it calls `destroy` before it returns.
- * May be NULL. */
+ * callback. If a callback cannot be set, the library calls this function at once. May be NULL. */
 typedef void (*glyphorium_destroy)(void *user);
 
 #ifdef __cplusplus

@@ -87,8 +87,8 @@ GLYPHORIUM_EXPORT bool glyphorium_set_desktop_searches_catalog(bool whole_catalo
 GLYPHORIUM_EXPORT glyphorium_texts *glyphorium_languages(void);
 GLYPHORIUM_EXPORT bool glyphorium_set_languages(const char *const *languages, size_t count);
 
-/** Return the text constants of the library by name: "latinBasicJson", "additionalJson",
- * "structuredUnicodeJSON". The texts live until the process ends. */
+/** Return the number, the names and the content of the texts that are embedded in the library:
+ * "latinBasicJson", "additionalJson", "structuredUnicodeJSON". The texts live until the process ends. */
 GLYPHORIUM_EXPORT size_t glyphorium_embedded_text_count(void);
 GLYPHORIUM_EXPORT glyphorium_text glyphorium_embedded_text_name(size_t index);
 GLYPHORIUM_EXPORT glyphorium_text glyphorium_embedded_text(const char *name);

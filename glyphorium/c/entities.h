@@ -96,10 +96,11 @@ GLYPHORIUM_EXPORT char *glyphorium_entity_search_string(const glyphorium_entity 
  * not have this form, or if there is no form with this identifier. */
 GLYPHORIUM_EXPORT char *glyphorium_entity_form(const glyphorium_entity *entity, const char *form, size_t *size);
 
-/** Return the forms in which a character can be copied, in the order in which hosts show them: "character",
- * "hex", "decimal", "code-point", "html", "html-hex", "html-decimal", "swift", "utf-8", "utf-16", "utf-32",
- * "c", "javascript", "json", "java", "python", "rust", "css", "url", "swiftui", "uikit". The identifiers
- * never change, but later versions may have more forms. The texts live until the process ends. */
+/** Return the number and the identifiers of the forms in which a character can be copied, in the order in
+ * which hosts show them: "character", "hex", "decimal", "code-point", "html", "html-hex", "html-decimal",
+ * "swift", "utf-8", "utf-16", "utf-32", "c", "javascript", "json", "java", "python", "rust", "css", "url",
+ * "swiftui", "uikit". The identifiers never change, but later versions may have more forms. The texts live
+ * until the process ends. */
 GLYPHORIUM_EXPORT size_t glyphorium_form_count(void);
 GLYPHORIUM_EXPORT glyphorium_text glyphorium_form_identifier(size_t index);
 /** Returns the separator to put between the forms of several characters. */

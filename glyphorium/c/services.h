@@ -44,7 +44,7 @@ GLYPHORIUM_EXPORT bool glyphorium_post(const char *name, const char *object);
  * with the text if `displayed` is NULL. Returns whether the clipboard accepted the text. */
 GLYPHORIUM_EXPORT bool glyphorium_copy(const char *text, size_t size, const char *displayed);
 
-/** A clipboard of the host. `set_text` returns whether it accepted the text. */
+/** A clipboard that the host implements. `set_text` returns whether the clipboard accepted the text. */
 typedef struct glyphorium_pasteboard {
   size_t struct_size; /**< sizeof(glyphorium_pasteboard) */
   bool (*set_text)(void *user, const char *text, size_t size);
@@ -61,7 +61,7 @@ typedef struct glyphorium_reply glyphorium_reply;
  * calls this function several times, the last call applies. */
 GLYPHORIUM_EXPORT void glyphorium_reply_text(glyphorium_reply *reply, const char *text, size_t size);
 
-/** A settings store of the host. Values are JSON texts: true, 1, 1.5, "text", ["a","b"]. */
+/** A settings store that the host implements. Values are JSON texts: true, 1, 1.5, "text", ["a","b"]. */
 typedef struct glyphorium_settings_store {
   size_t struct_size; /**< sizeof(glyphorium_settings_store) */
   /** Sets the reply to the value of the key. Does not set a reply if there is no value. */
@@ -140,7 +140,7 @@ typedef struct glyphorium_request glyphorium_request;
 /** Reports that the host's index has finished a request. Call this exactly once for each request, on any
  * thread. `error` is NULL after a success. */
 GLYPHORIUM_EXPORT void glyphorium_request_done(glyphorium_request *request, const char *error);
-/** An index of the host. Each function takes a request, returns at once and later calls
+/** A search index that the host implements. Each function takes a request, returns at once and later calls
  * glyphorium_request_done(). The items are borrowed until the function returns. */
 typedef struct glyphorium_index {
   size_t struct_size; /**< sizeof(glyphorium_index) */

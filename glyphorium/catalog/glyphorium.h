@@ -61,7 +61,7 @@ struct GLYPHORIUM_EXPORT Glyphorium {
 
   /// Returns the entities of all configured tables, in the order of the tables, each with its enrichment. The
   /// list is empty before configure() is called. All configured catalogs share one list, which lives until
-  /// the process ends. The library's read-only image holds its texts.
+  /// the process ends. Its texts are constants in the library's read-only image.
   const std::vector<Entity>& buildInEntities() const;
 
   /// Fills the catalog from the embedded tables and the user's stored choices, and assigns

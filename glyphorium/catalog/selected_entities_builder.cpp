@@ -137,7 +137,7 @@ void addCustomCandidates(const std::vector<Entity>& entities, const Ranks& ranks
   // A stable sort keeps different spellings of the same number ("0041", "00041") in the order of the
   // catalog.
   const auto middle = candidates.begin() + static_cast<std::ptrdiff_t>(ofTables);
-  // A custom entity may have another number than the entity of a table that it replaces.
+  // A custom entity that replaces the entity of a table may have a different number.
   if (!std::is_sorted(candidates.begin(), middle, before))
     std::stable_sort(candidates.begin(), middle, before);
   std::stable_sort(middle, candidates.end(), before);

@@ -26,7 +26,7 @@ class CodeReader {
     if (const auto arguments = callBegin()) return call(*arguments);
     if (take("&")) return reference();
     if (take("#"))
-      return numericReference(4);  // as in "&#8594;" without "&"; fewer digits are probably a hashtag
+      return numericReference(4);  // "&#8594;" without "&"; with fewer than four digits, probably a hashtag
     if (take("\\")) return escape();
     if (take("%")) return bytes("%");
     if (take("<U+")) return closed(number(16, 1, 8), ">");

@@ -46,7 +46,7 @@ class Observed {
   void assignSilently(T value) noexcept { value_ = std::move(value); }
 
   const T& get() const noexcept { return value_; }
-  operator const T&() const noexcept { return value_; }  // implicit, for uses as a const T
+  operator const T&() const noexcept { return value_; }  // implicit, so that it can be read as a T
   const T* operator->() const noexcept { return &value_; }
   const T& operator*() const noexcept { return value_; }
 

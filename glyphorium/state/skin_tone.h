@@ -25,7 +25,7 @@ GLYPHORIUM_EXPORT std::optional<SkinTone> skinToneNamed(std::string_view name) n
 /// The key of this setting in settingsStore(). The value is a result of skinToneName().
 inline constexpr std::string_view preferredSkinToneKey = "preferredSkinTone";
 
-/// Returns the tone of emoji of people and hands if the user does not choose a tone for the single emoji.
+/// Returns the skin tone for emoji of people and hands, which is used unless the user chooses another tone.
 /// The default is `none`. Every call reads settingsStore().
 GLYPHORIUM_EXPORT SkinTone preferredSkinTone();
 

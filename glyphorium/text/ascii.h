@@ -30,8 +30,8 @@ inline bool isAlphanumeric(char c) {
   return isLetter(c) || isDigit(c);
 }
 
-/// Returns the value of a text of digits in this base. Returns nullopt if the text is empty or has another
-/// character, or if the value does not fit into 32 bits.
+/// Returns the value of a text of digits in this base. Returns nullopt if the text is empty or contains
+/// anything but digits, or if the value does not fit into 32 bits.
 inline std::optional<std::uint32_t> number(std::string_view text, int base) {
   std::uint32_t value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, base);

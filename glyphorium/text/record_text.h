@@ -25,8 +25,8 @@ namespace glyph {
 ///   `cond ? text : ""` does.
 /// - A template that deduces its parameter from std::string, such as std::regex_match() or std::max(), and
 ///   std::filesystem::path: pass std::string(text) or view().
-/// - A function that changes a std::string through a reference, or a vector of std::string: copy the field
-/// first.
+/// - A function that changes a std::string through a reference, or a vector of std::string: copy the
+///   field first.
 ///
 /// Lifetime: view(), data() and iterators are valid until the RecordText is changed or destroyed, as those
 /// of a std::string are. The constants live as long as the library is loaded. The shared library stays
@@ -83,7 +83,7 @@ class RecordText {
 
   constexpr std::string_view view() const noexcept { return {data(), size()}; }
   constexpr operator std::string_view() const noexcept { return view(); }  // implicit, as in std::string
-  operator std::string() const { return std::string(view()); }  // implicit, for uses as a std::string
+  operator std::string() const { return std::string(view()); }  // implicit: usable as a std::string
 
   /// The bytes of the text, null-terminated.
   constexpr const char* data() const noexcept { return data_; }

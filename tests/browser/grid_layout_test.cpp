@@ -8,8 +8,10 @@ namespace {
 
 constexpr int heading = 20, cell = 50;
 
-// Two sections with 7 and 3 cells, in 4 columns. The numbers are the indexes of the cells: 0 1 2 3 4 5 6 7 8
-// 9
+// Two sections with 7 and 3 cells, in 4 columns. The numbers are the indexes of the cells:
+//   0 1 2 3
+//   4 5 6
+//   7 8 9
 struct GridLayoutTest : testing::Test {
   GridLayoutTest() {
     layout.setGeometry(4 * cell + 33, cell, 30, heading);

@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT Tests a host that uses the C interface, with its own settings store,
-// clipboard, index and observers.
+// SPDX-License-Identifier: MIT
+// Tests a host that uses the C interface, with its own settings store, clipboard, index and observers.
 #include <gmock/gmock.h>
 
 #include <map>

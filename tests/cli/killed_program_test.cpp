@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT Checks the user's choices after programs that change them were killed or ran
-// at the same time.
+// SPDX-License-Identifier: MIT
+// Checks the user's choices after programs that change them were killed or ran at the same time.
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <signal.h>
@@ -66,8 +66,8 @@ TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
       {{"display", "set", "arrows"}, {}, {{"arrows"}, {"2603", "2604"}}},
       {{"remove", "2603", "2604"}, {}, {{"arrows"}, {}}}};
   State before{{"arrows"}, {}};
-  // Measures the time of a run that is not killed. The random times of the kills depend on it, so that some
-  // kills happen before the change and some after it.
+  // Measures the time of a run that is not killed. Each kill happens after a random time of at most twice
+  // this time, so that some kills happen before the change and some after the change.
   const auto begin = std::chrono::steady_clock::now();
   ASSERT_EQ(runProgram(PROGRAM " display set arrows").exitCode, 0);
   const std::chrono::duration<double, std::micro> usual = std::chrono::steady_clock::now() - begin;

@@ -1,6 +1,7 @@
-// SPDX-License-Identifier: MIT Runs an operation many times. Each time, a different memory allocation fails.
-// The operation must either succeed or throw std::bad_alloc, and the library must still work correctly
-// afterwards. With the address sanitizer, these tests also find leaks.
+// SPDX-License-Identifier: MIT
+// Runs an operation many times. Each time, a different memory allocation fails. The operation must either
+// succeed or throw std::bad_alloc, and the library must still work correctly afterwards. With the address
+// sanitizer, these tests also find leaks.
 #include <gmock/gmock.h>
 
 #include <cstdint>

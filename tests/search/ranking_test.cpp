@@ -119,7 +119,7 @@ TEST(SearchRanking, UnicodeCharactersPrecedeEquallyGoodSFSymbols) {
 TEST(SearchRanking, HighlightsTheMatchingPartsOfTheName) {
   const struct {
     const char* query;
-    const char* name;  // brackets enclose the ranges
+    const char* name;  // brackets enclose the expected ranges
   } cases[] = {
       {"rightwards arrow", "[Rightwards] [Arrow]"},
       {"right arr", "[Right]wards [Arr]ow"},

@@ -1,6 +1,7 @@
-// SPDX-License-Identifier: MIT A host that uses the library's globals at exit: in the destructor of an
-// object, and in a function registered with atexit(). The object was created, and the function registered,
-// before the globals were created, so both run late.
+// SPDX-License-Identifier: MIT
+// A host that uses the library's globals at exit: in the destructor of an object, and in a function
+// registered with atexit(). The object was created, and the function registered, before the globals were
+// created, so both run late.
 #include <glyphorium/glyphorium.h>
 
 #include <cstdio>

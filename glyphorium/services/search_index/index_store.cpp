@@ -137,7 +137,7 @@ void IndexStore::open(const DirectoryLock&) {
   }
   database_ = openIndexFile(file_, SQLITE_OPEN_READWRITE);
   sqlite3_busy_handler(database_->handle(), LockWait::whileBusy, &wait_);
-  const bool isNew = !isIndex(*database_);  // before any write: another program may own it
+  const bool isNew = !isIndex(*database_);  // throws if it belongs to another program
   for (;;) {
     try {
       database_->execute("PRAGMA journal_mode=WAL");

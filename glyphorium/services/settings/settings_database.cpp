@@ -285,7 +285,7 @@ void SettingsDatabase::rollback() {
 
 Outcome SettingsDatabase::putAside(std::filesystem::path& name) {
   name.clear();
-  // Another process may have found the damage too. The lock prevents it from renaming the new file.
+  // Another process may have found the damage too. The lock prevents that process from renaming the new file.
   const FileDescriptor directory(::open(file_.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (directory.get() < 0) return failBySystem();
   for (bool first = true; flock(directory.get(), LOCK_EX | LOCK_NB) != 0; first = false) {
