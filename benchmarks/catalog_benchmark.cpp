@@ -33,7 +33,7 @@ std::vector<std::string_view> configuredTables() {
   return tables;
 }
 
-// The lower limit of the time: parsing without creating records.
+// A lower limit for the time of decoding: parses the tables without creating records.
 void bareParse(benchmark::State& state) {
   const auto tables = configuredTables();
   simdjson::dom::parser parser;
@@ -48,7 +48,7 @@ void bareParse(benchmark::State& state) {
 }
 BENCHMARK(bareParse)->Unit(benchmark::kMillisecond);
 
-// The lower limit of any pass over the tables: copying their bytes.
+// A lower limit for the time of any pass over the tables: copies their bytes.
 void copyBytes(benchmark::State& state) {
   const auto tables = configuredTables();
   std::string copy;

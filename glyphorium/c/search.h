@@ -18,8 +18,8 @@ GLYPHORIUM_EXPORT glyphorium_search *glyphorium_search_all(void);
 /** Returns a search over a list, for example glyphorium_displayed_entities(). The search keeps a copy of the
  * list. For the whole catalog, this function takes some milliseconds. */
 GLYPHORIUM_EXPORT glyphorium_search *glyphorium_search_over(const glyphorium_entities *entities);
-/** Returns whether a search from glyphorium_search_all() still contains exactly those characters that the
- * user has added. Always true for a search over a list. */
+/** Returns whether the user's added characters are still the same as when glyphorium_search_all() created the
+ * search. If not, create a new search. Always true for a search over a list. */
 GLYPHORIUM_EXPORT bool glyphorium_search_is_current(const glyphorium_search *search);
 GLYPHORIUM_EXPORT void glyphorium_search_free(glyphorium_search *search);
 

@@ -18,10 +18,10 @@ namespace glyph {
 /// - a private-use code point becomes "▯", because only special fonts have a glyph for it,
 /// - any other invisible code point (line separators, C1 controls, format characters, unassigned code points)
 ///   becomes "⬚".
-/// If at least one code point of the symbol is visible, only control characters and bidirectional controls are
-/// replaced, and a mark at the beginning gets its base character. Joiners and variation selectors are then
-/// kept, because they affect the appearance. Ill-formed bytes become U+FFFD. The empty text gives the empty
-/// text.
+/// If at least one code point of the symbol is visible, only control characters and bidirectional controls
+/// are replaced, and a mark at the beginning gets its base character. Joiners and variation selectors are
+/// then kept, because they affect the appearance. Ill-formed bytes become U+FFFD. The empty text gives the
+/// empty text.
 GLYPHORIUM_EXPORT std::string visibleSymbol(std::string_view symbol);
 
 /// Returns whether a line that begins with the symbol runs from right to left (Bidi_Class R or AL of

@@ -263,7 +263,7 @@ TEST(CommandLine, KeepsTheUsersChoices) {
       {"display --json", 0, "[{\"name\":\"custom\",\"count\":0},\n {\"name\":\"arrows\",\"count\":112}]\n"},
       {"add 0378", 2, "is no character but <reserved-0378>"},
       {"add 21d0 U+110000", 2, "is no code of a character"},
-      {"added", 1, ""},  // if one code is invalid, the command adds no code
+      {"added", 1, ""},  // the failed commands have added no code
       {"add 21D0 é", 0,
        "⇐\t21d0\tLeftwards Double Arrow\t&lArr;\né\t00e9\tLatin Small Letter E With Acute\t&eacute;\n"},
       {"index status --json", 0, "{\"enabled\":true,\"items\":2}\n"},
