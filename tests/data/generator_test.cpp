@@ -65,7 +65,7 @@ TEST(Generator, StopsTheBuildAtAFaultySourceWithFileAndLine) {
       {"enrichment/advice/fr.md", "«\u00A0et", "« et", "fr.md:3: error: needs a no-break space in '« '"},
       {"notes/en.md", "≈ (2248)", "≈ (2249)", "gives ≈ the code 2249, expected 2248"},
       {"notes/en.md", "\\ (005c)", "\\ (005d)", "contains a straight quotation mark or a reverse solidus"},
-      {"notes/facts.tsv", "0022\t", "0020\t", "facts.tsv:9: error: is out of order"},
+      {"notes/facts.tsv", "0022\t", "0020\t", "facts.tsv:22: error: is out of order"},
       {"notes/en.md", "## 2200 For All", "## 2201 Complement",
        "en.md: error: 2201 has no facts in facts.tsv"},
       {"enrichment/advice/en.md", "## 0026 Ampersand", "## 0025 Percent Sign",
