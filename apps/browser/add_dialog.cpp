@@ -93,7 +93,7 @@ void AddDialog::preview(const QString& text) {
   hexes_ = named.hexes;
   message_->setText(named.message);
   add_->setEnabled(!hexes_.empty());
-  glyph_->setCharacter(hexes_.empty() ? glyph::Entity() : catalog_.entity(hexes_.front()));
+  hexes_.empty() ? glyph_->clear() : glyph_->setCharacter(catalog_.entity(hexes_.front()));
 }
 
 }  // namespace browser

@@ -28,17 +28,21 @@ const QString portalSettings = QStringLiteral("org.freedesktop.portal.Settings")
 const QString appearanceSpace = QStringLiteral("org.freedesktop.appearance");
 const QString colourScheme = QStringLiteral("color-scheme");
 
+// Texts have a contrast of at least 4.5 to 1 with what they lie on, marks and frames one of 3 to 1: text and
+// faint on window and base, white on button, highlightedText on accent, link on window.
 struct Colours {
-  QColor window, base, text, faint, accent, link;
+  QColor window, base, text, faint, accent, highlightedText, button, link;
 };
 
 Colours coloursOf(bool dark) {
   if (dark) {
     return {QColor(0x25, 0x26, 0x2b), QColor(0x1b, 0x1c, 0x20), QColor(0xec, 0xec, 0xf0),
-            QColor(0x9a, 0x9c, 0xa6), QColor(0x6d, 0x90, 0xf5), QColor(0x93, 0xad, 0xff)};
+            QColor(0x9a, 0x9c, 0xa6), QColor(0x6d, 0x90, 0xf5), QColor(0x12, 0x13, 0x18),
+            QColor(0x48, 0x6d, 0xdb), QColor(0x93, 0xad, 0xff)};
   }
   return {QColor(0xf5, 0xf5, 0xf7), QColor(0xff, 0xff, 0xff), QColor(0x1e, 0x1f, 0x24),
-          QColor(0x6b, 0x6d, 0x78), QColor(0x3f, 0x66, 0xd6), QColor(0x2f, 0x55, 0xc4)};
+          QColor(0x6b, 0x6d, 0x78), QColor(0x3f, 0x66, 0xd6), QColor(0xff, 0xff, 0xff),
+          QColor(0x3f, 0x66, 0xd6), QColor(0x2f, 0x55, 0xc4)};
 }
 
 QPalette paletteOf(const Colours& colours) {
@@ -47,7 +51,7 @@ QPalette paletteOf(const Colours& colours) {
   palette.setColor(QPalette::AlternateBase, colours.window);
   palette.setColor(QPalette::Button, colours.window);
   palette.setColor(QPalette::Highlight, colours.accent);
-  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::HighlightedText, colours.highlightedText);
   palette.setColor(QPalette::PlaceholderText, colours.faint);
   palette.setColor(QPalette::Link, colours.link);
   palette.setColor(QPalette::LinkVisited, colours.link);
@@ -61,20 +65,26 @@ QPalette paletteOf(const Colours& colours) {
   return palette;
 }
 
-// The style sheet of the own look. %1 to %5 stand for the colours below.
+// The style sheet of the own look. %1 to %8 stand for the colours below, %7 for the name of the theme.
 constexpr const char* sheet = R"(
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
 QScrollBar::handle:vertical { background: rgba(%1, 60); border-radius: 3px; min-height: 40px; margin: 3px; }
 QScrollBar::handle:vertical:hover { background: rgba(%1, 110); }
 QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+QPushButton, QToolButton, QTabBar, QComboBox, QAbstractItemView { outline: none; }
 QLineEdit, QComboBox { border: 1px solid rgba(%1, 45); border-radius: 8px; padding: 5px 8px; background: %2; }
 QLineEdit:focus, QComboBox:focus { border: 2px solid %3; padding: 4px 7px; }
+QComboBox::drop-down { border: none; width: 26px; }
+QComboBox::down-arrow { image: url(:/pictures/down-%7.svg); width: 12px; height: 12px; }
+QComboBox QAbstractItemView { border: 1px solid rgba(%1, 50); background: %2; padding: 4px; }
 QPushButton { border: 2px solid transparent; border-radius: 8px; padding: 5px 14px; background: rgba(%1, 22); }
 QPushButton:hover { background: rgba(%1, 34); }
 QPushButton:pressed { background: rgba(%1, 52); }
 QPushButton:focus { border-color: %3; }
-QPushButton:default { background: %3; color: white; }
+QPushButton:default { background: %6; color: white; }
+QPushButton:default:hover { background: rgba(%8, 225); }
+QPushButton:default:focus { border-color: %4; }
 QPushButton:default:disabled { background: rgba(%1, 22); color: rgba(%1, 110); }
 QPushButton:flat { background: transparent; color: %4; padding: 2px 8px; }
 QPushButton:flat:hover { background: rgba(%1, 22); }
@@ -89,7 +99,7 @@ QMenu::item:selected { background: rgba(%5, 50); }
 QMenu::item:disabled { color: rgba(%1, 110); }
 QMenu::separator { height: 1px; background: rgba(%1, 30); margin: 5px 8px; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
-QTabWidget::pane { border: none; border-top: 1px solid rgba(%1, 30); }
+QTabWidget::pane { border: none; border-top: 1px solid rgba(%1, 30); top: -1px; }
 QTabBar::tab { background: transparent; padding: 8px 16px; border: none; border-bottom: 2px solid transparent; }
 QTabBar::tab:selected { border-bottom-color: %3; }
 QTabBar::tab:focus { color: %4; }
@@ -97,12 +107,13 @@ QSplitter::handle { background: rgba(%1, 28); }
 QToolTip { background: %2; color: rgb(%1); border: 1px solid rgba(%1, 60); padding: 4px 6px; }
 )";
 
-QString sheetOf(const Colours& colours) {
+QString sheetOf(const Colours& colours, bool isDark) {
   const auto numbers = [](const QColor& colour) {
     return QStringLiteral("%1, %2, %3").arg(colour.red()).arg(colour.green()).arg(colour.blue());
   };
   return QString::fromLatin1(sheet).arg(numbers(colours.text), colours.base.name(), colours.accent.name(),
-                                        colours.link.name(), numbers(colours.accent));
+                                        colours.link.name(), numbers(colours.accent), colours.button.name(),
+                                        QLatin1String(isDark ? "dark" : "light"), numbers(colours.button));
 }
 
 bool flag(std::string_view key) {
@@ -180,11 +191,12 @@ void Appearance::setDesktopDark(bool dark) {
 
 void Appearance::apply() {
   if (!hasOwnLook_ && theme_ == Theme::system) return;
-  const Colours colours = coloursOf(theme_ == Theme::dark || (theme_ == Theme::system && desktopIsDark_));
+  const bool isDark = theme_ == Theme::dark || (theme_ == Theme::system && desktopIsDark_);
+  const Colours colours = coloursOf(isDark);
   const QPalette palette = paletteOf(colours);
   QApplication::setPalette(palette);
   QToolTip::setPalette(palette);
-  if (hasOwnLook_) qApp->setStyleSheet(sheetOf(colours));
+  if (hasOwnLook_) qApp->setStyleSheet(sheetOf(colours, isDark));
   glyph::NotificationCenter::defaultCenter().post({glyph::notificationName::appAppearanceChanged});
 }
 

@@ -44,6 +44,7 @@ Catalog::Catalog() {
   added_ = glyph::glyphorium().customAddedEntityUnicodes();
   favourites_ = favouriteCharacters.codes();
   recentlyCopied_ = recentlyCopiedCharacters.codes();
+  skinTone_ = glyph::preferredSkinTone();
   contentToken_ = center.addObserver(glyph::notificationName::contentHasChanged,
                                      [this](const auto&) { Q_EMIT contentChanged(); });
 }
@@ -184,6 +185,30 @@ void Catalog::forgetRecentlyCopied() {
   Q_EMIT recentlyCopiedChanged();
 }
 
+void Catalog::setSkinTone(glyph::SkinTone tone) {
+  glyph::setPreferredSkinTone(tone);
+  checkStored();
+  if (tone == skinTone_) return;
+  skinTone_ = tone;
+  Q_EMIT skinToneChanged();
+}
+
+void Catalog::copyWithTone(const Entity& emoji, glyph::SkinTone tone) {
+  copy(characterOf(glyph::withSkinTone(emoji.computed.symbol, tone)), *glyph::copyForm("character"));
+  setSkinTone(tone);
+}
+
+void Catalog::applySkinTone(std::vector<Entity>& characters) const {
+  if (skinTone_ == glyph::SkinTone::none) return;
+  for (Entity& entity : characters) {
+    // What users have added stays as they have chosen it.
+    const bool isEmoji = entity.computed.group.view() == "emoji" || entity.computed.group.empty();
+    if (!isEmoji) continue;
+    const std::string text = glyph::withSkinTone(entity.computed.symbol, skinTone_);
+    if (entity.computed.symbol.view() != text) entity = characterOf(text);
+  }
+}
+
 void Catalog::readSettings() {
   glyph::Glyphorium& catalog = glyph::glyphorium();
   const auto groups = catalog.selectedGroups();
@@ -215,6 +240,10 @@ void Catalog::readSettings() {
   if (auto codes = recentlyCopiedCharacters.codes(); codes != recentlyCopied_) {
     recentlyCopied_ = std::move(codes);
     Q_EMIT recentlyCopiedChanged();
+  }
+  if (const glyph::SkinTone tone = glyph::preferredSkinTone(); tone != skinTone_) {
+    skinTone_ = tone;
+    Q_EMIT skinToneChanged();
   }
 }
 

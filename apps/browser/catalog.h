@@ -22,8 +22,8 @@ class Catalog : public QObject {
 
   /// Returns the entity of a hex code or hex list: an added one, one of the catalog, or one of the
   /// supplement, whose name is empty if it is no character and no emoji.
-  glyph::Entity entity(
-      const std::string& hex) const;  /// Returns the entity of a character or an emoji, given as UTF-8.
+  glyph::Entity entity(const std::string& hex) const;
+  /// Returns the entity of a character or an emoji, given as UTF-8.
   glyph::Entity characterOf(std::string_view text) const;
 
   /// Returns the names of the groups that contain the character.
@@ -56,6 +56,14 @@ class Catalog : public QObject {
 
   void forgetRecentlyCopied();
 
+  /// The tone that emoji of people and hands take in lists of emoji and in what a search finds.
+  glyph::SkinTone skinTone() const { return skinTone_; }
+  /// Remembers the tone, and copies the emoji with it.
+  void copyWithTone(const glyph::Entity& emoji, glyph::SkinTone tone);
+  void setSkinTone(glyph::SkinTone tone);
+  /// Gives the emoji among these characters the tone that the user prefers.
+  void applySkinTone(std::vector<glyph::Entity>& characters) const;
+
   /// Takes over what another program has changed in the settings.
   void readSettings();
 
@@ -66,6 +74,7 @@ class Catalog : public QObject {
   void groupsChanged();
   void favouritesChanged();
   void recentlyCopiedChanged();
+  void skinToneChanged();
   /// A text was copied. `text` is what to show of it.
   void copied(const QString& text);
   /// The settings could not be stored, or not be read. `reason` is a sentence of the library.
@@ -83,6 +92,7 @@ class Catalog : public QObject {
   std::vector<std::string> added_;
   std::vector<std::string> favourites_;
   std::vector<std::string> recentlyCopied_;
+  glyph::SkinTone skinTone_ = glyph::SkinTone::none;
   QUndoStack undoStack_;
   glyph::NotificationToken contentToken_;
   glyph::NotificationToken copiedToken_;

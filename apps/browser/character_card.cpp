@@ -51,15 +51,19 @@ QToolButton* newIconButton(Symbol symbol, const QString& name) {
   return button;
 }
 
-// A table of titles and values for a label.
-QString tableRow(const QString& title, const QString& value) {
-  return QStringLiteral("<tr><td>%1:&nbsp;&nbsp;</td><td>%2</td></tr>")
-      .arg(title.toHtmlEscaped(), value.toHtmlEscaped());
-}
+// A line that ends with an ellipsis where the place ends.
+class ElidedLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+  QSize minimumSizeHint() const override { return {40, QLabel::minimumSizeHint().height()}; }
 
-QString table(const QString& rows) {
-  return rows.isEmpty() ? QString() : QStringLiteral("<table cellspacing=\"2\">%1</table>").arg(rows);
-}
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.drawText(rect(), static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading),
+                     fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+  }
+};
 
 // A button with a character on it.
 class CharacterButton : public QToolButton {
@@ -108,6 +112,16 @@ void LargeGlyph::setCharacter(const glyph::Entity& entity) {
   update();
 }
 
+void LargeGlyph::clear() {
+  entity_.reset();
+  setAccessibleName({});
+  update();
+}
+
+void LargeGlyph::mousePressEvent(QMouseEvent* event) {
+  pressed_ = event->position().toPoint();
+}
+
 void LargeGlyph::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -116,20 +130,23 @@ void LargeGlyph::paintEvent(QPaintEvent*) {
   painter.setPen(line);
   painter.setBrush(palette().base());
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 12, 12);
+  if (!entity_) return;
   const int side = std::min(width(), height()) - 12;
   const QRect area((width() - side) / 2, (height() - side) / 2, side, side);
-  GlyphRequest request = cellRequest(entity_, side, devicePixelRatioF());
+  GlyphRequest request = cellRequest(*entity_, side, devicePixelRatioF());
   request.size = side * 11 / 20;
-  paintCharacter(painter, area, entity_, request, palette().color(QPalette::Text));
+  paintCharacter(painter, area, *entity_, request, palette().color(QPalette::Text));
   const GlyphPicture* const picture =
-      isShownAsBox(entity_) ? nullptr : GlyphRenderer::shared().picture(request);
+      isShownAsBox(*entity_) ? nullptr : GlyphRenderer::shared().picture(request);
   if (picture) Q_EMIT fontKnown(picture->family);
 }
 
 void LargeGlyph::mouseMoveEvent(QMouseEvent* event) {
-  if (!(event->buttons() & Qt::LeftButton)) return;
+  const int moved = (event->position().toPoint() - pressed_).manhattanLength();
+  const bool isDrag = moved >= QGuiApplication::styleHints()->startDragDistance();
+  if (!entity_ || !isDrag || !(event->buttons() & Qt::LeftButton)) return;
   auto* const mime = new QMimeData;
-  mime->setText(fromUtf8(entity_.computed.symbol));
+  mime->setText(fromUtf8(entity_->computed.symbol));
   auto* const drag = new QDrag(this);
   drag->setMimeData(mime);
   drag->exec(Qt::CopyAction);
@@ -153,14 +170,12 @@ CharacterCard::CharacterCard(Catalog& catalog, QWidget* parent)
   related_ = addCharacterRow(tr("See also"));
   makeForms();
   lookAlikes_ = addCharacterRow(tr("Easily mistaken for"));
-  typing_ = newText(true);
-  typing_->setTextFormat(Qt::RichText);
-  typingSection_ = addSection(tr("How to type it"), typing_);
+  typing_ = newTable();
+  typingSection_ = addSection(tr("How to type it"), typing_->parentWidget());
   terms_ = newText(true);
   termSection_ = addSection(tr("Also found by"), terms_);
-  facts_ = newText(true);
-  facts_->setTextFormat(Qt::RichText);
-  factSection_ = addSection(tr("Unicode"), facts_);
+  facts_ = newTable();
+  factSection_ = addSection(tr("Unicode"), facts_->parentWidget());
   groups_ = newText(false);
   groups_->setTextFormat(Qt::RichText);
   groups_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
@@ -234,6 +249,7 @@ void CharacterCard::setCompact(bool compact) {
   glyph_->setFixedHeight(compact ? 120 : 168);
   glyph_->setMinimumWidth(120);
   glyph_->setMaximumWidth(compact ? 120 : QWIDGETSIZE_MAX);
+  head_->setAlignment(glyph_, compact ? Qt::AlignTop : Qt::Alignment());
 }
 
 CharacterCard::Section CharacterCard::addSection(const QString& title, QWidget* content) {
@@ -250,22 +266,17 @@ void CharacterCard::showSection(const Section& section, bool shown) {
 }
 
 void CharacterCard::makeForms() {
-  auto* const table = new QWidget;
-  auto* const grid = new QGridLayout(table);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->setHorizontalSpacing(10);
+  QGridLayout* const grid = newTable();
   grid->setVerticalSpacing(0);
-  grid->setColumnStretch(1, 1);
   const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   int row = 0;
   for (const glyph::CopyForm& form : glyph::copyForms()) {
     if (form.identifier == "character") continue;
     auto* const title = new QLabel(formTitle(form));
     title->setForegroundRole(QPalette::PlaceholderText);
-    auto* const value = new QLabel;
+    auto* const value = new ElidedLabel;
     value->setFont(fixed);
     value->setTextFormat(Qt::PlainText);
-    value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     value->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     QToolButton* const button = newIconButton(Symbol::copy, tr("Copy %1").arg(formTitle(form)));
     button->setIconSize({14, 14});
@@ -277,11 +288,12 @@ void CharacterCard::makeForms() {
     connect(button, &QToolButton::clicked, this, [this, &form] { Q_EMIT copyRequested(form); });
     forms_.push_back({&form, title, value, button});
   }
-  addSection(tr("Codes"), table);
+  addSection(tr("Codes"), grid->parentWidget());
 }
 
 void CharacterCard::setCharacter(const glyph::Entity* entity) {
   content_->setVisible(entity);
+  setVerticalScrollBarPolicy(entity ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
   if (!entity) return entity_.reset();
   entity_ = *entity;
   name_->setText(nameText(*entity));
@@ -291,7 +303,9 @@ void CharacterCard::setCharacter(const glyph::Entity* entity) {
   const QString unicodeName = fromUtf8(entity->computed.fallbackName);
   unicodeName_->setText(tr("Unicode name: %1").arg(unicodeName));
   unicodeName_->setVisible(!unicodeName.isEmpty() && unicodeName != name_->text());
-  font_->setVisible(false);
+  // The line keeps its place while the font is not known yet.
+  font_->setText(QStringLiteral(" "));
+  font_->setVisible(!isShownAsBox(*entity));
   glyph_->setCharacter(*entity);
   showForms();
   showNote();
@@ -417,24 +431,57 @@ void CharacterCard::showRelated() {
   fill(lookAlikes_, lookAlikes);
 }
 
+QGridLayout* CharacterCard::newTable() {
+  auto* const table = new QWidget;
+  auto* const grid = new QGridLayout(table);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(10);
+  grid->setVerticalSpacing(5);
+  grid->setColumnStretch(1, 1);
+  return grid;
+}
+
+// The labels of earlier rows are used again.
+void CharacterCard::fill(QGridLayout* table, const std::vector<std::pair<QString, QString>>& rows) {
+  for (int row = 0; row < std::max(table->rowCount(), static_cast<int>(rows.size())); ++row) {
+    const bool isUsed = row < static_cast<int>(rows.size());
+    for (const int column : {0, 1}) {
+      QLayoutItem* const item = table->itemAtPosition(row, column);
+      auto* label = item ? static_cast<QLabel*>(item->widget()) : nullptr;
+      if (!label && isUsed) {
+        label = newText(column == 1);
+        label->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+        if (column == 0) {
+          label->setForegroundRole(QPalette::PlaceholderText);
+          label->setWordWrap(false);
+        }
+        table->addWidget(label, row, column);
+      }
+      if (!label) continue;
+      label->setVisible(isUsed);
+      if (isUsed) label->setText(column == 0 ? rows[row].first : rows[row].second);
+    }
+  }
+}
+
 // One way of each method: the usual one.
 void CharacterCard::showTyping() {
-  QString rows;
+  std::vector<std::pair<QString, QString>> rows;
   std::string_view last;
   for (const glyph::WayToType& way : glyph::waysToType(entity_->computed.symbol)) {
     if (way.method == last) continue;
     last = way.method;
-    rows += tableRow(typingTitle(way), QString::fromStdString(way.text));
+    rows.emplace_back(typingTitle(way), QString::fromStdString(way.text));
   }
-  typing_->setText(table(rows));
-  showSection(typingSection_, !rows.isEmpty());
+  fill(typing_, rows);
+  showSection(typingSection_, !rows.empty());
 }
 
 void CharacterCard::showFacts() {
   const std::u32string points = glyph::codePoints(entity_->computed.symbol.view());
-  QString rows;
+  std::vector<std::pair<QString, QString>> rows;
   const auto add = [&](const QString& title, std::string_view value) {
-    if (!value.empty()) rows += tableRow(title, fromUtf8(value));
+    if (!value.empty()) rows.emplace_back(title, fromUtf8(value));
   };
   if (points.size() == 1) {
     const glyph::CharacterFacts facts = glyph::characterFacts(points.front());
@@ -449,8 +496,8 @@ void CharacterCard::showFacts() {
     add(tr("Category"), glyph::categoryName(facts.category));
     add(tr("Since version"), facts.version);
   }
-  facts_->setText(table(rows));
-  showSection(factSection_, !rows.isEmpty());
+  fill(facts_, rows);
+  showSection(factSection_, !rows.empty());
 }
 
 void CharacterCard::showFont(const QString& family) {
@@ -459,13 +506,14 @@ void CharacterCard::showFont(const QString& family) {
   if (!family.isEmpty()) {
     text = tr("Font: %1").arg(family);
   } else {
-    const QString package = fontPackage(static_cast<char32_t>(entity_->computed.decimal));
-    text = package.isEmpty()
+    const auto codePoint = static_cast<char32_t>(entity_->computed.decimal);
+    const QString package = fontPackage(codePoint);
+    text = isPrivateUse(codePoint) ? tr("A private-use character. No installed font draws it.")
+           : package.isEmpty()
                ? tr("No installed font draws this character.")
                : tr("No installed font draws this character. The package %1 has one.").arg(package);
   }
   if (font_->text() != text) font_->setText(text);
-  font_->setVisible(true);
 }
 
 }  // namespace browser

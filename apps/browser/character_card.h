@@ -11,6 +11,7 @@ class QBoxLayout;
 class QLabel;
 class QPushButton;
 class QToolButton;
+class QGridLayout;
 class QVBoxLayout;
 
 namespace browser {
@@ -25,6 +26,8 @@ class LargeGlyph : public QWidget {
  public:
   explicit LargeGlyph(QWidget* parent = nullptr);
   void setCharacter(const glyph::Entity& entity);
+  /// Shows no character.
+  void clear();
   QSize sizeHint() const override { return {200, 168}; }
   QSize minimumSizeHint() const override { return {96, 96}; }
 
@@ -34,10 +37,12 @@ class LargeGlyph : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
-  glyph::Entity entity_;
+  std::optional<glyph::Entity> entity_;
+  QPoint pressed_;
 };
 
 /// Everything that is known about one character, with buttons to copy each form.
@@ -86,7 +91,9 @@ class CharacterCard : public QScrollArea {
   void makeForms();
   Section addSection(const QString& title, QWidget* content);
   static void showSection(const Section& section, bool shown);
-  QLabel* newText(bool isSelectable);
+  static QLabel* newText(bool isSelectable);
+  static QGridLayout* newTable();
+  static void fill(QGridLayout* table, const std::vector<std::pair<QString, QString>>& rows);
   void showForms();
   void showNote();
   void showGroups();
@@ -116,8 +123,8 @@ class CharacterCard : public QScrollArea {
   QLabel* note_;
   QLabel* groups_;
   QLabel* terms_;
-  QLabel* typing_;
-  QLabel* facts_;
+  QGridLayout* typing_;
+  QGridLayout* facts_;
   Section noteSection_, groupSection_, termSection_, typingSection_, factSection_;
   CharacterRow variants_, related_, lookAlikes_;
 };

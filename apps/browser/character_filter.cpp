@@ -137,6 +137,7 @@ CharacterFilter::CharacterFilter(Catalog& catalog, std::optional<std::vector<Ent
   connect(&catalog, &Catalog::recentlyCopiedChanged, this, [=, this] {
     if (scope_.kind == Kind::recentlyCopied) follow();
   });
+  connect(&catalog, &Catalog::skinToneChanged, this, follow);
 }
 
 void CharacterFilter::setScope(const Scope& scope) {
@@ -192,6 +193,7 @@ void CharacterFilter::fillScope() {
       break;
     case Kind::emoji:
       list_ = emojiOfGroup(scope_.group, sections_);
+      catalog_.applySkinTone(*list_);
       break;
     case Kind::block:
       list_ = charactersOfBlock();
@@ -221,9 +223,13 @@ std::vector<Entity> CharacterFilter::likelyCharacters() {
   appendCodes(Kind::recentlyCopied, catalog_.recentlyCopied());
   append(Scope{Kind::displayed}.title(), glyph::selectedEntities());
   if (glyph::selectedEntities().empty()) {
-    for (const std::string group : {"design inspiration", "emoji"})
-      append(groupTitle(group), charactersOfGroup(group));
+    for (const std::string group : {"design inspiration", "emoji"}) {
+      std::vector<Entity> entities = charactersOfGroup(group);
+      catalog_.applySkinTone(entities);
+      append(groupTitle(group), entities);
+    }
   }
+
   return likely;
 }
 
@@ -237,12 +243,11 @@ std::vector<Entity> CharacterFilter::charactersOfBlock() const {
   return found;
 }
 
-// The emoji of the group with the skin tone that the user prefers, with a section for each subgroup.
+// The emoji of the group, with a section for each subgroup.
 std::vector<Entity> CharacterFilter::emojiOfGroup(std::string_view group,
                                                   std::vector<GridSection>& sections) const {
   std::vector<Entity> found;
   std::string_view subgroup;
-  const glyph::SkinTone tone = glyph::preferredSkinTone();
   for (std::size_t place = 0; place < glyph::emojiCount(); ++place) {
     const glyph::Emoji emoji = glyph::emojiAt(place);
     if (emoji.group != group || glyph::emojiBase(place) != place) continue;
@@ -251,7 +256,7 @@ std::vector<Entity> CharacterFilter::emojiOfGroup(std::string_view group,
       sections.push_back({{}, static_cast<int>(found.size()), 0});
     }
     ++sections.back().count;
-    found.push_back(catalog_.characterOf(glyph::withSkinTone(emoji.text, tone)));
+    found.push_back(catalog_.characterOf(emoji.text));
   }
   return found;
 }
@@ -343,6 +348,7 @@ void CharacterFilter::search() {
       matching = std::move(exact);
     }
   }
+  catalog_.applySkinTone(matching);
   list_ = std::move(matching);
 }
 

@@ -25,15 +25,24 @@ QColor withAlpha(QColor colour, double alpha) {
   return colour;
 }
 
+// The tables behind isInvisible() end with Unicode 15.0 and take later characters for unassigned ones.
+bool isLaterCharacter(char32_t point) {
+  const std::string_view category = glyph::characterCategory(point);
+  if (category.starts_with('C') || category.starts_with('Z')) return false;
+  return fromUtf8(glyph::characterFacts(point).version).toDouble() > 15.0;
+}
+
 }  // namespace
+
+bool isPrivateUse(char32_t point) {
+  return (point >= 0xE000 && point < 0xF900) || point >= 0xF0000;
+}
 
 bool isShownAsBox(const glyph::Entity& entity) {
   const std::u32string points = glyph::codePoints(entity.computed.symbol.view());
-  const auto isPrivate = [](char32_t point) {
-    return (point >= 0xE000 && point < 0xF900) || point >= 0xF0000;
-  };
-  return std::all_of(points.begin(), points.end(),
-                     [&](char32_t point) { return glyph::isInvisible(point) && !isPrivate(point); });
+  return std::all_of(points.begin(), points.end(), [&](char32_t point) {
+    return glyph::isInvisible(point) && !isPrivateUse(point) && !isLaterCharacter(point);
+  });
 }
 
 GlyphRequest cellRequest(const glyph::Entity& entity, int cellSize, double ratio) {
@@ -77,6 +86,12 @@ CharacterGrid::CharacterGrid(QWidget* parent) : QAbstractScrollArea(parent) {
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   setAttribute(Qt::WA_InputMethodEnabled);
   setAccessibleName(tr("Characters"));
+  holdTimer_.setSingleShot(true);
+  holdTimer_.setInterval(QGuiApplication::styleHints()->mousePressAndHoldInterval());
+  connect(&holdTimer_, &QTimer::timeout, this, [this] {
+    const int held = indexAt(pressed_);
+    if (held >= 0 && held == current_) Q_EMIT this->held(held, viewport()->mapToGlobal(pressed_));
+  });
   static const std::vector<glyph::Entity> none;
   characters_ = &none;
   connect(&GlyphRenderer::shared(), &GlyphRenderer::picturesReady, viewport(), qOverload<>(&QWidget::update));
@@ -145,8 +160,9 @@ void CharacterGrid::setRulerShown(bool shown) {
   viewport()->update();
 }
 
-void CharacterGrid::setEmptyText(const QString& text) {
+void CharacterGrid::setEmptyText(const QString& text, const QIcon& icon) {
   emptyText_ = text;
+  emptyIcon_ = icon;
   if (count() == 0) viewport()->update();
 }
 
@@ -235,12 +251,7 @@ void CharacterGrid::showHelp(QPoint inViewport, QPoint globalPosition) {
 void CharacterGrid::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   painter.fillRect(event->rect(), palette().base());
-  if (count() == 0) {
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(viewport()->rect().adjusted(24, 24, -24, -24), Qt::AlignCenter | Qt::TextWordWrap,
-                     emptyText_);
-    return;
-  }
+  if (count() == 0) return paintEmpty(painter);
   const int top = verticalScrollBar()->value();
   for (const GridLayout::Line& line :
        layout_.linesBetween(top + event->rect().top(), top + event->rect().bottom())) {
@@ -264,6 +275,22 @@ void CharacterGrid::paintEvent(QPaintEvent* event) {
       if (area.intersects(event->rect())) paintCell(painter, index, area);
     }
   }
+}
+
+// A large symbol over the text, together in the middle.
+void CharacterGrid::paintEmpty(QPainter& painter) {
+  constexpr int side = 56, gap = 14;
+  const int width = std::min(viewport()->width() - 48, 420);
+  const int flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+  const int height =
+      fontMetrics().boundingRect(QRect(0, 0, width, viewport()->height()), flags, emptyText_).height();
+  const int left = (viewport()->width() - width) / 2;
+  const int top = std::max(8, (viewport()->height() - side - gap - height) / 2);
+  painter.setOpacity(0.35);
+  emptyIcon_.paint(&painter, QRect((viewport()->width() - side) / 2, top, side, side));
+  painter.setOpacity(1);
+  painter.setPen(palette().color(QPalette::PlaceholderText));
+  painter.drawText(QRect(left, top + side + gap, width, viewport()->height()), flags, emptyText_);
 }
 
 void CharacterGrid::paintHeading(QPainter& painter, const GridLayout::Line& line, int y) {
@@ -361,7 +388,9 @@ void CharacterGrid::mousePressEvent(QMouseEvent* event) {
   pressed_ = event->position().toPoint();
   if (index < 0) return;
   setCurrent(index);
-  if (event->button() == Qt::LeftButton && event->modifiers() == Qt::ControlModifier) Q_EMIT collected(index);
+  if (event->button() != Qt::LeftButton) return;
+  if (event->modifiers() == Qt::ControlModifier) return Q_EMIT collected(index);
+  holdTimer_.start();
 }
 
 void CharacterGrid::mouseMoveEvent(QMouseEvent* event) {
@@ -369,10 +398,12 @@ void CharacterGrid::mouseMoveEvent(QMouseEvent* event) {
   if (!(event->buttons() & Qt::LeftButton)) return setHovered(indexAt(point));
   const bool isFar =
       (point - pressed_).manhattanLength() >= QGuiApplication::styleHints()->startDragDistance();
+  if (isFar) holdTimer_.stop();
   if (isFar && indexAt(pressed_) >= 0 && indexAt(pressed_) == current_) startDrag();
 }
 
 void CharacterGrid::mouseReleaseEvent(QMouseEvent* event) {
+  holdTimer_.stop();
   const int index = indexAt(event->position().toPoint());
   const bool isClick = index >= 0 && index == indexAt(pressed_) && event->button() == Qt::LeftButton;
   if (isClick && event->modifiers() == Qt::NoModifier) Q_EMIT clicked(index);

@@ -4,6 +4,8 @@
 #include <glyphorium/glyphorium.h>
 
 #include <QAbstractScrollArea>
+#include <QIcon>
+#include <QTimer>
 #include <functional>
 #include <vector>
 
@@ -44,8 +46,8 @@ class CharacterGrid : public QAbstractScrollArea {
     isFavourite_ = std::move(isFavourite);
   }
 
-  /// The text to show in the middle of an empty grid.
-  void setEmptyText(const QString& text);
+  /// What to show in the middle of an empty grid.
+  void setEmptyText(const QString& text, const QIcon& icon);
 
   /// The place of a cell in the viewport.
   QRect visibleRect(int index) const;
@@ -57,6 +59,8 @@ class CharacterGrid : public QAbstractScrollArea {
   /// Enter or a double click.
   void activated(int index, Qt::KeyboardModifiers modifiers);
   void clicked(int index);
+  /// The mouse button was held down on a cell.
+  void held(int index, QPoint globalPosition);
   void collected(int index);
   void menuRequested(int index, QPoint globalPosition);
   void cellSizeChanged(int size);
@@ -86,6 +90,7 @@ class CharacterGrid : public QAbstractScrollArea {
   void layOut();
   void ensureVisible(int index);
   void paintCell(QPainter& painter, int index, const QRect& area);
+  void paintEmpty(QPainter& painter);
   void paintHeading(QPainter& painter, const GridLayout::Line& line, int y);
   void setHovered(int index);
   void startDrag();
@@ -97,6 +102,7 @@ class CharacterGrid : public QAbstractScrollArea {
   GridLayout layout_;
   std::function<bool(const glyph::Entity&)> isFavourite_;
   QString emptyText_;
+  QIcon emptyIcon_;
   int cellSize_ = commonCell;
   int current_ = -1;
   std::string currentHex_;  // of the current cell
@@ -104,6 +110,7 @@ class CharacterGrid : public QAbstractScrollArea {
   bool hasRuler_ = true;
   int wheelRest_ = 0;
   QPoint pressed_;
+  QTimer holdTimer_;
 };
 
 /// What the renderer is asked for to show the character in a cell of this size.
@@ -111,6 +118,9 @@ GlyphRequest cellRequest(const glyph::Entity& entity, int cellSize, double ratio
 
 /// Whether the character is shown as a box because it has no glyph by its nature.
 bool isShownAsBox(const glyph::Entity& entity);
+
+/// Whether the meaning of the code point is left to agreement, so that only special fonts have it.
+bool isPrivateUse(char32_t point);
 
 /// Paints the character into the area: its picture, a box if it has none, or nothing while the picture is
 /// being drawn.

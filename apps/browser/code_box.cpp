@@ -17,7 +17,7 @@ void paintCodeBox(QPainter& painter, const QRectF& area, const QString& text, Bo
   const double side = std::min(area.width(), area.height()) * 0.58;
   const QRectF box(area.center().x() - side / 2, area.center().y() - side / 2, side, side);
   QColor line = colour;
-  line.setAlphaF(kind == BoxKind::invisible ? 0.75F : 0.4F);
+  line.setAlphaF(kind == BoxKind::invisible ? 0.75F : 0.5F);
   QPen pen(line, std::max(1.0, side / 32));
   if (kind == BoxKind::invisible) pen.setDashPattern({3, 2.5});
   painter.setPen(pen);

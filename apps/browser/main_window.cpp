@@ -26,6 +26,7 @@
 #include "icons.h"
 #include "preferences_dialog.h"
 #include "sidebar.h"
+#include "skin_tones.h"
 #include "toast.h"
 #include "window_settings.h"
 
@@ -113,12 +114,20 @@ QWidget* MainWindow::makeHitBar() {
   hitBar_ = new QWidget;
   auto* const row = new QHBoxLayout(hitBar_);
   row->setContentsMargins(14, 0, 10, 6);
+  back_ = new QPushButton(symbolIcon(Symbol::back), tr("Back"));
+  back_->setFlat(true);
+  back_->setToolTip(tr("Back to where you were before (Alt+Left)"));
+  back_->hide();
+  row->addWidget(back_);
+  connect(back_, &QPushButton::clicked, this, &MainWindow::goBack);
   hits_ = new QLabel;
   hits_->setForegroundRole(QPalette::PlaceholderText);
   hits_->setTextFormat(Qt::PlainText);
   hits_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   elsewhere_ = new QPushButton;
   elsewhere_->setFlat(true);
+  // The bar is as high with buttons as without.
+  hitBar_->setMinimumHeight(elsewhere_->sizeHint().height() + 6);
   row->addWidget(hits_, 1);
   row->addWidget(elsewhere_);
   connect(elsewhere_, &QPushButton::clicked, this, [this] {
@@ -151,6 +160,12 @@ QWidget* MainWindow::makeMiddle() {
   connect(grid_, &CharacterGrid::activated, this, &MainWindow::copyCharacter);
   connect(grid_, &CharacterGrid::collected, this, &MainWindow::collect);
   connect(grid_, &CharacterGrid::menuRequested, this, &MainWindow::showMenu);
+  connect(grid_, &CharacterGrid::held, this, [this](int index, QPoint globalPosition) {
+    const glyph::Entity entity = grid_->character(index);
+    QMenu menu(this);
+    const auto copy = [&](glyph::SkinTone tone) { catalog_.copyWithTone(entity, tone); };
+    if (addSkinTones(menu, entity, copy)) menu.exec(globalPosition);
+  });
   connect(grid_, &CharacterGrid::typed, this, [this](const QString& text) {
     searchField_->setFocus();
     searchField_->setText(text);
@@ -196,15 +211,10 @@ void MainWindow::makeActions() {
   addAction(menu, tr("&Add a character …"), QKeySequence::New, &MainWindow::addCharacter);
   removeAction_ = addAction(menu, tr("&Remove from your own"), Qt::Key_Delete, &MainWindow::removeCharacter);
   addAction(menu, tr("&Identify the clipboard’s text"), QKeySequence::Paste, &MainWindow::paste);
-  for (QAction* const action : {catalog_.undoStack().createUndoAction(this, tr("Undo:")),
-                                catalog_.undoStack().createRedoAction(this, tr("Redo:"))}) {
-    menu.addAction(action);
-    QWidget::addAction(action);
-  }
-  menu.actions().at(menu.actions().size() - 2)->setShortcut(QKeySequence::Undo);
-  menu.actions().last()->setShortcut(QKeySequence::Redo);
+  makeUndoActions();
   menu.addSeparator();
   QMenu& view = *menu.addMenu(tr("&View"));
+  addAction(view, tr("&Back"), QKeySequence::Back, &MainWindow::goBack);
   addAction(view, tr("&Groups"), Qt::Key_F9, &MainWindow::toggleSidebar);
   addAction(view, tr("&Larger"), QKeySequence::ZoomIn, &MainWindow::zoomIn);
   addAction(view, tr("&Smaller"), QKeySequence::ZoomOut, &MainWindow::zoomOut);
@@ -230,14 +240,35 @@ void MainWindow::makeActions() {
   });
 }
 
+void MainWindow::makeUndoActions() {
+  QUndoStack& stack = catalog_.undoStack();
+  QAction* const undo = menu_->addAction(tr("Undo"), &stack, &QUndoStack::undo);
+  QAction* const redo = menu_->addAction(tr("Redo"), &stack, &QUndoStack::redo);
+  undo->setShortcut(QKeySequence::Undo);
+  redo->setShortcut(QKeySequence::Redo);
+  const auto refresh = [=, this, &stack] {
+    undo->setEnabled(stack.canUndo());
+    redo->setEnabled(stack.canRedo());
+    undo->setText(stack.canUndo() ? tr("Undo: %1").arg(stack.undoText()) : tr("Undo"));
+    redo->setText(stack.canRedo() ? tr("Redo: %1").arg(stack.redoText()) : tr("Redo"));
+  };
+  connect(&stack, &QUndoStack::indexChanged, undo, refresh);
+  refresh();
+  for (QAction* const action : {undo, redo}) QWidget::addAction(action);
+}
+
 void MainWindow::connectCatalog() {
   connect(&filter_, &CharacterFilter::changed, this, &MainWindow::showCharacters);
   connect(sidebar_, &Sidebar::scopeChosen, this, &MainWindow::chooseScope);
   connect(card_, &CharacterCard::copyRequested, this, &MainWindow::copyAs);
   connect(card_, &CharacterCard::favouriteRequested, this, &MainWindow::toggleFavourite);
   connect(card_, &CharacterCard::collectRequested, this, &MainWindow::collectCurrent);
-  connect(card_, &CharacterCard::characterChosen, this, &MainWindow::chooseCharacter);
+  connect(card_, &CharacterCard::characterChosen, this, [this](const QString& hex) {
+    rememberPlace();
+    chooseCharacter(hex);
+  });
   connect(card_, &CharacterCard::groupChosen, this, [this](const QString& group) {
+    rememberPlace();
     const QString hex =
         fromUtf8(grid_->currentCharacter() ? grid_->currentCharacter()->computed.hex.view() : "");
     chooseScope({Scope::Kind::group, group.toStdString()});
@@ -279,7 +310,7 @@ void MainWindow::showHits() {
   elsewhere_->setText(tr("%Ln more in all characters", nullptr, static_cast<int>(filter_.elsewhere())));
   QString empty;
   if (isSearch) {
-    empty = tr("Nothing found for “%1”.").arg(filter_.query().trimmed());
+    empty = tr("Nothing found for “%1”.").arg(filter_.query().trimmed().left(60));
   } else if (filter_.scope().kind == Scope::Kind::displayed) {
     empty = tr("No group has a check mark. Check groups at the left to see their characters together here.");
   } else if (filter_.scope().kind == Scope::Kind::favourites) {
@@ -289,7 +320,12 @@ void MainWindow::showHits() {
   } else {
     empty = tr("No characters yet. Ctrl+N adds a character by its code, its name or by pasting it.");
   }
-  grid_->setEmptyText(empty);
+  const Symbol symbol = isSearch                                              ? Symbol::search
+                        : filter_.scope().kind == Scope::Kind::favourites     ? Symbol::star
+                        : filter_.scope().kind == Scope::Kind::recentlyCopied ? Symbol::recent
+                        : filter_.scope().kind == Scope::Kind::displayed      ? Symbol::check
+                                                                              : Symbol::add;
+  grid_->setEmptyText(empty, symbolIcon(symbol));
 }
 
 void MainWindow::chooseScope(const Scope& scope) {
@@ -299,6 +335,27 @@ void MainWindow::chooseScope(const Scope& scope) {
     sidebar_->hide();
     characterAndCard_->show();
   }
+}
+
+// Called before a link on the card leads away.
+void MainWindow::rememberPlace() {
+  const glyph::Entity* const entity = grid_->currentCharacter();
+  if (!entity) return;
+  constexpr std::size_t most = 50;
+  if (places_.size() == most) places_.erase(places_.begin());
+  places_.push_back({filter_.scope(), searchField_->text(), fromUtf8(entity->computed.hex)});
+  back_->show();
+}
+
+void MainWindow::goBack() {
+  if (places_.empty()) return;
+  const Place place = std::move(places_.back());
+  places_.pop_back();
+  back_->setVisible(!places_.empty());
+  searchField_->setText(place.words);
+  chooseScope(place.scope);
+  chooseCharacter(place.hex);
+  grid_->setFocus();
 }
 
 // Shows the character in the grid: where it is, or else alone.
@@ -381,17 +438,21 @@ void MainWindow::identify(const QString& text) {
 }
 
 void MainWindow::showMenu(int, QPoint globalPosition) {
-  QMenu menu;
+  QMenu menu(this);
   const glyph::Entity entity = *grid_->currentCharacter();
+  QAction* const copy = menu.addAction(symbolIcon(Symbol::copy), tr("Copy"), this, &MainWindow::copyCurrent);
+  copy->setShortcut(QKeySequence::Copy);
+  QMenu& forms = *menu.addMenu(tr("Copy as"));
   for (const glyph::CopyForm& form : glyph::copyForms()) {
     const auto text = form.text(entity);
-    if (!text) continue;
-    const QString shown = form.identifier == "character" ? shownText(entity) : fromUtf8(*text);
-    const QString title = tr("Copy %1").arg(formTitle(form));
-    menu.addAction(
-        title + QLatin1Char('\t') + QString(shown.left(28)).replace(QLatin1Char('&'), QLatin1String("&&")),
-        this, [this, &form] { copyAs(form); });
+    if (!text || form.identifier == "character") continue;
+    const QString shown = fromUtf8(*text).left(28).replace(QLatin1Char('&'), QLatin1String("&&"));
+    forms.addAction(formTitle(form) + QLatin1Char('\t') + shown, this, [this, &form] { copyAs(form); });
   }
+  auto* const tones = new QMenu(tr("Skin tone"), &menu);
+  if (addSkinTones(*tones, entity,
+                   [this, entity](glyph::SkinTone tone) { catalog_.copyWithTone(entity, tone); }))
+    menu.addMenu(tones);
   menu.addSeparator();
   menu.addAction(symbolIcon(Symbol::collect), tr("Collect"), this, &MainWindow::collectCurrent);
   const bool isFavourite = catalog_.isFavourite(entity.computed.hex);
@@ -538,9 +599,10 @@ void MainWindow::showShortcuts() {
   const Row rows[] = {
       {tr("Letters"), tr("search")},
       {tr("Enter, double click"), tr("copy the character")},
-      {tr("Alt+Enter"), tr("copy its HTML reference")},
+      {tr("Alt+Enter"), tr("copy the form chosen in the preferences")},
       {tr("Ctrl+1 … Ctrl+9"), tr("copy another form")},
       {tr("Space, Ctrl+Enter, Ctrl+click"), tr("collect, to copy several characters together")},
+      {tr("Long press on an emoji"), tr("choose its skin tone")},
       {tr("Ctrl+D"), tr("favourite")},
       {tr("Ctrl+N"), tr("add a character of your own")},
       {tr("Delete"), tr("remove a character of your own")},
@@ -549,6 +611,7 @@ void MainWindow::showShortcuts() {
       {tr("Ctrl++, Ctrl+-, Ctrl+wheel"), tr("zoom")},
       {tr("Ctrl+F, Escape"), tr("into the search field, empty it")},
       {tr("F9"), tr("show or hide the groups")},
+      {tr("Alt+Left"), tr("back from a link on the card")},
   };
   QString table = QStringLiteral("<table cellspacing=\"6\">");
   for (const Row& row : rows) {
@@ -561,7 +624,7 @@ void MainWindow::showShortcuts() {
 }
 
 void MainWindow::showPreferences() {
-  PreferencesDialog(appearance_, this).exec();
+  PreferencesDialog(catalog_, appearance_, this).exec();
 }
 
 void MainWindow::showAbout() {

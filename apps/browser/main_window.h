@@ -51,6 +51,7 @@ class MainWindow : public QWidget {
   QWidget* makeHeader();
   QWidget* makeHitBar();
   void makeActions();
+  void makeUndoActions();
   QAction* addAction(QMenu& menu, const QString& text, const QKeySequence& keys, void (MainWindow::*slot)());
   void connectCatalog();
 
@@ -58,6 +59,8 @@ class MainWindow : public QWidget {
   void showHits();
   void chooseScope(const Scope& scope);
   void chooseCharacter(const QString& hex);
+  void rememberPlace();
+  void goBack();
   void copyCharacter(int index, Qt::KeyboardModifiers modifiers);
   void copyAs(const glyph::CopyForm& form);
   void collect(int index);
@@ -85,6 +88,13 @@ class MainWindow : public QWidget {
   void restore();
   void save() const;
 
+  // Where the user was before following a link.
+  struct Place {
+    Scope scope;
+    QString words;
+    QString hex;
+  };
+
   Catalog& catalog_;
   Appearance& appearance_;
   CharacterFilter filter_;
@@ -102,6 +112,8 @@ class MainWindow : public QWidget {
   QWidget* hitBar_;
   QLabel* hits_;
   QPushButton* elsewhere_;
+  QPushButton* back_;
+  std::vector<Place> places_;
   QAction* removeAction_;
   QTimer cardTimer_;
   std::vector<std::string> collected_;  // hex codes, for the list of recently copied characters

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPainter>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -17,6 +18,7 @@
 #include "collector.h"
 #include "icons.h"
 #include "preferences.h"
+#include "skin_tones.h"
 
 namespace browser {
 namespace {
@@ -48,7 +50,7 @@ Picker::Picker(Catalog& catalog)
   field_->installEventFilter(this);
   grid_->setRulerShown(false);
   grid_->setCellSize(pickerCell);
-  grid_->setEmptyText(tr("Nothing found."));
+  grid_->setEmptyText(tr("Nothing found."), symbolIcon(Symbol::search));
   grid_->setFavouriteTest(
       [this](const glyph::Entity& entity) { return catalog_.isFavourite(entity.computed.hex); });
   name_->setTextFormat(Qt::PlainText);
@@ -74,6 +76,8 @@ Picker::Picker(Catalog& catalog)
   connect(grid_, &CharacterGrid::currentChanged, this, &Picker::showCurrent);
   connect(grid_, &CharacterGrid::activated, this, &Picker::pick);
   connect(grid_, &CharacterGrid::clicked, this, [this](int index) { pick(index, Qt::NoModifier); });
+  connect(grid_, &CharacterGrid::held, this, &Picker::offerSkinTones);
+  connect(grid_, &CharacterGrid::menuRequested, this, &Picker::offerSkinTones);
   connect(grid_, &CharacterGrid::collected, this, &Picker::collect);
   connect(grid_, &CharacterGrid::typed, this, [this](const QString& text) {
     field_->setFocus();
@@ -131,6 +135,16 @@ void Picker::pick(int index, Qt::KeyboardModifiers modifiers) {
   if (!text) return;
   catalog_.copy(entity, *form);
   finish(fromUtf8(*text));
+}
+
+void Picker::offerSkinTones(int index, QPoint globalPosition) {
+  const glyph::Entity entity = grid_->character(index);
+  QMenu menu(this);
+  const bool hasTones = addSkinTones(menu, entity, [&](glyph::SkinTone tone) {
+    catalog_.copyWithTone(entity, tone);
+    finish(QString::fromStdString(glyph::withSkinTone(entity.computed.symbol, tone)));
+  });
+  if (hasTones) menu.exec(globalPosition);
 }
 
 void Picker::collect(int index) {

@@ -43,6 +43,7 @@ class Picker : public QWidget {
   void showCurrent();
   void pick(int index, Qt::KeyboardModifiers modifiers);
   void collect(int index);
+  void offerSkinTones(int index, QPoint globalPosition);
   void finish(const QString& text);
 
   Catalog& catalog_;

@@ -9,10 +9,12 @@
 #include <QFontDatabase>
 #include <QFormLayout>
 #include <QLabel>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "appearance.h"
+#include "catalog.h"
 #include "character_texts.h"
 #include "glyph_renderer.h"
 #include "preferences.h"
@@ -55,12 +57,14 @@ QString keyBindings() {
 
 }  // namespace
 
-PreferencesDialog::PreferencesDialog(Appearance& appearance, QWidget* parent) : QDialog(parent) {
+PreferencesDialog::PreferencesDialog(Catalog& catalog, Appearance& appearance, QWidget* parent)
+    : QDialog(parent) {
   setWindowTitle(tr("Preferences"));
   auto* const column = new QVBoxLayout(this);
   auto* const pages = new QTabWidget;
   pages->setDocumentMode(true);
-  pages->addTab(makeGeneralPage(appearance), tr("General"));
+  pages->tabBar()->setDrawBase(false);
+  pages->addTab(makeGeneralPage(catalog, appearance), tr("General"));
   pages->addTab(makePickerPage(), tr("Picker"));
   pages->addTab(makeSearchPage(), tr("Desktop search"));
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
@@ -70,7 +74,7 @@ PreferencesDialog::PreferencesDialog(Appearance& appearance, QWidget* parent) : 
   resize(520, 400);
 }
 
-QWidget* PreferencesDialog::makeGeneralPage(Appearance& appearance) {
+QWidget* PreferencesDialog::makeGeneralPage(Catalog& catalog, Appearance& appearance) {
   auto* const page = new QWidget;
   auto* const form = new QFormLayout(page);
   form->setContentsMargins(12, 16, 12, 12);
@@ -102,9 +106,9 @@ QWidget* PreferencesDialog::makeGeneralPage(Appearance& appearance) {
   for (const glyph::SkinTone one : glyph::allSkinTones) {
     tone->addItem(QString::fromStdString(glyph::withSkinTone("👋", one)));
   }
-  tone->setCurrentIndex(static_cast<int>(glyph::preferredSkinTone()));
-  connect(tone, &QComboBox::activated, this, [](int index) {
-    glyph::setPreferredSkinTone(glyph::allSkinTones[static_cast<std::size_t>(index)]);
+  tone->setCurrentIndex(static_cast<int>(catalog.skinTone()));
+  connect(tone, &QComboBox::activated, this, [&catalog](int index) {
+    catalog.setSkinTone(glyph::allSkinTones[static_cast<std::size_t>(index)]);
   });
   form->addRow(tr("&Skin tone of emoji:"), tone);
 

@@ -8,16 +8,17 @@ class QFormLayout;
 namespace browser {
 
 class Appearance;
+class Catalog;
 
 /// The user's choices about windows, the picker and the desktop's search. Each takes effect at once.
 class PreferencesDialog : public QDialog {
   Q_OBJECT
 
  public:
-  PreferencesDialog(Appearance& appearance, QWidget* parent);
+  PreferencesDialog(Catalog& catalog, Appearance& appearance, QWidget* parent);
 
  private:
-  QWidget* makeGeneralPage(Appearance& appearance);
+  QWidget* makeGeneralPage(Catalog& catalog, Appearance& appearance);
   QWidget* makePickerPage();
   QWidget* makeSearchPage();
 };

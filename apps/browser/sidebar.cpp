@@ -89,14 +89,15 @@ class ScopeDelegate : public QStyledItemDelegate {
     const QRect mark = checkArea(option);
     const QVariant check = index.data(Qt::CheckStateRole);
     if (check.isValid()) {
-      paintCheck(painter, mark, check.toInt() == Qt::Checked, accent, text);
+      paintCheck(painter, mark, check.toInt() == Qt::Checked, option.palette);
     } else {
       index.data(Qt::DecorationRole).value<QIcon>().paint(&painter, mark);
     }
     QFont small = option.font;
     small.setPointSizeF(small.pointSizeF() * 0.88);
     painter.setFont(small);
-    painter.setPen(option.palette.color(QPalette::PlaceholderText));
+    // The faint colour is too faint on the ground of the current row.
+    painter.setPen(isCurrent ? text : option.palette.color(QPalette::PlaceholderText));
     const QString count = QLocale().toString(index.data(ScopeModel::countRole).toLongLong());
     const int countWidth = QFontMetrics(small).horizontalAdvance(count);
     const auto mirrored = [&](const QRect& area) {
@@ -109,20 +110,22 @@ class ScopeDelegate : public QStyledItemDelegate {
     painter.setFont(option.font);
     painter.setPen(text);
     const QRect place = row.adjusted(0, 0, -countWidth - 8, 0);
+    // Many titles differ in their last word only.
     const QString title =
-        QFontMetrics(option.font).elidedText(index.data().toString(), Qt::ElideRight, place.width());
+        QFontMetrics(option.font).elidedText(index.data().toString(), Qt::ElideMiddle, place.width());
     painter.drawText(mirrored(place), static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading), title);
   }
 
-  static void paintCheck(QPainter& painter, const QRect& area, bool isChecked, const QColor& accent,
-                         QColor text) {
+  static void paintCheck(QPainter& painter, const QRect& area, bool isChecked, const QPalette& palette) {
     const QRectF box = QRectF(area).adjusted(1, 1, -1, -1);
-    text.setAlphaF(0.35F);
-    painter.setBrush(isChecked ? QBrush(accent) : QBrush(Qt::NoBrush));
-    painter.setPen(isChecked ? QPen(Qt::NoPen) : QPen(text, 1.2));
+    QColor frame = palette.color(QPalette::WindowText);
+    frame.setAlphaF(0.55F);
+    painter.setBrush(isChecked ? palette.highlight() : QBrush(Qt::NoBrush));
+    painter.setPen(isChecked ? QPen(Qt::NoPen) : QPen(frame, 1.2));
     painter.drawRoundedRect(box, 4, 4);
     if (!isChecked) return;
-    painter.setPen(QPen(Qt::white, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(
+        QPen(palette.color(QPalette::HighlightedText), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const QPointF corner = box.topLeft();
     painter.drawPolyline(
         QPolygonF({corner + QPointF(3.3, 7.2), corner + QPointF(6, 9.9), corner + QPointF(10.8, 4.6)}));

@@ -6,6 +6,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QLabel>
+#include <QMenu>
 #include <QToolButton>
 #include <QTranslator>
 
@@ -182,6 +183,39 @@ TEST_F(MainWindowTest, DrawsEachCharacterOrABoxForIt) {
     EXPECT_TRUE(isShownAsBox(catalog.entity(invisible))) << invisible;
   }
   EXPECT_EQ(cellRequest(catalog.entity("0301"), 64, 1).text, QString::fromUtf8("◌\u0301"));
+}
+
+TEST_F(MainWindowTest, ALongPressChoosesTheSkinToneForGood) {
+  type("thumbs up");
+  ASSERT_EQ(current(), "1f44d");
+  QTimer menu;
+  QObject::connect(&menu, &QTimer::timeout, [&] {
+    auto* const popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (!popup) return;
+    menu.stop();
+    QTest::keyClick(popup, Qt::Key_Up);  // the last one
+    QTest::keyClick(popup, Qt::Key_Return);
+  });
+  menu.start(20);
+  const QPoint place = grid.visibleRect(0).center();
+  QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, place);
+  QTRY_COMPARE(clipboardText(), "👍🏿");
+  QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, place);
+  type("waving hand");
+  EXPECT_EQ(current(), "1f44b,1f3ff");
+  choose({Scope::Kind::emoji, "People & Body"});
+  EXPECT_EQ(current(), "1f44b,1f3ff") << "the words find it among the emoji, too";
+}
+
+TEST_F(MainWindowTest, GoesBackFromALinkOnTheCard) {
+  choose({Scope::Kind::group, "math operators"});
+  type("element of");
+  const std::string first = current();
+  Q_EMIT window.findChild<CharacterCard*>()->characterChosen("1d6a5");
+  EXPECT_EQ(current(), "1d6a5");
+  QTest::keyClick(&window, Qt::Key_Left, Qt::AltModifier);
+  EXPECT_EQ(field.text(), "element of");
+  EXPECT_EQ(current(), first);
 }
 
 TEST_F(MainWindowTest, PickerCopiesAndCloses) {

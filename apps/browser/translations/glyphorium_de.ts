@@ -766,6 +766,10 @@
             <source>Since version</source>
             <translation>Seit Version</translation>
         </message>
+        <message>
+            <source>A private-use character. No installed font draws it.</source>
+            <translation>Ein Zeichen zur privaten Verwendung. Keine installierte Schrift zeigt es.</translation>
+        </message>
     </context>
     <context>
         <name>browser::CharacterFilter</name>
@@ -878,14 +882,6 @@
             <translation>Text der &amp;Zwischenablage bestimmen</translation>
         </message>
         <message>
-            <source>Undo:</source>
-            <translation>Rückgängig:</translation>
-        </message>
-        <message>
-            <source>Redo:</source>
-            <translation>Wiederholen:</translation>
-        </message>
-        <message>
             <source>&amp;View</source>
             <translation>&amp;Ansicht</translation>
         </message>
@@ -971,10 +967,6 @@
             <translation>Noch keine Zeichen. Strg+N fügt ein Zeichen hinzu: mit seinem Code, seinem Namen oder aus der Zwischenablage.</translation>
         </message>
         <message>
-            <source>Copy %1</source>
-            <translation>%1 kopieren</translation>
-        </message>
-        <message>
             <source>Collect</source>
             <translation>Sammeln</translation>
         </message>
@@ -1013,10 +1005,6 @@
         <message>
             <source>Alt+Enter</source>
             <translation>Alt+Eingabetaste</translation>
-        </message>
-        <message>
-            <source>copy its HTML reference</source>
-            <translation>seine HTML-Referenz kopieren</translation>
         </message>
         <message>
             <source>Ctrl+1 … Ctrl+9</source>
@@ -1113,6 +1101,66 @@
         <message>
             <source>Under the MIT licence. Data of the Unicode Character Database and of CLDR stands under the Unicode licence.</source>
             <translation>Unter der MIT-Lizenz. Die Daten der Unicode Character Database und von CLDR stehen unter der Unicode-Lizenz.</translation>
+        </message>
+        <message>
+            <source>Back</source>
+            <translation>Zurück</translation>
+        </message>
+        <message>
+            <source>Back to where you were before (Alt+Left)</source>
+            <translation>Zurück zur vorigen Stelle (Alt+Links)</translation>
+        </message>
+        <message>
+            <source>&amp;Back</source>
+            <translation>&amp;Zurück</translation>
+        </message>
+        <message>
+            <source>Undo</source>
+            <translation>Rückgängig</translation>
+        </message>
+        <message>
+            <source>Redo</source>
+            <translation>Wiederholen</translation>
+        </message>
+        <message>
+            <source>Undo: %1</source>
+            <translation>Rückgängig: %1</translation>
+        </message>
+        <message>
+            <source>Redo: %1</source>
+            <translation>Wiederholen: %1</translation>
+        </message>
+        <message>
+            <source>Copy</source>
+            <translation>Kopieren</translation>
+        </message>
+        <message>
+            <source>Copy as</source>
+            <translation>Kopieren als</translation>
+        </message>
+        <message>
+            <source>Skin tone</source>
+            <translation>Hautton</translation>
+        </message>
+        <message>
+            <source>copy the form chosen in the preferences</source>
+            <translation>die in den Einstellungen gewählte Form kopieren</translation>
+        </message>
+        <message>
+            <source>Long press on an emoji</source>
+            <translation>Emoji lange drücken</translation>
+        </message>
+        <message>
+            <source>choose its skin tone</source>
+            <translation>seinen Hautton wählen</translation>
+        </message>
+        <message>
+            <source>Alt+Left</source>
+            <translation>Alt+Links</translation>
+        </message>
+        <message>
+            <source>back from a link on the card</source>
+            <translation>von einem Link der Karte zurück</translation>
         </message>
     </context>
     <context>

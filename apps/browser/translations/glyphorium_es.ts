@@ -766,6 +766,10 @@
             <source>Since version</source>
             <translation>Desde la versión</translation>
         </message>
+        <message>
+            <source>A private-use character. No installed font draws it.</source>
+            <translation>Un carácter de uso privado. Ninguna fuente instalada lo dibuja.</translation>
+        </message>
     </context>
     <context>
         <name>browser::CharacterFilter</name>
@@ -878,14 +882,6 @@
             <translation>&amp;Identificar el texto del portapapeles</translation>
         </message>
         <message>
-            <source>Undo:</source>
-            <translation>Deshacer:</translation>
-        </message>
-        <message>
-            <source>Redo:</source>
-            <translation>Rehacer:</translation>
-        </message>
-        <message>
             <source>&amp;View</source>
             <translation>&amp;Ver</translation>
         </message>
@@ -971,10 +967,6 @@
             <translation>Aún no hay caracteres. Ctrl+N añade un carácter por su código, su nombre o pegándolo.</translation>
         </message>
         <message>
-            <source>Copy %1</source>
-            <translation>Copiar %1</translation>
-        </message>
-        <message>
             <source>Collect</source>
             <translation>Reunir</translation>
         </message>
@@ -1013,10 +1005,6 @@
         <message>
             <source>Alt+Enter</source>
             <translation>Alt+Intro</translation>
-        </message>
-        <message>
-            <source>copy its HTML reference</source>
-            <translation>copiar su referencia HTML</translation>
         </message>
         <message>
             <source>Ctrl+1 … Ctrl+9</source>
@@ -1113,6 +1101,66 @@
         <message>
             <source>Under the MIT licence. Data of the Unicode Character Database and of CLDR stands under the Unicode licence.</source>
             <translation>Con licencia MIT. Los datos de la Unicode Character Database y de CLDR tienen la licencia Unicode.</translation>
+        </message>
+        <message>
+            <source>Back</source>
+            <translation>Atrás</translation>
+        </message>
+        <message>
+            <source>Back to where you were before (Alt+Left)</source>
+            <translation>Volver a donde estaba antes (Alt+Izquierda)</translation>
+        </message>
+        <message>
+            <source>&amp;Back</source>
+            <translation>&amp;Atrás</translation>
+        </message>
+        <message>
+            <source>Undo</source>
+            <translation>Deshacer</translation>
+        </message>
+        <message>
+            <source>Redo</source>
+            <translation>Rehacer</translation>
+        </message>
+        <message>
+            <source>Undo: %1</source>
+            <translation>Deshacer: %1</translation>
+        </message>
+        <message>
+            <source>Redo: %1</source>
+            <translation>Rehacer: %1</translation>
+        </message>
+        <message>
+            <source>Copy</source>
+            <translation>Copiar</translation>
+        </message>
+        <message>
+            <source>Copy as</source>
+            <translation>Copiar como</translation>
+        </message>
+        <message>
+            <source>Skin tone</source>
+            <translation>Tono de piel</translation>
+        </message>
+        <message>
+            <source>copy the form chosen in the preferences</source>
+            <translation>copiar la forma elegida en las preferencias</translation>
+        </message>
+        <message>
+            <source>Long press on an emoji</source>
+            <translation>Pulsación larga en un emoji</translation>
+        </message>
+        <message>
+            <source>choose its skin tone</source>
+            <translation>elegir su tono de piel</translation>
+        </message>
+        <message>
+            <source>Alt+Left</source>
+            <translation>Alt+Izquierda</translation>
+        </message>
+        <message>
+            <source>back from a link on the card</source>
+            <translation>volver de un enlace de la ficha</translation>
         </message>
     </context>
     <context>

@@ -766,6 +766,10 @@
             <source>Since version</source>
             <translation>Depuis la version</translation>
         </message>
+        <message>
+            <source>A private-use character. No installed font draws it.</source>
+            <translation>Un caractère à usage privé. Aucune police installée ne le dessine.</translation>
+        </message>
     </context>
     <context>
         <name>browser::CharacterFilter</name>
@@ -878,14 +882,6 @@
             <translation>&amp;Identifier le texte du presse-papiers</translation>
         </message>
         <message>
-            <source>Undo:</source>
-            <translation>Annuler :</translation>
-        </message>
-        <message>
-            <source>Redo:</source>
-            <translation>Rétablir :</translation>
-        </message>
-        <message>
             <source>&amp;View</source>
             <translation>A&amp;ffichage</translation>
         </message>
@@ -971,10 +967,6 @@
             <translation>Pas encore de caractères. Ctrl+N ajoute un caractère par son code, son nom ou en le collant.</translation>
         </message>
         <message>
-            <source>Copy %1</source>
-            <translation>Copier %1</translation>
-        </message>
-        <message>
             <source>Collect</source>
             <translation>Collecter</translation>
         </message>
@@ -1013,10 +1005,6 @@
         <message>
             <source>Alt+Enter</source>
             <translation>Alt+Entrée</translation>
-        </message>
-        <message>
-            <source>copy its HTML reference</source>
-            <translation>copier sa référence HTML</translation>
         </message>
         <message>
             <source>Ctrl+1 … Ctrl+9</source>
@@ -1113,6 +1101,66 @@
         <message>
             <source>Under the MIT licence. Data of the Unicode Character Database and of CLDR stands under the Unicode licence.</source>
             <translation>Sous licence MIT. Les données de l’Unicode Character Database et de CLDR sont sous licence Unicode.</translation>
+        </message>
+        <message>
+            <source>Back</source>
+            <translation>Retour</translation>
+        </message>
+        <message>
+            <source>Back to where you were before (Alt+Left)</source>
+            <translation>Revenir à l’endroit précédent (Alt+Gauche)</translation>
+        </message>
+        <message>
+            <source>&amp;Back</source>
+            <translation>&amp;Retour</translation>
+        </message>
+        <message>
+            <source>Undo</source>
+            <translation>Annuler</translation>
+        </message>
+        <message>
+            <source>Redo</source>
+            <translation>Rétablir</translation>
+        </message>
+        <message>
+            <source>Undo: %1</source>
+            <translation>Annuler : %1</translation>
+        </message>
+        <message>
+            <source>Redo: %1</source>
+            <translation>Rétablir : %1</translation>
+        </message>
+        <message>
+            <source>Copy</source>
+            <translation>Copier</translation>
+        </message>
+        <message>
+            <source>Copy as</source>
+            <translation>Copier comme</translation>
+        </message>
+        <message>
+            <source>Skin tone</source>
+            <translation>Couleur de peau</translation>
+        </message>
+        <message>
+            <source>copy the form chosen in the preferences</source>
+            <translation>copier la forme choisie dans les préférences</translation>
+        </message>
+        <message>
+            <source>Long press on an emoji</source>
+            <translation>Appui long sur un émoji</translation>
+        </message>
+        <message>
+            <source>choose its skin tone</source>
+            <translation>choisir sa couleur de peau</translation>
+        </message>
+        <message>
+            <source>Alt+Left</source>
+            <translation>Alt+Gauche</translation>
+        </message>
+        <message>
+            <source>back from a link on the card</source>
+            <translation>revenir d’un lien de la fiche</translation>
         </message>
     </context>
     <context>

@@ -766,6 +766,10 @@
             <source>Since version</source>
             <translation>Dalla versione</translation>
         </message>
+        <message>
+            <source>A private-use character. No installed font draws it.</source>
+            <translation>Un carattere a uso privato. Nessun font installato lo disegna.</translation>
+        </message>
     </context>
     <context>
         <name>browser::CharacterFilter</name>
@@ -878,14 +882,6 @@
             <translation>&amp;Identifica il testo degli appunti</translation>
         </message>
         <message>
-            <source>Undo:</source>
-            <translation>Annulla:</translation>
-        </message>
-        <message>
-            <source>Redo:</source>
-            <translation>Ripeti:</translation>
-        </message>
-        <message>
             <source>&amp;View</source>
             <translation>&amp;Visualizza</translation>
         </message>
@@ -971,10 +967,6 @@
             <translation>Ancora nessun carattere. Ctrl+N aggiunge un carattere con il codice, il nome o incollandolo.</translation>
         </message>
         <message>
-            <source>Copy %1</source>
-            <translation>Copia %1</translation>
-        </message>
-        <message>
             <source>Collect</source>
             <translation>Raccogli</translation>
         </message>
@@ -1013,10 +1005,6 @@
         <message>
             <source>Alt+Enter</source>
             <translation>Alt+Invio</translation>
-        </message>
-        <message>
-            <source>copy its HTML reference</source>
-            <translation>copiare il suo riferimento HTML</translation>
         </message>
         <message>
             <source>Ctrl+1 … Ctrl+9</source>
@@ -1113,6 +1101,66 @@
         <message>
             <source>Under the MIT licence. Data of the Unicode Character Database and of CLDR stands under the Unicode licence.</source>
             <translation>Con licenza MIT. I dati dell’Unicode Character Database e di CLDR hanno la licenza Unicode.</translation>
+        </message>
+        <message>
+            <source>Back</source>
+            <translation>Indietro</translation>
+        </message>
+        <message>
+            <source>Back to where you were before (Alt+Left)</source>
+            <translation>Torna a dove eri prima (Alt+Sinistra)</translation>
+        </message>
+        <message>
+            <source>&amp;Back</source>
+            <translation>&amp;Indietro</translation>
+        </message>
+        <message>
+            <source>Undo</source>
+            <translation>Annulla</translation>
+        </message>
+        <message>
+            <source>Redo</source>
+            <translation>Ripeti</translation>
+        </message>
+        <message>
+            <source>Undo: %1</source>
+            <translation>Annulla: %1</translation>
+        </message>
+        <message>
+            <source>Redo: %1</source>
+            <translation>Ripeti: %1</translation>
+        </message>
+        <message>
+            <source>Copy</source>
+            <translation>Copia</translation>
+        </message>
+        <message>
+            <source>Copy as</source>
+            <translation>Copia come</translation>
+        </message>
+        <message>
+            <source>Skin tone</source>
+            <translation>Tonalità della pelle</translation>
+        </message>
+        <message>
+            <source>copy the form chosen in the preferences</source>
+            <translation>copia la forma scelta nelle preferenze</translation>
+        </message>
+        <message>
+            <source>Long press on an emoji</source>
+            <translation>Pressione lunga su un emoji</translation>
+        </message>
+        <message>
+            <source>choose its skin tone</source>
+            <translation>scegli la tonalità della pelle</translation>
+        </message>
+        <message>
+            <source>Alt+Left</source>
+            <translation>Alt+Sinistra</translation>
+        </message>
+        <message>
+            <source>back from a link on the card</source>
+            <translation>torna da un collegamento della scheda</translation>
         </message>
     </context>
     <context>
