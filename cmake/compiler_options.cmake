@@ -7,8 +7,10 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 add_library(glyphorium_warnings INTERFACE)
-target_compile_options(glyphorium_warnings INTERFACE
-  $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow>)
+if(PROJECT_IS_TOP_LEVEL)
+  target_compile_options(glyphorium_warnings INTERFACE
+    $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow>)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # GCC 12 falsely warns of overlapping copies inside std::string (GCC bug 105651).
   target_compile_options(glyphorium_warnings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)

@@ -1,7 +1,16 @@
 # Installs the library and the files by which find_package(Glyphorium) and pkg-config find it. The component "runtime"
-# contains what programs need to run, and "development" what is needed to build them.
-include(CMakePackageConfigHelpers)
+# contains what programs need to run, and "development" what is needed to build them. A project that contains this one
+# installs by default only what its programs need.
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/LICENSES DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
+if(GLYPHORIUM_INSTALL STREQUAL RUNTIME)
+  if(BUILD_SHARED_LIBS)
+    install(TARGETS glyphorium LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_SKIP)
+  endif()
+  return()
+endif()
 
+include(CMakePackageConfigHelpers)
 install(TARGETS glyphorium EXPORT GlyphoriumTargets
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
@@ -11,8 +20,6 @@ if(TARGET glyphorium-static)
   install(TARGETS glyphorium-static EXPORT GlyphoriumStaticTargets
           ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
 endif()
-install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/LICENSES DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
 
 set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/Glyphorium)
 install(EXPORT GlyphoriumTargets NAMESPACE Glyphorium:: DESTINATION ${package_directory} COMPONENT development)
@@ -30,6 +37,11 @@ install(FILES ${PROJECT_BINARY_DIR}/GlyphoriumConfig.cmake ${PROJECT_BINARY_DIR}
 # The prefix is relative to the file. So the prefix can be chosen during installation, and the installed folder can be
 # moved later.
 set(pkgconfig_directory ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-file(RELATIVE_PATH pkgconfig_prefix ${CMAKE_INSTALL_PREFIX}/${pkgconfig_directory} ${CMAKE_INSTALL_PREFIX})
+file(RELATIVE_PATH pkgconfig_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+set(pkgconfig_libraries " -lsimdjson -licuuc -lsqlite3 -lstdc++ -lpthread")
+if(BUILD_SHARED_LIBS)
+  set(pkgconfig_private_libraries "${pkgconfig_libraries}")
+  set(pkgconfig_libraries "")
+endif()
 configure_file(${CMAKE_CURRENT_LIST_DIR}/glyphorium.pc.in ${PROJECT_BINARY_DIR}/glyphorium.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/glyphorium.pc DESTINATION ${pkgconfig_directory} COMPONENT development)
