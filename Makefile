@@ -3,7 +3,7 @@
 JOBS ?= $(shell nproc)
 ARGS ?=
 
-.PHONY: run browser test asan tsan fuzz attack bench compare tidy docs install clean
+.PHONY: run browser test asan tsan fuzz attack bench compare tidy docs packages install uninstall clean
 
 run: build/release/.configured-run
 	@cmake --build build/release -j $(JOBS) --target glyphorium-cli >build/release/build.log 2>&1 \
@@ -71,6 +71,10 @@ docs:
 	cmake --preset release -DGLYPHORIUM_BUILD_DOCS=ON
 	cmake --build --preset release -j $(JOBS) --target docs
 
+# Builds the Debian packages into build/debian. ARGS=--try installs, upgrades, purges and tests them in a new system.
+packages:
+	@scripts/debian-packages $(ARGS)
+
 # Installs the library, the programs and the files by which desktops find them.
 PREFIX ?= /usr/local
 install:
@@ -78,6 +82,9 @@ install:
 	cmake --preset release -DCMAKE_INSTALL_PREFIX=$(PREFIX) -DGLYPHORIUM_BUILD_SEARCH_PROVIDER=ON -DGLYPHORIUM_BUILD_BROWSER=ON
 	cmake --build --preset release -j $(JOBS)
 	cmake --install build/release
+	@[ "$$(id -u)" != 0 ] || ldconfig  # programs find the library in /usr/local/lib
+uninstall:
+	cmake --build build/release --target uninstall
 
 build/release/.configured-run:
 	@scripts/bootstrap run
