@@ -3,7 +3,7 @@
 JOBS ?= $(shell nproc)
 ARGS ?=
 
-.PHONY: run browser test asan tsan fuzz attack bench compare tidy docs packages install uninstall clean
+.PHONY: run browser test asan tsan valgrind fuzz attack bench compare tidy docs packages install uninstall clean
 
 run: build/release/.configured-run
 	@cmake --build build/release -j $(JOBS) --target glyphorium-cli >build/release/build.log 2>&1 \
@@ -31,6 +31,14 @@ asan tsan:
 	cmake --preset $@
 	cmake --build --preset $@ -j $(JOBS)
 	ctest --preset $@ -j $(JOBS)
+
+# The tests of the C interface under valgrind: no error, and nothing that is lost.
+valgrind:
+	@scripts/bootstrap valgrind
+	cmake --preset test
+	cmake --build --preset test -j $(JOBS) --target glyphorium_tests
+	valgrind --error-exitcode=1 --leak-check=full --show-leak-kinds=definite,indirect \
+	  --errors-for-leak-kinds=definite,indirect build/test/tests/glyphorium_tests --gtest_filter='CHost*:CBadArguments*'
 
 # Runs each fuzzer for so many seconds.
 FUZZ_SECONDS ?= 5
