@@ -108,10 +108,7 @@ class BoxedOptional {
     static_assert(alignof(T) > isConstant);
     return reinterpret_cast<std::uintptr_t>(new T(std::forward<Arguments>(arguments)...));
   }
-  T* pointer() const noexcept {
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): one word instead of a pointer and a flag
-    return reinterpret_cast<T*>(box_ & ~isConstant);
-  }
+  T* pointer() const noexcept { return reinterpret_cast<T*>(box_ & ~isConstant); }
   bool isOwned() const noexcept { return box_ != 0 && (box_ & isConstant) == 0; }
 
   std::uintptr_t box_ = 0;  // the address of the value and, in the lowest bit, whether it is a constant

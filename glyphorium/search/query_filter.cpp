@@ -17,7 +17,9 @@ void keepOnly(const Index& index, std::vector<char>& docs, Predicate isWanted) {
     if (!isWanted(group)) continue;
     for (const std::uint32_t doc : group.docs) members[doc] = 1;
   }
-  for (std::size_t doc = 0; doc < docs.size(); ++doc) docs[doc] = docs[doc] && members[doc];
+  for (std::size_t doc = 0; doc < docs.size(); ++doc) {
+    if (!members[doc]) docs[doc] = 0;
+  }
 }
 
 }  // namespace

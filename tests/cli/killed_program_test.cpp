@@ -127,7 +127,7 @@ TEST(UnreadableChoices, AreDistinguishedFromEmptyOnes) {
   };
   // The commands that can change the stored choices come last, because they may replace the unreadable
   // choices.
-  constexpr const char* commands[] = {"added",    "remove 2192",       "display", "display remove arrows",
+  static constexpr const char* commands[] = {"added",    "remove 2192",       "display", "display remove arrows",
                                       "add 2192", "display add arrows"};
   const struct {
     const char* name;

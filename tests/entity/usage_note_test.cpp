@@ -13,7 +13,7 @@ namespace {
 
 std::optional<std::string> noteOf(const Entity& entity, const std::vector<std::string>& languages) {
   setPreferredLanguages(languages);
-  const auto note = entity.usageNote();
+  auto note = entity.usageNote();
   setPreferredLanguages(std::nullopt);
   return note;
 }
