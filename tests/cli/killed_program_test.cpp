@@ -127,8 +127,8 @@ TEST(UnreadableChoices, AreDistinguishedFromEmptyOnes) {
   };
   // The commands that can change the stored choices come last, because they may replace the unreadable
   // choices.
-  static constexpr const char* commands[] = {"added",    "remove 2192",       "display", "display remove arrows",
-                                      "add 2192", "display add arrows"};
+  static constexpr const char* commands[] = {
+      "added", "remove 2192", "display", "display remove arrows", "add 2192", "display add arrows"};
   const struct {
     const char* name;
     std::function<void()> spoil;
