@@ -68,6 +68,7 @@ void BrowserApplication::pick() {
     connect(picker_.get(), &Picker::closed, this, &BrowserApplication::finishPick);
   }
   lingering_.stop();
+  if (!picker_->isVisible()) focusedBefore_ = focusedWindow();
   picker_->open();
 }
 
@@ -75,7 +76,7 @@ void BrowserApplication::finishPick(const QString& text) {
   lingering_.start();
   if (text.isEmpty() || !preferences::pickerTypes()) return;
   QTimer::singleShot(focusMilliseconds, this, [this, text] {
-    typeText(text, [this](bool typed) {
+    typeText(text, focusedBefore_, [this](bool typed) {
       if (!typed) explainTyping();
     });
   });

@@ -40,6 +40,7 @@ class BrowserApplication : public QObject {
   BrowserService service_;
   std::unique_ptr<MainWindow> window_;
   std::unique_ptr<Picker> picker_;
+  QString focusedBefore_;  // the window that the picker types into
   QTimer lingering_;
   bool staysInBackground_ = false;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "glyph_renderer.h"
 
+#include <malloc.h>
 #include <QFont>
 #include <QGlyphRun>
 #include <QGuiApplication>
@@ -9,8 +10,9 @@
 #include <QRawFont>
 #include <QTextLayout>
 #include <QThread>
+
 #include <cmath>
-#include <optional>
+#include <utility>
 
 namespace browser {
 namespace {
@@ -23,6 +25,12 @@ constexpr std::size_t mostWaiting = 3'000;
 
 // So many pictures are handed over at once.
 constexpr std::size_t batch = 40;
+
+// The fonts that a thread of Qt has opened stay open until it ends: some hundred of them, in a walk through
+// all characters. So the thread ends after so many pictures, and when nothing has been asked of it for a
+// while. The next request starts another one.
+constexpr int mostPicturesOfThread = 2'000;
+constexpr std::chrono::seconds longestIdling{3};
 
 struct Line {
   QTextLayout layout;
@@ -78,14 +86,15 @@ GlyphPicture draw(const GlyphRequest& request, const QString& family, const QCol
   const double shiftX = (box - ink.width()) / 2 - ink.left();
 
   const QRect area = ink.translated(shiftX, shiftY).adjusted(-1, -1, 1, 1).toAlignedRect();
-  GlyphPicture picture;
-  picture.image = QImage(area.size(), QImage::Format_ARGB32_Premultiplied);
-  picture.image.fill(Qt::transparent);
-  QPainter painter(&picture.image);
+  QImage canvas(area.size(), QImage::Format_ARGB32_Premultiplied);
+  canvas.fill(Qt::transparent);
+  QPainter painter(&canvas);
   painter.setPen(colour);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   line.layout.draw(&painter, QPointF(shiftX, shiftY) - area.topLeft());
   painter.end();
+  GlyphPicture picture;
+  picture.image = canvas.copy();  // what has been painted on keeps the means to do so, over a kilobyte
   picture.image.setDevicePixelRatio(request.ratio);
   picture.corner = QPointF(area.topLeft()) / request.ratio;
   picture.family = family;
@@ -114,9 +123,30 @@ GlyphRenderer& GlyphRenderer::shared() {
 
 GlyphRenderer::GlyphRenderer() : pictures_(keptBytesLimit) {
   qRegisterMetaType<Drawn>();
+}
+
+void GlyphRenderer::startThread() {
+  if (thread_) thread_->wait();  // it has left work() already
   thread_.reset(QThread::create([this] { work(); }));
   thread_->setObjectName("glyphs");
+  connect(thread_.get(), &QThread::finished, this, [this, ended = thread_.get()] {
+    if (ended != thread_.get()) return;
+    ended->wait();
+#ifdef __GLIBC__
+    malloc_trim(0);  // what its fonts have taken goes back to the system
+#endif
+  });
   thread_->start(QThread::LowPriority);
+}
+
+// The pictures that are waited for are drawn even if the thread has just ended.
+void GlyphRenderer::wakeThread() {
+  {
+    const std::lock_guard lock(mutex_);
+    if (waiting_.empty()) return;
+    if (std::exchange(isWorking_, true)) return wake_.notify_one();
+  }
+  startThread();
 }
 
 GlyphRenderer::~GlyphRenderer() {
@@ -125,7 +155,7 @@ GlyphRenderer::~GlyphRenderer() {
     stopping_ = true;
   }
   wake_.notify_all();
-  thread_->wait();
+  if (thread_) thread_->wait();
 }
 
 const GlyphPicture* GlyphRenderer::picture(const GlyphRequest& request) {
@@ -139,7 +169,7 @@ const GlyphPicture* GlyphRenderer::picture(const GlyphRequest& request) {
       waiting_.pop_front();
     }
   }
-  wake_.notify_one();
+  wakeThread();
   return nullptr;
 }
 
@@ -169,10 +199,8 @@ void GlyphRenderer::startAnew() {
 }
 
 void GlyphRenderer::work() {
-  std::optional<FontCoverage> coverage;
-  QString preferred;
   Drawn drawn;
-  int drawnGeneration = 0;
+  int drawnGeneration = 0, count = 0;
   const auto handOver = [&] {
     if (drawn.empty()) return;
     QMetaObject::invokeMethod(
@@ -194,8 +222,17 @@ void GlyphRenderer::work() {
         handOver();
         lock.lock();
       }
-      wake_.wait(lock, [&] { return stopping_ || !waiting_.empty(); });
+      const bool isNeeded =
+          wake_.wait_for(lock, longestIdling, [&] { return stopping_ || !waiting_.empty(); });
       if (stopping_) return;
+      if (!isNeeded || ++count > mostPicturesOfThread) {
+        isWorking_ = false;
+        lock.unlock();
+        handOver();
+        // Another thread goes on if there is more to draw.
+        QMetaObject::invokeMethod(this, &GlyphRenderer::wakeThread, Qt::QueuedConnection);
+        return;
+      }
       if (generation_ != drawnGeneration) drawn.clear();
       drawnGeneration = generation_;
       request = waiting_.back();
@@ -203,14 +240,15 @@ void GlyphRenderer::work() {
       colour = wantedColour_;
       family = wantedFamily_;
     }
-    if (!coverage || family != preferred) {
-      preferred = family;
-      coverage.emplace(family.isEmpty() ? QGuiApplication::font().family() : family, QLocale().uiLanguages());
+    if (!coverage_ || family != coveredFamily_) {
+      coveredFamily_ = family;
+      coverage_.emplace(family.isEmpty() ? QGuiApplication::font().family() : family,
+                        QLocale().uiLanguages());
     }
     GlyphPicture picture;
     const auto points = request.text.toUcs4();
     const std::u32string codePoints(points.begin(), points.end());
-    for (const QString& candidate : coverage->families(codePoints, request.fontClass)) {
+    for (const QString& candidate : coverage_->families(codePoints, request.fontClass)) {
       picture = draw(request, candidate, colour);
       if (!picture.image.isNull()) break;
     }

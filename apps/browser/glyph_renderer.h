@@ -12,6 +12,7 @@
 #include <deque>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <set>
 #include <tuple>
 #include <vector>
@@ -76,6 +77,8 @@ class GlyphRenderer : public QObject {
  private:
   using Drawn = std::vector<std::pair<GlyphRequest, GlyphPicture>>;
 
+  void startThread();
+  void wakeThread();
   void work();
   void take(int generation, Drawn drawn);
   void startAnew();
@@ -93,6 +96,10 @@ class GlyphRenderer : public QObject {
   QString wantedFamily_;
   int generation_ = 0;  // counts the changes of colour and family, so that older pictures are dropped
   bool stopping_ = false;
+  bool isWorking_ = false;  // whether the thread will look for requests once more
+  // What follows belongs to the thread while it works.
+  std::optional<FontCoverage> coverage_;
+  QString coveredFamily_;
   std::unique_ptr<QThread> thread_;
 };
 

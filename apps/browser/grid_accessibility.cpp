@@ -108,9 +108,18 @@ class Grid : public QAccessibleWidget {
   mutable std::map<int, QAccessible::Id> cells_;  // those that somebody has asked for
 };
 
-QAccessibleInterface* makeInterface(const QString&, QObject* object) {
-  CharacterGrid* const grid = gridOf(object);
-  return grid ? new Grid(grid) : nullptr;
+// Screen readers announce a window by this role. Qt gives it to windows of its own classes only.
+QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
+  if (CharacterGrid* const grid = gridOf(object)) return new Grid(grid);
+  if (className == QLatin1String("browser::MainWindow"))
+    return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Window);
+  if (className == QLatin1String("browser::Picker"))
+    return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Dialog);
+  if (className == QLatin1String("browser::LargeGlyph"))
+    return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Graphic);
+  if (className == QLatin1String("browser::CharacterCard"))
+    return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Grouping);
+  return nullptr;
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "icons.h"
 
+#include <QAction>
 #include <QGuiApplication>
 #include <QIconEngine>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
@@ -20,8 +22,6 @@ const char* shape(Symbol symbol) {
       return "<path d='M10 3L5 8l5 5'/>";
     case Symbol::check:
       return "<path d='M3 8.5l3.5 3.5L13 4.5'/>";
-    case Symbol::clear:
-      return "<path d='M4.5 4.5l7 7M11.5 4.5l-7 7'/>";
     case Symbol::close:
       return "<path d='M4 4l8 8M12 4l-8 8'/>";
     case Symbol::copy:
@@ -31,8 +31,6 @@ const char* shape(Symbol symbol) {
       return "<rect x='2.5' y='2.5' width='4.5' height='4.5' rx='1'/><rect x='9' y='2.5' width='4.5' "
              "height='4.5' rx='1'/><rect x='2.5' y='9' width='4.5' height='4.5' rx='1'/><rect x='9' y='9' "
              "width='4.5' height='4.5' rx='1'/>";
-    case Symbol::info:
-      return "<circle cx='8' cy='8' r='5.8'/><path d='M8 7.5v3.5M8 5v.2'/>";
     case Symbol::menu:
       return "<path d='M2.5 4.5h11M2.5 8h11M2.5 11.5h11'/>";
     case Symbol::recent:
@@ -87,6 +85,15 @@ class SymbolEngine : public QIconEngine {
 
 QIcon symbolIcon(Symbol symbol) {
   return QIcon(new SymbolEngine(symbol));
+}
+
+void addSearchIcon(QLineEdit& field, const QString& searchName, const QString& clearName) {
+  field.setClearButtonEnabled(true);
+  field.addAction(symbolIcon(Symbol::search), QLineEdit::LeadingPosition)->setText(searchName);
+  // The button that Qt puts into the field has no name of its own.
+  for (QAction* const action : field.findChildren<QAction*>()) {
+    if (action->text().isEmpty()) action->setText(clearName);
+  }
 }
 
 }  // namespace browser

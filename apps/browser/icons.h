@@ -3,6 +3,8 @@
 
 #include <QIcon>
 
+class QLineEdit;
+
 namespace browser {
 
 /// The symbols of buttons and menus. They are drawn in the text colour of the palette, so they suit light and
@@ -11,11 +13,9 @@ enum class Symbol {
   add,
   back,
   check,
-  clear,
   close,
   copy,
   grid,
-  info,
   menu,
   recent,
   remove,
@@ -27,5 +27,9 @@ enum class Symbol {
 };
 
 QIcon symbolIcon(Symbol symbol);
+
+/// Puts a magnifying glass and a button to empty the field into a search field. The names are for assistive
+/// technology.
+void addSearchIcon(QLineEdit& field, const QString& searchName, const QString& clearName);
 
 }  // namespace browser

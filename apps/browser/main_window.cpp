@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QDialogButtonBox>
 #include <QDragEnterEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -13,6 +14,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -86,8 +88,7 @@ QWidget* MainWindow::makeHeader() {
   sidebarButton_ = newButton(Symbol::sidebar, tr("Groups (F9)"));
   searchField_ = new QLineEdit;
   searchField_->setPlaceholderText(tr("Search by name, meaning, code or character"));
-  searchField_->setClearButtonEnabled(true);
-  searchField_->addAction(symbolIcon(Symbol::search), QLineEdit::LeadingPosition);
+  addSearchIcon(*searchField_, tr("Search"), tr("Empty the search field"));
   searchField_->setAccessibleName(tr("Search"));
   searchField_->setMinimumHeight(searchField_->fontMetrics().height() + 16);
   searchField_->installEventFilter(this);
@@ -502,7 +503,11 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
       return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (grid_->current() >= 0) copyCharacter(grid_->current(), key->modifiers());
+      if (grid_->current() >= 0) {
+        copyCharacter(grid_->current(), key->modifiers());
+      } else if (filter_.elsewhere() > 0) {
+        chooseScope({Scope::Kind::all});  // Enter once more copies the first one there
+      }
       return true;
     default:
       return false;
@@ -617,10 +622,19 @@ void MainWindow::showShortcuts() {
   for (const Row& row : rows) {
     table += QStringLiteral("<tr><td><b>%1</b>&nbsp;&nbsp;</td><td>%2</td></tr>").arg(row.keys, row.effect);
   }
-  QMessageBox box(this);
-  box.setWindowTitle(tr("Keys and mouse"));
-  box.setText(table + QStringLiteral("</table>"));
-  box.exec();
+  // A message box would become narrow and high on small screens.
+  QDialog dialog(this);
+  dialog.setWindowTitle(tr("Keys and mouse"));
+  auto* const column = new QVBoxLayout(&dialog);
+  auto* const text = new QLabel(table + QStringLiteral("</table>"));
+  text->setWordWrap(true);
+  auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  column->addWidget(text);
+  column->addWidget(buttons);
+  connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+  const int width = std::min(560, screen()->availableGeometry().width() - 20);
+  dialog.resize(width, dialog.heightForWidth(width));
+  dialog.exec();
 }
 
 void MainWindow::showPreferences() {

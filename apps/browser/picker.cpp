@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QScreen>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -25,6 +26,7 @@ namespace {
 
 constexpr QSize pickerSize(440, 420);
 constexpr int pickerCell = 46;
+constexpr int leavingMilliseconds = 250;
 
 }  // namespace
 
@@ -45,7 +47,7 @@ Picker::Picker(Catalog& catalog)
   column->setSpacing(6);
   field_->setPlaceholderText(tr("Search by name, meaning, code or character"));
   field_->setAccessibleName(tr("Search"));
-  field_->addAction(symbolIcon(Symbol::search), QLineEdit::LeadingPosition);
+  addSearchIcon(*field_, tr("Search"), tr("Empty the search field"));
   field_->setMinimumHeight(field_->fontMetrics().height() + 16);
   field_->installEventFilter(this);
   grid_->setRulerShown(false);
@@ -192,9 +194,17 @@ void Picker::closeEvent(QCloseEvent* event) {
 
 void Picker::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  // A click beside the window closes it, unless the user has collected something.
-  const bool isLeft = event->type() == QEvent::ActivationChange && isVisible() && !isActiveWindow();
-  if (isLeft && collector_->text().isEmpty() && !QGuiApplication::focusWindow()) finish({});
+  if (event->type() != QEvent::ActivationChange) return;
+  // A click beside the window closes it, unless the user has collected something. On Wayland, the focus also
+  // leaves for a moment when a keyboard or an input method comes or goes.
+  const auto isLeft = [this] {
+    return isVisible() && !isActiveWindow() && !QGuiApplication::focusWindow() &&
+           collector_->text().isEmpty();
+  };
+  if (!isLeft()) return;
+  QTimer::singleShot(leavingMilliseconds, this, [this, isLeft] {
+    if (isLeft()) finish({});
+  });
 }
 
 void Picker::paintEvent(QPaintEvent*) {

@@ -17,8 +17,12 @@ struct TypingTool {
 /// wtype on Wayland.
 TypingTool typingTool();
 
-/// Types the text into the window that has the focus. `done` is told whether the tool succeeded. Returns at
-/// once.
-void typeText(const QString& text, std::function<void(bool)> done);
+/// Returns the window that has the focus on X11, as the number that xdotool takes. Empty elsewhere, and if no
+/// window has the focus.
+QString focusedWindow();
+
+/// Types the text into the window, which gets the focus, or into the one that has the focus if `window` is
+/// empty. `done` is told whether the tool succeeded. Returns at once.
+void typeText(const QString& text, const QString& window, std::function<void(bool)> done);
 
 }  // namespace browser

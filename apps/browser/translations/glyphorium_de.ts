@@ -1162,6 +1162,10 @@
             <source>back from a link on the card</source>
             <translation>von einem Link der Karte zurück</translation>
         </message>
+        <message>
+            <source>Empty the search field</source>
+            <translation>Suchfeld leeren</translation>
+        </message>
     </context>
     <context>
         <name>browser::Picker</name>
@@ -1184,6 +1188,10 @@
         <message>
             <source>Enter: copy · Ctrl+Enter: collect · Alt+Enter: other form</source>
             <translation>Eingabe: kopieren · Strg+Eingabe: sammeln · Alt+Eingabe: andere Form</translation>
+        </message>
+        <message>
+            <source>Empty the search field</source>
+            <translation>Suchfeld leeren</translation>
         </message>
     </context>
     <context>

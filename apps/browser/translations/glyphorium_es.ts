@@ -1162,6 +1162,10 @@
             <source>back from a link on the card</source>
             <translation>volver de un enlace de la ficha</translation>
         </message>
+        <message>
+            <source>Empty the search field</source>
+            <translation>Vaciar el campo de búsqueda</translation>
+        </message>
     </context>
     <context>
         <name>browser::Picker</name>
@@ -1184,6 +1188,10 @@
         <message>
             <source>Enter: copy · Ctrl+Enter: collect · Alt+Enter: other form</source>
             <translation>Intro: copiar · Ctrl+Intro: reunir · Alt+Intro: otra forma</translation>
+        </message>
+        <message>
+            <source>Empty the search field</source>
+            <translation>Vaciar el campo de búsqueda</translation>
         </message>
     </context>
     <context>

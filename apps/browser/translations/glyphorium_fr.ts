@@ -1162,6 +1162,10 @@
             <source>back from a link on the card</source>
             <translation>revenir d’un lien de la fiche</translation>
         </message>
+        <message>
+            <source>Empty the search field</source>
+            <translation>Vider le champ de recherche</translation>
+        </message>
     </context>
     <context>
         <name>browser::Picker</name>
@@ -1184,6 +1188,10 @@
         <message>
             <source>Enter: copy · Ctrl+Enter: collect · Alt+Enter: other form</source>
             <translation>Entrée : copier · Ctrl+Entrée : collecter · Alt+Entrée : autre forme</translation>
+        </message>
+        <message>
+            <source>Empty the search field</source>
+            <translation>Vider le champ de recherche</translation>
         </message>
     </context>
     <context>

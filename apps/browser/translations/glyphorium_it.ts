@@ -1162,6 +1162,10 @@
             <source>back from a link on the card</source>
             <translation>torna da un collegamento della scheda</translation>
         </message>
+        <message>
+            <source>Empty the search field</source>
+            <translation>Svuota il campo di ricerca</translation>
+        </message>
     </context>
     <context>
         <name>browser::Picker</name>
@@ -1184,6 +1188,10 @@
         <message>
             <source>Enter: copy · Ctrl+Enter: collect · Alt+Enter: other form</source>
             <translation>Invio: copia · Ctrl+Invio: raccogli · Alt+Invio: altra forma</translation>
+        </message>
+        <message>
+            <source>Empty the search field</source>
+            <translation>Svuota il campo di ricerca</translation>
         </message>
     </context>
     <context>
