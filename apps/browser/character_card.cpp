@@ -459,7 +459,9 @@ void CharacterCard::fill(QGridLayout* table, const std::vector<std::pair<QString
       }
       if (!label) continue;
       label->setVisible(isUsed);
-      if (isUsed) label->setText(column == 0 ? rows[row].first : rows[row].second);
+      if (!isUsed) continue;
+      const auto& [title, value] = rows[static_cast<std::size_t>(row)];
+      label->setText(column == 0 ? title : value);
     }
   }
 }

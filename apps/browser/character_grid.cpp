@@ -48,9 +48,10 @@ bool isShownAsBox(const glyph::Entity& entity) {
 GlyphRequest cellRequest(const glyph::Entity& entity, int cellSize, double ratio) {
   GlyphRequest request;
   const std::u32string points = glyph::codePoints(entity.computed.symbol.view());
-  const bool isMark = !points.empty() && glyph::isCombining(points.front());
-  // A mark stands on a dotted circle. Anything else is drawn as it is, private use included: the user may
-  // have a font.
+  const bool isMark = !points.empty() && glyph::isCombining(points.front()) &&
+                      glyph::characterCategory(points.front()) != "Me";
+  // A mark stands on a dotted circle, unless it encloses: few fonts centre it on one. Anything else is drawn
+  // as it is, private use included: the user may have a font.
   request.text = isMark ? shownText(entity) : fromUtf8(entity.computed.symbol);
   const bool isEmoji = entity.computed.group.empty() && glyph::emojiPlace(entity.computed.symbol).has_value();
   if (isEmoji || entity.computed.group.view() == "emoji") {

@@ -247,7 +247,7 @@ void MainWindow::makeUndoActions() {
   QAction* const redo = menu_->addAction(tr("Redo"), &stack, &QUndoStack::redo);
   undo->setShortcut(QKeySequence::Undo);
   redo->setShortcut(QKeySequence::Redo);
-  const auto refresh = [=, this, &stack] {
+  const auto refresh = [=, &stack] {
     undo->setEnabled(stack.canUndo());
     redo->setEnabled(stack.canRedo());
     undo->setText(stack.canUndo() ? tr("Undo: %1").arg(stack.undoText()) : tr("Undo"));

@@ -188,7 +188,9 @@ TEST_F(MainWindowTest, DrawsEachCharacterOrABoxForIt) {
   for (const char* const invisible : {"0020", "200d", "000a", "feff"}) {
     EXPECT_TRUE(isShownAsBox(catalog.entity(invisible))) << invisible;
   }
+  EXPECT_FALSE(isShownAsBox(catalog.entity("1f8c0"))) << "newer than the tables of ICU";
   EXPECT_EQ(cellRequest(catalog.entity("0301"), 64, 1).text, QString::fromUtf8("◌\u0301"));
+  EXPECT_EQ(cellRequest(catalog.entity("20dd"), 64, 1).text, QString::fromUtf8("\u20DD"));
 }
 
 TEST_F(MainWindowTest, ALongPressChoosesTheSkinToneForGood) {
