@@ -145,7 +145,7 @@ TEST(NameTable, FindsTheFirstEntryOfEachCodeAndDecodesCompletely) {
 
 TEST(NameCompletion, NamesAndFilters) {
   const struct {
-    std::string hex, result, name, group = "custom";
+    std::string hex, result, name = "", group = "custom";
   } cases[] = {{"0000", "Null Character (Control)"},
                {"1F600", "Grinning Face"},
                {"f90a", "Cjk Compatibility Ideograph-F90A"},
