@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QToolButton>
 #include <QTranslator>
+#include <cmath>
 
 #include "appearance.h"
 #include "browser_fixture.h"
@@ -250,7 +251,32 @@ TEST_F(MainWindowTest, PickerCopiesAndCloses) {
   EXPECT_THAT(storedList("recentlyCopiedCharacters"), ElementsAre("2192", "21d0", "20ac"));
 }
 
-// In each language, the texts are translated, and the windows still fit on a narrow screen.
+// The contrast of WCAG 2: at least 4.5 to 1 for texts.
+TEST_F(BrowserTest, TextsAreLegibleInBothThemes) {
+  const auto luminance = [](const QColor& colour) {
+    const auto linear = [](float part) {
+      return part <= 0.04045F ? part / 12.92F : std::pow((part + 0.055F) / 1.055F, 2.4F);
+    };
+    return 0.2126F * linear(colour.redF()) + 0.7152F * linear(colour.greenF()) +
+           0.0722F * linear(colour.blueF());
+  };
+  for (const auto theme : {Appearance::Theme::light, Appearance::Theme::dark}) {
+    const Appearance appearance(theme);
+    const QPalette colours = QApplication::palette();
+    for (const auto& [text, ground] : {std::pair{QPalette::Text, QPalette::Base},
+                                       {QPalette::WindowText, QPalette::Window},
+                                       {QPalette::PlaceholderText, QPalette::Base},
+                                       {QPalette::PlaceholderText, QPalette::Window},
+                                       {QPalette::Link, QPalette::Window},
+                                       {QPalette::HighlightedText, QPalette::Highlight}}) {
+      const float one = luminance(colours.color(text)), other = luminance(colours.color(ground));
+      EXPECT_GE((std::max(one, other) + 0.05F) / (std::min(one, other) + 0.05F), 4.5F)
+          << Appearance::nameOf(theme) << ' ' << text << " on " << ground;
+    }
+  }
+}
+
+// In each language all texts are there, and the window still fits on a narrow screen.
 TEST_F(BrowserTest, SpeaksFiveLanguages) {
   for (const char* const language : {"en", "de", "fr", "it", "es"}) {
     QTranslator translator;
