@@ -235,6 +235,7 @@ QBoxLayout* CharacterCard::makeButtons() {
   collect_->setToolTip(tr("Collect, to copy it together with others"));
   row->addWidget(copy_, 1);
   for (QToolButton* const button : {favourite_, add_, collect_}) row->addWidget(button);
+  row->addStretch();
   connect(copy_, &QPushButton::clicked, this,
           [this] { Q_EMIT copyRequested(*glyph::copyForm("character")); });
   connect(favourite_, &QToolButton::clicked, this, &CharacterCard::favouriteRequested);
@@ -249,6 +250,7 @@ void CharacterCard::setCompact(bool compact) {
   glyph_->setFixedHeight(compact ? 120 : 168);
   glyph_->setMinimumWidth(120);
   glyph_->setMaximumWidth(compact ? 120 : QWIDGETSIZE_MAX);
+  copy_->setMaximumWidth(compact ? 260 : QWIDGETSIZE_MAX);
   head_->setAlignment(glyph_, compact ? Qt::AlignTop : Qt::Alignment());
 }
 
