@@ -101,18 +101,6 @@ GlyphPicture draw(const GlyphRequest& request, const QString& family, const QCol
   return picture;
 }
 
-// Qt sorts all fonts when a text of the window, such as what is typed into the search field, first has a
-// character that the window's own font has not: 40 ms with 2,000 fonts. It remembers the result for all
-// threads, by script.
-void prepareFallbacks() {
-  for (const char* const text : {"😀", "中", "ا", "א", "अ", "ไ"}) {
-    QTextLayout layout(QString::fromUtf8(text), QGuiApplication::font());
-    layout.beginLayout();
-    layout.createLine();
-    layout.endLayout();
-  }
-}
-
 }  // namespace
 
 size_t qHash(const GlyphRequest& request, size_t seed) {
@@ -237,11 +225,6 @@ void GlyphRenderer::work() {
       const bool isNeeded =
           wake_.wait_for(lock, longestIdling, [&] { return stopping_ || !waiting_.empty(); });
       if (stopping_) return;
-      if (!isNeeded && !std::exchange(hasPreparedFallbacks_, true)) {
-        lock.unlock();
-        prepareFallbacks();
-        continue;
-      }
       if (!isNeeded || ++count > mostPicturesOfThread) {
         isWorking_ = false;
         lock.unlock();

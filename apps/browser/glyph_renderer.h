@@ -100,7 +100,6 @@ class GlyphRenderer : public QObject {
   // What follows belongs to the thread while it works.
   std::optional<FontCoverage> coverage_;
   QString coveredFamily_;
-  bool hasPreparedFallbacks_ = false;
   std::unique_ptr<QThread> thread_;
 };
 
