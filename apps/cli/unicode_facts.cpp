@@ -95,9 +95,9 @@ void addCodePoint(Lines& lines, char32_t codePoint) {
   const CharacterFacts facts = glyph::characterFacts(codePoint);
   lines.emplace_back("Unicode", placeOf(facts));
   lines.emplace_back("Properties", propertiesOf(facts));
-  lines.emplace_back("Meaning", std::string(facts.hanDefinition));
+  lines.emplace_back("Meaning", facts.hanDefinition);
   lines.emplace_back("Readings", readingsOf(facts));
-  std::vector<std::string_view> names = facts.formalAliases;
+  std::vector<std::string> names = facts.formalAliases;
   names.insert(names.end(), facts.otherNames.begin(), facts.otherNames.end());
   lines.emplace_back("Also called", joined(names, ", "));
   lines.emplace_back("Remarks", joined(facts.comments, "; "));

@@ -7,6 +7,8 @@
 #include <unordered_set>
 
 #include "character_text.h"
+#include "glyphorium/characters/characters.h"
+#include "glyphorium/characters/emoji.h"
 #include "glyphorium/codes/code_parsing.h"
 #include "glyphorium/services/application/application.h"
 #include "glyphorium/services/settings/settings_store.h"
@@ -123,6 +125,15 @@ std::string settingsState() {
   return state;
 }
 
+// Returns whether a character beyond the catalog is an emoji, or the query is its name. There are so many
+// others that those that only have words of the query would be in the way, and so would ideographs that mean it.
+bool isNamed(const Entity& entity, const SearchResult& result) {
+  const auto codePoint = static_cast<char32_t>(entity.computed.decimal);
+  const bool isMeaning =
+      result.field == glyph::SearchField::annotation && glyph::characterFacts(codePoint).script == "Han";
+  return glyph::emojiPlace(entity.computed.symbol).has_value() || (result.exact && !isMeaning);
+}
+
 }  // namespace
 
 bool isScoped(std::string_view query) {
@@ -172,7 +183,8 @@ std::vector<Found> CharacterSearch::find(std::string_view query, std::size_t lim
     if (found.size() == limit) break;
     const Entity entity = search_->entity(result);
     const std::string& hex = entity.computed.hex;
-    if (wholeCatalog_ || search_->isAdded(result) || indexes_.item(hex))
+    const bool isWanted = wholeCatalog_ && (search_->isInCatalog(result) || isNamed(entity, result));
+    if (isWanted || search_->isOfUser(result) || indexes_.item(hex))
       add(hex, entity, exactnessOf(wanted, entity, result));
   }
   for (const glyph::SearchableItem& item : indexes_.search(query, static_cast<int>(limit))) {

@@ -13,8 +13,7 @@ namespace glyph {
 struct CharacterAnnotation {
   /// The text-to-speech name: "melting face", "Flagge: Deutschland". Empty if there is none.
   std::string name;
-  /// The keywords are constants of the library.
-  std::vector<std::string_view> keywords;
+  std::vector<std::string> keywords;
 };
 
 /// Returns what CLDR says about a character or an emoji, with U+FE0F or without. Emoji with skin tones have

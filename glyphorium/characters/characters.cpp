@@ -58,22 +58,21 @@ void readCaseMappings(CharacterFacts& facts) {
 void readRemarks(CharacterFacts& facts) {
   const std::string_view aliases = nameAliases.find(facts.codePoint).value_or("");
   for (std::size_t i = 1; !column(aliases, i).empty(); i += 2)
-    facts.formalAliases.push_back(column(aliases, i));
-  const std::string_view line = remarks.find(facts.codePoint).value_or("");
+    facts.formalAliases.emplace_back(column(aliases, i));
+  const std::string line = remarks.find(facts.codePoint);
   for (std::size_t i = 0; !column(line, i).empty(); i += 2) {
-    if (column(line, i) == "alias") facts.otherNames.push_back(column(line, i + 1));
-    if (column(line, i) == "comment") facts.comments.push_back(column(line, i + 1));
+    if (column(line, i) == "alias") facts.otherNames.emplace_back(column(line, i + 1));
+    if (column(line, i) == "comment") facts.comments.emplace_back(column(line, i + 1));
   }
 }
 
 void readHan(CharacterFacts& facts) {
-  const auto line = hanReadings.find(facts.codePoint);
-  if (!line) return;
-  facts.hanDefinition = column(*line, 0);
-  facts.mandarin = column(*line, 1);
-  facts.japaneseOn = column(*line, 2);
-  facts.japaneseKun = column(*line, 3);
-  facts.korean = column(*line, 4);
+  const std::string line = hanReadings.find(facts.codePoint);
+  facts.hanDefinition = column(line, 0);
+  facts.mandarin = column(line, 1);
+  facts.japaneseOn = column(line, 2);
+  facts.japaneseKun = column(line, 3);
+  facts.korean = column(line, 4);
 }
 
 // Returns the letters and digits of the text in lower case.

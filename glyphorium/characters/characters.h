@@ -45,14 +45,14 @@ struct CharacterFacts {
   std::u32string lowerCase;
   std::u32string titleCase;
   std::string_view numericValue;                ///< "1/2", "1000"
-  std::vector<std::string_view> formalAliases;  ///< corrections, names of controls, abbreviations
-  std::vector<std::string_view> otherNames;     ///< informal aliases of the code charts
-  std::vector<std::string_view> comments;       ///< remarks of the code charts
-  std::string_view hanDefinition;               ///< English meaning of an ideograph
-  std::string_view mandarin;                    ///< readings; blanks separate several
-  std::string_view japaneseOn;
-  std::string_view japaneseKun;
-  std::string_view korean;
+  std::vector<std::string> formalAliases;  ///< corrections, names of controls, abbreviations
+  std::vector<std::string> otherNames;     ///< informal aliases of the code charts
+  std::vector<std::string> comments;       ///< remarks of the code charts
+  std::string hanDefinition;               ///< English meaning of an ideograph
+  std::string mandarin;                    ///< readings; blanks separate several
+  std::string japaneseOn;
+  std::string japaneseKun;
+  std::string korean;
 };
 
 /// Returns what is known about the code point. If the number is above 10FFFF, all texts are empty. Any thread

@@ -10,7 +10,7 @@ namespace {
 
 std::u32string crossReferences(char32_t codePoint) {
   std::u32string references;
-  const std::string_view line = remarks.find(codePoint).value_or("");
+  const std::string line = remarks.find(codePoint);
   for (std::size_t i = 0; !column(line, i).empty(); i += 2) {
     if (column(line, i) == "see") references += codePoints(column(line, i + 1));
   }

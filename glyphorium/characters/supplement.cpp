@@ -11,8 +11,8 @@
 #include "glyphorium/characters/names.h"
 #include "glyphorium/codes/code_formats.h"
 #include "glyphorium/data/character_tables.h"
-#include "glyphorium/data/embedded_image.h"
 #include "glyphorium/data/name_capitalization.h"
+#include "glyphorium/data/name_table_lines.h"
 #include "glyphorium/data/prepared_rows.h"
 #include "glyphorium/text/ascii.h"
 #include "glyphorium/text/text_pieces.h"
@@ -40,9 +40,16 @@ std::string hexListOf(std::string_view text) {
 }
 
 std::string nameOfCodePoint(char32_t codePoint) {
-  const CharacterFacts facts = characterFacts(codePoint);
-  if (!facts.name.empty()) return capitalizedName(facts.name);
-  return facts.formalAliases.empty() ? facts.label : capitalizedName(facts.formalAliases.front());
+  if (const std::string name = characterName(codePoint); !name.empty()) {
+    std::string shown = capitalizedName(name);
+    // The code at the end of a computed name stays as it is.
+    const std::size_t code = name.rfind('-') + 1;
+    if (code > 0 && ascii::number(std::string_view(name).substr(code), 16) == codePoint)
+      shown.replace(code, std::string::npos, name, code);
+    return shown;
+  }
+  const std::string_view alias = column(nameAliases.find(codePoint).value_or(""), 1);
+  return alias.empty() ? characterNameOrLabel(codePoint) : capitalizedName(alias);
 }
 
 std::unordered_set<char32_t> codePointsOfCatalog() {
@@ -99,11 +106,10 @@ std::vector<std::string> supplementTexts() {
   const auto add = [&](char32_t codePoint) {
     if (known.insert(codePoint).second) texts.push_back(utf8(codePoint));
   };
-  for (std::size_t i = 0; i < nameIndex.size(); ++i) {
-    const char32_t codePoint = nameIndex[i].codePoint;
-    const std::string name = characterName(codePoint);
+  for (auto line = nameTableLine(firstNameTableLine); line; line = nameTableLine(line->next)) {
     // The first and the last character of a range stand in the table under a label.
-    if (!name.empty() && structuredUnicodeJsonText[nameIndex[i].offset] != '<') add(codePoint);
+    if (!line->entry.name.starts_with('<') && characterStatus(line->codePoint) == CharacterStatus::assigned)
+      add(line->codePoint);
   }
   for (std::size_t i = 0; i < laterNames.size(); ++i) add(laterNames.codePoint(i));
   for (std::size_t i = 0; i < hanReadings.size(); ++i) {

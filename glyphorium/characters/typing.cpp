@@ -23,9 +23,9 @@ std::vector<WayToType> waysToType(std::string_view text) {
   std::vector<WayToType> ways;
   const auto key = characterKey(text);
   if (!key) return ways;
-  const auto addColumns = [&](std::string_view method, const CodePointTexts& table,
+  const auto addColumns = [&](std::string_view method, const PackedTexts& table,
                               std::string_view around = "") {
-    const std::string_view line = table.find(*key).value_or("");
+    const std::string line = table.find(*key);
     for (std::size_t i = 0; !column(line, i).empty(); ++i) {
       const std::string way = std::string(around) + std::string(column(line, i)) + std::string(around);
       const bool isKnown = std::any_of(ways.begin(), ways.end(), [&](const WayToType& one) {

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "glyphorium/data/code_point_texts.h"
+#include "glyphorium/data/packed_texts.h"
 
 /// Facts about all characters of Unicode 17.0 and about emoji, in the library's read-only image. The
 /// generator creates them from the source files in characters/ and input/. In the columns, several code
@@ -33,9 +34,9 @@ extern const CodePointTexts mirrorImages;
 /// Type of an alias, alias, and so on.
 extern const CodePointTexts nameAliases;
 /// Kind of a remark ("alias", "comment", or "see" with a code point), text, and so on.
-extern const CodePointTexts remarks;
+extern const PackedTexts remarks;
 /// Definition, readings: Mandarin, Japanese on, Japanese kun, Korean.
-extern const CodePointTexts hanReadings;
+extern const PackedTexts hanReadings;
 /// The text to which all characters of a class look alike, the characters of the class.
 extern const CodePointTexts lookAlikeClasses;
 
@@ -54,28 +55,27 @@ extern const CodePointTexts emojiOrder;
 /// its name.
 inline constexpr char32_t toneSample = 0x1F44B;
 
-/// Names and keywords of emoji of several characters and of characters that came after Unicode 13.0, in a
-/// language.
+/// Names and keywords of CLDR in a language.
 struct CharacterAnnotations {
   std::string_view language;  ///< BCP 47
-  /// By code point or number of an emoji: name, keywords separated by "|". An emoji of one skin tone is left
-  /// out if its name is that of the emoji without, and then what the name of toneSample in this tone adds to
-  /// that of toneSample.
-  CodePointTexts texts;
+  /// By code point or number of an emoji: the text-to-speech name, which may be empty, and the keywords,
+  /// separated by line feeds. An emoji of one skin tone is left out if its name is that of the emoji without,
+  /// and then what the name of toneSample in this tone adds to that of toneSample.
+  PackedTexts texts;
 };
 extern const std::span<const CharacterAnnotations> characterAnnotations;
 
 /// How characters are typed. By code point, or by number of an emoji if there are several code points.
 /// Keys after the Compose key, separated by spaces; each column is one sequence.
-extern const CodePointTexts composeKeys;
+extern const PackedTexts composeKeys;
 /// Each column is one command; those on which more sources agree come first.
-extern const CodePointTexts latexCommands;
+extern const PackedTexts latexCommands;
 /// Each column is one digraph.
-extern const CodePointTexts digraphs;
+extern const PackedTexts digraphs;
 /// Each column is one name of a keysym of X11.
-extern const CodePointTexts keysyms;
+extern const PackedTexts keysyms;
 /// Each column is one shortcode, without colons.
-extern const CodePointTexts shortcodes;
+extern const PackedTexts shortcodes;
 /// Code page, number, and so on.
 extern const CodePointTexts altCodes;
 

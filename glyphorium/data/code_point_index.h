@@ -3,15 +3,14 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <optional>
 #include <string_view>
 
 namespace glyph {
 
 /// The offsets at which the texts of code points begin in a longer text. The index consists of pairs of
-/// 32-bit integers, a code point and an offset, in ascending order of code points. This is a view of the
-/// library's read-only image.
+/// little-endian 24-bit integers, a code point and an offset, in ascending order of code points. This is a view
+/// of the library's read-only image.
 class CodePointIndex {
  public:
   struct Entry {
@@ -19,14 +18,15 @@ class CodePointIndex {
     std::uint32_t offset;
   };
 
+  static constexpr std::size_t numberSize = 3;  ///< in bytes
+
   explicit constexpr CodePointIndex(std::string_view pairs) : pairs_(pairs) {}
 
-  std::size_t size() const noexcept { return pairs_.size() / sizeof(Entry); }
+  std::size_t size() const noexcept { return pairs_.size() / (2 * numberSize); }
 
   Entry operator[](std::size_t position) const noexcept {
-    Entry entry;
-    std::memcpy(&entry, pairs_.data() + position * sizeof entry, sizeof entry);
-    return entry;
+    const char* const pair = pairs_.data() + position * 2 * numberSize;
+    return {number(pair), number(pair + numberSize)};
   }
 
   /// Returns the part of `text` from the offset of the entry at this position to the offset of the next entry
@@ -37,22 +37,32 @@ class CodePointIndex {
     return text.substr(begin, end - begin);
   }
 
-  /// Returns the position of the code point's entry. Returns nullopt if there is no such entry.
-  std::optional<std::size_t> find(std::uint32_t codePoint) const noexcept {
+  /// Returns the position of the last entry whose code point is not greater. Returns nullopt if there is none.
+  std::optional<std::size_t> findUpTo(std::uint32_t codePoint) const noexcept {
     std::size_t begin = 0;
     for (std::size_t end = size(); begin < end;) {
       const std::size_t middle = begin + (end - begin) / 2;
-      if ((*this)[middle].codePoint < codePoint) {
+      if ((*this)[middle].codePoint <= codePoint) {
         begin = middle + 1;
       } else {
         end = middle;
       }
     }
-    if (begin == size() || (*this)[begin].codePoint != codePoint) return std::nullopt;
-    return begin;
+    return begin ? std::optional(begin - 1) : std::nullopt;
+  }
+
+  /// Returns the position of the code point's entry. Returns nullopt if there is no such entry.
+  std::optional<std::size_t> find(std::uint32_t codePoint) const noexcept {
+    const auto position = findUpTo(codePoint);
+    return position && (*this)[*position].codePoint == codePoint ? position : std::nullopt;
   }
 
  private:
+  static std::uint32_t number(const char* bytes) noexcept {
+    const auto byte = [&](int i) { return std::uint32_t{static_cast<unsigned char>(bytes[i])} << 8 * i; };
+    return byte(0) | byte(1) | byte(2);
+  }
+
   std::string_view pairs_;
 };
 

@@ -34,16 +34,7 @@ struct CodePointTexts {
   /// Returns the position of the last entry whose code point is not greater. Returns nullopt if there is
   /// none.
   std::optional<std::size_t> positionUpTo(char32_t codePoint) const noexcept {
-    std::size_t begin = 0;
-    for (std::size_t end = size(); begin < end;) {
-      const std::size_t middle = begin + (end - begin) / 2;
-      if (index[middle].codePoint <= codePoint) {
-        begin = middle + 1;
-      } else {
-        end = middle;
-      }
-    }
-    return begin ? std::optional(begin - 1) : std::nullopt;
+    return index.findUpTo(codePoint);
   }
 };
 

@@ -18,7 +18,8 @@ extern const std::string_view structuredUnicodeJsonText;
 extern const EmbeddedText embeddedTextList[];
 extern const std::size_t embeddedTextCount;
 
-/// For each code point, the offset in structuredUnicodeJSON() of the name in the code point's first entry.
+/// For some code points, the offset in structuredUnicodeJSON() of the line with the code point's first entry.
+/// The lines of the code points up to the next one in the index follow this line.
 extern const CodePointIndex nameIndex;
 
 /// For each code point that has enrichment, the offset in preparedEnrichment of its row.

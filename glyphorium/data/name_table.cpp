@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "glyphorium/data/embedded_image.h"
+#include "glyphorium/data/name_table_lines.h"
 #include "glyphorium/text/ascii.h"
 
 namespace glyph {
@@ -22,25 +23,43 @@ std::string_view structuredUnicodeJSON() noexcept {
   return structuredUnicodeJsonText;
 }
 
+std::optional<NameTableLine> nameTableLine(std::size_t offset) noexcept {
+  // {"hex":"0041","name":"LATIN CAPITAL LETTER A","isSFSymbol":false},
+  constexpr std::string_view beforeHex = "{\"hex\":\"";
+  constexpr std::string_view beforeName = "\",\"name\":\"";
+  if (offset >= structuredUnicodeJsonText.size()) return std::nullopt;
+  std::string_view rest = structuredUnicodeJsonText.substr(offset);
+  if (!rest.starts_with(beforeHex)) return std::nullopt;
+  const std::size_t end = rest.find('\n');
+  const std::size_t next = end == std::string_view::npos ? structuredUnicodeJsonText.size() : offset + end + 1;
+  rest.remove_prefix(beforeHex.size());
+  const std::size_t hexSize = rest.find('"');
+  const auto codePoint = ascii::number(rest.substr(0, hexSize), 16);
+  rest.remove_prefix(hexSize + beforeName.size());
+  const std::size_t nameSize = rest.find('"');
+  // `","isSFSymbol":true` or `","isSFSymbol":false` follows the name.
+  const bool isSymbol = rest.substr(nameSize).starts_with("\",\"isSFSymbol\":t");
+  return NameTableLine{codePoint.value_or(0), {rest.substr(0, nameSize), isSymbol}, next};
+}
+
 std::optional<NameTableEntry> findName(std::string_view hex) noexcept {
   const auto codePoint = canonicalCodePoint(hex);
-  if (!codePoint) return std::nullopt;
-  const auto position = nameIndex.find(*codePoint);
-  if (!position) return std::nullopt;
-  const std::string_view rest = structuredUnicodeJSON().substr(nameIndex[*position].offset);
-  const std::size_t end = rest.find('"');
-  // `","isSFSymbol":true` or `","isSFSymbol":false` follows the name.
-  return NameTableEntry{rest.substr(0, end), rest.substr(end).starts_with("\",\"isSFSymbol\":t")};
+  const auto start = codePoint ? nameIndex.findUpTo(*codePoint) : std::nullopt;
+  if (!start) return std::nullopt;
+  for (auto line = nameTableLine(nameIndex[*start].offset); line && line->codePoint <= *codePoint;
+       line = nameTableLine(line->next)) {
+    if (line->codePoint == *codePoint) return line->entry;
+  }
+  return std::nullopt;
 }
 
 std::optional<char32_t> findCodePoint(std::string_view name) noexcept {
-  for (std::size_t position = 0; position < nameIndex.size(); ++position) {
-    const CodePointIndex::Entry entry = nameIndex[position];
-    const std::string_view stored = structuredUnicodeJSON().substr(entry.offset, name.size() + 1);
-    const bool isName = stored.size() > name.size() && stored.back() == '"' &&
+  for (auto line = nameTableLine(firstNameTableLine); line; line = nameTableLine(line->next)) {
+    const std::string_view stored = line->entry.name;
+    const bool isName = stored.size() == name.size() &&
                         std::equal(name.begin(), name.end(), stored.begin(),
                                    [&](char a, char b) { return ascii::lowered(a) == ascii::lowered(b); });
-    if (isName) return entry.codePoint;
+    if (isName) return line->codePoint;
   }
   return std::nullopt;
 }

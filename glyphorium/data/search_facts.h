@@ -9,16 +9,12 @@
 #include "glyphorium/data/code_point_index.h"
 
 /// Data of the search that is not in the tables. The data is in the library's read-only image. The generator
-/// creates the data from the source files in search/, from groups.tsv, from Unicode's list of names, and
-/// from the file of HTML references.
+/// creates the data from the source files in search/, from groups.tsv, and from the file of HTML references.
 namespace glyph {
 
 enum class SearchFactKind : std::uint8_t {
   alias,         ///< formal aliases and abbreviations in Unicode's NameAliases file
-  informalName,  ///< informal aliases in Unicode's list of names
-  comment,       ///< comments in Unicode's list of names
   htmlName,      ///< all names of the HTML Standard's references, without "&" and ";"
-  annotation,    ///< the text-to-speech name of CLDR, which may be empty, then the keywords of CLDR
   everydayName,  ///< names that people use for the character
   /// One text: the position in the list of the characters that people mean most often. It is a decimal number
   /// that starts at 0.

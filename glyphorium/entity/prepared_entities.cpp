@@ -85,6 +85,15 @@ std::optional<Entity> preparedEntity(std::size_t place) {
   return entity;
 }
 
+std::string preparedName(std::size_t place) {
+  if (place >= preparedRowCount()) return {};
+  const PreparedRow row = preparedRow(place);
+  if (row.enrichment != 0) return preparedEntity(place)->name();
+  // The name follows four other texts, each with a zero byte.
+  const std::size_t before = row.hexSize + row.htmlHexSize + row.htmlDecimalSize + row.symbolSize + 4u;
+  return std::string(preparedTexts.substr(row.texts + before, row.nameSize));
+}
+
 std::optional<AdditionalData> preparedEnrichmentOf(std::string_view hex) {
   const auto codePoint = ascii::number(hex, 16);
   const auto number = codePoint ? findPreparedEnrichment(*codePoint) : std::nullopt;

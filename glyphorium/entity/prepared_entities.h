@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -19,6 +20,9 @@ const std::vector<Entity>& preparedEntities();
 /// Returns a copy of the entity at the index `place` of preparedEntities(), without creating that list.
 /// Returns nullopt if the index is too large.
 std::optional<Entity> preparedEntity(std::size_t place);
+
+/// Returns Entity::name() of this entity. Empty if the index is too large.
+std::string preparedName(std::size_t place);
 
 /// Returns the enrichment of the entities with this hex code. Hex codes are compared byte for byte. Returns
 /// nullopt if there is no enrichment for the hex code.

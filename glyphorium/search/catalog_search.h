@@ -10,11 +10,12 @@
 #include "glyphorium/entity/records.h"
 #include "glyphorium/export.h"
 #include "glyphorium/search/search.h"
+#include "glyphorium/state/skin_tone.h"
 
 namespace glyph {
 
-/// Searches the catalog and the characters that the user added. It works without configure() and decodes only
-/// the entities that the caller asks for. If the user has added no characters, the constructor only reads the
+/// Searches the catalog, the characters that the user added, and all other characters and emoji of Unicode: the
+/// supplement. It works without configure() and decodes only the entities that the caller asks for. If the user has added no characters, the constructor only reads the
 /// setting. Otherwise the constructor also builds a Search over the added characters. Later changes of
 /// the setting do not affect an object: see isCurrent(). Immutable: any number of threads may use one object.
 class GLYPHORIUM_EXPORT CatalogSearch {
@@ -26,32 +27,51 @@ class GLYPHORIUM_EXPORT CatalogSearch {
   /// Glyphorium::customAddedEntityUnicodes() returns. A code without a name is ignored.
   explicit CatalogSearch(std::vector<std::string> addedCodes);
 
-  /// Searches like Search::query(). If a character is both added and in the catalog, only the added one is in
-  /// the results. If either the catalog or the added characters match the query without approximation,
-  /// approximate results of the other source are dropped. SearchResult::index is not a position in a list:
-  /// pass the result to entity() instead.
+  /// Searches like Search::query(). If a character is both added and in the catalog or the supplement, only
+  /// the added one is in the results. If one of the three matches the query without approximation,
+  /// approximate results of the others are dropped. Of equally good results, those of the catalog come first;
+  /// Han characters, which are found by their meanings and readings, come last.
+  ///
+  /// Emoji with skin tones are not results of their own beside the emoji without. Words such as "medium skin
+  /// tone" in the text choose the variant. Otherwise emoji have preferredSkinTone(), as it was when the object
+  /// was made, unless the text has the emoji itself.
+  ///
+  /// SearchResult::index is not a position in a list: pass the result to entity() instead. With
+  /// SearchOptions::supplement false, only the catalog and the added characters are searched.
   SearchResults query(std::string_view text, const SearchOptions& options = {}) const;
 
   /// Returns the entity of a result that query() of this object returned. Returns an empty entity if the
   /// index of the result is out of range.
   Entity entity(const SearchResult& result) const;
 
-  /// Returns the entity whose hex code or hex list is exactly this text ("2192", "0041,030a"). If a character
-  /// is both added and in the catalog, returns the added one. Returns nullopt if there is no such entity.
+  /// Returns the entity whose hex code or hex list is exactly this text ("2192", "0041,030a", "1f1e9,1f1ea").
+  /// If a character is both added and in the catalog, returns the added one. Returns nullopt if the text is no
+  /// character that has a name, and no emoji.
   std::optional<Entity> entityOfHex(std::string_view hex) const;
 
-  /// Returns true if settingsStore() still has the codes that this object uses. If not, make a new object.
+  /// Returns true if settingsStore() still has the codes and the skin tone that this object uses. If not, make a new object.
   bool isCurrent() const;
 
   /// Returns true if the result of this object is a character that the user added.
-  bool isAdded(const SearchResult& result) const { return result.index < added_.size(); }
+  bool isOfUser(const SearchResult& result) const { return result.index < added_.size(); }
 
-  /// Returns the position in Glyphorium::buildInEntities() of a result that is not an added character. A host that has
-  /// configured the catalog reads the entity there, which is much faster than entity() for thousands of results.
+  /// Returns true if the result is a character of the catalog that the user did not add.
+  bool isInCatalog(const SearchResult& result) const;
+
+  /// Returns true if the result is not in the catalog: the user added it, or it is in the supplement. Only
+  /// entity() has such a result.
+  bool isAdded(const SearchResult& result) const { return !isInCatalog(result); }
+
+  /// Returns the position in Glyphorium::buildInEntities() of a result for which isInCatalog() is true. A host
+  /// that has configured the catalog reads the entity there, which is much faster than entity() for thousands
+  /// of results.
   std::size_t buildInPlace(const SearchResult& result) const { return result.index - added_.size(); }
 
  private:
+  void useTone(SearchResults& found) const;
+
   std::vector<std::string> codes_;
+  SkinTone tone_;
   std::vector<Entity> added_;
   std::optional<Search> addedSearch_;  // empty if the user added no characters
 };

@@ -6,9 +6,21 @@
 namespace glyph::search {
 
 std::uint32_t Index::docOfCodePoint(std::uint32_t codePoint) const {
+  if (byCodePoint.empty()) {
+    for (auto prior = docPrior.begin(); prior != docPrior.end();) {
+      const auto next = std::upper_bound(prior, docPrior.end(), *prior);
+      const auto first = docCodePoint.begin() + (prior - docPrior.begin());
+      const auto last = docCodePoint.begin() + (next - docPrior.begin());
+      const auto found = std::lower_bound(first, last, codePoint);
+      if (found != last && *found == codePoint)
+        return static_cast<std::uint32_t>(found - docCodePoint.begin());
+      prior = next;
+    }
+    return noDoc;
+  }
   const auto found = std::lower_bound(byCodePoint.begin(), byCodePoint.end(), codePoint,
-                                      [](const CodePointDoc& a, std::uint32_t b) { return a.codePoint < b; });
-  return found == byCodePoint.end() || found->codePoint != codePoint ? noDoc : found->doc;
+                                      [&](std::uint32_t doc, std::uint32_t b) { return docCodePoint[doc] < b; });
+  return found == byCodePoint.end() || docCodePoint[*found] != codePoint ? noDoc : *found;
 }
 
 std::uint32_t Index::docOfHtmlName(std::string_view name) const {

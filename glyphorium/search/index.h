@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "glyphorium/search/text_list.h"
@@ -23,6 +24,8 @@ enum class PhraseKind : std::uint8_t {
   comment,  ///< a comment in the Unicode Standard's list of names
   keyword,  ///< weaker evidence than a name, because many characters share a keyword
   note,
+  meaning,  ///< one English meaning of a Han character
+  reading,  ///< one reading of a Han character in Latin letters or Hangul
 };
 
 /// What the index knows about one text of a character.
@@ -40,9 +43,15 @@ struct Phrase {
 };
 static_assert(sizeof(Phrase) == 8);
 
-struct CodePointDoc {
-  std::uint32_t codePoint;
-  std::uint32_t doc;
+/// What many phrases have in common, because most texts are short: a phrase whose doc is replaced by the
+/// number that IndexBuilder::Form explains.
+using Shape = Phrase;
+
+/// A place at which a word occurs.
+struct Occurrence {
+  Phrase phrase;
+  std::uint32_t text;  ///< tells the texts of a doc apart
+  std::uint8_t position;
 };
 
 struct Group {
@@ -64,11 +73,16 @@ struct Index {
   std::span<const std::uint32_t> docEntity;
   std::span<const std::uint32_t> docCodePoint;  ///< noCodePoint if the doc's hex code is not a code point
   std::span<const std::uint8_t> docPrior;       ///< added to the cost of each match: see static_rank.h
-  TextList names;
+  TextList names;                               ///< empty if nameOf is set
 
-  std::span<const CodePointDoc> byCodePoint;  ///< in ascending order of code points
+  /// The docs that have a code point, in ascending order of their code points. If it is empty, docs of equal
+  /// priors are in this order themselves.
+  std::span<const std::uint32_t> byCodePoint;
 
-  std::span<const Phrase> phrases;  ///< in ascending order of docs
+  std::span<const Shape> shapes;
+  /// For each text, (doc) << 12 | (number of the shape), in ascending order of docs. If it is empty, postings
+  /// have the shapes.
+  std::span<const std::uint32_t> phrases;
   /// For each doc, the number of its first phrase. The last element is the size of `phrases`.
   std::span<const std::uint32_t> phraseStart;
 
@@ -76,11 +90,13 @@ struct Index {
   /// For each word, the position of its first posting in `postings`. The last element is the size of
   /// `postings`.
   std::span<const std::uint32_t> postingStart;
-  /// A posting is (number of the phrase) << 8 | (position of the word in the phrase).
+  /// A posting is (number of the phrase) << 8 | (position of the word in the phrase). If `phrases` is empty, it
+  /// is (doc) << 16 | (number of the shape), and the shape has (number of the text in the doc) << 8 | (position)
+  /// in place of its doc.
   std::span<const std::uint32_t> postings;
 
-  TextList signs;                              ///< sign keys (see signKey()) in ascending order
-  std::span<const std::uint32_t> signPhrases;  ///< for each sign key, the number of its phrase
+  TextList signs;                               ///< sign keys (see signKey()) in ascending order
+  std::span<const std::uint32_t> signPostings;  ///< for each sign key, a posting with any position
   TextList htmlNames;                          ///< in their original spelling, not folded, in ascending order
   std::span<const std::uint32_t> htmlDocs;     ///< for each HTML name, the number of its doc
 
@@ -96,10 +112,39 @@ struct Index {
   /// stands for languages[i].
   TextList languages;
 
+  // What follows is not part of an image.
+
+  /// Returns the shown name of the entity at this position, if `names` is empty.
+  std::string (*nameOf)(std::uint32_t entity) = nullptr;
+  /// An index whose texts also count when words get their weights, so that costs of both can be compared.
+  const Index* weighedWith = nullptr;
+
   static constexpr std::uint32_t noCodePoint = 0xFFFFFFFF;
   static constexpr std::uint32_t noDoc = 0xFFFFFFFF;
 
   std::size_t docCount() const { return docEntity.size(); }
+  std::string nameOfDoc(std::uint32_t doc) const {
+    return nameOf ? nameOf(docEntity[doc]) : std::string(names[doc]);
+  }
+  Occurrence occurrence(std::uint32_t posting) const {
+    if (!phrases.empty()) {
+      const std::uint32_t number = posting >> 8;
+      Phrase phrase = shapes[phrases[number] & 0xFFF];
+      phrase.doc = (phrases[number] >> 12) & 0xFFFFFF;
+      return {phrase, number, static_cast<std::uint8_t>(posting)};
+    }
+    Phrase phrase = shapes[posting & 0xFFFF];
+    const std::uint32_t place = phrase.doc;
+    phrase.doc = static_cast<std::uint16_t>(posting >> 16);
+    return {phrase, place >> 8, static_cast<std::uint8_t>(place)};
+  }
+  std::uint32_t docOfPosting(std::uint32_t posting) const {
+    return phrases.empty() ? posting >> 16 : phrases[posting >> 8] >> 12;
+  }
+  /// Returns the smallest number that a posting of this doc or a later one may have.
+  std::uint64_t firstPosting(std::uint32_t doc) const {
+    return phrases.empty() ? std::uint64_t{doc} << 16 : std::uint64_t{phraseStart[doc]} << 8;
+  }
   /// Returns the postings of all words in the range.
   std::span<const std::uint32_t> postingsOf(TextRange range) const {
     return postings.subspan(postingStart[range.first], postingStart[range.last] - postingStart[range.first]);

@@ -7,6 +7,8 @@
 extern "C" {
 extern const std::byte glyphoriumSearchIndex[];
 extern const std::byte glyphoriumSearchIndexEnd[];
+extern const std::byte glyphoriumSupplementIndex[];
+extern const std::byte glyphoriumSupplementIndexEnd[];
 }
 
 namespace glyph::search {
@@ -31,13 +33,14 @@ void forEachPart(SomeIndex& index, Visit visit) {
   visit(index.docPrior);
   visitTexts(index.names);
   visit(index.byCodePoint);
+  visit(index.shapes);
   visit(index.phrases);
   visit(index.phraseStart);
   visitTexts(index.words);
   visit(index.postingStart);
   visit(index.postings);
   visitTexts(index.signs);
-  visit(index.signPhrases);
+  visit(index.signPostings);
   visitTexts(index.htmlNames);
   visit(index.htmlDocs);
   visitTexts(index.groupNames);
@@ -85,11 +88,16 @@ Index openIndex(std::span<const std::byte> image) {
     part = {reinterpret_cast<Element*>(place), elements};
     place += aligned(part.size_bytes());
   });
+  if (index.docEntity.empty()) index.docEntity = index.docCodePoint;
   return index;
 }
 
 std::span<const std::byte> catalogIndexImage() {
   return {glyphoriumSearchIndex, glyphoriumSearchIndexEnd};
+}
+
+std::span<const std::byte> supplementIndexImage() {
+  return {glyphoriumSupplementIndex, glyphoriumSupplementIndexEnd};
 }
 
 }  // namespace glyph::search

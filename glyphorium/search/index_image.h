@@ -14,7 +14,8 @@ namespace glyph::search {
 /// machines with the same byte order.
 using IndexImage = std::vector<std::byte>;
 
-/// Returns an image with a copy of the index.
+/// Returns an image with a copy of the index. If `docEntity` is empty, the opened index has `docCodePoint` in its
+/// place.
 IndexImage packed(const Index& index);
 
 /// Returns the index in an image. The index consists of views of the image, so the image must outlive it. The
@@ -24,5 +25,8 @@ Index openIndex(std::span<const std::byte> image);
 /// Returns the image that is part of the library. The build makes it from the entities that configure() puts
 /// into buildInEntities().
 std::span<const std::byte> catalogIndexImage();
+
+/// Returns the image of the supplement that is part of the library: see supplement_indexing.h.
+std::span<const std::byte> supplementIndexImage();
 
 }  // namespace glyph::search

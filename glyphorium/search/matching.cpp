@@ -2,6 +2,10 @@
 #include "glyphorium/search/matching.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <new>
+#include <type_traits>
 #include <utility>
 
 #include "glyphorium/search/dictionary_words.h"
@@ -11,13 +15,16 @@ namespace glyph::search {
 namespace {
 
 constexpr std::uint32_t noCost = 0xFFFFFFFF;
+constexpr std::uint32_t noText = 0xFFFFFFFF;
 // In the postings of a frequent word, a binary search for each character costs less than reading all.
 constexpr std::size_t postingsPerSearch = 16;
 constexpr std::size_t shortestGroupWord = 3;  // in bytes; groups are not found by shorter words
 
 // What is known about a text after some of the words of the query were looked up.
 struct PhraseState {
-  std::uint32_t epoch = 0;
+  Phrase phrase{};
+  std::uint32_t text = 0;       // Occurrence::text
+  std::uint32_t next = noText;  // the position in Scratch::phrases of another text of the doc
   std::uint32_t gain = 0;  // what the matched words have kept of their weights, in hundredths of a point
   std::uint8_t lastWord = 0;
   std::uint8_t words = 0;
@@ -39,33 +46,36 @@ struct DocState {
   std::uint32_t contentWords = 0;  // the number of matched words that are not stop words
   std::uint32_t asTyped = 0;       // bit i: word i of the query matches without a correction
   std::uint32_t best = noCost;
-  std::uint32_t phrase = noPhrase;
+  std::uint32_t phrase = noText;  // the position in Scratch::phrases of the best text
   std::uint32_t phraseGain = 0;
   std::uint32_t nameGain = 0;
+  std::uint32_t phrases = noText;  // the position in Scratch::phrases of the first text
 };
 
-// Working memory that is reused for the next query. Each query has a number, its epoch. A state with another
-// epoch is left over from an earlier query and counts as empty. So the states need not be cleared for each
-// query.
+// Working memory that is reused for the next query. Each query has a number, its epoch. A state of a doc with
+// another epoch is left over from an earlier query and counts as empty. So the states need not be cleared for
+// each query. Memory that no query has touched takes no room: the states come as zeros from the system.
 struct Scratch {
   std::vector<PhraseState> phrases;
-  std::vector<DocState> docs;
-  std::vector<std::uint32_t> touchedPhrases;
+  std::unique_ptr<DocState[], decltype(&std::free)> docs{nullptr, &std::free};
+  std::size_t docCount = 0;
   std::vector<std::uint32_t> touchedDocs;
   std::vector<std::uint64_t> begun;  // bit i: a word before the current one matches doc i
   std::uint32_t epoch = 0;
 
   void begin(const Index& index) {
-    if (phrases.size() < index.phrases.size()) phrases.resize(index.phrases.size());
-    if (docs.size() < index.docCount()) docs.resize(index.docCount());
-    touchedPhrases.clear();
-    touchedDocs.clear();
-    begun.assign(index.docCount() / 64 + 1, 0);
-    if (++epoch == 0) {
-      std::fill(phrases.begin(), phrases.end(), PhraseState{});
-      std::fill(docs.begin(), docs.end(), DocState{});
+    static_assert(std::is_trivially_copyable_v<DocState>);
+    if (docCount < index.docCount() || ++epoch == 0) {
+      docs.reset();
+      docCount = 0;
+      docs.reset(static_cast<DocState*>(std::calloc(index.docCount(), sizeof(DocState))));
+      if (!docs) throw std::bad_alloc();
+      docCount = index.docCount();
       epoch = 1;
     }
+    phrases.clear();
+    touchedDocs.clear();
+    begun.assign(index.docCount() / 64 + 1, 0);
   }
 };
 
@@ -96,7 +106,7 @@ class Matcher {
       if (!word.isStopWord && passed <= most) matchWord(word, place, Docs::others);
       if (count > 0) passed += word.weight;
     }
-    for (const std::uint32_t number : scratch_.touchedPhrases) offer(number);
+    for (std::uint32_t number = 0; number < scratch_.phrases.size(); ++number) offer(number);
     return result();
   }
 
@@ -108,13 +118,23 @@ class Matcher {
     for (std::size_t i = 0; i < words_.size(); ++i) {
       QueryWord& word = words_[i];
       if (word.weight == 0)
-        word.weight = word.isStopWord ? stopWordWeight : wordWeight(word.text, postingCount(index_, word));
+        word.weight = word.isStopWord ? stopWordWeight : wordWeight(word.text, textCount(word));
       allWeight_ += word.weight;
       if (word.isStopWord) continue;
       contentWeight_ += word.weight;
       ++contentWords_;
       contentBits_ |= 1u << i;
     }
+  }
+
+  std::size_t textCount(const QueryWord& word) const {
+    std::size_t count = postingCount(index_, word);
+    if (const Index* const other = index_.weighedWith) {
+      TextRange range = other->words.withPrefix(word.text);
+      if (!range.empty() && other->words[range.first] == word.text) range.last = range.first + 1;
+      count += other->postingsOf(range).size();
+    }
+    return count;
   }
 
   // Returns true if the phrase passes the filter.
@@ -137,14 +157,14 @@ class Matcher {
       if (docs == Docs::begun && isOneWord && begunDocs * postingsPerSearch < postings.size()) {
         for (std::size_t i = 0; i < begunDocs; ++i) {
           const std::uint32_t doc = scratch_.touchedDocs[i];
-          auto posting = std::lower_bound(postings.begin(), postings.end(), index_.phraseStart[doc] << 8);
-          for (; posting != postings.end() && *posting >> 8 < index_.phraseStart[doc + 1]; ++posting)
+          auto posting = std::lower_bound(postings.begin(), postings.end(), index_.firstPosting(doc));
+          for (; posting != postings.end() && *posting < index_.firstPosting(doc + 1); ++posting)
             notePosting(word, place, alternative.match, *posting);
         }
         continue;
       }
       for (const std::uint32_t posting : postings) {
-        if (isBegun(index_.phrases[posting >> 8].doc) == (docs == Docs::begun))
+        if (isBegun(index_.docOfPosting(posting)) == (docs == Docs::begun))
           notePosting(word, place, alternative.match, posting);
       }
     }
@@ -157,20 +177,19 @@ class Matcher {
   }
 
   void notePosting(const QueryWord& word, std::uint8_t place, WordMatch match, std::uint32_t posting) {
-    const std::uint32_t number = posting >> 8;
-    const Phrase& phrase = index_.phrases[number];
-    if (!counts(phrase)) return;
-    const std::uint32_t loss = std::max(lossPercent(match), lossPercent(phrase.kind));
+    const Occurrence occurrence = index_.occurrence(posting);
+    if (!counts(occurrence.phrase)) return;
+    const std::uint32_t loss = std::max(lossPercent(match), lossPercent(occurrence.phrase.kind));
     const std::uint32_t gain = word.weight * (100 - loss);
-    noteDoc(phrase.doc, word, place, gain, match <= WordMatch::prefix);
-    notePhrase(number, phrase, word, place, static_cast<std::uint8_t>(posting), gain, match);
+    DocState& doc = noteDoc(occurrence.phrase.doc, word, place, gain, match <= WordMatch::prefix);
+    notePhrase(doc, occurrence, word, place, gain, match);
   }
 
-  void noteDoc(std::uint32_t doc, const QueryWord& word, std::uint8_t place, std::uint32_t gain,
-               bool isTyped) {
+  DocState& noteDoc(std::uint32_t doc, const QueryWord& word, std::uint8_t place, std::uint32_t gain,
+                    bool isTyped) {
     DocState& state = scratch_.docs[doc];
     if (state.epoch != epoch_) {
-      state = {};
+      state = DocState();
       state.epoch = epoch_;
       scratch_.touchedDocs.push_back(doc);
     }
@@ -179,24 +198,33 @@ class Matcher {
       state.matched |= 1u << place;
       state.gain += state.current;
       state.current = gain;
-      if (word.isStopWord) return;
+      if (word.isStopWord) return state;
       ++state.contentWords;
       state.matchedWeight += word.weight;
       bestWeight_ = std::max(bestWeight_, state.matchedWeight);
     } else {
       state.current = std::max(state.current, gain);
     }
+    return state;
   }
 
-  void notePhrase(std::uint32_t number, const Phrase& phrase, const QueryWord& word, std::uint8_t place,
-                  std::uint8_t position, std::uint32_t gain, WordMatch match) {
-    PhraseState& state = scratch_.phrases[number];
-    if (state.epoch != epoch_) {
-      state = {};
-      state.epoch = epoch_;
-      state.shift = static_cast<std::int8_t>(position - place);
-      scratch_.touchedPhrases.push_back(number);
+  PhraseState& stateOf(DocState& doc, const Occurrence& occurrence) {
+    for (std::uint32_t number = doc.phrases; number != noText; number = scratch_.phrases[number].next) {
+      if (scratch_.phrases[number].text == occurrence.text) return scratch_.phrases[number];
     }
+    PhraseState& state = scratch_.phrases.emplace_back();
+    state.phrase = occurrence.phrase;
+    state.text = occurrence.text;
+    state.next = doc.phrases;
+    doc.phrases = static_cast<std::uint32_t>(scratch_.phrases.size() - 1);
+    return state;
+  }
+
+  void notePhrase(DocState& doc, const Occurrence& occurrence, const QueryWord& word, std::uint8_t place,
+                  std::uint32_t gain, WordMatch match) {
+    PhraseState& state = stateOf(doc, occurrence);
+    const std::uint8_t position = occurrence.position;
+    if (state.lastWord == 0) state.shift = static_cast<std::int8_t>(position - place);
     const bool isAligned = state.shift == static_cast<std::int8_t>(position - place);
     if (state.lastWord == place + 1) {
       // The word is in the text several times. A later place may fit the other words better.
@@ -213,7 +241,7 @@ class Matcher {
       if (match == WordMatch::variant) ++state.variants;
       ++(word.isStopWord ? state.stopWords : state.words);
     }
-    state.head = state.head || position == phrase.head;
+    state.head = state.head || position == state.phrase.head;
   }
 
   void matchGroups(const QueryWord& word, std::uint8_t place, Docs docs) {
@@ -245,7 +273,7 @@ class Matcher {
   // Makes the text the best one of its doc if it has the lowest cost so far.
   void offer(std::uint32_t number) {
     const PhraseState& state = scratch_.phrases[number];
-    const Phrase& phrase = index_.phrases[number];
+    const Phrase& phrase = state.phrase;
     DocState& doc = scratch_.docs[phrase.doc];
     if (phrase.kind <= PhraseKind::replacedName) doc.nameGain = std::max(doc.nameGain, state.gain);
     const std::uint32_t cost = loss(state.gain, state.words) + textCost(phrase, textMatch(state));
@@ -260,22 +288,25 @@ class Matcher {
   Match matchOf(std::uint32_t doc) const {
     const DocState& state = scratch_.docs[doc];
     const bool asTyped = state.asTyped == state.matched;
-    const std::uint32_t spread = loss(state.gain + state.current, state.contentWords) + spreadCost;
+    const bool isHan = state.phrase != noText && scratch_.phrases[state.phrase].phrase.kind >= PhraseKind::meaning;
+    const std::uint32_t spread = loss(state.gain + state.current, state.contentWords) + spreadCost +
+                                 (isHan ? hanMeaningCost : 0);
     if (spread < state.best) {
       const bool named = state.nameGain >= state.gain + state.current;
       const std::uint32_t cost = spread + (named ? 0 : unnamedCost);
-      return {cost + priorCost(index_.docPrior[doc], 0), doc, words_.size() == 1 ? state.phrase : noPhrase,
-              false, asTyped};
+      const bool inText = words_.size() == 1 && state.phrase != noText;
+      return {cost + priorCost(index_.docPrior[doc], 0), doc,
+              inText ? scratch_.phrases[state.phrase].phrase.kind : PhraseKind::name, false, asTyped};
     }
-    const Phrase& phrase = index_.phrases[state.phrase];
     const PhraseState& text = scratch_.phrases[state.phrase];
+    const Phrase& phrase = text.phrase;
     const bool whole = text.allWhole && text.words == contentWords_ && coversText(phrase, textMatch(text));
     const bool named = state.nameGain >= state.phraseGain;
     std::uint32_t cost = state.best + (named ? 0 : unnamedCost);
     // An HTML name whose words are also in the name ("sigma") is a real word and not an abbreviation.
     if (named && phrase.kind == PhraseKind::htmlName) cost -= htmlNameCost - htmlNameInNameCost;
     const unsigned wholeName = whole && phrase.kind <= PhraseKind::replacedName ? phrase.words : 0u;
-    return {cost + priorCost(index_.docPrior[doc], wholeName), doc, state.phrase, whole, asTyped};
+    return {cost + priorCost(index_.docPrior[doc], wholeName), doc, phrase.kind, whole, asTyped};
   }
 
   Matches result() const {

@@ -13,13 +13,12 @@ namespace glyph::search {
 struct Match {
   std::uint32_t cost;  ///< smaller is better: see score.h
   std::uint32_t doc;
-  /// The text that matches best. It is noPhrase if only the name of the group matches, or if the words are in
-  /// several texts of the character.
-  std::uint32_t phrase;
+  /// The kind of the text that matches best. It is `name` if only the name of the group matches, or if the
+  /// words are in several texts of the character.
+  PhraseKind kind;
   bool whole;    ///< whether the query is a whole text of the character
   bool asTyped;  ///< whether no word was corrected
 };
-inline constexpr std::uint32_t noPhrase = 0xFFFFFFFF;
 
 struct Matches {
   std::vector<Match> all;     ///< in no particular order

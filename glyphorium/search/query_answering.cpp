@@ -29,6 +29,8 @@ SearchField fieldOf(PhraseKind kind) {
       return SearchField::searchTerm;
     case PhraseKind::textToSpeechName:
     case PhraseKind::keyword:
+    case PhraseKind::meaning:
+    case PhraseKind::reading:
       return SearchField::annotation;
     case PhraseKind::comment:
     case PhraseKind::note:
@@ -37,19 +39,19 @@ SearchField fieldOf(PhraseKind kind) {
   return SearchField::name;
 }
 
-class Answer {
+class Answering {
  public:
-  Answer(const Index& index, const ParsedQuery& query, const SearchOptions& options)
-      : index_(index), options_(options), query_(query) {
+  Answering(const Index& index, const ParsedQuery& query, const SearchOptions& options, bool persistently)
+      : index_(index), options_(options), query_(query), persistently_(persistently) {
     filter_.languages = languageBits(index, options.languages ? *options.languages : preferredLanguages());
     if (query.groups.empty() && options.groups.empty()) return;
     allowed_ = docsInGroups(index, options.groups, query.groups);
     filter_.docs = &allowed_;
   }
-  Answer(const Answer&) = delete;
-  Answer& operator=(const Answer&) = delete;
+  Answering(const Answering&) = delete;
+  Answering& operator=(const Answering&) = delete;
 
-  SearchResults results() && {
+  Answer answer() && {
     if (query_.words.empty() && query_.codes.empty() && query_.characters.empty() &&
         query_.besideWords.empty() && query_.otherCharacters.empty()) {
       addWholeGroups();
@@ -63,10 +65,10 @@ class Answer {
     results.lacksWords = lacksWords_;
     for (const Hits::Hit& hit : best.hits) {
       results.results.push_back({index_.docEntity[hit.doc], hit.field,
-                                 nameRanges(index_, words_, index_.names[hit.doc]), hit.cost(),
+                                 nameRanges(index_, words_, index_.nameOfDoc(hit.doc)), hit.cost(),
                                  hit.exact && !approximate_});
     }
-    return results;
+    return {std::move(results), settled_, isDirect_ || wholeFound_, !isDirect_ && byMeaning_};
   }
 
  private:
@@ -96,8 +98,10 @@ class Answer {
       add(doc, place + index_.docPrior[doc], SearchField::notation, false);
     }
     if (!query_.notations.begun.empty()) place += mostPrior;
+    // A number without a prefix may be decimal or hexadecimal. The catalog's meaning is the likelier one.
+    const std::uint32_t behindCatalog = index_.weighedWith ? likelyNumberOfOtherCost : 0;
     for (const std::uint32_t number : query_.likelyNumbers)
-      add(index_.docOfCodePoint(number), place++, SearchField::code, true);
+      add(index_.docOfCodePoint(number), behindCatalog + place++, SearchField::code, true);
     for (const std::uint32_t character : query_.characters)
       add(index_.docOfCodePoint(character), place++, SearchField::character, true);
     offset_ = place;
@@ -113,7 +117,9 @@ class Answer {
     // A code is not a mistyped word, even if its character is not in the list.
     const bool saysCode = std::any_of(query_.codes.begin(), query_.codes.end(),
                                       [](const ParsedCode& code) { return code.htmlName.empty(); });
-    addWords(!direct && !saysCode);
+    isDirect_ = direct || saysCode;
+    addWords(!isDirect_ && persistently_);
+    settled_ = isDirect_ || wordsFound_;
     if (bareName != Index::noDoc)
       add(bareName, offset_ + htmlNameCost + index_.docPrior[bareName], SearchField::htmlName, true);
     for (const std::uint32_t character : query_.otherCharacters) {
@@ -132,7 +138,7 @@ class Answer {
     if (query_.signs.empty()) return;
     const TextRange range = index_.signs.withPrefix(query_.signs);
     for (std::uint32_t sign = range.first; sign < range.last; ++sign) {
-      const Phrase& found = index_.phrases[index_.signPhrases[sign]];
+      const Phrase found = index_.occurrence(index_.signPostings[sign]).phrase;
       if ((filter_.languages >> found.language & 1) == 0) continue;
       const bool whole = index_.signs[sign].size() == query_.signs.size();
       const std::uint32_t cost = offset_ + (whole ? 0 : behindExactCost) + index_.docPrior[found.doc];
@@ -143,10 +149,14 @@ class Answer {
   void addWords(bool persistently) {
     WordsFound found = findWords(index_, query_.words, filter_, persistently);
     hits_.reserveMore(found.matches.size());
+    std::uint32_t least = 0xFFFFFFFF;
     for (const Match& match : found.matches) {
-      const bool byName = match.phrase == noPhrase;
-      add(match.doc, offset_ + match.cost,
-          byName ? SearchField::name : fieldOf(index_.phrases[match.phrase].kind), match.whole);
+      if (match.cost < least) {
+        least = match.cost;
+        wholeFound_ = match.whole;
+        byMeaning_ = match.kind == PhraseKind::meaning;
+      }
+      add(match.doc, offset_ + match.cost, fieldOf(match.kind), match.whole);
     }
     wordsFound_ = !found.matches.empty();
     approximate_ = found.approximate;
@@ -157,20 +167,26 @@ class Answer {
   const Index& index_;
   const SearchOptions& options_;
   const ParsedQuery& query_;
+  const bool persistently_;
   MatchFilter filter_;
   std::vector<char> allowed_;  // indexed by document number; empty if the query is not limited to groups
   Hits hits_;
   std::vector<QueryWord> words_;  // with the alternatives that matched
   std::uint32_t offset_ = 0;      // added to the costs of uncertain meanings, so that certain ones come first
   bool wordsFound_ = false;
+  bool isDirect_ = false;
+  // See Answer.
+  bool settled_ = false;
+  bool wholeFound_ = false;
+  bool byMeaning_ = false;
   bool approximate_ = false;
   bool lacksWords_ = false;
 };
 
 }  // namespace
 
-SearchResults answer(const Index& index, const ParsedQuery& query, const SearchOptions& options) {
-  return Answer(index, query, options).results();
+Answer answer(const Index& index, const ParsedQuery& query, const SearchOptions& options, bool persistently) {
+  return Answering(index, query, options, persistently).answer();
 }
 
 }  // namespace glyph::search

@@ -216,6 +216,12 @@ void addWords(std::string_view text, std::vector<std::string>& words) {
 
 }  // namespace
 
+bool namesGroup(std::string_view text) {
+  std::vector<std::string> groups;
+  withoutGroups(shortened(text), groups);
+  return !groups.empty();
+}
+
 std::optional<ParsedQuery> parseQuery(std::string_view text) {
   ParsedQuery query;
   const std::string withBlanks = withoutGroups(shortened(text), query.groups);

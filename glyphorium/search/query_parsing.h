@@ -43,4 +43,7 @@ struct ParsedQuery {
 /// Returns the possible meanings of a UTF-8 text. Returns nullopt if the text is empty.
 std::optional<ParsedQuery> parseQuery(std::string_view text);
 
+/// Returns true if the text has a "group:".
+bool namesGroup(std::string_view text);
+
 }  // namespace glyph::search

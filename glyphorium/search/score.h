@@ -17,7 +17,7 @@ namespace glyph::search {
 // - what the words of the query lose: each word has a weight, and loses a part of it that depends on how it
 //   matches. A word that does not match loses all of it;
 // - how well the text of the character that matches best covers the query, and the query this text;
-// - the prior of the character, from 0 to 58, which decides between equally good matches: see static_rank.h.
+// - the prior of the character, from 0 to 80, which decides between equally good matches: see static_rank.h.
 // See docs/search.md for a description with examples.
 
 // The weight of a word is ten points for each halving of the number of texts that contain it: a rare word
@@ -96,9 +96,13 @@ inline constexpr std::uint32_t htmlNameInNameCost = 4;  // the same, if the word
 inline constexpr std::uint32_t privateUseCost = 400;
 inline constexpr std::uint32_t privateUseNameCost = 8;  // a name of one word is also an everyday word
 
+// Han characters come after all others that match.
+inline constexpr std::uint32_t hanMeaningCost = 300;
+
 // The cost of results that are not found by words, for example by a code or an HTML name.
 inline constexpr std::uint32_t behindExactCost = 75;   // after the results with a text equal to the query
 inline constexpr std::uint32_t otherReadingCost = 45;  // added if words of the query were split or joined
+inline constexpr std::uint32_t likelyNumberOfOtherCost = 10;  // a number, as the code of a rarer character
 inline constexpr std::uint32_t lastCost = 8000;        // after all other results
 
 /// The cost of a kind of text. The name says a little more about a character than its other texts do. A
@@ -114,6 +118,10 @@ inline std::uint32_t kindCost(PhraseKind kind) {
       return 12;
     case PhraseKind::keyword:
       return 40;
+    case PhraseKind::meaning:
+      return hanMeaningCost;
+    case PhraseKind::reading:
+      return hanMeaningCost + 20;
     case PhraseKind::htmlName:
       return htmlNameCost;
     default:
@@ -151,7 +159,8 @@ inline std::uint32_t textCost(const Phrase& phrase, const TextMatch& match) {
 /// Returns what the character adds to the cost of a match. `wholeName` is the number of words of its name, if
 /// the query is the whole name, and otherwise 0.
 inline std::uint32_t priorCost(std::uint8_t prior, unsigned wholeName) {
-  if (prior < privateUsePrior || wholeName > 1) return prior;
+  const bool isPrivateUse = prior >= privateUsePrior && prior < behindPrivateUsePrior;
+  if (!isPrivateUse || wholeName > 1) return prior;
   return prior + (wholeName == 1 ? privateUseNameCost : privateUseCost);
 }
 

@@ -6,6 +6,7 @@
 
 #include "glyphorium/search/index_building.h"
 #include "glyphorium/search/index_image.h"
+#include "glyphorium/search/prepared_indexes.h"
 #include "glyphorium/search/query_answering.h"
 #include "glyphorium/search/query_parsing.h"
 
@@ -35,8 +36,7 @@ Search::Search(std::shared_ptr<const search::Index> index, std::size_t byteCount
     : index_(std::move(index)), byteCount_(byteCount) {}
 
 Search Search::ofCatalog() {
-  static const search::Index index = search::openIndex(search::catalogIndexImage());
-  return {{std::shared_ptr<void>(), &index}, 0};
+  return {{std::shared_ptr<void>(), &search::catalogIndex()}, 0};
 }
 
 SearchResults Search::query(std::string_view text, const SearchOptions& options) const {
@@ -44,7 +44,7 @@ SearchResults Search::query(std::string_view text, const SearchOptions& options)
   try {
     auto parsed = search::parseQuery(text);
     if (!parsed) return {};
-    return search::answer(*index_, *parsed, options);
+    return search::answer(*index_, *parsed, options, true).results;
   } catch (const std::bad_alloc&) {
     return {};
   }

@@ -27,7 +27,7 @@ enum class SearchField : std::uint8_t {
   alias,       ///< an alias or an abbreviation in the Unicode Character Database
   htmlName,    ///< a name in the HTML Standard's list of character references
   searchTerm,  ///< a search term or an everyday name
-  annotation,  ///< a text-to-speech name or keyword of CLDR
+  annotation,  ///< a text-to-speech name or keyword of CLDR, or a meaning or reading of a Han character
   group,       ///< only the group matches: the query is "group:…" without words
   note,        ///< a usage note, or a comment in the Unicode Character Database
   notation,    ///< how the character is written elsewhere, for example a LaTeX command
@@ -72,6 +72,9 @@ struct SearchOptions {
   std::optional<std::vector<std::string>> languages;
   /// The exact names of groups. If not empty, the search finds only entities of these groups.
   std::vector<std::string> groups;
+  /// Whether CatalogSearch also finds characters and emoji beyond the catalog. They belong to no group, so a
+  /// search in groups does not find them. Other Search objects ignore this.
+  bool supplement = true;
 };
 
 /// Interactive search over a list of entities. A Search object is immutable. Any number of threads may query
@@ -137,8 +140,8 @@ class GLYPHORIUM_EXPORT Search {
   std::optional<std::size_t> indexOfHtmlName(std::string_view name) const noexcept;
 
   /// Returns the size in bytes of the memory that the object and its copies share. It is 0 for ofCatalog(),
-  /// whose index is part of the library. Each thread that calls query() also keeps working memory of about a
-  /// third of the size of the index, until the thread ends.
+  /// whose index is part of the library. Each thread that calls query() also keeps working memory until the
+  /// thread ends, for the characters that matched so far.
   std::size_t byteCount() const noexcept;
 
  private:

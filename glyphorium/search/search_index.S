@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The index of the unchanged catalog, which the build made, in the read-only data of the library.
+// The indexes of the unchanged catalog and of the supplement, which the build made, in the read-only data of the
+// library.
 .section .rodata
 .balign 64
 .global glyphoriumSearchIndex
@@ -11,4 +12,14 @@
 glyphoriumSearchIndex:
 .incbin SEARCH_INDEX
 glyphoriumSearchIndexEnd:
+.balign 64
+.global glyphoriumSupplementIndex
+.hidden glyphoriumSupplementIndex
+.type glyphoriumSupplementIndex, %object
+.size glyphoriumSupplementIndex, glyphoriumSupplementIndexEnd - glyphoriumSupplementIndex
+.global glyphoriumSupplementIndexEnd
+.hidden glyphoriumSupplementIndexEnd
+glyphoriumSupplementIndex:
+.incbin SUPPLEMENT_INDEX
+glyphoriumSupplementIndexEnd:
 .section .note.GNU-stack,"",%progbits

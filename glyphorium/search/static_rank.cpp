@@ -15,7 +15,6 @@ namespace glyph::search {
 namespace {
 
 constexpr std::uint32_t notWanted = 0xFFFF;
-constexpr unsigned mostWantedPrior = 6;
 constexpr unsigned keyboardPrior = 5;
 
 constexpr unsigned noGroup = 0xFF;  // larger than the cost of every group
@@ -86,7 +85,7 @@ std::string_view shownName(const Entity& entity) {
 
 // Returns at most 41, so that the prior decides only between about equally good matches (see score.h).
 unsigned priorOf(const Candidate& candidate, std::string_view name, std::uint32_t place) {
-  if (place != notWanted) return std::min(place / 60, mostWantedPrior);
+  if (place != notWanted) return std::min<unsigned>(place / 60, mostWantedPrior);
   // People seldom search for a sign that is on the keyboard. But if they type its words, they most likely
   // mean this sign.
   if (candidate.codePoint < 0x80) return keyboardPrior;

@@ -14,11 +14,18 @@
 /// difference: the results for "arrow" would begin with U+02C2.
 namespace glyph::search {
 
-/// The lowest prior of private-use characters. All other characters have a lower prior.
+/// The highest prior of the characters that people want most.
+inline constexpr std::uint8_t mostWantedPrior = 6;
+
+/// The lowest prior of private-use characters. All other characters of the catalog have a lower prior.
 inline constexpr std::uint8_t privateUsePrior = 34;
 
+/// The lowest prior of characters of the supplement that come after the catalog's, private use included: rare
+/// scripts and ideographs.
+inline constexpr std::uint8_t behindPrivateUsePrior = 64;
+
 /// No prior is higher.
-inline constexpr std::uint8_t mostPrior = 60;
+inline constexpr std::uint8_t mostPrior = 80;
 
 struct RankedDoc {
   std::uint32_t entity;     ///< position of the character's first entity in the list

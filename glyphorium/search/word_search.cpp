@@ -55,16 +55,18 @@ class WordSearch {
   std::vector<QueryWord> dictionaryWords(const std::vector<std::string>& words, const Languages& languages,
                                          bool prefixes) const {
     std::vector<QueryWord> result;
+    const std::size_t mostTooShort = index_.weighedWith ? 2 : 1;
     bool afterJoining = false;  // "a" is a letter, but not in "with a"
     for (const std::string& text : words) {
       const bool isLast = &text == &words.back();
       QueryWord& word = result.emplace_back(
           QueryWord{text, {}, saysLittle(languages, text) && (text.size() > 1 || afterJoining), 0});
       afterJoining = word.isStopWord;
-      // As a prefix, a single letter would match a tenth of all words. Before the end, only unknown words are
+      // As a prefix, a single letter would match a tenth of all words. Two letters are too few beyond the catalog,
+      // which has enough words that begin with them. Before the end, only unknown words are
       // incomplete.
       const bool mayBeBegun =
-          isLast ? text.size() > 1 : text.size() >= shortestInnerPrefix && index_.words.exactly(text).empty();
+          isLast ? text.size() > mostTooShort : text.size() >= shortestInnerPrefix && index_.words.exactly(text).empty();
       addDictionaryWords(index_, word, languages, prefixes && mayBeBegun && !word.isStopWord);
     }
     return result;
@@ -90,15 +92,17 @@ class WordSearch {
   }
 
   std::vector<std::vector<std::string>> respelled() const {
-    if (words_.size() > mostRespelledWords) return {};
+    // Words are split and joined by the catalog's index only: with its many short words, the other one has a
+    // part for nearly everything.
+    if (words_.size() > mostRespelledWords || index_.weighedWith) return {};
     std::vector<std::vector<std::string>> spellings = respellings(index_, words_, languages_);
     spellings.resize(std::min(spellings.size(), mostRespellings));
     return spellings;
   }
 
   // Whether the query is a whole text of the best match, and not just an abbreviation in HTML.
-  bool isName(const Matches& matches) const {
-    return matches.best.whole && index_.phrases[matches.best.phrase].kind != PhraseKind::htmlName;
+  static bool isName(const Matches& matches) {
+    return matches.best.whole && matches.best.kind != PhraseKind::htmlName;
   }
 
   // A word of another language may begin a word of this one: "luna" is the moon, and the beginning of "lunate".

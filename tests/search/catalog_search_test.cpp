@@ -13,7 +13,8 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
-const SearchOptions english{20, {{"en"}}, {}};
+// The supplement has tests of its own.
+const SearchOptions english{20, {{"en"}}, {}, false};
 
 std::vector<std::string> hexes(const CatalogSearch& search, const std::string& query,
                                const SearchOptions& options = english) {
@@ -68,7 +69,8 @@ TEST(CatalogSearch, PrefersEntitiesOfTheUserAndNoticesChanges) {
   EXPECT_EQ(search.entity(arrow).computed.group, "custom");
   EXPECT_EQ(search.entityOfHex("2192")->computed.group, "custom");
   EXPECT_EQ(search.entityOfHex("21d2")->name(), "Rightwards Double Arrow");
-  for (const char* const unknown : {"", "21D2", "021d2", "fffd", "zzzz"})
+  EXPECT_EQ(search.entityOfHex("1f1e9,1f1ea")->name(), "Flag: Germany");
+  for (const char* const unknown : {"", "21D2", "021d2", "0378", "zzzz"})
     EXPECT_FALSE(search.entityOfHex(unknown)) << unknown;
   EXPECT_FALSE(search.isCurrent());  // the settings of the test contain no added characters
 }

@@ -244,7 +244,9 @@ void addAnnotations(const Path& folder, const std::vector<Language>& languages, 
         const bool isSample = sample.starts_with(plain);
         if (isSample && line.columns[1] == names[base->first] + sample.substr(plain.size())) continue;
       }
-      insert(table, line, key, joinedColumns(line, 1));
+      std::string text = joinedColumns(line, 1);
+      std::replace(text.begin(), text.end(), '|', '\n');
+      insert(table, line, key, std::move(text));
     }
     image.addCharacterAnnotations(language.code, table);
   }
@@ -298,19 +300,19 @@ void addCharacterTables(const Path& sources, const std::vector<Language>& langua
   image.addCharacterTable("numericValues", readLinesOfCodePoints(folder / "numeric-values.tsv", 2, 1));
   image.addCharacterTable("mirrorImages", readLinesOfCodePoints(folder / "mirrors.tsv", 2, 2));
   image.addCharacterTable("nameAliases", readPairs(folder / "name-aliases.tsv"));
-  image.addCharacterTable("remarks", readPairs(folder / "names-list.tsv"));
-  image.addCharacterTable("hanReadings", readLinesOfCodePoints(folder / "han.tsv", 6, 1));
+  image.addPackedTable("remarks", readPairs(folder / "names-list.tsv"));
+  image.addPackedTable("hanReadings", readLinesOfCodePoints(folder / "han.tsv", 6, 1));
   image.addCharacterTable("lookAlikeClasses", readLookAlikes(folder / "look-alikes.tsv"));
 
   const EmojiNumbers emoji(folder / "emoji.tsv", image);
   addAnnotations(folder, languages, emoji, image);
 
   const Path input = sources / "input";
-  image.addCharacterTable("composeKeys", readInput(input / "compose-sequences.tsv", 2, emoji));
-  image.addCharacterTable("latexCommands", readLatex(input / "latex-commands.tsv"));
-  image.addCharacterTable("digraphs", readInput(input / "digraphs.tsv", 2, emoji));
-  image.addCharacterTable("keysyms", readInput(input / "keysyms.tsv", 2, emoji));
-  image.addCharacterTable("shortcodes", readInput(input / "emoji-shortcodes.tsv", 3, emoji));
+  image.addPackedTable("composeKeys", readInput(input / "compose-sequences.tsv", 2, emoji));
+  image.addPackedTable("latexCommands", readLatex(input / "latex-commands.tsv"));
+  image.addPackedTable("digraphs", readInput(input / "digraphs.tsv", 2, emoji));
+  image.addPackedTable("keysyms", readInput(input / "keysyms.tsv", 2, emoji));
+  image.addPackedTable("shortcodes", readInput(input / "emoji-shortcodes.tsv", 3, emoji));
   image.addCharacterTable("altCodes", readAltCodes(input / "alt-codes.tsv"));
 }
 

@@ -1,18 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/data/generator/embedded_image.h"
 
+#include <algorithm>
+#include <stdexcept>
 #include <string_view>
 #include <unordered_map>
 
+#include "glyphorium/data/code_point_index.h"
 #include "glyphorium/data/generator/output_file.h"
+#include "glyphorium/data/generator/text_packer.h"
 #include "glyphorium/data/text_padding.h"
 #include "glyphorium/text/ascii.h"
 
 namespace glyph::generator {
 namespace {
 
+// Appends the number in the form of CodePointIndex.
 void append(std::string& bytes, std::uint32_t number) {
-  bytes.append(reinterpret_cast<const char*>(&number), sizeof number);
+  if (number >> 8 * CodePointIndex::numberSize != 0) throw std::runtime_error("a text of the image is too long");
+  for (std::size_t i = 0; i < CodePointIndex::numberSize; ++i) bytes += static_cast<char>(number >> 8 * i & 0xFF);
 }
 
 std::string indexBytes(const EmbeddedImage::Index& index) {
@@ -123,8 +129,30 @@ void EmbeddedImage::addCharacterTable(const std::string& constant, const Charact
   pieces_ += "constinit const CodePointTexts " + constant + "{" + codePointTexts(table) + "};\n";
 }
 
+std::string EmbeddedImage::packedTexts(const CharacterTable& table) {
+  std::vector<std::string> lines;
+  for (const auto& [codePoint, text] : table) lines.push_back(text);
+  const TextPacker packer(lines);
+  Index index;
+  std::string bytes;
+  for (const auto& [codePoint, text] : table) {
+    index.emplace_back(codePoint, static_cast<std::uint32_t>(bytes.size()));
+    bytes += packer.packed(text);
+  }
+  const Piece indexPiece = add(indexBytes(index));
+  const Piece pieces = add(packer.pieces());
+  return "CodePointIndex{" + view(indexPiece) + "}, " + view(pieces) + ", " + view(add(bytes));
+}
+
+void EmbeddedImage::addPackedTable(const std::string& constant, const CharacterTable& table) {
+  pieces_ += "constinit const PackedTexts " + constant + "{" + packedTexts(table) + "};\n";
+}
+
 void EmbeddedImage::addCharacterAnnotations(const std::string& language, const CharacterTable& table) {
-  characterAnnotations_ += "    {\"" + language + "\", {" + codePointTexts(table) + "}},\n";
+  const auto known = std::find_if(annotations_.begin(), annotations_.end(),
+                                  [&](const auto& one) { return one.first == language; });
+  auto& own = known == annotations_.end() ? annotations_.emplace_back(language, CharacterTable()) : *known;
+  for (const auto& [codePoint, line] : table) own.second[codePoint] = line;
 }
 
 void EmbeddedImage::addMarks(std::string_view lines) {
@@ -180,6 +208,9 @@ std::string EmbeddedImage::noteDefinitions() const {
 }
 
 void EmbeddedImage::write(const std::filesystem::path& folder) {
+  std::string annotations;
+  for (const auto& [language, table] : annotations_)
+    annotations += "    {\"" + language + "\", {" + packedTexts(table) + "}},\n";
   std::string header =
       "// SPDX-License-Identifier: MIT\n" + std::string(banner) +
       "#pragma once\n\n#include <string_view>\n\n#include \"glyphorium/export.h\"\n\n"
@@ -213,7 +244,7 @@ void EmbeddedImage::write(const std::filesystem::path& folder) {
       ";\n\n" + definition("std::string_view", "embeddedImage", {0, blob_.size()}) + pieces_ +
       searchFactDefinitions() + noteDefinitions() + "\nnamespace notations {\n" + notations_ +
       "}  // namespace notations\n" + "\nconstinit const CharacterAnnotations annotations[] = {\n" +
-      characterAnnotations_ +
+      annotations +
       "};\nconstinit const std::span<const CharacterAnnotations> characterAnnotations{annotations};\n" +
       "\n}  // namespace glyph\n";
 

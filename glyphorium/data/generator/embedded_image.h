@@ -52,7 +52,10 @@ class EmbeddedImage {
   using CharacterTable = std::map<char32_t, std::string>;
   /// Adds a constant of character_tables.h.
   void addCharacterTable(const std::string& constant, const CharacterTable& table);
-  /// Adds a CharacterAnnotations for the language with this BCP 47 tag.
+  /// Adds a constant of character_tables.h whose texts are packed.
+  void addPackedTable(const std::string& constant, const CharacterTable& table);
+  /// Adds to the CharacterAnnotations of the language with this BCP 47 tag. A line replaces an earlier one of the
+  /// same key.
   void addCharacterAnnotations(const std::string& language, const CharacterTable& table);
   /// Adds a constant of notations.h.
   void addNotations(const std::string& constant, std::string_view lines);
@@ -92,6 +95,7 @@ class EmbeddedImage {
   static std::string definition(std::string_view type, std::string_view constant, Piece piece);
   Piece add(std::string_view bytes);
   std::string codePointTexts(const CharacterTable& table);
+  std::string packedTexts(const CharacterTable& table);
   void addPiece(std::string_view type, std::string_view constant, std::string_view bytes);
   std::string searchFactDefinitions() const;
   std::string noteDefinitions() const;
@@ -105,7 +109,7 @@ class EmbeddedImage {
   std::vector<Notes> notes_;
   std::string notations_;  // the C++ definitions of the notations
   std::map<std::string, std::string> groupKinds_;
-  std::string characterAnnotations_;  // the C++ initialisers of the languages
+  std::vector<std::pair<std::string, CharacterTable>> annotations_;  // by language
 };
 
 }  // namespace glyph::generator

@@ -41,12 +41,31 @@ void addGroupTables(const std::vector<GroupTable>& tables, EmbeddedImage& image,
   figures.reached("configured rows", configuredRows);
 }
 
+// Keeps the places in the name table of every sixteenth code point, and of those whose lines do not follow the
+// line of the code point before.
+EmbeddedImage::Index sparse(const NameTable::Text& text) {
+  constexpr int mostLines = 16;
+  EmbeddedImage::Index index;
+  std::size_t next = 0;
+  int lines = 0;
+  for (const auto& [codePoint, nameOffset] : text.index) {
+    const std::size_t line = text.json.rfind('{', nameOffset);
+    if (line != next || lines == mostLines) {
+      index.emplace_back(codePoint, static_cast<std::uint32_t>(line));
+      lines = 0;
+    }
+    ++lines;
+    next = text.json.find('\n', line) + 1;
+  }
+  return index;
+}
+
 void addNameTable(const NameTable& names, EmbeddedImage& image, Figures& figures) {
   const NameTable::Text text = names.text();
   const std::size_t entries = names.unicode().size() + names.symbols().size();
   image.addText("structuredUnicodeJSON", "", entries, false, text.json);
   image.addPart("sfSymbols", names.symbols().size(), text.fragmentOffset, text.fragmentSize);
-  image.addNameIndex(text.index);
+  image.addNameIndex(sparse(text));
   figures.reached("unicode names", names.unicode().size());
   figures.reached("sf symbols", names.symbols().size());
   figures.reached("name table first piece bytes", text.fragmentOffset);

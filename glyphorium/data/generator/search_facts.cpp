@@ -67,17 +67,6 @@ Facts readAliases(const std::filesystem::path& file, const NameTable& names) {
   return facts;
 }
 
-// Reads the remarks of one kind in Unicode's list of names. Leaves out characters without a name, because
-// they are not in the catalog.
-Facts readRemarks(const std::filesystem::path& file, const NameTable& names, std::string_view kind) {
-  Facts facts;
-  for (const SourceLine& line : readTable(file, 3, 3)) {
-    const char32_t codePoint = line.codePoint(0, false);
-    if (line.columns[1] == kind && names.find(codePoint)) facts[codePoint].push_back(line.columns[2]);
-  }
-  return facts;
-}
-
 Facts readHtmlNames(const std::filesystem::path& file) {
   Facts facts;
   for (const SourceLine& line : readTable(file, 3, 3)) {
@@ -152,9 +141,6 @@ void addSearchFacts(const std::filesystem::path& sources, const std::vector<Lang
   const Facts aliases = readAliases(folder / "name-aliases.tsv", names);
   image.addSearchFacts("alias", "", aliases);
   figures.reached("name aliases", count(aliases));
-  const std::filesystem::path remarks = sources / "characters" / "names-list.tsv";
-  image.addSearchFacts("informalName", "en", readRemarks(remarks, names, "alias"));
-  image.addSearchFacts("comment", "en", readRemarks(remarks, names, "comment"));
   const Facts htmlNames = readHtmlNames(sources / "enrichment" / "html-references.tsv");
   image.addSearchFacts("htmlName", "", htmlNames);
   figures.reached("html names", count(htmlNames));
@@ -167,7 +153,12 @@ void addSearchFacts(const std::filesystem::path& sources, const std::vector<Lang
                           std::to_string(count(annotations)) + " texts, wanted " +
                           std::to_string(language.annotationTexts));
     }
-    image.addSearchFacts("annotation", language.code, annotations);
+    EmbeddedImage::CharacterTable table;
+    for (const auto& [codePoint, texts] : annotations) {
+      std::string& line = table[codePoint] = texts.front() + "\t";
+      for (std::size_t i = 1; i < texts.size(); ++i) line += (i > 1 ? "\n" : "") + texts[i];
+    }
+    image.addCharacterAnnotations(language.code, table);
     if (const auto file = searchFile(sources, "everyday-names", language); !file.empty())
       image.addSearchFacts("everydayName", language.code, readFacts(file, names, false));
   }

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace glyph::generator {
+
+/// Packs texts into the form of PackedTexts.
+class TextPacker {
+ public:
+  /// Chooses the pieces of text that are worth a byte for these lines.
+  explicit TextPacker(const std::vector<std::string>& lines);
+
+  /// Returns PackedTexts::pieces.
+  std::string pieces() const;
+  /// Returns the packed line with its end. Lines that are not among those of the constructor can be packed too.
+  std::string packed(std::string_view line) const;
+
+ private:
+  void choose(std::vector<std::string> pieces);
+  /// Returns the number of the longest piece at the beginning of the text, or pieces_.size() if there is none.
+  std::size_t longestAt(std::string_view text) const;
+
+  std::vector<std::string> pieces_;
+  std::array<std::vector<std::size_t>, 256> byFirst_;  // numbers of pieces by first byte, long ones first
+};
+
+}  // namespace glyph::generator

@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/search/supplement_indexing.h"
+
+#include <algorithm>
+#include <cctype>
+#include <set>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <unordered_set>
+#include <vector>
+
+#include "glyphorium/characters/annotations.h"
+#include "glyphorium/characters/characters.h"
+#include "glyphorium/characters/emoji.h"
+#include "glyphorium/characters/emoji_numbers.h"
+#include "glyphorium/characters/names.h"
+#include "glyphorium/characters/supplement.h"
+#include "glyphorium/data/character_tables.h"
+#include "glyphorium/data/name_capitalization.h"
+#include "glyphorium/data/prepared_rows.h"
+#include "glyphorium/data/search_facts.h"
+#include "glyphorium/search/index_builder.h"
+#include "glyphorium/search/index_building.h"
+#include "glyphorium/search/language_rules.h"
+#include "glyphorium/search/skin_tones.h"
+#include "glyphorium/search/static_rank.h"
+#include "glyphorium/search/text_parts.h"
+#include "glyphorium/text/text_pieces.h"
+#include "glyphorium/text/unicode_text.h"
+
+namespace glyph::search {
+namespace {
+
+enum class DocKind { emoji, character, han };
+
+struct Doc {
+  unsigned prior;
+  std::uint32_t key;
+  DocKind kind;
+};
+
+// The catalog's own signs have at most 30. Private use has the numbers from privateUsePrior on.
+constexpr unsigned emojiPrior = 22;
+constexpr unsigned signPrior = 25;
+constexpr unsigned letterPrior = 30;
+constexpr unsigned scriptPrior = behindPrivateUsePrior;
+constexpr unsigned rareScriptPrior = behindPrivateUsePrior + 8;
+constexpr unsigned hanPrior = behindPrivateUsePrior + 12;
+
+bool isOneOf(std::string_view text, std::initializer_list<std::string_view> list) {
+  return std::find(list.begin(), list.end(), text) != list.end();
+}
+
+unsigned priorOf(const CharacterFacts& facts) {
+  if (isOneOf(facts.script, {"Common", "Inherited", ""})) {
+    const auto blanks = static_cast<unsigned>(std::count(facts.name.begin(), facts.name.end(), ' '));
+    return signPrior + std::min(blanks > 2 ? blanks - 2 : 0u, 5u);
+  }
+  if (isOneOf(facts.script, {"Latin", "Greek", "Cyrillic"})) return letterPrior;
+  // The first plane has the scripts that people use today, and few others.
+  return facts.codePoint < 0x10000 ? scriptPrior : rareScriptPrior;
+}
+
+// A character that has readings in all languages is a common one.
+unsigned hanPriorOf(std::string_view line) {
+  unsigned missing = 0;
+  for (std::size_t reading = 1; reading <= 4; ++reading) missing += column(line, reading).empty();
+  return hanPrior + missing;
+}
+
+std::vector<Doc> docsOfSupplement() {
+  std::unordered_set<char32_t> known;
+  for (std::size_t place = 0; place < preparedRowCount(); ++place) known.insert(preparedRow(place).codePoint);
+  std::vector<Doc> docs;
+  for (std::size_t place = 0; place < emojiCount(); ++place) {
+    if (emojiBase(place) != place) continue;
+    const char32_t key = *characterKey(emojiAt(place).text);
+    // A doc of an emoji of the catalog stays only if it gets texts of its own: see addVariantNames().
+    if (!known.contains(key) || !emojiVariants(place).empty()) docs.push_back({emojiPrior, key, DocKind::emoji});
+    known.insert(key);
+  }
+  for (const std::string& text : supplementTexts()) {
+    const std::u32string points = codePoints(text);
+    if (points.size() != 1 || !known.insert(points.front()).second) continue;
+    const CharacterFacts facts = characterFacts(points.front());
+    if (facts.hanDefinition.empty())
+      docs.push_back({priorOf(facts), points.front(), DocKind::character});
+    else
+      known.erase(points.front());
+  }
+  for (std::size_t i = 0; i < hanReadings.size(); ++i) {
+    if (known.insert(hanReadings.codePoint(i)).second)
+      docs.push_back({hanPriorOf(hanReadings.line(i)), hanReadings.codePoint(i), DocKind::han});
+  }
+  std::sort(docs.begin(), docs.end(), [](const Doc& a, const Doc& b) {
+    return std::pair(a.prior, a.key) < std::pair(b.prior, b.key);
+  });
+  return docs;
+}
+
+// Adds the names that variants of an emoji have apart from the names of tones: "kiss: person, person".
+void addVariantNames(IndexBuilder& builder, std::size_t place) {
+  for (const SearchLanguage& language : searchLanguages) {
+    std::set<std::string> names{wordsOf(annotationOf(emojiAt(place).text, language.code).name)};
+    for (const std::size_t variant : emojiVariants(place)) {
+      std::vector<std::string> words;
+      const std::string name = annotationOf(emojiAt(variant).text, language.code).name;
+      for (WordReader reader(name); reader.next();) words.emplace_back(reader.word());
+      takeSkinTones(words);
+      const std::string rest = joined(words, " ");
+      if (names.insert(rest).second) builder.addText(PhraseKind::textToSpeechName, language.code, rest);
+    }
+  }
+}
+
+bool hasVariantNames(std::size_t place) {
+  for (const SearchLanguage& language : searchLanguages) {
+    const std::string own = wordsOf(annotationOf(emojiAt(place).text, language.code).name);
+    for (const std::size_t variant : emojiVariants(place)) {
+      std::vector<std::string> words;
+      const std::string name = annotationOf(emojiAt(variant).text, language.code).name;
+      for (WordReader reader(name); reader.next();) words.emplace_back(reader.word());
+      takeSkinTones(words);
+      if (joined(words, " ") != own) return true;
+    }
+  }
+  return false;
+}
+
+void addAnnotations(IndexBuilder& builder, std::string_view text) {
+  for (const SearchLanguage& language : searchLanguages) {
+    const CharacterAnnotation annotation = annotationOf(text, language.code);
+    if (!annotation.name.empty())
+      builder.addText(PhraseKind::textToSpeechName, language.code, annotation.name);
+    for (const std::string& keyword : annotation.keywords)
+      builder.addText(PhraseKind::keyword, language.code, keyword);
+  }
+}
+
+// People know flags by the code of the country, which the regional indicators spell.
+void addCountryCode(IndexBuilder& builder, std::string_view text) {
+  std::string code;
+  for (const char32_t point : codePoints(text)) {
+    if (point < 0x1F1E6 || point > 0x1F1FF) return;
+    code += static_cast<char>('a' + (point - 0x1F1E6));
+  }
+  builder.addText(PhraseKind::alias, "", "flag " + code);
+}
+
+void addCharacter(IndexBuilder& builder, char32_t codePoint) {
+  addName(builder, capitalizedName(characterName(codePoint)));
+  const std::string_view aliases = nameAliases.find(codePoint).value_or("");
+  for (std::size_t i = 1; !column(aliases, i).empty(); i += 2)
+    builder.addText(PhraseKind::alias, "", column(aliases, i));
+  addRemarks(builder, codePoint);
+}
+
+// Returns the definition without what stands in parentheses, which is about other characters.
+std::string withoutParentheses(std::string_view definition) {
+  std::string rest;
+  int depth = 0;
+  for (const char c : definition) {
+    if (c == '(') ++depth;
+    if (depth == 0) rest += c;
+    if (c == ')' && depth > 0) --depth;
+  }
+  return rest;
+}
+
+void addHan(IndexBuilder& builder, std::string_view line) {
+  static const Languages english{&searchLanguages.front()};
+  std::set<std::string> known;
+  const std::string definition = withoutParentheses(column(line, 0));
+  for (std::string_view senses = definition; !senses.empty();) {
+    std::string_view commaList = takePart(senses, ';');
+    while (!commaList.empty()) {
+      // Words that join others are left out, because they are a third of all words and say nothing.
+      std::string sense;
+      for (WordReader reader(takePart(commaList, ',')); reader.next();) {
+        if (isStopWord(reader.word()) || isFunctionWord(english, reader.word()) || reader.word() == "to")
+          continue;
+        sense.append(sense.empty() ? "" : " ").append(reader.word());
+      }
+      if (!sense.empty() && known.insert(sense).second) builder.addText(PhraseKind::meaning, "en", sense);
+    }
+  }
+  known.clear();
+  for (std::size_t i = 1; i <= 4; ++i) {
+    for (std::string_view readings = column(line, i); !readings.empty();) {
+      const std::string reading = wordsOf(takePart(readings, ' '));
+      if (!reading.empty() && known.insert(reading).second) builder.addText(PhraseKind::reading, "", reading);
+    }
+  }
+}
+
+}  // namespace
+
+IndexImage buildSupplementIndex() {
+  IndexBuilder builder(IndexBuilder::Form::shapes);
+  std::unordered_set<char32_t> catalog;
+  for (std::size_t place = 0; place < preparedRowCount(); ++place)
+    catalog.insert(preparedRow(place).codePoint);
+  for (const Doc& doc : docsOfSupplement()) {
+    const std::string text = textOfCharacterKey(doc.key);
+    const bool isOfCatalog = catalog.contains(doc.key);
+    if (isOfCatalog && !hasVariantNames(*emojiPlace(text))) continue;
+    builder.addDoc(doc.key, doc.key, static_cast<std::uint8_t>(doc.prior));
+    if (doc.kind == DocKind::han) {
+      addHan(builder, hanReadings.find(doc.key));
+      continue;
+    }
+    if (doc.kind == DocKind::emoji) {
+      addVariantNames(builder, *emojiPlace(text));
+      if (isOfCatalog) continue;
+      addCountryCode(builder, text);
+    }
+    if (doc.key < firstEmojiNumber) addCharacter(builder, doc.key);
+    addAnnotations(builder, text);
+  }
+  return std::move(builder).image();
+}
+
+}  // namespace glyph::search

@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: MIT
+#include "glyphorium/search/supplement_search.h"
+
+#include <algorithm>
+#include <iterator>
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+#include "glyphorium/characters/annotations.h"
+#include "glyphorium/characters/characters.h"
+#include "glyphorium/characters/emoji.h"
+#include "glyphorium/characters/emoji_numbers.h"
+#include "glyphorium/characters/names.h"
+#include "glyphorium/data/character_tables.h"
+#include "glyphorium/data/prepared_rows.h"
+#include "glyphorium/data/search_facts.h"
+#include "glyphorium/search/prepared_indexes.h"
+#include "glyphorium/search/query_answering.h"
+#include "glyphorium/search/skin_tones.h"
+#include "glyphorium/search/static_rank.h"
+#include "glyphorium/search/words.h"
+#include "glyphorium/text/ascii.h"
+#include "glyphorium/text/text_pieces.h"
+#include "glyphorium/text/unicode_text.h"
+
+namespace glyph::search {
+namespace {
+
+std::size_t placeOfKey(char32_t key) {
+  const std::uint32_t doc = key < firstEmojiNumber ? catalogIndex().docOfCodePoint(key) : Index::noDoc;
+  return doc == Index::noDoc ? preparedRowCount() + key : catalogIndex().docEntity[doc];
+}
+
+// Of two answers, drops the one that changed the query more, and merges the rest. The results of the
+// supplement get places.
+SearchResults merged(Answer ofCatalog, Answer ofSupplement, std::size_t limit) {
+  SearchResults& catalog = ofCatalog.results;
+  SearchResults& supplement = ofSupplement.results;
+  for (SearchResult& result : supplement.results)
+    result.index = placeOfKey(static_cast<char32_t>(result.index));
+  const auto change = [](const SearchResults& found) { return found.lacksWords + found.approximate; };
+  if (catalog.results.empty()) return std::move(supplement);
+  if (supplement.results.empty() || change(supplement) > change(catalog)) return std::move(catalog);
+  if (change(supplement) < change(catalog) && !ofSupplement.byMeaning) return std::move(supplement);
+  // Among results of equal cost, those of the catalog come first.
+  std::vector<SearchResult> both;
+  both.reserve(catalog.results.size() + supplement.results.size());
+  std::merge(std::make_move_iterator(catalog.results.begin()), std::make_move_iterator(catalog.results.end()),
+             std::make_move_iterator(supplement.results.begin()),
+             std::make_move_iterator(supplement.results.end()), std::back_inserter(both),
+             [](const SearchResult& a, const SearchResult& b) { return a.cost < b.cost; });
+  // An emoji of the catalog is in both, if its variants have names of their own.
+  std::unordered_set<std::size_t> seen;
+  std::erase_if(both, [&](const SearchResult& result) { return !seen.insert(result.index).second; });
+  SearchResults all{std::move(both), 0, catalog.approximate, catalog.lacksWords};
+  const std::size_t repeated = catalog.results.size() + supplement.results.size() - all.results.size();
+  all.total = catalog.total + supplement.total - repeated;
+  if (all.results.size() > limit) all.results.resize(limit);
+  return all;
+}
+
+constexpr std::size_t mostExact = 12;
+
+bool isMostWanted(const SearchResult& result) {
+  if (result.index >= preparedRowCount()) return false;
+  const std::uint32_t doc = catalogIndex().docOfCodePoint(preparedRow(result.index).codePoint);
+  return doc != Index::noDoc && catalogIndex().docPrior[doc] <= mostWantedPrior;
+}
+
+// Puts the emoji that has exactly these words as its name before others: Unicode calls another emoji "grinning
+// face with smiling eyes" than the emoji that people know by this name. But the characters that people want most
+// stay before emoji, such as the arrows.
+void putNamedEmojiFirst(SearchResults& found, const std::string& words) {
+  const auto end = found.results.begin() +
+                   static_cast<std::ptrdiff_t>(std::min(found.results.size(), mostExact));
+  const auto placeOfEmoji = [](const SearchResult& result) {
+    return result.exact && result.field != SearchField::character && result.field != SearchField::code
+               ? emojiPlace(textAt(result.index))
+               : std::nullopt;
+  };
+  for (auto result = found.results.begin(); result != end; ++result) {
+    const auto place = placeOfEmoji(*result);
+    if (!place && isMostWanted(*result)) return;
+    if (!place || wordsOf(annotationOf(emojiAt(*place).text, "en").name) != words) continue;
+    std::rotate(found.results.begin(), result, result + 1);
+    return;
+  }
+}
+
+SearchResults answerFromBoth(const ParsedQuery& query, SearchOptions options) {
+  options.limit = std::max(options.limit, mostExact);
+  Answer supplement = answer(supplementIndex(), query, options, false);
+  const bool isFound = supplement.settled && supplement.whole && !supplement.byMeaning;
+  Answer catalog = answer(catalogIndex(), query, options, !isFound);
+  if (!supplement.settled && (catalog.results.results.empty() || catalog.results.lacksWords))
+    supplement = answer(supplementIndex(), query, options, true);
+  SearchResults found = merged(std::move(catalog), std::move(supplement), options.limit);
+  putNamedEmojiFirst(found, joined(query.words, " "));
+  return found;
+}
+
+// Returns the variant of an emoji with these tones. There may be several: of two persons, two women, two men. Then
+// it is the one that has the words as its name apart from the tones, or else the first one.
+std::string_view variantWith(std::size_t place, const std::vector<SkinTone>& tones,
+                             const std::vector<std::string>& words) {
+  std::string_view first;
+  for (const std::size_t variant : emojiVariants(place)) {
+    const std::string_view text = emojiAt(variant).text;
+    std::vector<SkinTone> own = skinTonesOf(text);
+    // One tone means the same for all people of an emoji.
+    if (tones.size() == 1 && std::adjacent_find(own.begin(), own.end(), std::not_equal_to<>()) == own.end())
+      own.resize(1);
+    if (own != tones) continue;
+    if (first.empty()) first = text;
+    for (const SearchLanguage& language : searchLanguages) {
+      std::vector<std::string> name;
+      const std::string annotated = annotationOf(text, language.code).name;
+      for (WordReader reader(annotated); reader.next();) name.emplace_back(reader.word());
+      takeSkinTones(name);
+      if (name == words) return text;
+    }
+  }
+  return first;
+}
+
+// Finds the emoji that the words apart from the tones mean, and returns their variants with these tones.
+SearchResults variants(ParsedQuery query, const std::vector<SkinTone>& tones, SearchOptions options) {
+  const std::size_t limit = std::exchange(options.limit, preparedRowCount());
+  query.bareText = joined(query.words, " ");
+  query.signs.clear();
+  query.otherCharacters.clear();
+  SearchResults found = answerFromBoth(query, options);
+  std::erase_if(found.results, [&](SearchResult& result) {
+    const auto place = emojiPlace(textAt(result.index));
+    if (!place) return true;
+    const std::string_view text = variantWith(*place, tones, query.words);
+    if (text.empty()) return true;
+    result.index = placeOfKey(*characterKey(text));
+    result.nameRanges.clear();
+    return false;
+  });
+  found.total = found.results.size();
+  if (found.results.size() > limit) found.results.resize(limit);
+  return found;
+}
+
+// To look for a name takes a millisecond.
+bool maybeComputedName(const ParsedQuery& query) {
+  const std::vector<std::string>& words = query.words;
+  if (words.size() == 3 && words[0] == "hangul" && words[1] == "syllable") return true;
+  const std::size_t hyphen = query.bareText.rfind('-');
+  return words.size() > 2 && hyphen != std::string::npos &&
+         ascii::number(std::string_view(query.bareText).substr(hyphen + 1), 16).value_or(0) >= 0x1000;
+}
+
+// Returns the characters of the query that are in no index: those whose names are computed, private use and
+// others.
+std::vector<SearchResult> withoutIndex(const ParsedQuery& query, bool isFound) {
+  std::vector<SearchResult> found;
+  const auto add = [&](char32_t codePoint, SearchField field) {
+    const CharacterStatus status = characterStatus(codePoint);
+    const bool isCharacter = status == CharacterStatus::assigned || status == CharacterStatus::control ||
+                             status == CharacterStatus::privateUse;
+    if (!isCharacter || catalogIndex().docOfCodePoint(codePoint) != Index::noDoc ||
+        supplementIndex().docOfCodePoint(codePoint) != Index::noDoc)
+      return;
+    found.push_back({placeOfKey(codePoint), field, {}, 0, true});
+  };
+  for (const ParsedCode& code : query.codes) {
+    if (code.htmlName.empty()) add(code.codePoint, SearchField::code);
+  }
+  for (const std::uint32_t number : query.likelyNumbers) add(number, SearchField::code);
+  for (const std::uint32_t character : query.characters) add(character, SearchField::character);
+  // The names that are computed from code points are the only ones of which the search knows no words.
+  if (!isFound && maybeComputedName(query)) {
+    if (const auto codePoint = characterNamed(query.bareText))
+      found.push_back({placeOfKey(*codePoint), SearchField::name, {}, 0, true});
+  }
+  return found;
+}
+
+}  // namespace
+
+std::optional<std::size_t> placeOf(std::string_view text) {
+  const auto key = characterKey(text);
+  return key ? std::optional(placeOfKey(*key)) : std::nullopt;
+}
+
+std::string textAt(std::size_t place) {
+  if (place >= preparedRowCount()) return textOfCharacterKey(static_cast<char32_t>(place - preparedRowCount()));
+  return utf8(preparedRow(place).codePoint);
+}
+
+SearchResults queryEverything(std::string_view text, const SearchOptions& options) {
+  const auto parsed = parseQuery(text);
+  if (!parsed) return {};
+  ParsedQuery reduced = *parsed;
+  if (const std::vector<SkinTone> tones = takeSkinTones(reduced.words);
+      !tones.empty() && !reduced.words.empty()) {
+    SearchResults found = variants(std::move(reduced), tones, options);
+    if (!found.results.empty()) return found;
+  }
+  SearchResults found = answerFromBoth(*parsed, options);
+  const auto isNamed = [](const SearchResult& one) {
+    return one.field == SearchField::character || one.field == SearchField::code;
+  };
+  std::vector<SearchResult> others =
+      withoutIndex(*parsed, !found.results.empty() && !found.approximate);
+  if (!others.empty() && found.approximate) found = {};
+  // The query is an emoji of several characters: it comes before its parts.
+  const auto key = characterKey(trimmed(text));
+  const bool isEmoji = key && *key >= firstEmojiNumber;
+  if (isEmoji) {
+    const std::size_t place = placeOfKey(*key);
+    std::erase_if(found.results, [&](const SearchResult& one) { return one.index == place; });
+    others.insert(others.begin(), {place, SearchField::character, {}, 0, true});
+  }
+  const auto at = isEmoji ? found.results.begin()
+                          : std::find_if_not(found.results.begin(), found.results.end(), isNamed);
+  found.results.insert(at, others.begin(), others.end());
+  found.total += others.size();
+  if (found.results.size() > options.limit) found.results.resize(options.limit);
+  return found;
+}
+
+}  // namespace glyph::search
