@@ -77,8 +77,8 @@ std::vector<QString> queries() {
   return result;
 }
 
-// Each query is typed letter by letter; every letter includes painting the grid. "card_ms" is the longest
-// time that the card takes for a character, which it shows when the user pauses.
+// Each query is typed letter by letter; every letter includes painting the grid. "card_ms" and "card_cpu_ms"
+// are the longest time that the card takes for a character, which it shows when the user pauses.
 void keyStrokes(benchmark::State& state) {
   Window shown;
   CharacterCard& card = *shown.window.findChild<CharacterCard*>();
@@ -101,6 +101,7 @@ void keyStrokes(benchmark::State& state) {
   }
   longest.report(state);
   state.counters["card_ms"] = longestCard.wall;
+  state.counters["card_cpu_ms"] = longestCard.processor;
   state.counters["keys"] = static_cast<double>(count);
 }
 BENCHMARK(keyStrokes)->Unit(benchmark::kMillisecond)->Iterations(1);

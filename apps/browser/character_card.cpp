@@ -68,13 +68,20 @@ class ElidedLabel : public QLabel {
 // A button with a character on it.
 class CharacterButton : public QToolButton {
  public:
-  explicit CharacterButton(const glyph::Entity& entity) : entity_(entity) {
+  CharacterButton() {
     setAutoRaise(true);
     setFixedSize(38, 38);
-    setToolTip(nameText(entity) + QLatin1Char('\n') + codeText(entity));
-    setAccessibleName(nameText(entity));
     connect(&GlyphRenderer::shared(), &GlyphRenderer::picturesReady, this, qOverload<>(&QWidget::update));
   }
+
+  void setCharacter(const glyph::Entity& entity) {
+    entity_ = entity;
+    const QString name = nameText(entity);
+    setToolTip(name + QLatin1Char('\n') + codeText(entity));
+    setAccessibleName(name);
+    update();
+  }
+  QString hex() const { return fromUtf8(entity_.computed.hex); }
 
  protected:
   void paintEvent(QPaintEvent* event) override {
@@ -384,20 +391,19 @@ CharacterCard::CharacterRow CharacterCard::addCharacterRow(const QString& title)
   return {addSection(title, content), flow};
 }
 
+// The buttons of earlier characters are used again, because making them takes most of the time of a card.
 void CharacterCard::fill(const CharacterRow& row, const std::vector<std::string>& texts) {
-  while (QLayoutItem* const item = row.flow->takeAt(0)) {
-    item->widget()->hide();
-    item->widget()->deleteLater();
-    delete item;
-  }
-  std::size_t count = 0;
-  for (const std::string& text : texts) {
-    if (++count > mostRelated) break;
-    const glyph::Entity entity = catalog_.characterOf(text);
-    auto* const button = new CharacterButton(entity);
-    const QString hex = fromUtf8(entity.computed.hex);
-    connect(button, &QToolButton::clicked, this, [this, hex] { Q_EMIT characterChosen(hex); });
-    row.flow->addWidget(button);
+  const int count = static_cast<int>(std::min(texts.size(), mostRelated));
+  for (int i = 0; i < std::max(count, row.flow->count()); ++i) {
+    const QLayoutItem* const item = row.flow->itemAt(i);
+    auto* button = item ? static_cast<CharacterButton*>(item->widget()) : nullptr;
+    if (!button) {
+      button = new CharacterButton;
+      connect(button, &QToolButton::clicked, this, [this, button] { Q_EMIT characterChosen(button->hex()); });
+      row.flow->addWidget(button);
+    }
+    if (i < count) button->setCharacter(catalog_.characterOf(texts[static_cast<std::size_t>(i)]));
+    button->setVisible(i < count);
   }
   showSection(row.section, count > 0);
 }

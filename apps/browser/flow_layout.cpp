@@ -17,7 +17,9 @@ QLayoutItem* FlowLayout::takeAt(int index) {
 
 QSize FlowLayout::minimumSize() const {
   QSize size;
-  for (const QLayoutItem* const item : items_) size = size.expandedTo(item->minimumSize());
+  for (const QLayoutItem* const item : items_) {
+    if (!item->isEmpty()) size = size.expandedTo(item->minimumSize());
+  }
   return size;
 }
 
@@ -31,6 +33,7 @@ int FlowLayout::place(const QRect& area, bool move) const {
   int x = area.x(), y = area.y(), lineHeight = 0;
   const Qt::LayoutDirection direction = parentWidget() ? parentWidget()->layoutDirection() : Qt::LeftToRight;
   for (QLayoutItem* const item : items_) {
+    if (item->isEmpty()) continue;  // hidden
     const QSize size = item->sizeHint();
     if (x > area.x() && x + size.width() > area.right() + 1) {
       x = area.x();
