@@ -3,13 +3,15 @@
 #include <deque>
 #include <nlohmann/json.hpp>
 #include <optional>
-#include <regex>
 
 #include "card.h"
 #include "commands.h"
 #include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/characters/emoji.h"
+#include "glyphorium/characters/supplement.h"
 #include "glyphorium/state/selected_entities.h"
 #include "lookup.h"
+#include "regular_expression.h"
 
 namespace cli {
 using glyph::Entity;
@@ -30,13 +32,13 @@ int listGroups(Output& output, bool json) {
 }
 
 int listEntities(Output& output, const ListRequest& request, const Listing& listing) {
-  std::optional<std::regex> pattern;
-  try {
-    if (!request.regex.empty())
-      pattern.emplace(request.regex, std::regex::ECMAScript | std::regex::icase | std::regex::optimize);
-  } catch (const std::regex_error& error) {
-    complain("'" + request.regex + "' is no regular expression: " + error.what());
-    return wrongUse;
+  std::optional<RegularExpression> pattern;
+  if (!request.regex.empty()) {
+    pattern.emplace(request.regex);
+    if (!pattern->fault().empty()) {
+      complain("'" + request.regex + "' is no regular expression: " + pattern->fault());
+      return wrongUse;
+    }
   }
   glyph::Glyphorium& catalog = glyph::glyphorium();
   catalog.configure();
@@ -76,9 +78,15 @@ int listEntities(Output& output, const ListRequest& request, const Listing& list
     append(catalog.buildInEntities(), &*group);
     append(catalog.allCustomEntities, &*group);
   }
+  std::deque<Entity> toned;
+  if (const auto tone = glyph::skinToneNamed(request.tone)) {
+    for (const Entity*& entity : entities) {
+      const std::string text = glyph::withSkinTone(entity->computed.symbol, *tone);
+      if (text != entity->computed.symbol.view()) entity = &toned.emplace_back(glyph::supplementEntity(text));
+    }
+  }
   if (pattern) {
-    std::erase_if(entities,
-                  [&](const Entity* entity) { return !std::regex_search(entity->name(), *pattern); });
+    std::erase_if(entities, [&](const Entity* entity) { return !pattern->matches(entity->name()); });
     if (entities.empty()) complain("no name matches '" + request.regex + "'");
   }
   printEntities(output, entities, listing);

@@ -21,7 +21,7 @@ void printLine(Output& output, std::string_view label, std::string_view value) {
   std::string column(label);
   column.resize(std::max<std::size_t>(column.size() + 1, indentation - 4), ' ');
   const std::vector<std::string> lines = output.onTerminal()
-                                             ? wrapped(value, std::max(terminalWidth() - indentation, 24))
+                                             ? wrapped(value, std::max(output.width() - indentation, 20))
                                              : std::vector{std::string(value)};
   for (const std::string& line : lines) {
     const bool isFirst = &line == &lines.front();
@@ -80,7 +80,7 @@ void printCard(Output& output, const std::vector<Entity>& entities) {
   for (const auto& [label, value] : unicodeLines(entity)) printLine(output, label, value);
   if (const auto note = entity.usageNote()) {
     output.printLine();
-    for (const std::string& line : wrapped(*note, std::min(terminalWidth(), 84) - 4)) {
+    for (const std::string& line : wrapped(*note, std::min(output.width(), 84) - 4)) {
       output.printLine(line.empty() ? "" : "    " + line);
     }
   }

@@ -19,6 +19,7 @@ struct ListRequest {
       groups;  // names of groups and sets of characters; empty means the displayed groups
   bool all = false;
   std::string regex;  // only characters whose names it matches somewhere; empty means all
+  std::string tone;   // of emoji: see skinToneNamed(); empty leaves them as they are
 };
 int listEntities(Output& output, const ListRequest& request, const Listing& listing);
 int showCharacters(Output& output, const std::vector<std::string>& arguments, const Listing& listing);
@@ -29,11 +30,18 @@ int listValues(Output& output, const std::string& property, bool json);  // "blo
 struct SearchRequest {
   std::vector<std::string> words;
   std::vector<std::string> groups;  // search only in these groups; empty means all groups
-  int limit = 20;
-  bool displayed = false;  // search only in the displayed groups
-  bool copy = false;       // copy the first result to the clipboard
+  int limit = 20;                   // 0 means no limit
+  bool displayed = false;           // search only in the displayed groups
+  bool copy = false;                // copy the first result to the clipboard
 };
 int searchCatalog(Output& output, const SearchRequest& request, const Listing& listing);
+struct PickRequest {
+  std::vector<std::string> words;  // the text to begin with
+  bool multi = false;
+  bool copy = false;  // copy instead of print
+  std::string form = "character";
+};
+int pickCharacters(Output& output, const PickRequest& request);
 int identifyText(Output& output, const std::vector<std::string>& texts, const Listing& listing);
 
 // The user's choices.

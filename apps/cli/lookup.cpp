@@ -2,6 +2,8 @@
 #include "lookup.h"
 
 #include <algorithm>
+#include <charconv>
+#include <system_error>
 
 #include "glyphorium/characters/annotations.h"
 #include "glyphorium/characters/characters.h"
@@ -60,8 +62,15 @@ Character characterOfCodePoint(char32_t codePoint) {
   return {entityOfCodePoint(codePoint)};
 }
 
-// Returns the number of a code such as "U+D800" or "d800".
+// Returns the number of a code such as "U+D800", "d800", "0o20622" or "0b10000110010010".
 std::optional<char32_t> anyCode(std::string_view text) {
+  for (const auto& [prefix, base] : {std::pair<std::string_view, int>{"0o", 8}, {"0b", 2}}) {
+    std::uint32_t number = 0;
+    if (!text.starts_with(prefix)) continue;
+    const auto [end, fault] =
+        std::from_chars(text.data() + prefix.size(), text.data() + text.size(), number, base);
+    if (fault == std::errc() && end == text.data() + text.size() && number <= 0x10FFFF) return number;
+  }
   const std::string bare = text.size() >= 4 ? "U+" + std::string(text) : std::string();
   for (const std::string& form : {std::string(text), bare}) {
     const std::vector<glyph::ParsedCode> codes = glyph::parseCodes(form);

@@ -23,6 +23,7 @@ using glyph::ResolvedText;
 /// - emoji of several characters, also by their code points;
 /// - names and formal aliases of Unicode, names of emoji, shortcodes with their colons (":+1:");
 /// - surrogates by their code;
+/// - octal and binary numbers: "0o20622", "0b10000110010010";
 /// - several characters in a row, if none of them is ASCII.
 /// An emoji of several characters is one character. The catalog must be configured.
 ResolvedText resolve(std::string_view argument);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The grammar of the command line. commands.h declares the functions that carry out the commands.
 #include <CLI/CLI.hpp>
+#include <cctype>
 #include <cerrno>
 #include <csignal>
 #include <functional>
@@ -28,9 +29,12 @@ struct Options {
   std::vector<std::string> words;
   std::string word;
   cli::SearchRequest search;
+  cli::PickRequest pick;
   std::string form = "character";
   int limit = 20;
 };
+
+constexpr int maxLimit = 1'000'000;
 
 using Run = std::function<int(cli::Output&)>;
 
@@ -51,6 +55,18 @@ void addListing(CLI::App& command, Options& options) {
   tsv->excludes(json);
 }
 
+std::vector<std::string> namesOfTones() {
+  std::vector<std::string> names;
+  for (const glyph::SkinTone tone : glyph::allSkinTones) names.emplace_back(glyph::skinToneName(tone));
+  return names;
+}
+
+std::vector<std::string> namesOfForms() {
+  std::vector<std::string> names;
+  for (const glyph::CopyForm& form : glyph::copyForms()) names.emplace_back(form.identifier);
+  return names;
+}
+
 void addBrowsing(CLI::App& app, Options& options, Run& run) {
   CLI::App* const groups = app.add_subcommand("groups", "The groups of the catalog with their counts");
   addJson(*groups, options);
@@ -62,6 +78,9 @@ void addBrowsing(CLI::App& app, Options& options, Run& run) {
       "Groups in any letter case; U+2190..2193, block:arrows, script:Greek, category:Sc, age:15, emoji");
   list->add_flag("--all", options.list.all, "The whole catalog");
   list->add_option("--regex", options.list.regex, "Only names that this regular expression matches");
+  list->add_option("--tone", options.list.tone, "Show emoji with this skin tone")
+      ->check(CLI::IsMember(namesOfTones()))
+      ->type_name("TONE");
   addListing(*list, options);
   list->callback([&] {
     if (options.list.all && !options.list.groups.empty()) {
@@ -91,9 +110,9 @@ void addSearching(CLI::App& app, Options& options, Run& run) {
                    "Words in any order, a code, an HTML reference, a character")
       ->required();
   search->add_flag("--displayed", options.search.displayed, "Only in the displayed groups");
-  search->add_option("--limit", options.search.limit, "At most so many")
+  search->add_option("--limit", options.search.limit, "At most so many; 0 means all")
       ->capture_default_str()
-      ->check(CLI::PositiveNumber);
+      ->check(CLI::Range(0, maxLimit));
   search->add_option("--group", options.search.groups, "Only in this group; may be repeated")
       ->type_name("GROUP")
       ->expected(1)
@@ -103,6 +122,17 @@ void addSearching(CLI::App& app, Options& options, Run& run) {
   search->callback([&] {
     run = [&](cli::Output& output) { return cli::searchCatalog(output, options.search, options.listing); };
   });
+
+  CLI::App* const pick = app.add_subcommand("pick", "Find characters interactively in the terminal");
+  pick->add_option("WORDS", options.pick.words, "What to search for first");
+  pick->add_flag("--multi", options.pick.multi, "Mark several characters with the Tab key");
+  pick->add_flag("--copy", options.pick.copy, "Copy what you choose instead of printing it");
+  pick->add_option("--as", options.pick.form, "The form to print or to copy")
+      ->capture_default_str()
+      ->check(CLI::IsMember(namesOfForms()))
+      ->type_name("FORM");
+  pick->callback(
+      [&] { run = [&](cli::Output& output) { return cli::pickCharacters(output, options.pick); }; });
 
   CLI::App* const identify = app.add_subcommand("identify", "Name each character of a text");
   identify->add_option("TEXT", options.words, "The text, or - for standard input")->required();
@@ -152,23 +182,19 @@ void addChoices(CLI::App& app, Options& options, Run& run) {
   added->callback(
       [&] { run = [&](cli::Output& output) { return cli::listAdded(output, options.listing); }; });
 
-  std::vector<std::string> tones;
-  for (const glyph::SkinTone tone : glyph::allSkinTones) tones.emplace_back(glyph::skinToneName(tone));
   CLI::App* const tone = app.add_subcommand("tone", "The skin tone that you prefer for emoji");
-  tone->add_option("TONE", options.word, "Store this one")->check(CLI::IsMember(tones));
+  tone->add_option("TONE", options.word, "Store this one")->check(CLI::IsMember(namesOfTones()));
   tone->callback([&] { run = [&](cli::Output& output) { return cli::skinTone(output, options.word); }; });
 }
 
 void addCopying(CLI::App& app, Options& options, Run& run) {
-  std::vector<std::string> forms;
-  for (const glyph::CopyForm& form : glyph::copyForms()) forms.emplace_back(form.identifier);
   CLI::App* const copy =
       app.add_subcommand("copy", "Copy a character, or one of its code forms, to the clipboard");
   copy->add_option("CHARACTER", options.words, "→, U+2192, 2192, '&rarr;', 'rightwards arrow' ...")
       ->required();
   copy->add_option("--as", options.form, "The form to copy")
       ->capture_default_str()
-      ->check(CLI::IsMember(forms))
+      ->check(CLI::IsMember(namesOfForms()))
       ->type_name("FORM");
   copy->add_flag("--terminal", options.terminal,
                  "Copy through the terminal (OSC 52), as in a remote session");
@@ -209,7 +235,7 @@ void addIndexing(CLI::App& app, Options& options, Run& run) {
   search->add_option("WORDS", options.words, "Words, a code or a character")->required();
   search->add_option("--limit", options.limit, "At most so many")
       ->capture_default_str()
-      ->check(CLI::PositiveNumber);
+      ->check(CLI::Range(1, maxLimit));
   addJson(*search, options);
   search->callback([&] {
     run = [&](cli::Output& output) {
@@ -269,6 +295,30 @@ std::string explanation(const CLI::App& app, const CLI::ParseError& error) {
   const std::vector<std::string> names = cli::nearestTexts(rest.front(), commands);
   return "there is no command '" + rest.front() + "'" +
          (names.empty() ? "" : "; did you mean '" + names.front() + "'?");
+}
+
+// Marks an argument that begins like an option but is none, such as "->".
+constexpr char noOption = '\x1f';
+
+// Returns the arguments in reverse order, as the parser wants them.
+std::vector<std::string> argumentsOf(int argc, char** argv) {
+  std::vector<std::string> arguments;
+  for (int i = argc - 1; i > 0; --i) {
+    std::string argument = argv[i];
+    const std::size_t name = argument.find_first_not_of('-');
+    const bool hasName =
+        name != std::string::npos && std::isalnum(static_cast<unsigned char>(argument[name])) != 0;
+    const bool isOption = argument == "--" || (hasName && name <= 2);
+    if (argument.size() > 1 && argument.front() == '-' && !isOption) argument.insert(0, 1, noOption);
+    arguments.push_back(std::move(argument));
+  }
+  return arguments;
+}
+
+void unmark(std::vector<std::string>& words) {
+  for (std::string& word : words) {
+    if (word.starts_with(noOption)) word.erase(0, 1);
+  }
 }
 
 // Writes the collected output. Returns `exitCode`, or notWritten if writing failed.
@@ -332,7 +382,10 @@ int main(int argc, char** argv) {
   });
 
   try {
-    app.parse(argc, argv);
+    app.parse(argumentsOf(argc, argv));
+    for (auto* const words :
+         {&options.words, &options.search.words, &options.pick.words, &options.list.groups})
+      unmark(*words);
   } catch (const CLI::Success& request) {  // --help, --version
     std::ostringstream text;
     app.exit(request, text, text);

@@ -110,9 +110,13 @@ void Output::printTable(const std::vector<std::vector<std::string>>& rows) {
   }
 }
 
+std::string Output::take() {
+  std::string text = std::exchange(text_, {});
+  return onTerminal_ ? withoutControls(text, mark_, visibleControl) : text;
+}
+
 bool Output::flush() {
-  if (onTerminal_) text_ = withoutControls(text_, mark_, visibleControl);
-  ready_ += std::exchange(text_, {});
+  ready_ += take();
   std::string_view rest = ready_;
   while (!rest.empty()) {
     const ssize_t count = write(STDOUT_FILENO, rest.data(), rest.size());

@@ -14,6 +14,9 @@ namespace cli {
 /// The exit codes of the program.
 enum ExitCode : int { found = 0, nothingFound = 1, wrongUse = 2, notWritten = 3, notRead = 3 };
 
+/// Returns the number of columns of the terminal on standard output, or 80 if it is unknown.
+int terminalWidth();
+
 /// When to colour and align the output: only on a terminal, never, or always.
 enum class Style { automatic, plain, terminal };
 
@@ -45,12 +48,20 @@ class Output {
   /// Whether the reader has closed the pipe. Everything printed afterwards is lost.
   bool closed() const { return closed_; }
 
+  /// The number of columns for wrapped text: terminalWidth(), if setWidth() was not called.
+  int width() const { return width_ > 0 ? width_ : terminalWidth(); }
+  void setWidth(int columns) { width_ = columns; }
+
+  /// Returns what was printed since the last flush as flush() would write it, and forgets it.
+  std::string take();
+
   std::size_t size() const { return text_.size(); }  ///< number of bytes printed since the last flush()
 
  private:
   std::string coloured(const char* code, std::string_view text) const;
 
   bool onTerminal_;
+  int width_ = 0;
   /// Stands for the beginning of an escape sequence in text_. Because it is different in each run, no stored
   /// text can contain it, so flush() can tell the colours of this class from other escape sequences. Empty if
   /// the output is not coloured.
@@ -77,9 +88,6 @@ void complainOfFailure(std::string_view otherwise);
 std::string escapedJson(std::string_view json);
 
 using glyph::joined;
-
-/// Returns the number of columns of the terminal on standard output, or 80 if it is unknown.
-int terminalWidth();
 
 /// Breaks the text at spaces into lines of at most `width` columns. A longer word is not broken. Line breaks
 /// in the text are kept.

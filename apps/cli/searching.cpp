@@ -2,6 +2,7 @@
 #include "card.h"
 #include "commands.h"
 #include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/characters/characters.h"
 #include "glyphorium/search/catalog_search.h"
 #include "glyphorium/state/selected_entities.h"
 #include "lookup.h"
@@ -10,6 +11,8 @@ namespace cli {
 namespace {
 
 using glyph::Entity;
+
+constexpr std::size_t noLimit = 1'000'000;
 
 // Returns the name. The parts that match the query are highlighted.
 std::string highlighted(const Output& output, const std::string& name, const glyph::SearchResult& result) {
@@ -21,6 +24,12 @@ std::string highlighted(const Output& output, const std::string& name, const gly
     at = range.end;
   }
   return text + name.substr(at);
+}
+
+// Returns the group, and for a Han character what it means.
+std::string placeOf(const Entity& entity) {
+  if (!entity.computed.group.empty()) return std::string(entity.computed.group);
+  return glyph::characterFacts(static_cast<char32_t>(entity.computed.decimal)).hanDefinition;
 }
 
 // Returns the JSON object with the member "approximate", if it is true.
@@ -45,7 +54,7 @@ std::string beyondTheCatalog(const std::string& query) {
 
 int searchCatalog(Output& output, const SearchRequest& request, const Listing& listing) {
   glyph::SearchOptions options;
-  options.limit = static_cast<std::size_t>(request.limit);
+  options.limit = request.limit == 0 ? noLimit : static_cast<std::size_t>(request.limit);
   for (const std::string& name : request.groups) {
     const auto group = groupNamed(name);
     if (!group) {
@@ -83,7 +92,7 @@ int searchCatalog(Output& output, const SearchRequest& request, const Listing& l
       continue;
     }
     rows.push_back({output.accent(shownSymbol(entity.computed.symbol)), output.faint(entity.computed.hex),
-                    highlighted(output, entity.name(), result), output.faint(entity.computed.group)});
+                    highlighted(output, entity.name(), result), output.faint(placeOf(entity))});
     if (found.approximate && !output.onTerminal()) rows.back().push_back("approximate");
   }
   if (found.results.empty()) {

@@ -126,7 +126,8 @@ std::string settingsState() {
 }
 
 // Returns whether a character beyond the catalog is an emoji, or the query is its name. There are so many
-// others that those that only have words of the query would be in the way, and so would ideographs that mean it.
+// others that those that only have words of the query would be in the way, and so would ideographs that mean
+// it.
 bool isNamed(const Entity& entity, const SearchResult& result) {
   const auto codePoint = static_cast<char32_t>(entity.computed.decimal);
   const bool isMeaning =

@@ -44,7 +44,7 @@ struct CharacterFacts {
   std::u32string upperCase;             ///< full mapping that depends on no language; empty if unchanged
   std::u32string lowerCase;
   std::u32string titleCase;
-  std::string_view numericValue;                ///< "1/2", "1000"
+  std::string_view numericValue;           ///< "1/2", "1000"
   std::vector<std::string> formalAliases;  ///< corrections, names of controls, abbreviations
   std::vector<std::string> otherNames;     ///< informal aliases of the code charts
   std::vector<std::string> comments;       ///< remarks of the code charts

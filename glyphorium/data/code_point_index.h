@@ -9,8 +9,8 @@
 namespace glyph {
 
 /// The offsets at which the texts of code points begin in a longer text. The index consists of pairs of
-/// little-endian 24-bit integers, a code point and an offset, in ascending order of code points. This is a view
-/// of the library's read-only image.
+/// little-endian 24-bit integers, a code point and an offset, in ascending order of code points. This is a
+/// view of the library's read-only image.
 class CodePointIndex {
  public:
   struct Entry {
@@ -37,7 +37,8 @@ class CodePointIndex {
     return text.substr(begin, end - begin);
   }
 
-  /// Returns the position of the last entry whose code point is not greater. Returns nullopt if there is none.
+  /// Returns the position of the last entry whose code point is not greater. Returns nullopt if there is
+  /// none.
   std::optional<std::size_t> findUpTo(std::uint32_t codePoint) const noexcept {
     std::size_t begin = 0;
     for (std::size_t end = size(); begin < end;) {

@@ -31,7 +31,8 @@ std::optional<NameTableLine> nameTableLine(std::size_t offset) noexcept {
   std::string_view rest = structuredUnicodeJsonText.substr(offset);
   if (!rest.starts_with(beforeHex)) return std::nullopt;
   const std::size_t end = rest.find('\n');
-  const std::size_t next = end == std::string_view::npos ? structuredUnicodeJsonText.size() : offset + end + 1;
+  const std::size_t next =
+      end == std::string_view::npos ? structuredUnicodeJsonText.size() : offset + end + 1;
   rest.remove_prefix(beforeHex.size());
   const std::size_t hexSize = rest.find('"');
   const auto codePoint = ascii::number(rest.substr(0, hexSize), 16);

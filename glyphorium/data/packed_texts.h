@@ -19,7 +19,8 @@ struct PackedTexts {
   static constexpr unsigned char literal = 255;  ///< the next byte stands for itself
 
   CodePointIndex index;  ///< the offset in `lines` at which the line of a code point begins
-  /// The pieces that the bytes 1 to 254 stand for: each has its size in one byte and room for longestPiece bytes.
+  /// The pieces that the bytes 1 to 254 stand for: each has its size in one byte and room for longestPiece
+  /// bytes.
   std::string_view pieces;
   std::string_view lines;
 

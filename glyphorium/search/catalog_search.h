@@ -14,10 +14,11 @@
 
 namespace glyph {
 
-/// Searches the catalog, the characters that the user added, and all other characters and emoji of Unicode: the
-/// supplement. It works without configure() and decodes only the entities that the caller asks for. If the user has added no characters, the constructor only reads the
-/// setting. Otherwise the constructor also builds a Search over the added characters. Later changes of
-/// the setting do not affect an object: see isCurrent(). Immutable: any number of threads may use one object.
+/// Searches the catalog, the characters that the user added, and all other characters and emoji of Unicode:
+/// the supplement. It works without configure() and decodes only the entities that the caller asks for. If
+/// the user has added no characters, the constructor only reads the setting. Otherwise the constructor also
+/// builds a Search over the added characters. Later changes of the setting do not affect an object: see
+/// isCurrent(). Immutable: any number of threads may use one object.
 class GLYPHORIUM_EXPORT CatalogSearch {
  public:
   /// Uses the added characters that settingsStore() has at the time of the call.
@@ -33,8 +34,8 @@ class GLYPHORIUM_EXPORT CatalogSearch {
   /// Han characters, which are found by their meanings and readings, come last.
   ///
   /// Emoji with skin tones are not results of their own beside the emoji without. Words such as "medium skin
-  /// tone" in the text choose the variant. Otherwise emoji have preferredSkinTone(), as it was when the object
-  /// was made, unless the text has the emoji itself.
+  /// tone" in the text choose the variant. Otherwise emoji have preferredSkinTone(), as it was when the
+  /// object was made, unless the text has the emoji itself.
   ///
   /// SearchResult::index is not a position in a list: pass the result to entity() instead. With
   /// SearchOptions::supplement false, only the catalog and the added characters are searched.
@@ -45,11 +46,12 @@ class GLYPHORIUM_EXPORT CatalogSearch {
   Entity entity(const SearchResult& result) const;
 
   /// Returns the entity whose hex code or hex list is exactly this text ("2192", "0041,030a", "1f1e9,1f1ea").
-  /// If a character is both added and in the catalog, returns the added one. Returns nullopt if the text is no
-  /// character that has a name, and no emoji.
+  /// If a character is both added and in the catalog, returns the added one. Returns nullopt if the text is
+  /// no character that has a name, and no emoji.
   std::optional<Entity> entityOfHex(std::string_view hex) const;
 
-  /// Returns true if settingsStore() still has the codes and the skin tone that this object uses. If not, make a new object.
+  /// Returns true if settingsStore() still has the codes and the skin tone that this object uses. If not,
+  /// make a new object.
   bool isCurrent() const;
 
   /// Returns true if the result of this object is a character that the user added.
@@ -62,9 +64,9 @@ class GLYPHORIUM_EXPORT CatalogSearch {
   /// entity() has such a result.
   bool isAdded(const SearchResult& result) const { return !isInCatalog(result); }
 
-  /// Returns the position in Glyphorium::buildInEntities() of a result for which isInCatalog() is true. A host
-  /// that has configured the catalog reads the entity there, which is much faster than entity() for thousands
-  /// of results.
+  /// Returns the position in Glyphorium::buildInEntities() of a result for which isInCatalog() is true. A
+  /// host that has configured the catalog reads the entity there, which is much faster than entity() for
+  /// thousands of results.
   std::size_t buildInPlace(const SearchResult& result) const { return result.index - added_.size(); }
 
  private:

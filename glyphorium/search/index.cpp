@@ -18,8 +18,9 @@ std::uint32_t Index::docOfCodePoint(std::uint32_t codePoint) const {
     }
     return noDoc;
   }
-  const auto found = std::lower_bound(byCodePoint.begin(), byCodePoint.end(), codePoint,
-                                      [&](std::uint32_t doc, std::uint32_t b) { return docCodePoint[doc] < b; });
+  const auto found =
+      std::lower_bound(byCodePoint.begin(), byCodePoint.end(), codePoint,
+                       [&](std::uint32_t doc, std::uint32_t b) { return docCodePoint[doc] < b; });
   return found == byCodePoint.end() || docCodePoint[*found] != codePoint ? noDoc : *found;
 }
 

@@ -90,15 +90,15 @@ struct Index {
   /// For each word, the position of its first posting in `postings`. The last element is the size of
   /// `postings`.
   std::span<const std::uint32_t> postingStart;
-  /// A posting is (number of the phrase) << 8 | (position of the word in the phrase). If `phrases` is empty, it
-  /// is (doc) << 16 | (number of the shape), and the shape has (number of the text in the doc) << 8 | (position)
-  /// in place of its doc.
+  /// A posting is (number of the phrase) << 8 | (position of the word in the phrase). If `phrases` is empty,
+  /// it is (doc) << 16 | (number of the shape), and the shape has (number of the text in the doc) << 8 |
+  /// (position) in place of its doc.
   std::span<const std::uint32_t> postings;
 
   TextList signs;                               ///< sign keys (see signKey()) in ascending order
   std::span<const std::uint32_t> signPostings;  ///< for each sign key, a posting with any position
-  TextList htmlNames;                          ///< in their original spelling, not folded, in ascending order
-  std::span<const std::uint32_t> htmlDocs;     ///< for each HTML name, the number of its doc
+  TextList htmlNames;                       ///< in their original spelling, not folded, in ascending order
+  std::span<const std::uint32_t> htmlDocs;  ///< for each HTML name, the number of its doc
 
   TextList groupNames;
   TextList groupWords;  ///< for each group, Group::words

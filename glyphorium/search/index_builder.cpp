@@ -132,7 +132,8 @@ void IndexBuilder::addText(PhraseKind kind, std::string_view languageCode, std::
   ++textOfDoc_;
 }
 
-// Returns the number of the shape. If there are too many shapes, returns that of the shape that was added last.
+// Returns the number of the shape. If there are too many shapes, returns that of the shape that was added
+// last.
 std::uint32_t IndexBuilder::numberOfShape(const Shape& shape) {
   const std::size_t most = form_ == Form::phrases ? maxShapesOfPhrases : maxShapesOfPostings;
   const auto next = static_cast<std::uint32_t>(std::min(shapes_.size(), most - 1));

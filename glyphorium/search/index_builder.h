@@ -33,8 +33,8 @@ class IndexBuilder {
   /// How the index stores the places of words: see Index::phrases and Index::postings.
   /// - phrases: for a list of entities of any length.
   /// - shapes: without `phrases`, which saves room if most texts are short. There may be at most 65,536 docs.
-  ///   The entity of each doc must equal its code point, and the docs must be in the order of their priors and
-  ///   then of their code points.
+  ///   The entity of each doc must equal its code point, and the docs must be in the order of their priors
+  ///   and then of their code points.
   enum class Form { phrases, shapes };
 
   explicit IndexBuilder(Form form);

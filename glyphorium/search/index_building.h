@@ -24,7 +24,8 @@ void addName(IndexBuilder& builder, std::string_view name);
 /// Adds the informal aliases and the comments of the code charts.
 void addRemarks(IndexBuilder& builder, std::uint32_t codePoint);
 
-/// Adds addRemarks() and the texts that the sources of the search have for a code point: aliases, annotations, everyday names.
+/// Adds addRemarks() and the texts that the sources of the search have for a code point: aliases,
+/// annotations, everyday names.
 void addSearchFacts(IndexBuilder& builder, std::uint32_t codePoint);
 
 }  // namespace glyph::search

@@ -14,8 +14,8 @@ namespace glyph::search {
 /// machines with the same byte order.
 using IndexImage = std::vector<std::byte>;
 
-/// Returns an image with a copy of the index. If `docEntity` is empty, the opened index has `docCodePoint` in its
-/// place.
+/// Returns an image with a copy of the index. If `docEntity` is empty, the opened index has `docCodePoint` in
+/// its place.
 IndexImage packed(const Index& index);
 
 /// Returns the index in an image. The index consists of views of the image, so the image must outlive it. The

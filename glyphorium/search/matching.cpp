@@ -25,7 +25,7 @@ struct PhraseState {
   Phrase phrase{};
   std::uint32_t text = 0;       // Occurrence::text
   std::uint32_t next = noText;  // the position in Scratch::phrases of another text of the doc
-  std::uint32_t gain = 0;  // what the matched words have kept of their weights, in hundredths of a point
+  std::uint32_t gain = 0;       // what the matched words have kept of their weights, in hundredths of a point
   std::uint8_t lastWord = 0;
   std::uint8_t words = 0;
   std::uint8_t stopWords = 0;
@@ -288,9 +288,10 @@ class Matcher {
   Match matchOf(std::uint32_t doc) const {
     const DocState& state = scratch_.docs[doc];
     const bool asTyped = state.asTyped == state.matched;
-    const bool isHan = state.phrase != noText && scratch_.phrases[state.phrase].phrase.kind >= PhraseKind::meaning;
-    const std::uint32_t spread = loss(state.gain + state.current, state.contentWords) + spreadCost +
-                                 (isHan ? hanMeaningCost : 0);
+    const bool isHan =
+        state.phrase != noText && scratch_.phrases[state.phrase].phrase.kind >= PhraseKind::meaning;
+    const std::uint32_t spread =
+        loss(state.gain + state.current, state.contentWords) + spreadCost + (isHan ? hanMeaningCost : 0);
     if (spread < state.best) {
       const bool named = state.nameGain >= state.gain + state.current;
       const std::uint32_t cost = spread + (named ? 0 : unnamedCost);

@@ -14,8 +14,8 @@ struct Answer {
   bool settled;
   /// Whether a code, a character or a whole text of a character is the query.
   bool whole;
-  /// Whether the best result is a Han character that a meaning found. There are so many of these that mistyped
-  /// words find some too.
+  /// Whether the best result is a Han character that a meaning found. There are so many of these that
+  /// mistyped words find some too.
   bool byMeaning;
 };
 

@@ -103,7 +103,7 @@ inline constexpr std::uint32_t hanMeaningCost = 300;
 inline constexpr std::uint32_t behindExactCost = 75;   // after the results with a text equal to the query
 inline constexpr std::uint32_t otherReadingCost = 45;  // added if words of the query were split or joined
 inline constexpr std::uint32_t likelyNumberOfOtherCost = 10;  // a number, as the code of a rarer character
-inline constexpr std::uint32_t lastCost = 8000;        // after all other results
+inline constexpr std::uint32_t lastCost = 8000;               // after all other results
 
 /// The cost of a kind of text. The name says a little more about a character than its other texts do. A
 /// keyword says less, because it names a property that many characters share.

@@ -77,7 +77,8 @@ std::vector<Doc> docsOfSupplement() {
     if (emojiBase(place) != place) continue;
     const char32_t key = *characterKey(emojiAt(place).text);
     // A doc of an emoji of the catalog stays only if it gets texts of its own: see addVariantNames().
-    if (!known.contains(key) || !emojiVariants(place).empty()) docs.push_back({emojiPrior, key, DocKind::emoji});
+    if (!known.contains(key) || !emojiVariants(place).empty())
+      docs.push_back({emojiPrior, key, DocKind::emoji});
     known.insert(key);
   }
   for (const std::string& text : supplementTexts()) {
@@ -93,9 +94,8 @@ std::vector<Doc> docsOfSupplement() {
     if (known.insert(hanReadings.codePoint(i)).second)
       docs.push_back({hanPriorOf(hanReadings.line(i)), hanReadings.codePoint(i), DocKind::han});
   }
-  std::sort(docs.begin(), docs.end(), [](const Doc& a, const Doc& b) {
-    return std::pair(a.prior, a.key) < std::pair(b.prior, b.key);
-  });
+  std::sort(docs.begin(), docs.end(),
+            [](const Doc& a, const Doc& b) { return std::pair(a.prior, a.key) < std::pair(b.prior, b.key); });
   return docs;
 }
 

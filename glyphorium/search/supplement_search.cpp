@@ -68,12 +68,12 @@ bool isMostWanted(const SearchResult& result) {
   return doc != Index::noDoc && catalogIndex().docPrior[doc] <= mostWantedPrior;
 }
 
-// Puts the emoji that has exactly these words as its name before others: Unicode calls another emoji "grinning
-// face with smiling eyes" than the emoji that people know by this name. But the characters that people want most
-// stay before emoji, such as the arrows.
+// Puts the emoji that has exactly these words as its name before others: Unicode calls another emoji
+// "grinning face with smiling eyes" than the emoji that people know by this name. But the characters that
+// people want most stay before emoji, such as the arrows.
 void putNamedEmojiFirst(SearchResults& found, const std::string& words) {
-  const auto end = found.results.begin() +
-                   static_cast<std::ptrdiff_t>(std::min(found.results.size(), mostExact));
+  const auto end =
+      found.results.begin() + static_cast<std::ptrdiff_t>(std::min(found.results.size(), mostExact));
   const auto placeOfEmoji = [](const SearchResult& result) {
     return result.exact && result.field != SearchField::character && result.field != SearchField::code
                ? emojiPlace(textAt(result.index))
@@ -100,8 +100,8 @@ SearchResults answerFromBoth(const ParsedQuery& query, SearchOptions options) {
   return found;
 }
 
-// Returns the variant of an emoji with these tones. There may be several: of two persons, two women, two men. Then
-// it is the one that has the words as its name apart from the tones, or else the first one.
+// Returns the variant of an emoji with these tones. There may be several: of two persons, two women, two men.
+// Then it is the one that has the words as its name apart from the tones, or else the first one.
 std::string_view variantWith(std::size_t place, const std::vector<SkinTone>& tones,
                              const std::vector<std::string>& words) {
   std::string_view first;
@@ -188,7 +188,8 @@ std::optional<std::size_t> placeOf(std::string_view text) {
 }
 
 std::string textAt(std::size_t place) {
-  if (place >= preparedRowCount()) return textOfCharacterKey(static_cast<char32_t>(place - preparedRowCount()));
+  if (place >= preparedRowCount())
+    return textOfCharacterKey(static_cast<char32_t>(place - preparedRowCount()));
   return utf8(preparedRow(place).codePoint);
 }
 
@@ -205,8 +206,7 @@ SearchResults queryEverything(std::string_view text, const SearchOptions& option
   const auto isNamed = [](const SearchResult& one) {
     return one.field == SearchField::character || one.field == SearchField::code;
   };
-  std::vector<SearchResult> others =
-      withoutIndex(*parsed, !found.results.empty() && !found.approximate);
+  std::vector<SearchResult> others = withoutIndex(*parsed, !found.results.empty() && !found.approximate);
   if (!others.empty() && found.approximate) found = {};
   // The query is an emoji of several characters: it comes before its parts.
   const auto key = characterKey(trimmed(text));
@@ -216,8 +216,8 @@ SearchResults queryEverything(std::string_view text, const SearchOptions& option
     std::erase_if(found.results, [&](const SearchResult& one) { return one.index == place; });
     others.insert(others.begin(), {place, SearchField::character, {}, 0, true});
   }
-  const auto at = isEmoji ? found.results.begin()
-                          : std::find_if_not(found.results.begin(), found.results.end(), isNamed);
+  const auto at =
+      isEmoji ? found.results.begin() : std::find_if_not(found.results.begin(), found.results.end(), isNamed);
   found.results.insert(at, others.begin(), others.end());
   found.total += others.size();
   if (found.results.size() > options.limit) found.results.resize(options.limit);

@@ -62,11 +62,12 @@ class WordSearch {
       QueryWord& word = result.emplace_back(
           QueryWord{text, {}, saysLittle(languages, text) && (text.size() > 1 || afterJoining), 0});
       afterJoining = word.isStopWord;
-      // As a prefix, a single letter would match a tenth of all words. Two letters are too few beyond the catalog,
-      // which has enough words that begin with them. Before the end, only unknown words are
+      // As a prefix, a single letter would match a tenth of all words. Two letters are too few beyond the
+      // catalog, which has enough words that begin with them. Before the end, only unknown words are
       // incomplete.
-      const bool mayBeBegun =
-          isLast ? text.size() > mostTooShort : text.size() >= shortestInnerPrefix && index_.words.exactly(text).empty();
+      const bool mayBeBegun = isLast
+                                  ? text.size() > mostTooShort
+                                  : text.size() >= shortestInnerPrefix && index_.words.exactly(text).empty();
       addDictionaryWords(index_, word, languages, prefixes && mayBeBegun && !word.isStopWord);
     }
     return result;

@@ -53,6 +53,18 @@ TEST(CommandLine, ReturnsExitCodesAndHelpfulMessages) {
       {"show U+D800", 0, "<surrogate-D800>"},
       {"show U+0378 U+FFFF", 0, "<noncharacter-FFFF>"},
       {"show nbsp", 0, "U+00A0"},
+      {"show 0o20622 0b10000110010010 --format '%(hex)'", 0, "2192\n2192\n"},
+      {"show 0o29", 1, "no character is '0o29'"},
+      {"search '->' --limit 1", 0, "→\t2192\tRightwards Arrow\tarrows\n"},
+      {"search snowman --limit 0", 0, "☃\t2603\tSnowman\tmisc symbols\n"},
+      {"search snowman --limit -1", 2, "--limit"},
+      {"list emoji --regex '^waving hand' --tone dark", 0,
+       "👋🏿\t1f44b,1f3ff\tWaving Hand: Dark Skin Tone\t\n"},
+      {"list greek --regex '\\p{Greek}'", 2, "there is no group"},
+      {"list 'greek & coptic' --regex '^greek (small|capital) letter alpha$'", 0,
+       "Greek Capital Letter Alpha"},
+      {"list arrows --regex '(' ", 2, "'(' is no regular expression"},
+      {"pick", 2, "pick needs a terminal"},
       {"show nbbsp", 1, "no character is 'nbbsp'; did you mean 00a0 (Non-Breaking Space)?"},
       {"show 水", 0, "water, liquid"},
       {"show '\U0001F1E9\U0001F1EA'", 0, "Flag: Germany  U+1F1E9 U+1F1EA"},
@@ -94,10 +106,13 @@ TEST(CommandLine, ReturnsExitCodesAndHelpfulMessages) {
       {"groups", 0, "custom\t0\ndigital typography (latin)\t254\n"},
       {"search arrow --limit 1", 0, "→\t2192\tRightwards Arrow\tarrows\n"},
       {"search '&rarr;' --json", 0, "\"name\":\"Rightwards Arrow\""},
-      {"search 'replacement character'", 1, "'glyphorium show fffd' describes it"},
+      {"search 'replacement character' --limit 1", 0, "fffd\tReplacement Character\t\n"},
+      {"search magic wand --limit 1", 0, "🪄\t1fa84\tMagic Wand\t\n"},
+      {"search flag germany --limit 1 --format '%(char) %(hex) %(name)'", 0,
+       "🇩🇪 1f1e9 1f1ea Flag: Germany\n"},
       {"show chevron.right 'REPLACEMENT character' 'null CHARACTER (control)'", 0, "U+10018A"},
       {"search → --group emoji", 1, "nothing found for '→'\n"},  // the character is in another group
-      {"search U+FFFD", 1, "no group holds fffd (Replacement Character)"},
+      {"search U+FFFD --group arrows", 1, "no group holds fffd (Replacement Character)"},
       {"search LETTER --group 'LATIN basic' --limit 1", 0, "latin basic\n"},
       {"search letter --group latn", 2, "did you mean"},
       {"search arow --limit 1", 0, "\tapproximate\n"},
@@ -337,7 +352,7 @@ TEST(CommandLine, HasDocumentationAndCompletionForEveryCommand) {
       EXPECT_THAT(fileContent(folder + "/completions/" + completion), HasSubstr(command)) << completion;
     }
   }
-  EXPECT_EQ(commands, 17u);
+  EXPECT_EQ(commands, 18u);
 
   const auto completed = [&](const std::string& words) {
     return runProgram("bash -c 'glyphorium() { " PROGRAM " \"$@\"; }; . " + folder +

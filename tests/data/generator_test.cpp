@@ -112,13 +112,13 @@ TEST(Generator, NeedsOneLineAndDataFilesForANewLanguage) {
   ASSERT_EQ(result.exitCode, 0) << result.output;
 
   const std::string image = fileContent(generation.output / "embedded.bin");
-  for (const char* const text : {"\"lang\": \"pt\",\n        \"text\": \"Separa nome e domínio.\"",
-                                 "Sinal de multiplicação.", "arroba",
-                                 "seta\tarrow\n", "signs\nsimbolo\nsinal\nsymbol\n", "para\n", "oes\tao\n"})
+  for (const char* const text :
+       {"\"lang\": \"pt\",\n        \"text\": \"Separa nome e domínio.\"", "Sinal de multiplicação.",
+        "arroba", "seta\tarrow\n", "signs\nsimbolo\nsinal\nsymbol\n", "para\n", "oes\tao\n"})
     EXPECT_THAT(image, testing::HasSubstr(text));
   const std::string code = fileContent(generation.output / "embedded_image.cpp");
-  for (const char* const text : {"{\"pt\", {CodePointIndex",
-                                 "{SearchFactKind::everydayName, \"pt\", ", "{\"pt\", true, "})
+  for (const char* const text :
+       {"{\"pt\", {CodePointIndex", "{SearchFactKind::everydayName, \"pt\", ", "{\"pt\", true, "})
     EXPECT_THAT(code, testing::HasSubstr(text));
 }
 

@@ -15,7 +15,8 @@ using testing::CatalogSearch;
 // The prepared index in the library must equal the index that is built from the configured catalog at run
 // time.
 TEST(PreparedCatalog, IndexInTheLibraryEqualsANewlyBuiltIndex) {
-  const search::IndexImage built = search::buildIndex(CatalogSearch::instance().entities, search::ShownNames::elsewhere);
+  const search::IndexImage built =
+      search::buildIndex(CatalogSearch::instance().entities, search::ShownNames::elsewhere);
   EXPECT_TRUE(std::ranges::equal(built, search::catalogIndexImage()));
   EXPECT_TRUE(std::ranges::equal(search::buildSupplementIndex(), search::supplementIndexImage()));
   const auto found = Search::ofCatalog().query("leftwards double arrow", {1, {{"en"}}, {}}).results;

@@ -55,8 +55,8 @@ const std::map<std::string, std::size_t> knownMisses{
     {"aproximately equal", 2}, {"gear", 2}, {"skull", 2}, {"trash", 2}, {"wifi", 2}, {"étoiles", 2},
 };
 
-// Returns the hex codes that a host shows: those of a search of everything. An emoji with a skin tone counts as
-// the one without.
+// Returns the hex codes that a host shows: those of a search of everything. An emoji with a skin tone counts
+// as the one without.
 std::vector<std::string> hexesOfEverything(const ListedQuery& query) {
   static const glyph::CatalogSearch search{std::vector<std::string>()};
   std::vector<std::string> hexes;

@@ -42,7 +42,8 @@ TEST(SupplementSearch, FindsCharactersBeyondTheCatalog) {
       {"rainbow flag", "en", "1f3f3,fe0f,200d,1f308"},
       {"thumbs up medium skin tone", "en", "1f44d,1f3fd"},
       {"daumen hoch mittlere hautfarbe", "de", "1f44d,1f3fd"},
-      {"kiss woman man light skin tone dark skin tone", "en", "1f469,1f3fb,200d,2764,fe0f,200d,1f48b,200d,1f468,1f3ff"},
+      {"kiss woman man light skin tone dark skin tone", "en",
+       "1f469,1f3fb,200d,2764,fe0f,200d,1f48b,200d,1f468,1f3ff"},
       {"keycap: 7", "en", "0037,fe0f,20e3"},
       {"🇩🇪", "en", "1f1e9,1f1ea"},
       {"U+1FAE0", "en", "1fae0"},
@@ -65,7 +66,8 @@ TEST(SupplementSearch, LeavesTheAnswersOfTheCatalogFirst) {
   const auto water = hexes("water", "en", 10'000);
   const auto isHan = [](const std::string& hex) {
     const auto code = std::stoul(hex, nullptr, 16);
-    return hex.find(',') == std::string::npos && ((code >= 0x3400 && code < 0x4DC0) || (code >= 0x4E00 && code <= 0x9FFF) || code >= 0x20000);
+    return hex.find(',') == std::string::npos &&
+           ((code >= 0x3400 && code < 0x4DC0) || (code >= 0x4E00 && code <= 0x9FFF) || code >= 0x20000);
   };
   const auto han = std::find_if(water.begin(), water.end(), isHan);
   ASSERT_NE(han, water.end());
@@ -77,14 +79,16 @@ TEST(SupplementSearch, LeavesTheAnswersOfTheCatalogFirst) {
     if (std::find(ofCatalog.begin(), ofCatalog.end(), hex) != ofCatalog.end()) withoutOthers.push_back(hex);
   }
   EXPECT_EQ(withoutOthers, ofCatalog);
-  EXPECT_EQ(std::vector(water.begin(), water.begin() + 3), std::vector(ofCatalog.begin(), ofCatalog.begin() + 3));
+  EXPECT_EQ(std::vector(water.begin(), water.begin() + 3),
+            std::vector(ofCatalog.begin(), ofCatalog.begin() + 3));
 }
 
 // Where an emoji shares its name with one of the signs that people want most, the sign comes first.
 TEST(SupplementSearch, FindsEveryEmojiFirstByItsEnglishName) {
   const std::set<std::string> namesOfSigns{
-      "star",       "ring",     "bookmark", "dagger", "hook",  "up arrow", "right arrow", "down arrow",   "left arrow",
-      "ON! arrow", "multiply", "plus",     "minus",  "divide", "infinity", "check mark",  "black circle", "white circle"};
+      "star",        "ring",       "bookmark",   "dagger",     "hook",         "up arrow",
+      "right arrow", "down arrow", "left arrow", "ON! arrow",  "multiply",     "plus",
+      "minus",       "divide",     "infinity",   "check mark", "black circle", "white circle"};
   std::size_t behindSigns = 0;
   for (std::size_t place = 0; place < emojiCount(); ++place) {
     const std::string_view emoji = emojiAt(place).text;
@@ -117,7 +121,8 @@ TEST(SupplementSearch, TakesThePreferredToneExceptForAnEmojiInTheQuery) {
                                                          {"waving hand dark skin tone", "1f44b,1f3ff"},
                                                          {"rightwards arrow", "2192"}};
   for (const auto& [query, hex] : queries)
-    EXPECT_EQ(search.entity(search.query(query, {1, {{"en"}}, {}}).results.front()).computed.hex, hex) << query;
+    EXPECT_EQ(search.entity(search.query(query, {1, {{"en"}}, {}}).results.front()).computed.hex, hex)
+        << query;
   setPreferredSkinTone(SkinTone::none);
 }
 

@@ -28,7 +28,7 @@ _glyphorium_sets() {  # sets of characters: the values of a property once its na
 
 _glyphorium() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]}
-  local commands='groups list show ascii search identify display add remove added tone copy index names values table help'
+  local commands='groups list show ascii search pick identify display add remove added tone copy index names values table help'
   local command='' part='' i
   current=${current//\\/}
   COMPREPLY=()
@@ -44,6 +44,7 @@ _glyphorium() {
     --as)
       COMPREPLY=($(compgen -W 'character hex decimal code-point html html-hex html-decimal swift utf-8 utf-16 utf-32 c javascript json java python rust css url swiftui uikit' -- "$current"))
       return ;;
+    --tone) COMPREPLY=($(compgen -W 'none light medium-light medium medium-dark dark' -- "$current")); return ;;
     --group) _glyphorium_names groups; return ;;
     --limit|--regex|--format) return ;;
   esac
@@ -53,8 +54,9 @@ _glyphorium() {
       '') options+=' --version' ;;
       groups|display|names|table|ascii|values) options+=' --json' ;;
       show|added|identify) options+=' --json --tsv --format' ;;
-      list) options+=' --all --regex --json --tsv --format' ;;
+      list) options+=' --all --regex --tone --json --tsv --format' ;;
       search) options+=' --displayed --limit --group --copy --json --tsv --format' ;;
+      pick) options+=' --multi --copy --as' ;;
       copy) options+=' --as --terminal' ;;
       index) case $part in add) options+=' --all' ;; search) options+=' --limit --json' ;; status) options+=' --json' ;; esac ;;
     esac

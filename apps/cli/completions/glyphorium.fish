@@ -29,7 +29,7 @@ function __glyphorium_bare
     test (count $words) -eq 2; and test "$words[2]" = $argv[1]
 end
 
-set -l commands groups list show ascii search identify display add remove added tone copy index names values table help
+set -l commands groups list show ascii search pick identify display add remove added tone copy index names values table help
 complete -c glyphorium -f
 complete -c glyphorium -l help -d 'Print help'
 complete -c glyphorium -l version -d 'Print the version'
@@ -42,6 +42,7 @@ complete -c glyphorium -n $bare -a list -d 'The characters of groups'
 complete -c glyphorium -n $bare -a show -d 'Everything about characters'
 complete -c glyphorium -n $bare -a ascii -d 'The table of ASCII'
 complete -c glyphorium -n $bare -a search -d 'Find characters'
+complete -c glyphorium -n $bare -a pick -d 'Find characters interactively'
 complete -c glyphorium -n $bare -a identify -d 'Name each character of a text'
 complete -c glyphorium -n $bare -a display -d 'The displayed groups'
 complete -c glyphorium -n $bare -a add -d 'Add characters of your own'
@@ -70,7 +71,10 @@ complete -c glyphorium -n '__fish_seen_subcommand_from search' -l displayed -d '
 complete -c glyphorium -n '__fish_seen_subcommand_from search' -l copy -d 'Copy the first one'
 complete -c glyphorium -n '__fish_seen_subcommand_from search' -l limit -x -d 'At most so many'
 complete -c glyphorium -n '__fish_seen_subcommand_from search' -l group -x -a '(__glyphorium_column 1 groups)' -d 'Only in this group'
-complete -c glyphorium -n '__fish_seen_subcommand_from copy' -l as -x -a 'character hex decimal code-point html html-hex html-decimal swift utf-8 utf-16 utf-32 c javascript json java python rust css url swiftui uikit' -d 'The form to copy'
+complete -c glyphorium -n '__fish_seen_subcommand_from list' -l tone -x -a 'none light medium-light medium medium-dark dark' -d 'Show emoji with this skin tone'
+complete -c glyphorium -n '__fish_seen_subcommand_from pick' -l multi -d 'Mark several characters'
+complete -c glyphorium -n '__fish_seen_subcommand_from pick' -l copy -d 'Copy the choice'
+complete -c glyphorium -n '__fish_seen_subcommand_from copy pick' -l as -x -a 'character hex decimal code-point html html-hex html-decimal swift utf-8 utf-16 utf-32 c javascript json java python rust css url swiftui uikit' -d 'The form to copy'
 complete -c glyphorium -n '__fish_seen_subcommand_from copy' -l terminal -d 'Copy through the terminal'
 complete -c glyphorium -n '__fish_seen_subcommand_from table' -a '(__glyphorium_column 1 table)'
 complete -c glyphorium -n '__glyphorium_bare display' -a 'add remove set'

@@ -17,8 +17,10 @@ namespace {
 
 // Appends the number in the form of CodePointIndex.
 void append(std::string& bytes, std::uint32_t number) {
-  if (number >> 8 * CodePointIndex::numberSize != 0) throw std::runtime_error("a text of the image is too long");
-  for (std::size_t i = 0; i < CodePointIndex::numberSize; ++i) bytes += static_cast<char>(number >> 8 * i & 0xFF);
+  if (number >> 8 * CodePointIndex::numberSize != 0)
+    throw std::runtime_error("a text of the image is too long");
+  for (std::size_t i = 0; i < CodePointIndex::numberSize; ++i)
+    bytes += static_cast<char>(number >> 8 * i & 0xFF);
 }
 
 std::string indexBytes(const EmbeddedImage::Index& index) {

@@ -54,8 +54,8 @@ class EmbeddedImage {
   void addCharacterTable(const std::string& constant, const CharacterTable& table);
   /// Adds a constant of character_tables.h whose texts are packed.
   void addPackedTable(const std::string& constant, const CharacterTable& table);
-  /// Adds to the CharacterAnnotations of the language with this BCP 47 tag. A line replaces an earlier one of the
-  /// same key.
+  /// Adds to the CharacterAnnotations of the language with this BCP 47 tag. A line replaces an earlier one of
+  /// the same key.
   void addCharacterAnnotations(const std::string& language, const CharacterTable& table);
   /// Adds a constant of notations.h.
   void addNotations(const std::string& constant, std::string_view lines);

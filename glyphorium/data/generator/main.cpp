@@ -41,8 +41,8 @@ void addGroupTables(const std::vector<GroupTable>& tables, EmbeddedImage& image,
   figures.reached("configured rows", configuredRows);
 }
 
-// Keeps the places in the name table of every sixteenth code point, and of those whose lines do not follow the
-// line of the code point before.
+// Keeps the places in the name table of every sixteenth code point, and of those whose lines do not follow
+// the line of the code point before.
 EmbeddedImage::Index sparse(const NameTable::Text& text) {
   constexpr int mostLines = 16;
   EmbeddedImage::Index index;

@@ -16,12 +16,14 @@ class TextPacker {
 
   /// Returns PackedTexts::pieces.
   std::string pieces() const;
-  /// Returns the packed line with its end. Lines that are not among those of the constructor can be packed too.
+  /// Returns the packed line with its end. Lines that are not among those of the constructor can be packed
+  /// too.
   std::string packed(std::string_view line) const;
 
  private:
   void choose(std::vector<std::string> pieces);
-  /// Returns the number of the longest piece at the beginning of the text, or pieces_.size() if there is none.
+  /// Returns the number of the longest piece at the beginning of the text, or pieces_.size() if there is
+  /// none.
   std::size_t longestAt(std::string_view text) const;
 
   std::vector<std::string> pieces_;

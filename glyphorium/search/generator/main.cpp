@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A program that builds the search indexes of the catalog and of the supplement. The build runs this program, so that other programs
-// need not build them at run time. It is linked with the code of the library.
+// A program that builds the search indexes of the catalog and of the supplement. The build runs this program,
+// so that other programs need not build them at run time. It is linked with the code of the library.
 #include <cstdio>
 #include <exception>
 
