@@ -372,6 +372,19 @@ TEST(CommandLine, HasDocumentationAndCompletionForEveryCommand) {
   EXPECT_EQ(completed("table latinB"), "latinBasicJson\n");
   EXPECT_EQ(completed("copy a --as html-h"), "html-hex\n");
   EXPECT_EQ(completed("index st"), "status\n");
+  EXPECT_EQ(completed("list --tone da"), "dark\n");
+
+  const auto completedByFish = [&](const std::string& line) {
+    return runProgram("HOME=/nonexistent fish --no-config -c 'function glyphorium; " PROGRAM
+                      " $argv; end; source " +
+                      folder + "/completions/glyphorium.fish; complete -C \"glyphorium " + line +
+                      "\"' 2>/dev/null | cut -f1")
+        .output;
+  };
+  EXPECT_EQ(completedByFish("pi"), "pick\n");
+  EXPECT_EQ(completedByFish("list block:arro"), "block:Arrows\n");
+  EXPECT_EQ(completedByFish("--color never tone medium-"), "medium-dark\nmedium-light\n");
+  EXPECT_EQ(completedByFish("pick --as html-h"), "html-hex\n");
 }
 
 TEST(CommandLine, CopiesEveryCharacterOfItsArgument) {
