@@ -113,6 +113,7 @@ TEST(SupplementSearch, ShowsVariantsOfAnEmojiAsOneResult) {
 }
 
 TEST(SupplementSearch, TakesThePreferredToneExceptForAnEmojiInTheQuery) {
+  ASSERT_TRUE(everything().isCurrent());
   ASSERT_TRUE(setPreferredSkinTone(SkinTone::medium));
   const CatalogSearch search{std::vector<std::string>()};
   EXPECT_FALSE(everything().isCurrent());

@@ -69,15 +69,16 @@ def test_search():
     assert {first.character.name[begin:end].lower() for begin, end in first.ranges} >= {"arrow"}
     assert glyphorium.search("pfeil", languages=["de"])[0].character.symbol == "→"
     assert all(r.character.group == "arrows" for r in glyphorium.search("double", groups=["arrows"]))
-    assert len(glyphorium.search("\ud800\0")) == 0
+    assert [r.character.hex for r in glyphorium.search("\ud800\0")] == ["fffd"]
     with pytest.raises(ValueError):
         glyphorium.search("x", limit=-1)
 
 
 def test_search_finds_what_was_just_added(store):
-    assert not glyphorium.search("U+12000")
+    assert glyphorium.search("U+12000")[0].character.group != "custom"
     glyphorium.add("U+12000")
     assert "12000" in store["customAddedEntities"]
+    assert glyphorium.search("U+12000")[0].character.group == "custom"
     assert glyphorium.search("cuneiform sign a")[0].character.hex == "12000"
 
 
