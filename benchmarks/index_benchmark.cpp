@@ -1,6 +1,6 @@
-// SPDX-License-Identifier: MIT Measures the desktop's search index: indexing, replacing, querying and
-// deleting the whole catalog. As a lower limit, also measures writing the same texts into a plain SQLite
-// table.
+// SPDX-License-Identifier: MIT
+// Measures the desktop's search index: indexing, replacing, querying and deleting the whole catalog. As a
+// lower limit, also measures writing the same texts into a plain SQLite table.
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
