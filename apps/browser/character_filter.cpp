@@ -339,7 +339,7 @@ void CharacterFilter::search() {
         ++elsewhere_;
       }
     };
-    search_->isAdded(result) ? add(search_->entity(result)) : add(catalog[search_->buildInPlace(result)]);
+    search_->isInCatalog(result) ? add(catalog[search_->buildInPlace(result)]) : add(search_->entity(result));
   }
   if (isWhole && (matching.empty() || approximate_)) {
     std::vector<Entity> exact = beyondCatalog();

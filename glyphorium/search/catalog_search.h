@@ -57,12 +57,9 @@ class GLYPHORIUM_EXPORT CatalogSearch {
   /// Returns true if the result of this object is a character that the user added.
   bool isOfUser(const SearchResult& result) const { return result.index < added_.size(); }
 
-  /// Returns true if the result is a character of the catalog that the user did not add.
+  /// Returns true if the result is a character of the catalog that the user did not add. Only entity() has the
+  /// other results: the user added them, or they are in the supplement.
   bool isInCatalog(const SearchResult& result) const;
-
-  /// Returns true if the result is not in the catalog: the user added it, or it is in the supplement. Only
-  /// entity() has such a result.
-  bool isAdded(const SearchResult& result) const { return !isInCatalog(result); }
 
   /// Returns the position in Glyphorium::buildInEntities() of a result for which isInCatalog() is true. A
   /// host that has configured the catalog reads the entity there, which is much faster than entity() for

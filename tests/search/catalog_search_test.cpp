@@ -65,7 +65,7 @@ TEST(CatalogSearch, RanksResultsLikeASingleSearchOverBothLists) {
 TEST(CatalogSearch, PrefersEntitiesOfTheUserAndNoticesChanges) {
   const CatalogSearch search({"2192", "0041,030a"});
   const SearchResult arrow = search.query("→", english).results.front();
-  EXPECT_TRUE(search.isAdded(arrow));
+  EXPECT_FALSE(search.isInCatalog(arrow));
   EXPECT_EQ(search.entity(arrow).computed.group, "custom");
   EXPECT_EQ(search.entityOfHex("2192")->computed.group, "custom");
   EXPECT_EQ(search.entityOfHex("21d2")->name(), "Rightwards Double Arrow");
