@@ -8,75 +8,78 @@
 #include "glyphorium/data/packed_texts.h"
 
 /// Facts about all characters of Unicode 17.0 and about emoji, in the library's read-only image. The
-/// generator creates them from the source files in characters/ and input/. In the columns, several code
-/// points are written as UTF-8, if nothing else is said. The entries of a table of ranges begin at the first
-/// code point of a range; their first column is the last one, in hexadecimal digits.
+/// generator creates them from the source files in characters/ and input/. Columns with code points contain
+/// them as UTF-8 text, unless the comment of the table says otherwise. In a table of ranges, the key of an
+/// entry is the first code point of the range, and the first column is the last code point of the range, in
+/// hexadecimal digits.
 namespace glyph {
 
-/// Names that the table of Unicode 13.0 does not have.
+/// Names of characters that are newer than the Unicode 13.0 name table.
 extern const CodePointTexts laterNames;
-/// Ranges whose names end in the code point: last code point, prefix of the name.
+/// Ranges of characters whose names are a prefix followed by the code point. Columns: last code point,
+/// prefix.
 extern const CodePointTexts nameRanges;
-/// Ranges of assigned code points: last code point, version of Unicode, general category, script,
+/// Ranges of assigned code points. Columns: last code point, version of Unicode, general category, script,
 /// bidirectional class, East Asian width, combining class.
 extern const CodePointTexts propertyRanges;
-/// Ranges: last code point, name of the block.
+/// Ranges of blocks. Columns: last code point, name of the block.
 extern const CodePointTexts blockRanges;
-/// Upper case, lower case, title case; empty if the character maps to itself.
+/// Columns: upper case, lower case, title case. A column is empty if the character maps to itself.
 extern const CodePointTexts caseMappings;
-/// Kind, mapping.
+/// Columns: kind of decomposition ("compat"), characters of the decomposition.
 extern const CodePointTexts decompositions;
-/// The characters whose canonical decomposition begins with this one, the characters that a compatibility
-/// decomposition maps to exactly this one.
+/// Columns: the characters whose canonical decomposition begins with the key, the characters whose
+/// compatibility decomposition is exactly the key.
 extern const CodePointTexts composites;
 extern const CodePointTexts numericValues;
 extern const CodePointTexts mirrorImages;
-/// Type of an alias, alias, and so on.
+/// Pairs of columns: type of the alias, alias.
 extern const CodePointTexts nameAliases;
-/// Kind of a remark ("alias", "comment", or "see" with a code point), text, and so on.
+/// Pairs of columns: kind of the remark ("alias", "comment", or "see" with a code point), text.
 extern const PackedTexts remarks;
-/// Definition, readings: Mandarin, Japanese on, Japanese kun, Korean.
+/// Columns: definition, then the readings: Mandarin, Japanese on, Japanese kun, Korean.
 extern const PackedTexts hanReadings;
-/// The text to which all characters of a class look alike, the characters of the class.
+/// Classes of characters that look alike. Columns: the text that all of them look like, the characters.
 extern const CodePointTexts lookAlikeClasses;
 
-/// All emoji of general interchange, one character or several, in ascending order of the emoji without
-/// U+FE0F. An emoji is known by its number: firstEmojiNumber plus its position, in place of a code point.
-/// Columns: the emoji, kind, version of emoji, group and subgroup (empty for a variant, which has those of
-/// its base), position in the order of Unicode's lists, position here of the emoji that it is a variant of
-/// (itself if it is none).
+/// All emoji that are recommended for general interchange. They are in ascending order of their code points,
+/// without U+FE0F. The key of an emoji is not a code point but its number: firstEmojiNumber plus its position
+/// in this table. Columns: the emoji, kind, version of emoji, group and subgroup (empty for a variant, which
+/// has those of its base), position in the order of Unicode's lists, position of its base in this table (its
+/// own position if it is not a variant).
 inline constexpr char32_t firstEmojiNumber = 0x110000;
 extern const CodePointTexts emojiTable;
-/// Positions in emojiTable, as decimal numbers, by firstEmojiNumber plus the position in the order of
-/// Unicode's lists.
+/// Positions in emojiTable, as decimal numbers. The keys are firstEmojiNumber plus the position in the order
+/// of Unicode's lists.
 extern const CodePointTexts emojiOrder;
 
-/// The emoji that shows how a language names skin tones: the waving hand, whose name with a tone begins with
-/// its name.
+/// The names of this emoji, the waving hand, show what a language calls the skin tones. Its name with a skin
+/// tone begins with its name without one.
 inline constexpr char32_t toneSample = 0x1F44B;
 
 /// Names and keywords of CLDR in a language.
 struct CharacterAnnotations {
   std::string_view language;  ///< BCP 47
-  /// By code point or number of an emoji: the text-to-speech name, which may be empty, and the keywords,
-  /// separated by line feeds. An emoji of one skin tone is left out if its name is that of the emoji without,
-  /// and then what the name of toneSample in this tone adds to that of toneSample.
+  /// The keys are code points and numbers of emoji. Columns: the text-to-speech name, which may be empty, and
+  /// the keywords. The keywords are separated by line feeds. An emoji with one skin tone is left out if its
+  /// name can be built: from the name without the tone and from what this tone appends to the name of
+  /// toneSample.
   PackedTexts texts;
 };
 extern const std::span<const CharacterAnnotations> characterAnnotations;
 
-/// How characters are typed. By code point, or by number of an emoji if there are several code points.
-/// Keys after the Compose key, separated by spaces; each column is one sequence.
+/// How characters are typed. The keys of these tables are code points, or numbers of emoji that have several
+/// code points. Each column of this table is one sequence of keys after the Compose key, separated by spaces.
 extern const PackedTexts composeKeys;
-/// Each column is one command; those on which more sources agree come first.
+/// Each column is one command. The commands that most sources have come first.
 extern const PackedTexts latexCommands;
 /// Each column is one digraph.
 extern const PackedTexts digraphs;
-/// Each column is one name of a keysym of X11.
+/// Each column is the name of one X11 keysym.
 extern const PackedTexts keysyms;
 /// Each column is one shortcode, without colons.
 extern const PackedTexts shortcodes;
-/// Code page, number, and so on.
+/// Pairs of columns: code page, number.
 extern const CodePointTexts altCodes;
 
 }  // namespace glyph

@@ -37,8 +37,8 @@ class CodePointIndex {
     return text.substr(begin, end - begin);
   }
 
-  /// Returns the position of the last entry whose code point is not greater. Returns nullopt if there is
-  /// none.
+  /// Returns the position of the last entry whose code point is not greater than `codePoint`. Returns nullopt
+  /// if there is none.
   std::optional<std::size_t> findUpTo(std::uint32_t codePoint) const noexcept {
     std::size_t begin = 0;
     for (std::size_t end = size(); begin < end;) {

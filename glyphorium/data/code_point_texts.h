@@ -31,14 +31,14 @@ struct CodePointTexts {
     return position ? std::optional(line(*position)) : std::nullopt;
   }
 
-  /// Returns the position of the last entry whose code point is not greater. Returns nullopt if there is
-  /// none.
+  /// Returns the position of the last entry whose code point is not greater than `codePoint`. Returns nullopt
+  /// if there is none.
   std::optional<std::size_t> positionUpTo(char32_t codePoint) const noexcept {
     return index.findUpTo(codePoint);
   }
 };
 
-/// Returns the column of the line with this number, starting at 0. Empty if the line has fewer columns.
+/// Returns column `number` of the line, counted from 0. Empty if the line has fewer columns.
 constexpr std::string_view column(std::string_view line, std::size_t number) noexcept {
   for (; number > 0; --number) {
     const std::size_t tab = line.find('\t');

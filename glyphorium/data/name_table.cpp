@@ -11,7 +11,8 @@
 namespace glyph {
 namespace {
 
-// Returns the number of a hex code. Returns nullopt if the code has another form than the codes of the table.
+// Returns the code point of a hex code. Returns nullopt if the code does not have the form of the codes in
+// the table.
 std::optional<std::uint32_t> canonicalCodePoint(std::string_view hex) noexcept {
   if (hex.size() < 4 || (hex.size() > 4 && hex.front() == '0')) return std::nullopt;
   return ascii::number(hex, 16);

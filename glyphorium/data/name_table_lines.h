@@ -9,7 +9,7 @@
 
 namespace glyph {
 
-/// A line of structuredUnicodeJSON(), which has one entry.
+/// A line of structuredUnicodeJSON(). Each line has one entry.
 struct NameTableLine {
   std::uint32_t codePoint;
   NameTableEntry entry;

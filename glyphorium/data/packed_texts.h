@@ -10,17 +10,17 @@
 
 namespace glyph {
 
-/// One line of text for each of many code points, like CodePointTexts, in about half the room. Each byte of a
-/// packed line stands for a piece of text that is frequent in the table. This is a view of the library's
-/// read-only image.
+/// One line of text for each of many code points, like CodePointTexts, but in about half the memory. Each
+/// byte of a packed line stands for a piece of text that is frequent in the table. This is a view of the
+/// library's read-only image.
 struct PackedTexts {
   static constexpr std::size_t longestPiece = 11;
   static constexpr unsigned char endOfLine = 0;
   static constexpr unsigned char literal = 255;  ///< the next byte stands for itself
 
   CodePointIndex index;  ///< the offset in `lines` at which the line of a code point begins
-  /// The pieces that the bytes 1 to 254 stand for: each has its size in one byte and room for longestPiece
-  /// bytes.
+  /// The pieces that the bytes 1 to 254 stand for. Each piece has one byte for its size and longestPiece
+  /// bytes for its text.
   std::string_view pieces;
   std::string_view lines;
 

@@ -9,12 +9,12 @@
 
 namespace glyph {
 
-/// The rows of the configured group tables and of the enrichment table, as they are after decoding. The build
-/// prepares them, so that a program need not decode the JSON texts. All texts are constants in the library's
-/// read-only image, and a zero byte follows each of them. Any thread may call these functions.
+/// The decoded rows of the configured group tables and of the enrichment table. The build decodes them, so
+/// that a program need not decode the JSON texts. All texts are constants in the library's read-only image,
+/// and a zero byte follows each of them. Any thread may call these functions.
 
-/// How the image stores a row of a group table. The texts of the row follow each other in `preparedTexts`, in
-/// the order of their sizes here, each with a zero byte.
+/// How the image stores a row of a group table. The texts of the row are in `preparedTexts`, one after the
+/// other, in the order of the sizes below. A zero byte ends each text.
 struct PreparedRow {
   std::uint32_t codePoint : 31;
   std::uint32_t isSFSymbol : 1;
@@ -25,7 +25,7 @@ struct PreparedRow {
   std::uint8_t symbolSize;
   std::uint8_t nameSize;
   std::uint8_t table;        ///< the number of the group table in embeddedTexts()
-  std::uint16_t enrichment;  ///< 1 + the number of the enrichment row that the row is joined with; 0: none
+  std::uint16_t enrichment;  ///< 1 + the number of the joined enrichment row; 0 if there is none
 };
 static_assert(sizeof(PreparedRow) == 16);
 
@@ -45,8 +45,8 @@ inline PreparedRow preparedRow(std::size_t place) noexcept {
   return row;
 }
 
-/// Returns the place of the row that has this position in the order of the code points. Rows with the same
-/// code point have the order of their places.
+/// Returns the place of the row at this position when the rows are sorted by code point, and rows with the
+/// same code point by place.
 inline std::size_t placeInCodePointOrder(std::size_t position) noexcept {
   std::uint16_t place;
   std::memcpy(&place, preparedOrderBytes.data() + position * sizeof place, sizeof place);
@@ -54,14 +54,14 @@ inline std::size_t placeInCodePointOrder(std::size_t position) noexcept {
 }
 
 /// The number of code points with an enrichment row. If a code point has several rows, only the first one is
-/// prepared, because it is the one that entities are joined with.
+/// prepared, because entities are joined only with the first one.
 std::size_t preparedEnrichmentCount() noexcept;
 
 /// Returns the number of the enrichment row of the code point. Returns nullopt if there is no such row.
 std::optional<std::size_t> findPreparedEnrichment(std::uint32_t codePoint) noexcept;
 
-/// Reads an enrichment row from its beginning to its end, field by field in the order of storing: numbers as
-/// one byte each, texts with a zero byte at the end.
+/// Reads the fields of an enrichment row one after the other, in the order in which they are stored. A number
+/// is one byte. A zero byte ends a text.
 class PreparedEnrichmentReader {
  public:
   /// `number` must be smaller than preparedEnrichmentCount().

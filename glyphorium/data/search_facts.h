@@ -16,8 +16,8 @@ enum class SearchFactKind : std::uint8_t {
   alias,         ///< formal aliases and abbreviations in Unicode's NameAliases file
   htmlName,      ///< all names of the HTML Standard's references, without "&" and ";"
   everydayName,  ///< names that people use for the character
-  /// One text: the position in the list of the characters that people mean most often. It is a decimal number
-  /// that starts at 0.
+  /// One text: the character's position in the list of most wanted characters, as a decimal number, counted
+  /// from 0.
   mostWanted,
 };
 
@@ -59,12 +59,12 @@ struct SearchLanguage {
   /// out these words.
   std::string_view functionWords;
   /// Each line is a rule: an ending of plurals, then the endings that the singular may have. The search tries
-  /// the rules in their order. After a rule that keeps the ending, it tries no further rules.
+  /// the rules in order. A rule that keeps the ending is the last one that it tries.
   std::string_view plurals;
   std::string_view linkingLetters;  ///< each line has letters that may join the parts of a compound word
-  /// Each line has letters as people type them, then the folded letters that people mean.
+  /// Each line has letters as people type them, then the folded letters that they stand for.
   std::string_view spellings;
-  /// Each line has letters as people type them by mistake, then letters that sound the same.
+  /// Each line has letters that people may type by mistake, then the letters that sound the same.
   std::string_view sounds;
 };
 
@@ -74,11 +74,11 @@ extern const std::span<const SearchLanguage> searchLanguages;
 /// about a character ("sign", "symbol"), or has no meaning of its own. Stop words in a query need not match.
 extern const std::string_view searchStopWords;
 
-/// How marks on letters look. Each line has a word of the names of letters, a tab, and words separated by
-/// spaces. The lines are in ascending order.
+/// How marks on letters look. Each line has a word from letter names ("diaeresis"), a tab, and the words for
+/// its look, separated by spaces. The lines are in ascending order.
 extern const std::string_view searchMarks;
 
-/// The kind of characters in a group. The ranking of the search depends on it.
+/// The kind of characters in a group, which the ranking of the search uses.
 enum class GroupKind : std::uint8_t {
   commonSigns,
   otherSigns,

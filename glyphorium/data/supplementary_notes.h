@@ -16,11 +16,11 @@ struct SupplementaryNotes {
   std::string_view texts;
 };
 
-/// One element for each language of the notes.
+/// One element for each language that has supplementary notes.
 extern const std::span<const SupplementaryNotes> supplementaryNotes;
 
-/// Returns the supplementary note for the hex code. The language must be equal to a language of the notes.
-/// Returns an empty text if there is no such note. Any thread may call this function.
+/// Returns the supplementary note for the hex code. `language` must be exactly the tag of a language in
+/// supplementaryNotes. Returns an empty text if there is no such note. Any thread may call this function.
 std::string_view supplementaryNote(std::string_view hex, std::string_view language) noexcept;
 
 }  // namespace glyph

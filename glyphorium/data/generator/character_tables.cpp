@@ -50,7 +50,7 @@ std::string utf8Of(const SourceLine& line, std::size_t column) {
   return text.empty() ? text : utf8Of(codePointsOf(line, text));
 }
 
-// Joins columns, beginning with number `first`, by tabs.
+// Joins the columns from number `first` on with tabs.
 std::string joinedColumns(const SourceLine& line, std::size_t first) {
   std::string text;
   for (std::size_t i = first; i < line.columns.size(); ++i) text += (i > first ? "\t" : "") + line.columns[i];
@@ -80,8 +80,8 @@ Table readRanges(const Path& file, std::size_t columns) {
   return table;
 }
 
-// Reads a table with one line for each code point. The columns from number `firstText` on are texts, those
-// before it are lists of code points.
+// Reads a table with one line for each code point. The columns before number `firstText` are lists of code
+// points. The others are texts.
 Table readLinesOfCodePoints(const Path& file, std::size_t columns, std::size_t firstText) {
   Table table;
   for (const SourceLine& line : readTable(file, columns, columns)) {
@@ -102,8 +102,7 @@ Table readLaterNames(const Path& file, const NameTable& names) {
   return table;
 }
 
-// The inverse of the decompositions: for each character, the characters that decompose into it. First the
-// canonical ones, then the others that decompose into this character alone.
+// The inverse of the decompositions, as `composites` has them.
 Table compositesOf(const Table& decompositions) {
   std::map<char32_t, std::pair<std::string, std::string>> composites;
   for (const auto& [codePoint, line] : decompositions) {
@@ -169,7 +168,7 @@ class EmojiNumbers {
                                          [](char32_t point) { return point >= 0x1F3FB && point <= 0x1F3FF; });
       std::erase(points, char32_t{0xFE0F});
       const char32_t own = numbers_.at(points);
-      // In the order of Unicode's lists, the variants with skin tones follow the emoji without.
+      // In Unicode's lists, the variants with skin tones follow their base, which has no skin tone.
       if (!isVariant) base = own;
       bases_[own] = base;
       // A variant has the groups of its base.
@@ -182,8 +181,8 @@ class EmojiNumbers {
     image.addCharacterTable("emojiOrder", order);
   }
 
-  // Returns the code point of a text of one code point, otherwise the number of the emoji. Returns 0 if there
-  // is none.
+  // Returns the code point if the column has only one, otherwise the number of the emoji. Returns 0 if there
+  // is no such emoji.
   char32_t keyOf(const SourceLine& line, std::size_t column) const {
     return keyOf(codePointsOf(line, line.columns[column]));
   }
@@ -194,8 +193,8 @@ class EmojiNumbers {
     return found == numbers_.end() ? 0 : found->second;
   }
 
-  // Returns the key of the emoji without skin tones, and the tone. Returns nullopt if the key is no emoji of
-  // exactly one tone.
+  // Returns the key of the base, and the skin tone. Returns nullopt unless `key` is an emoji with exactly one
+  // skin tone.
   std::optional<std::pair<char32_t, char32_t>> baseAndTone(char32_t key, const std::u32string& points) const {
     char32_t tone = 0;
     for (const char32_t point : points) {
@@ -222,7 +221,7 @@ void addAnnotations(const Path& folder, const std::vector<Language>& languages, 
   for (const Language& language : languages) {
     const Path file = folder / ("annotations." + language.code + ".tsv");
     if (!std::filesystem::exists(file)) continue;
-    std::map<char32_t, std::string> names;  // also of the characters that the search has
+    std::map<char32_t, std::string> names;  // also those in search/
     if (const Path older = folder / ".." / "search" / file.filename(); std::filesystem::exists(older)) {
       for (const SourceLine& line : readTable(older, 2, 64)) {
         if (const char32_t key = emoji.keyOf(line, 0)) names[key] = line.columns[1];
@@ -252,7 +251,8 @@ void addAnnotations(const Path& folder, const std::vector<Language>& languages, 
   }
 }
 
-// Reads how characters are typed: the second column of each line. Leaves out sequences that are not emoji.
+// Reads the second column of each line: how the character is typed. Leaves out sequences of code points that
+// are not emoji.
 Table readInput(const Path& file, std::size_t columns, const EmojiNumbers& emoji) {
   Table table;
   for (const SourceLine& line : readTable(file, columns, columns)) {

@@ -32,7 +32,7 @@ std::string indexBytes(const EmbeddedImage::Index& index) {
   return bytes;
 }
 
-// Returns the C++ name for words that are joined by hyphens: "privateUse" for "private-use".
+// Converts words joined by hyphens to a C++ name: "private-use" to "privateUse".
 std::string enumerator(const std::string& words) {
   std::string name;
   for (std::size_t i = 0; i < words.size(); ++i)

@@ -30,7 +30,7 @@ class EmbeddedImage {
   using Index = std::vector<std::pair<char32_t, std::uint32_t>>;
   void addNameIndex(const Index& index);
 
-  /// Adds the rows that programs need not decode.
+  /// Adds the rows of prepared_rows.h.
   void addPreparedRows(const PreparedRows& rows);
   void addPreparedEnrichment(std::string_view rows, const Index& index);
 
@@ -54,8 +54,8 @@ class EmbeddedImage {
   void addCharacterTable(const std::string& constant, const CharacterTable& table);
   /// Adds a constant of character_tables.h whose texts are packed.
   void addPackedTable(const std::string& constant, const CharacterTable& table);
-  /// Adds to the CharacterAnnotations of the language with this BCP 47 tag. A line replaces an earlier one of
-  /// the same key.
+  /// Adds lines to the CharacterAnnotations of the language with this BCP 47 tag. A line replaces an earlier
+  /// line with the same key.
   void addCharacterAnnotations(const std::string& language, const CharacterTable& table);
   /// Adds a constant of notations.h.
   void addNotations(const std::string& constant, std::string_view lines);

@@ -142,7 +142,7 @@ void appendNumber(std::size_t number, const std::string& hex, std::string& bytes
   bytes += static_cast<char>(number);
 }
 
-// Returns the fields of the row as preparedEnrichment() of entity/ reads them.
+// Returns the fields of the row in the form that PreparedEnrichmentReader reads.
 std::string preparedRow(const std::string& hex, const Row& row, const std::vector<Language>& languages) {
   std::string bytes;
   appendNumber(row.needsSerifs, hex, bytes);

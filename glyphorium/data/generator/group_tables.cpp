@@ -68,7 +68,7 @@ std::vector<char32_t> readBlock(const SourceLine& line, const NameTable& names) 
   return members;
 }
 
-// Does not escape any symbol, not even those of U+0022 and U+005C. Readers of the table repair these two rows
+// Does not escape the symbol, not even for U+0022 and U+005C. Readers of the table repair these two rows
 // before they parse the table. The repair would damage an escaped symbol.
 std::string rowJson(char32_t codePoint, const RowTexts& texts, const GroupTable& table) {
   return "{\"symbol\":\"" + texts.symbol + "\",\"hex\":\"" + texts.hex + "\"," +

@@ -19,7 +19,7 @@ struct GroupTable {
   std::string json;
 };
 
-/// The texts of a row. The row contains these texts without JSON escapes.
+/// The texts of a row, without JSON escapes.
 struct RowTexts {
   std::string hex;
   std::string htmlHex;

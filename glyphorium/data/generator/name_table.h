@@ -38,7 +38,7 @@ class NameTable {
     std::string json;            ///< the array of all entries: first those of Unicode, then the SF Symbols
     std::size_t fragmentOffset;  ///< offset in `json` of the SF Symbols
     std::size_t fragmentSize;    ///< size of the SF Symbols, without the closing bracket
-    /// Each code point with the offset in `json` of the name in its first entry, in ascending order.
+    /// For each code point, the offset in `json` of its first entry. In ascending order of code points.
     std::vector<std::pair<char32_t, std::uint32_t>> index;
   };
   Text text() const;

@@ -11,7 +11,8 @@
 namespace glyph::generator {
 namespace {
 
-// For each notation, the characters that it stands for. The number is a rank: the lowest is first.
+// For each notation, the characters that it stands for, each with a rank. The character with the lowest rank
+// comes first.
 using Notations = std::map<std::string, std::vector<std::pair<std::size_t, char32_t>>>;
 
 // Documents write a letter of a mathematical alphabet as a command with an argument: "\mathbb{R}". The tables
@@ -26,8 +27,8 @@ Notations readLatex(const std::filesystem::path& file) {
   for (const SourceLine& line : readTable(file, 3, 3)) {
     const char32_t codePoint = line.codePoint(0, false);
     const std::string& command = line.columns[1];
-    // The third column lists the tables that have this line. The more tables agree, the likelier it is that
-    // the character is meant.
+    // The third column lists the sources that have this line. The more sources agree, the likelier it is that
+    // people mean this character.
     const auto commas = std::count(line.columns[2].begin(), line.columns[2].end(), ',');
     const std::size_t rank = 9 - static_cast<std::size_t>(commas);
     notations[command].emplace_back(rank, codePoint);
@@ -51,8 +52,8 @@ Notations readPairs(const std::filesystem::path& file, std::size_t columns, bool
   return notations;
 }
 
-// A number that begins with a zero means code page 1252. The code page of the United States is more common
-// than that of western Europe.
+// A number that begins with a zero means code page 1252. Of the other code pages, that of the United States
+// is more common than that of western Europe.
 Notations readAltCodes(const std::filesystem::path& file) {
   Notations notations;
   for (const SourceLine& line : readTable(file, 3, 3)) {

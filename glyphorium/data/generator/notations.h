@@ -7,8 +7,8 @@
 
 namespace glyph::generator {
 
-/// Adds the ways to write characters, from the folder input/ of the sources, sorted by what is written. Fails
-/// if a line has the wrong form.
+/// Adds the constants of data/notations.h, from the folder input/ of the sources. Fails if a line has the
+/// wrong form.
 void addNotations(const std::filesystem::path& sources, EmbeddedImage& image);
 
 }  // namespace glyph::generator

@@ -17,8 +17,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Fails if the line has a straight quotation mark or a reverse solidus. Such a sign is allowed only in a text
-// about this sign, followed by its code.
+// Fails if the line has a straight quotation mark or a reverse solidus, unless the text is about the sign and
+// its code follows.
 void requireAllowedCharacters(const Place& place, const std::string& line) {
   for (std::size_t i = 0; i < line.size(); ++i) {
     const char c = line[i];
@@ -34,8 +34,8 @@ bool isSpace(char32_t c) {
   return c == U' ' || c == U'\u00A0' || c == U'\u202F';
 }
 
-// Fails if a sign surrounded by spaces is followed by the code of another sign: "« (00bb)". An ASCII letter
-// may be a word of one letter before a year.
+// Fails if a sign surrounded by spaces is followed by the code of another sign: "« (00bb)". ASCII letters are
+// not checked: such a letter may be a word, and the number a year.
 void requireMatchingCodes(const Place& place, const std::string& line) {
   const std::u32string text = codePoints(line);
   for (std::size_t i = text.find(U" ("); i != std::u32string::npos; i = text.find(U" (", i + 1)) {

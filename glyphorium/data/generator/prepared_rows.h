@@ -10,12 +10,11 @@
 
 namespace glyph::generator {
 
-/// The rows of the configured tables in the form that the library takes over without decoding. See
-/// data/prepared_rows.h.
+/// The rows of the configured tables in the form of data/prepared_rows.h, which the library need not decode.
 struct PreparedRows {
   std::string rows;   ///< PreparedRow structures, in the order of the tables
   std::string texts;  ///< the texts of each code point
-  std::string order;  ///< 16-bit places of the rows, in ascending order of code points
+  std::string order;  ///< 16-bit positions in `rows`, in ascending order of code points
 };
 
 /// Throws SourceError if the rows do not fit into the form.

@@ -18,8 +18,8 @@ using Facts = std::map<char32_t, std::vector<std::string>>;
 
 constexpr std::size_t manyColumns = 64;
 
-// Returns the code point of a line. Fails if the code point has no name or is smaller than `previous`. Then
-// sets `previous` to the code point.
+// Returns the code point of a line and stores it in `previous`. Fails if it has no name or is smaller than
+// the old value of `previous`.
 char32_t orderedCodePoint(const SourceLine& line, const NameTable& names, char32_t& previous) {
   const char32_t codePoint = line.codePoint(0, false);
   if (codePoint < previous) line.fail("is out of order");
@@ -136,8 +136,8 @@ std::size_t count(const Facts& facts) {
 void addSearchFacts(const std::filesystem::path& sources, const std::vector<Language>& languages,
                     const NameTable& names, EmbeddedImage& image, Figures& figures) {
   const std::filesystem::path folder = sources / "search";
-  // The number of texts in an imported list is checked, so that no text gets lost. This project's own lists
-  // grow, so their numbers are not checked.
+  // Only the numbers of texts in imported lists are checked, so that no text gets lost. This project's own
+  // lists grow.
   const Facts aliases = readAliases(folder / "name-aliases.tsv", names);
   image.addSearchFacts("alias", "", aliases);
   figures.reached("name aliases", count(aliases));

@@ -12,18 +12,18 @@ namespace {
 
 constexpr std::size_t mostPieces = PackedTexts::literal - 1;
 constexpr int rounds = 8;
-constexpr std::size_t sampleSize = 200'000;  // in bytes; more lines give hardly better pieces
+constexpr std::size_t sampleSize = 200'000;  // in bytes; a larger sample hardly improves the pieces
 
 }  // namespace
 
-// Each round packs the lines with the pieces so far, counts the pieces and the pairs of neighbours, and keeps
-// what stands for most bytes. So pieces grow from single bytes to frequent words.
+// Each round splits the lines into the current pieces. Of these pieces and of the pairs of adjacent pieces,
+// it keeps those that cover the most bytes. So pieces grow from single bytes to frequent words.
 TextPacker::TextPacker(const std::vector<std::string>& lines) {
   std::size_t size = 0;
   for (const std::string& line : lines) size += line.size();
   const std::size_t step = size / sampleSize + 1;
   for (int round = 0; round < rounds; ++round) {
-    std::map<std::string, std::size_t> bytes;  // how many bytes a piece stands for in all lines
+    std::map<std::string, std::size_t> bytes;  // the number of bytes that a piece covers in all lines
     const std::size_t none = pieces_.size();
     std::map<std::pair<std::size_t, std::size_t>, std::size_t> pairs;
     for (std::size_t i = 0; i < lines.size(); i += step) {

@@ -11,13 +11,13 @@ namespace glyph::generator {
 /// Packs texts into the form of PackedTexts.
 class TextPacker {
  public:
-  /// Chooses the pieces of text that are worth a byte for these lines.
+  /// Chooses the pieces of text with which these lines become shortest.
   explicit TextPacker(const std::vector<std::string>& lines);
 
   /// Returns PackedTexts::pieces.
   std::string pieces() const;
-  /// Returns the packed line with its end. Lines that are not among those of the constructor can be packed
-  /// too.
+  /// Returns the packed line, including PackedTexts::endOfLine. The line need not be one of the constructor's
+  /// lines.
   std::string packed(std::string_view line) const;
 
  private:
@@ -27,7 +27,7 @@ class TextPacker {
   std::size_t longestAt(std::string_view text) const;
 
   std::vector<std::string> pieces_;
-  std::array<std::vector<std::size_t>, 256> byFirst_;  // numbers of pieces by first byte, long ones first
+  std::array<std::vector<std::size_t>, 256> byFirst_;  // numbers of pieces by first byte, longest piece first
 };
 
 }  // namespace glyph::generator
