@@ -20,7 +20,8 @@
 namespace glyph {
 namespace {
 
-// Returns the place of the character of a hex code, or of the emoji of a hex list: see supplement_search.h.
+// Returns the place (see supplement_search.h) of the character with this hex code, or of the emoji with this
+// hex list.
 std::optional<std::size_t> placeOfHex(std::string_view hex) {
   std::string text;
   for (std::string_view rest = hex; !rest.empty();) {
@@ -81,8 +82,8 @@ SearchResults CatalogSearch::query(std::string_view text, const SearchOptions& o
   }
   std::size_t total = found.total;
   for (const SearchResult& result : added.results) {
-    // If the catalog's results were truncated, a character of the catalog that is not in the returned part
-    // is already counted in found.total.
+    // If the results of the catalog were truncated, found.total also counts the characters that were cut off.
+    // So an added character that is one of them must not be counted again.
     if (!seen[result.index] && !(cut && isKnown[result.index])) ++total;
   }
 
@@ -103,7 +104,7 @@ SearchResults CatalogSearch::query(std::string_view text, const SearchOptions& o
   return merged;
 }
 
-// Gives emoji the preferred tone, except an emoji that the query has.
+// Gives emoji the preferred skin tone, except an emoji that the query itself contains.
 void CatalogSearch::useTone(SearchResults& found) const {
   for (SearchResult& result : found.results) {
     if (result.field == SearchField::character || result.field == SearchField::code) continue;

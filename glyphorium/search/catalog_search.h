@@ -17,7 +17,7 @@ namespace glyph {
 /// Searches the catalog, the characters that the user added, and all other characters and emoji of Unicode:
 /// the supplement. It works without configure() and decodes only the entities that the caller asks for. If
 /// the user has added no characters, the constructor only reads the setting. Otherwise the constructor also
-/// builds a Search over the added characters. Later changes of the setting do not affect an object: see
+/// builds a Search over the added characters. Later changes of the setting do not affect the object: see
 /// isCurrent(). Immutable: any number of threads may use one object.
 class GLYPHORIUM_EXPORT CatalogSearch {
  public:
@@ -33,9 +33,9 @@ class GLYPHORIUM_EXPORT CatalogSearch {
   /// approximate results of the others are dropped. Of equally good results, those of the catalog come first;
   /// Han characters, which are found by their meanings and readings, come last.
   ///
-  /// Emoji with skin tones are not results of their own beside the emoji without. Words such as "medium skin
-  /// tone" in the text choose the variant. Otherwise emoji have preferredSkinTone(), as it was when the
-  /// object was made, unless the text has the emoji itself.
+  /// An emoji and its variants with skin tones are one result. Words such as "medium skin tone" in the text
+  /// choose the variant. Without such words, emoji have the preferredSkinTone() of the time when the object
+  /// was made. But an emoji that is itself in the text keeps its tone.
   ///
   /// SearchResult::index is not a position in a list: pass the result to entity() instead. With
   /// SearchOptions::supplement false, only the catalog and the added characters are searched.
@@ -47,11 +47,11 @@ class GLYPHORIUM_EXPORT CatalogSearch {
 
   /// Returns the entity whose hex code or hex list is exactly this text ("2192", "0041,030a", "1f1e9,1f1ea").
   /// If a character is both added and in the catalog, returns the added one. Returns nullopt if the text is
-  /// no character that has a name, and no emoji.
+  /// neither an emoji nor a character that has a name.
   std::optional<Entity> entityOfHex(std::string_view hex) const;
 
-  /// Returns true if settingsStore() still has the codes and the skin tone that this object uses. If not,
-  /// make a new object.
+  /// Returns true if settingsStore() still has the added codes and the skin tone that this object uses. If it
+  /// returns false, make a new object.
   bool isCurrent() const;
 
   /// Returns true if the result of this object is a character that the user added.

@@ -30,8 +30,8 @@ void addDictionaryWords(const Index& index, QueryWord& word, const Languages& la
     word.alternatives.push_back({{range.first, range.first + 1}, WordMatch::whole});
     ++range.first;
   }
-  // If dictionary words begin with the text but the text is not a dictionary word itself, the text is an
-  // incomplete word rather than a plural. For example, "rocke" does not mean "rock".
+  // If the text is only a prefix of dictionary words, it is an incomplete word rather than a plural: "rocke"
+  // does not mean "rock".
   if ((isWord || range.empty()) && word.text.size() >= shortestPlural) {
     for (const SearchLanguage* const language : languages) {
       for (const std::string& singular : singularsOf(*language, word.text)) {

@@ -15,7 +15,7 @@
 namespace glyph::search {
 namespace {
 
-// Letters that Unicode does not decompose, each with the plain letters that people type instead.
+// Letters without a decomposition in Unicode, each with the plain letters that people type instead.
 constexpr struct {
   char32_t letter;
   std::string_view folded;

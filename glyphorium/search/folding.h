@@ -6,8 +6,8 @@
 namespace glyph::search {
 
 /// Folds a letter or digit for the comparison of words, and appends the result to `word` in UTF-8. Folding
-/// changes letters to lower case. It also removes the diacritics of Latin letters and spells them with the
-/// letters a to z if possible: "É" becomes "e", "ß" becomes "ss", "ø" becomes "o". Returns false and appends
+/// changes letters to lower case. It also removes the diacritics of Latin letters and, if possible, spells
+/// these letters with a to z: "É" becomes "e", "ß" becomes "ss", "ø" becomes "o". Returns false and appends
 /// nothing if the code point is neither a letter nor a digit.
 bool appendFolded(char32_t codePoint, std::string& word);
 

@@ -12,7 +12,7 @@ Hits::Best Hits::best(std::size_t limit, std::size_t docCount) && {
   std::vector<char> seen(docCount, 0);
   for (const Hit& hit : hits) best.total += std::exchange(seen[hit.doc], 1) == 0;
   // Only hits that may be among the `limit` best docs are sorted. Some of the first hits may be repeated hits
-  // of the same doc, so as many more hits are kept as there are repeated hits in all.
+  // of one doc, so the number of all repeated hits is added to the limit.
   const auto isBefore = [](const Hit& a, const Hit& b) { return a.order < b.order; };
   if (limit < best.total) {
     const std::size_t repeated = hits.size() - best.total;

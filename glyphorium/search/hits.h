@@ -14,8 +14,8 @@ namespace glyph::search {
 class Hits {
  public:
   struct Hit {
-    /// Hits are sorted by this number. It is cost << 32 | doc, so that among hits of equal cost the doc with
-    /// the better static rank comes first. Hits of addAtPosition() have their position here.
+    /// Hits are sorted by this number. It is cost << 32 | doc, so that of two hits with equal cost the doc
+    /// with the better static rank comes first. For hits of addAtPosition(), it is the position.
     std::uint64_t order;
     std::uint32_t cost() const { return static_cast<std::uint32_t>(order >> 32); }
     std::uint32_t doc;

@@ -34,23 +34,24 @@ struct Phrase {
   PhraseKind kind : 8;
   std::uint8_t language;  ///< position in Index::languages; 0 if the text is in no particular language
   std::uint8_t words;     ///< the number of words, at most 255
-  /// The number of words that are not stop words, at most 255. If all words are stop words, the same as
+  /// The number of words that are not stop words, at most 255. If all words are stop words, it equals
   /// `words`.
   std::uint8_t coreWords;
-  /// The position of the noun that the other words describe: of the last word, or of the first word in
-  /// languages in which nouns come first. Stop words and what follows the first function word do not count.
+  /// The position of the noun that the other words describe. This is the last word, or the first word in
+  /// languages in which nouns come first. Stop words do not count, nor does anything from the first function
+  /// word on.
   std::uint8_t head;
 };
 static_assert(sizeof(Phrase) == 8);
 
-/// What many phrases have in common, because most texts are short: a phrase whose doc is replaced by the
-/// number that IndexBuilder::Form explains.
+/// The part of a phrase that many phrases share, because most texts are short. In place of the doc it has 0,
+/// or the number and position that `postings` explains.
 using Shape = Phrase;
 
 /// A place at which a word occurs.
 struct Occurrence {
   Phrase phrase;
-  std::uint32_t text;  ///< tells the texts of a doc apart
+  std::uint32_t text;  ///< identifies a text among those of its doc
   std::uint8_t position;
 };
 
@@ -75,13 +76,13 @@ struct Index {
   std::span<const std::uint8_t> docPrior;       ///< added to the cost of each match: see static_rank.h
   TextList names;                               ///< empty if nameOf is set
 
-  /// The docs that have a code point, in ascending order of their code points. If it is empty, docs of equal
-  /// priors are in this order themselves.
+  /// The docs that have a code point, in ascending order of their code points. If this is empty, the docs
+  /// themselves are sorted by prior and then by code point.
   std::span<const std::uint32_t> byCodePoint;
 
   std::span<const Shape> shapes;
-  /// For each text, (doc) << 12 | (number of the shape), in ascending order of docs. If it is empty, postings
-  /// have the shapes.
+  /// For each text, (doc) << 12 | (number of the shape), in ascending order of docs. If this is empty, the
+  /// postings contain the numbers of the shapes.
   std::span<const std::uint32_t> phrases;
   /// For each doc, the number of its first phrase. The last element is the size of `phrases`.
   std::span<const std::uint32_t> phraseStart;
@@ -91,12 +92,12 @@ struct Index {
   /// `postings`.
   std::span<const std::uint32_t> postingStart;
   /// A posting is (number of the phrase) << 8 | (position of the word in the phrase). If `phrases` is empty,
-  /// it is (doc) << 16 | (number of the shape), and the shape has (number of the text in the doc) << 8 |
-  /// (position) in place of its doc.
+  /// it is (doc) << 16 | (number of the shape). Then Phrase::doc of the shape is (number of the text in the
+  /// doc) << 8 | (position of the word in the text).
   std::span<const std::uint32_t> postings;
 
   TextList signs;                               ///< sign keys (see signKey()) in ascending order
-  std::span<const std::uint32_t> signPostings;  ///< for each sign key, a posting with any position
+  std::span<const std::uint32_t> signPostings;  ///< for each sign key, a posting with an unused position
   TextList htmlNames;                       ///< in their original spelling, not folded, in ascending order
   std::span<const std::uint32_t> htmlDocs;  ///< for each HTML name, the number of its doc
 
@@ -112,11 +113,12 @@ struct Index {
   /// stands for languages[i].
   TextList languages;
 
-  // What follows is not part of an image.
+  // The following members are not part of an image.
 
-  /// Returns the shown name of the entity at this position, if `names` is empty.
+  /// If `names` is empty, this function returns the shown name of the entity at a position.
   std::string (*nameOf)(std::uint32_t entity) = nullptr;
-  /// An index whose texts also count when words get their weights, so that costs of both can be compared.
+  /// Another index. The weight of a word depends on the texts of both indexes, so that their costs are
+  /// comparable.
   const Index* weighedWith = nullptr;
 
   static constexpr std::uint32_t noCodePoint = 0xFFFFFFFF;
@@ -141,7 +143,7 @@ struct Index {
   std::uint32_t docOfPosting(std::uint32_t posting) const {
     return phrases.empty() ? posting >> 16 : phrases[posting >> 8] >> 12;
   }
-  /// Returns the smallest number that a posting of this doc or a later one may have.
+  /// Returns the smallest number that a posting of this doc or of a later doc may have.
   std::uint64_t firstPosting(std::uint32_t doc) const {
     return phrases.empty() ? std::uint64_t{doc} << 16 : std::uint64_t{phraseStart[doc]} << 8;
   }
@@ -149,7 +151,7 @@ struct Index {
   std::span<const std::uint32_t> postingsOf(TextRange range) const {
     return postings.subspan(postingStart[range.first], postingStart[range.last] - postingStart[range.first]);
   }
-  /// Returns true if the language is in `languages` and its bit in the bit mask is set.
+  /// Returns true if the language is in `languages` and its bit in `languageBits` is set.
   bool hasLanguage(std::string_view language, std::uint32_t languageBits) const;
 
   std::uint32_t groupCount() const { return groupNames.size(); }

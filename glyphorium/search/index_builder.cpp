@@ -17,7 +17,7 @@ constexpr std::uint32_t maxShapesOfPhrases = 1u << 12;
 constexpr std::uint32_t maxShapesOfPostings = 1u << 16;
 constexpr std::uint32_t lastPosition = 0xFF;  // a posting has 8 bits for the position of a word
 
-// Texts in ascending order, and for each text the number that belongs to it.
+// Texts in ascending order, each with a number.
 template <class Text>
 struct NumberedTexts {
   explicit NumberedTexts(std::vector<std::pair<Text, std::uint32_t>> pairs) {
@@ -132,8 +132,8 @@ void IndexBuilder::addText(PhraseKind kind, std::string_view languageCode, std::
   ++textOfDoc_;
 }
 
-// Returns the number of the shape. If there are too many shapes, returns that of the shape that was added
-// last.
+// Returns the number of the shape. If there are too many shapes, returns the number of the shape that was
+// added last.
 std::uint32_t IndexBuilder::numberOfShape(const Shape& shape) {
   const std::size_t most = form_ == Form::phrases ? maxShapesOfPhrases : maxShapesOfPostings;
   const auto next = static_cast<std::uint32_t>(std::min(shapes_.size(), most - 1));
@@ -142,7 +142,7 @@ std::uint32_t IndexBuilder::numberOfShape(const Shape& shape) {
   return known->second;
 }
 
-// Bit 0: the word is a stop word. Bit i: it is a function word of language i.
+// Returns a bit mask. Bit 0: the word is a stop word. Bit i: it is a function word of language i.
 std::uint32_t IndexBuilder::languagesJoinedBy(std::string_view word) const {
   std::uint32_t bits = isStopWord(word) ? 1 : 0;
   for (const SearchLanguage& known : searchLanguages) {

@@ -32,16 +32,16 @@ class IndexBuilder {
  public:
   /// How the index stores the places of words: see Index::phrases and Index::postings.
   /// - phrases: for a list of entities of any length.
-  /// - shapes: without `phrases`, which saves room if most texts are short. There may be at most 65,536 docs.
-  ///   The entity of each doc must equal its code point, and the docs must be in the order of their priors
-  ///   and then of their code points.
+  /// - shapes: without `phrases`, which saves memory if most texts are short. There may be at most 65,536
+  ///   docs. The entity of each doc must equal its code point, and the docs must be sorted by prior and then
+  ///   by code point.
   enum class Form { phrases, shapes };
 
   explicit IndexBuilder(Form form);
 
   /// Adds a doc and returns its number.
   std::uint32_t addDoc(std::uint32_t entity, std::uint32_t codePoint, std::uint8_t prior);
-  /// Adds a name that is shown, for an index without Index::nameOf.
+  /// Adds the shown name of the doc that was added last, for an index without Index::nameOf.
   void addShownName(std::string_view name) { names_.add(name); }
   /// Adds a text of the doc that was added last. `language` is empty for a text in no language.
   void addText(PhraseKind kind, std::string_view language, std::string_view text);

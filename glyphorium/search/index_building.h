@@ -12,20 +12,20 @@ namespace glyph::search {
 
 class IndexBuilder;
 
-/// Whether an index has the names that hosts show. An index of the catalog need not: see Index::nameOf.
+/// Whether an index contains the names that hosts show. The index of the catalog need not: see Index::nameOf.
 enum class ShownNames { stored, elsewhere };
 
 /// Builds the index of a list of entities. Entities with the same hex code become one doc.
 IndexImage buildIndex(std::span<const Entity> entities, ShownNames shownNames = ShownNames::stored);
 
-/// Adds a name in the spelling of the catalog, and for letters how they look.
+/// Adds a name in the spelling of the catalog. For a letter, also adds the words for its look.
 void addName(IndexBuilder& builder, std::string_view name);
 
-/// Adds the informal aliases and the comments of the code charts.
+/// Adds the informal aliases and the comments that the code charts have for the code point.
 void addRemarks(IndexBuilder& builder, std::uint32_t codePoint);
 
-/// Adds addRemarks() and the texts that the sources of the search have for a code point: aliases,
-/// annotations, everyday names.
+/// Calls addRemarks(), and adds the texts that the search data has for the code point: aliases, annotations,
+/// everyday names.
 void addSearchFacts(IndexBuilder& builder, std::uint32_t codePoint);
 
 }  // namespace glyph::search

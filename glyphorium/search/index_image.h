@@ -14,12 +14,12 @@ namespace glyph::search {
 /// machines with the same byte order.
 using IndexImage = std::vector<std::byte>;
 
-/// Returns an image with a copy of the index. If `docEntity` is empty, the opened index has `docCodePoint` in
-/// its place.
+/// Returns an image with a copy of the index. If `docEntity` is empty, openIndex() uses `docCodePoint` in its
+/// place.
 IndexImage packed(const Index& index);
 
 /// Returns the index in an image. The index consists of views of the image, so the image must outlive it. The
-/// image must come from packed(), on a machine with the same byte order: it is not checked.
+/// image must come from packed() on a machine with the same byte order. This is not checked.
 Index openIndex(std::span<const std::byte> image);
 
 /// Returns the image that is part of the library. The build makes it from the entities that configure() puts

@@ -6,13 +6,13 @@
 
 namespace glyph::search {
 
-/// Returns the words that tell a letter from others, separated by spaces: "e grave" for "LATIN SMALL LETTER E
-/// WITH GRAVE", "greek capital alpha". Empty if the name is not that of a letter. Small letters are not
-/// called small, because people say "e grave" for a small letter.
+/// Returns the words that people use for a letter, separated by spaces: "e grave" for "LATIN SMALL LETTER E
+/// WITH GRAVE", "greek capital alpha". Empty if the name is not that of a letter. The word "small" is left
+/// out, because people say "e grave" for a small letter.
 std::string letterWords(std::string_view name);
 
-/// Returns the words for how a letter with marks looks: "i two dots points above over top" for "LATIN SMALL
-/// LETTER I WITH DIAERESIS". Empty if the name is not that of a letter with a known mark.
+/// Returns words that describe what a letter with marks looks like: "i two dots points above over top" for
+/// "LATIN SMALL LETTER I WITH DIAERESIS". Empty if the name is not that of a letter with a known mark.
 std::string letterLook(std::string_view name);
 
 }  // namespace glyph::search

@@ -16,21 +16,22 @@ namespace {
 
 constexpr std::uint32_t noCost = 0xFFFFFFFF;
 constexpr std::uint32_t noText = 0xFFFFFFFF;
-// In the postings of a frequent word, a binary search for each character costs less than reading all.
+// If a word has more than this number of postings per character, a binary search for each character costs
+// less than reading all postings.
 constexpr std::size_t postingsPerSearch = 16;
 constexpr std::size_t shortestGroupWord = 3;  // in bytes; groups are not found by shorter words
 
-// What is known about a text after some of the words of the query were looked up.
+// How a text matches the words of the query that were looked up so far.
 struct PhraseState {
   Phrase phrase{};
   std::uint32_t text = 0;       // Occurrence::text
   std::uint32_t next = noText;  // the position in Scratch::phrases of another text of the doc
-  std::uint32_t gain = 0;       // what the matched words have kept of their weights, in hundredths of a point
+  std::uint32_t gain = 0;       // the weight that the matched words have not lost, in hundredths of a point
   std::uint8_t lastWord = 0;
   std::uint8_t words = 0;
   std::uint8_t stopWords = 0;
   std::uint8_t aligned = 0;
-  std::int8_t shift = 0;  // position in the text minus position in the query, of the first matched word
+  std::int8_t shift = 0;  // of the first matched word: position in the text minus position in the query
   std::uint8_t variants = 0;
   bool isLastAligned = false;
   bool head = false;
@@ -39,8 +40,8 @@ struct PhraseState {
 
 struct DocState {
   std::uint32_t epoch = 0;
-  std::uint32_t gain = 0;     // as in PhraseState, but of the words before the last one
-  std::uint32_t current = 0;  // the same of the last matched word
+  std::uint32_t gain = 0;     // as in PhraseState, without the last matched word
+  std::uint32_t current = 0;  // the gain of the last matched word
   std::uint32_t matched = 0;  // bit i: word i of the query matches
   std::uint32_t matchedWeight = 0;
   std::uint32_t contentWords = 0;  // the number of matched words that are not stop words
@@ -52,15 +53,15 @@ struct DocState {
   std::uint32_t phrases = noText;  // the position in Scratch::phrases of the first text
 };
 
-// Working memory that is reused for the next query. Each query has a number, its epoch. A state of a doc with
+// Working memory that is reused for the next query. Each query has a number, its epoch. A DocState with
 // another epoch is left over from an earlier query and counts as empty. So the states need not be cleared for
-// each query. Memory that no query has touched takes no room: the states come as zeros from the system.
+// each query. calloc() gets zeroed pages from the system, which take no memory until they are written.
 struct Scratch {
   std::vector<PhraseState> phrases;
   std::unique_ptr<DocState[], decltype(&std::free)> docs{nullptr, &std::free};
   std::size_t docCount = 0;
   std::vector<std::uint32_t> touchedDocs;
-  std::vector<std::uint64_t> begun;  // bit i: a word before the current one matches doc i
+  std::vector<std::uint64_t> begun;  // bit i: an earlier word matches doc i
   std::uint32_t epoch = 0;
 
   void begin(const Index& index) {
@@ -86,8 +87,8 @@ class Matcher {
 
   Matches match() {
     weigh();
-    // The rarest word is matched first. A character that lacks too many of the first words need not be looked
-    // at when it matches one of the others.
+    // The rarest word is matched first. A character that lacks too many of the first words can be skipped
+    // when a later word matches it.
     std::vector<std::pair<std::size_t, std::uint8_t>> order;
     for (std::uint8_t place = 0; place < words_.size(); ++place) {
       const std::size_t last = words_[place].isStopWord ? index_.postings.size() : 0;
@@ -98,8 +99,8 @@ class Matcher {
     for (const auto& [count, place] : order) {
       const QueryWord& word = words_[place];
       if (!scratch_.touchedDocs.empty()) matchWord(word, place, Docs::begun);
-      // A character that only matches from here on lacks all words before. If it would be left out, because
-      // another one lacks much less, it need not be looked at.
+      // A character that no earlier word matches lacks all of them. If result() would leave it out for that,
+      // it is skipped here.
       const std::uint32_t most =
           std::min(contentWeight_ * mostMissing / 100,
                    contentWeight_ - bestWeight_ + contentWeight_ * mostMissingBeyondBest / 100);
@@ -142,7 +143,7 @@ class Matcher {
     return (filter_.languages >> phrase.language & 1) != 0 && (!filter_.docs || (*filter_.docs)[phrase.doc]);
   }
 
-  // Which characters are looked at: those that match another word already, or the others.
+  // Which characters are looked at: those that an earlier word matches, or the others.
   enum class Docs { begun, others };
 
   bool isBegun(std::uint32_t doc) const { return scratch_.begun[doc / 64] >> doc % 64 & 1; }
@@ -169,7 +170,8 @@ class Matcher {
       }
     }
     if (word.text.size() >= shortestGroupWord && !word.isStopWord) matchGroups(word, place, docs);
-    // Only now, because a word may match several texts of a character that it begins.
+    // The bits are set only now, because the word may match several texts of a character that no earlier word
+    // matched.
     for (std::size_t i = begunDocs; i < scratch_.touchedDocs.size(); ++i) {
       const std::uint32_t doc = scratch_.touchedDocs[i];
       scratch_.begun[doc / 64] |= std::uint64_t{1} << doc % 64;
@@ -227,7 +229,8 @@ class Matcher {
     if (state.lastWord == 0) state.shift = static_cast<std::int8_t>(position - place);
     const bool isAligned = state.shift == static_cast<std::int8_t>(position - place);
     if (state.lastWord == place + 1) {
-      // The word is in the text several times. A later place may fit the other words better.
+      // The word is in the text several times. This place may fit the other words better than the earlier
+      // place.
       if (isAligned && !state.isLastAligned) {
         ++state.aligned;
         state.isLastAligned = true;

@@ -11,9 +11,9 @@ namespace glyph::search {
 namespace {
 
 // Searches the sorted dictionary like a prefix tree. All words of a range begin with the same `depth` bytes.
-// At each depth, every edit is tried. After an edit, the rest of the query's word must follow unchanged. This
-// looks up a few hundred ranges. A comparison with each word of the dictionary would take about a thousand
-// times as many steps.
+// At each depth, every edit is tried. After an edit, the rest of the query's word must follow unchanged. So
+// only a few hundred ranges are looked up. A comparison with each word of the dictionary would take about a
+// thousand times as many steps.
 class MistypedWords {
  public:
   MistypedWords(const Index& index, QueryWord& word) : index_(index), word_(word), text_(word.text) {}

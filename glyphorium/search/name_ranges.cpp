@@ -9,8 +9,8 @@ namespace glyph::search {
 
 namespace {
 
-// A word of at least this size is highlighted even if the name matches for another reason: "right" in
-// "Rightwards", which is its synonym.
+// In bytes. If a query word of at least this size is a prefix of a word of the name, the prefix is
+// highlighted, even if the name matches for another reason: "right" in "Rightwards".
 constexpr std::size_t shortestHighlight = 3;
 
 // Returns true if the word of the query may mean the word of the dictionary.

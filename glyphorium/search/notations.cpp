@@ -14,7 +14,7 @@
 namespace glyph::search {
 namespace {
 
-constexpr std::size_t shortestBegun = 3;  // in bytes; too many notations begin with a shorter text
+constexpr std::size_t shortestBegun = 3;  // in bytes; a shorter text is a prefix of too many notations
 constexpr std::size_t mostBegun = 20;
 
 using CodePoints = std::vector<std::uint32_t>;
@@ -50,7 +50,8 @@ bool isLetters(std::string_view text) {
   return !text.empty() && std::all_of(text.begin(), text.end(), ascii::isLetter);
 }
 
-// Returns the spelling of an accented letter that the table has: "\'{e}" for "\'e", and "\c{c}" for "\c c".
+// Returns the command for an accented letter in the spelling of the table: "\'{e}" for "\'e", and "\c{c}" for
+// "\c c".
 std::string accented(std::string_view command) {
   std::string sign(command.substr(0, 2));
   std::string letter;
@@ -61,7 +62,8 @@ std::string accented(std::string_view command) {
   return sign + "{" + letter + "}";
 }
 
-// Returns the character of a code of the keyboard's own characters. The tables begin after them.
+// Returns the characters for an Alt code. The table does not have the codes of ASCII, which are the code
+// points.
 CodePoints altCode(std::string_view number) {
   const CodePoints found = exactly(notations::altCodes, number);
   const auto code = ascii::number(number, 10);
@@ -71,18 +73,19 @@ CodePoints altCode(std::string_view number) {
 CodePoints latex(std::string_view command) {
   CodePoints found = exactly(notations::latexCommands, command);
   if (!found.empty() || command.size() < 3) return found;
-  // A letter command needs a blank or a brace before its argument.
+  // A command of several letters ends before its argument, so only the others can be an accent with its
+  // letter.
   if (!ascii::isLetter(command[1]) || !ascii::isLetter(command[2])) {
     std::string spelling = accented(command);
     found = exactly(notations::latexCommands, spelling);
-    // The letters i and j lose their dots.
+    // The table has accented i and j as "\i" and "\j", the letters without their dots.
     if (found.empty() && spelling.size() == 5) {
       spelling.insert(3, 1, '\\');
       found = exactly(notations::latexCommands, spelling);
     }
     if (!found.empty()) return found;
   }
-  // The braces around the letter of an alphabet are often left out.
+  // People often leave out the braces around the letter of a mathematical alphabet: "\mathbb R".
   if (const std::size_t blank = command.find(' '); blank + 2 == command.size())
     return exactly(notations::latexCommands,
                    std::string(command.substr(0, blank)) + "{" + command.back() + "}");
@@ -99,7 +102,8 @@ CodePoints latex(std::string_view command) {
   return found;
 }
 
-// Returns what follows one of the words and the signs or blanks after it. Letter case does not count.
+// If the text begins with one of the words and then characters of `joints`, returns the rest of the text.
+// Letter case does not count.
 std::optional<std::string_view> after(std::initializer_list<std::string_view> words, std::string_view joints,
                                       std::string_view text) {
   for (const std::string_view word : words) {

@@ -10,7 +10,7 @@ namespace glyph::search {
 /// The code points that a text stands for in other programs.
 struct NotationsFound {
   std::vector<std::uint32_t> certain;  ///< the text is a whole notation in an unmistakable form
-  std::vector<std::uint32_t> begun;    ///< notations begin with the text
+  std::vector<std::uint32_t> begun;    ///< the text is a prefix of their notations
   std::vector<std::uint32_t> guessed;  ///< the text may also mean something else
 };
 

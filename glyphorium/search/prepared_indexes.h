@@ -5,10 +5,10 @@
 
 namespace glyph::search {
 
-/// Returns the index of the unchanged catalog, which is part of the library.
+/// Returns the index of the unchanged catalog. The index is part of the library.
 const Index& catalogIndex();
 
-/// Returns the index of the supplement, which is part of the library: see supplement_indexing.h.
+/// Returns the index of the supplement (see supplement_indexing.h). The index is part of the library.
 const Index& supplementIndex();
 
 }  // namespace glyph::search

@@ -25,7 +25,7 @@ bool isBlank(char c) {
   return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-// Returns the text, truncated to at most longestText bytes before the start of a UTF-8 sequence.
+// Returns the text, truncated to at most longestText bytes without cutting a UTF-8 sequence.
 std::string_view shortened(std::string_view text) {
   if (text.size() <= longestText) return text;
   std::size_t size = longestText;
@@ -65,10 +65,10 @@ std::vector<std::string_view> splitAtBlanks(std::string_view text) {
   return parts;
 }
 
-// Reads several numbers without a prefix, in the form of dumps. The numbers may be code points, UTF-16 code
+// Reads numbers without a prefix, as hexadecimal dumps contain them. They may be code points, UTF-16 code
 // units or bytes of UTF-8.
 void addBareNumbers(std::span<const std::string_view> numbers, ParsedQuery& query) {
-  // "U 2014", as it is read aloud.
+  // "U 2014", which is how people read "U+2014" aloud.
   if (numbers.front() == "U" || numbers.front() == "u") {
     numbers = numbers.subspan(1);
     if (numbers.size() == 1 && numbers[0].size() >= 4 && numbers[0].size() <= 6) {
@@ -87,8 +87,8 @@ void addBareNumbers(std::span<const std::string_view> numbers, ParsedQuery& quer
   if (!bytes && !codePoints) return;
   for (const std::string_view number : numbers) marked.append(bytes ? "\\x" : "\\u").append(number);
   const std::vector<ParsedCode> codes = parseCodes(marked);
-  // Each byte that is not part of a longer UTF-8 sequence gives a code of its own. If all bytes do, the text
-  // is probably not a dump of UTF-8, but words or numbers of two digits.
+  // If there are as many codes as bytes, no bytes form a longer UTF-8 sequence. Then the text is probably not
+  // a dump of UTF-8, but consists of words or of numbers with two digits.
   if (bytes && codes.size() == numbers.size()) return;
   for (const ParsedCode& code : codes) query.likelyNumbers.push_back(code.codePoint);
 }
@@ -174,7 +174,7 @@ void addCharacters(std::string_view text, ParsedQuery& query) {
   };
   for (const std::string_view part : splitAtBlanks(text)) {
     const std::vector<std::string_view> inPart = graphemeClusters(part);
-    // The signs beside the letters of a word belong to the word.
+    // The signs next to the letters of a word are part of the word.
     const bool isWord = inPart.size() > 1 && std::any_of(inPart.begin(), inPart.end(), isLatin);
     for (const std::string_view cluster : inPart) {
       const bool onKeyboard = cluster.size() == 1;
@@ -202,8 +202,9 @@ void addWords(std::string_view text, std::vector<std::string>& words) {
   WordReader reader(text);
   bool mayBeLetter = true;
   while (words.size() < mostWords && reader.next()) {
-    // Beside other words ("è maiuscola"), a letter is described, because folding would take its accent away.
-    // In the middle of a text it is a word ("carré à coins"), except after a word such as "capital".
+    // A letter with an accent next to other words ("è maiuscola") is replaced by its description, because
+    // folding would remove the accent. In the middle of a text such a letter is a word ("carré à coins"),
+    // unless a word such as "capital" precedes it.
     const std::string_view typed = text.substr(reader.begin(), reader.end() - reader.begin());
     std::string described = typed.size() < text.size() ? describedLetter(typed) : std::string();
     if (!mayBeLetter) described.clear();

@@ -23,7 +23,8 @@ struct ParsedQuery {
   /// Code points of a text that is a number but may also be a word: "face".
   std::vector<std::uint32_t> otherNumbers;
 
-  /// Characters whose notation in another program is the text, or begins with it: see notations.h.
+  /// Characters for which the text is a notation in another program, or a prefix of a notation: see
+  /// notations.h.
   NotationsFound notations;
 
   /// Characters that the user certainly means. The text is a single character or has no Latin letters.
@@ -43,7 +44,7 @@ struct ParsedQuery {
 /// Returns the possible meanings of a UTF-8 text. Returns nullopt if the text is empty.
 std::optional<ParsedQuery> parseQuery(std::string_view text);
 
-/// Returns true if the text has a "group:".
+/// Returns true if the text contains "group:NAME".
 bool namesGroup(std::string_view text);
 
 }  // namespace glyph::search

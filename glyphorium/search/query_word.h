@@ -9,7 +9,7 @@
 
 namespace glyph::search {
 
-/// How a word of the query matches a word of the dictionary. The best kind is first.
+/// How a word of the query matches a word of the dictionary, from best to worst.
 enum class WordMatch : std::uint8_t {
   whole,
   variant,     ///< the dictionary has a singular or a synonym of the word
@@ -29,7 +29,7 @@ struct Alternative {
 struct QueryWord {
   std::string text;                       ///< folded
   std::vector<Alternative> alternatives;  ///< the best alternative is first
-  bool isStopWord = false;                ///< whether the word says next to nothing about the character
+  bool isStopWord = false;                ///< whether a character need not match the word
   std::uint32_t weight = 0;               ///< see score.h
 };
 

@@ -105,9 +105,9 @@ class GLYPHORIUM_EXPORT Search {
   static Search ofCatalog();
 
   /// Returns the characters that match a UTF-8 text. The text may be:
-  /// - one or more words. The more of them a character matches, the better. Rare words count most, and words
-  ///   that only join other words ("with") next to nothing. Letter case, hyphens, underscores and the
-  ///   diacritics of Latin letters do not count. The last letters of a word may be missing;
+  /// - one or more words. The more of them a character matches, the better. Rare words count most. Words that
+  ///   only join other words ("with") count very little. Letter case, hyphens, underscores and the diacritics
+  ///   of Latin letters do not count. The last letters of a word may be missing;
   /// - a code point in a form that parseCodes() reads, also beside words ("U+2192 RIGHTWARDS ARROW");
   /// - one or more numbers without a prefix: decimal or hexadecimal code points, bytes of UTF-8, or code
   ///   units of UTF-16;

@@ -32,7 +32,7 @@ struct ToneName {
   SkinTone tone;
 };
 
-// The names of all tones in all languages, those of more words first, because "medium dark skin tone"
+// The names of all tones in all languages. Names with more words come first, because "medium dark skin tone"
 // contains the name of another tone.
 const std::vector<ToneName>& toneNames() {
   static NeverDestroyed<const std::vector<ToneName>> all([] {

@@ -9,11 +9,11 @@
 
 namespace glyph::search {
 
-/// Removes the names of skin tones from the words of a query, in any language of CLDR's names that the
-/// library has: "medium light skin tone", "dunkle hautfarbe". Returns the tones in their order.
+/// Removes the names of skin tones, in any language of characterAnnotations, from the words of a query:
+/// "medium light skin tone", "dunkle hautfarbe". Returns the tones in the order of the query.
 std::vector<SkinTone> takeSkinTones(std::vector<std::string>& words);
 
-/// Returns the skin tones of an emoji in their order. Empty if it has none.
+/// Returns the skin tones in the text of an emoji, in the order of the text. Empty if there are none.
 std::vector<SkinTone> skinTonesOf(std::string_view emoji);
 
 }  // namespace glyph::search

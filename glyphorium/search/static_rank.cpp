@@ -83,7 +83,8 @@ std::string_view shownName(const Entity& entity) {
   return better ? *additional->betterName : entity.computed.fallbackName;
 }
 
-// Returns at most 41, so that the prior decides only between about equally good matches (see score.h).
+// Returns at most 41, so that the prior decides only between matches that are about equally good (see
+// score.h).
 unsigned priorOf(const Candidate& candidate, std::string_view name, std::uint32_t place) {
   if (place != notWanted) return std::min<unsigned>(place / 60, mostWantedPrior);
   // People seldom search for a sign that is on the keyboard. But if they type its words, they most likely
@@ -111,7 +112,7 @@ RankedDocs rankDocs(std::span<const Entity> entities) {
     if (isNew) candidates.push_back({static_cast<std::uint32_t>(i), codePointOf(record.hex)});
     Candidate& candidate = candidates[known->second];
     candidate.group = std::min(candidate.group, groupCost(record.group));
-    // The rows of a group are consecutive, so this condition is rarely true.
+    // The rows of a group are consecutive, so the name of the group rarely changes.
     if (result.groups.empty() || result.groups.back().name != record.group) {
       const auto [group, isNewGroup] =
           groupOfName.try_emplace(record.group, static_cast<std::uint32_t>(result.groups.size()));

@@ -8,7 +8,7 @@
 
 #include "glyphorium/entity/records.h"
 
-/// The static rank: how likely it is that people mean a character, independent of the query. If several
+/// The static rank says how likely it is that people want a character, whatever the query is. If several
 /// characters match a query equally well, people nearly always mean a common sign. They hardly ever mean a
 /// similar combining, compatibility or private-use character. The order of code points does not show this
 /// difference: the results for "arrow" would begin with U+02C2.
@@ -20,8 +20,8 @@ inline constexpr std::uint8_t mostWantedPrior = 6;
 /// The lowest prior of private-use characters. All other characters of the catalog have a lower prior.
 inline constexpr std::uint8_t privateUsePrior = 34;
 
-/// The lowest prior of characters of the supplement that come after the catalog's, private use included: rare
-/// scripts and ideographs.
+/// The lowest prior of the supplement's rare scripts and ideographs. They come after all characters of the
+/// catalog, even after private-use characters.
 inline constexpr std::uint8_t behindPrivateUsePrior = 64;
 
 /// No prior is higher.

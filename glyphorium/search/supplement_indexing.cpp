@@ -40,7 +40,8 @@ struct Doc {
   DocKind kind;
 };
 
-// The catalog's own signs have at most 30. Private use has the numbers from privateUsePrior on.
+// The priors of the supplement. In the catalog, signs have a prior of at most 30, and private-use characters
+// have privateUsePrior or more.
 constexpr unsigned emojiPrior = 22;
 constexpr unsigned signPrior = 25;
 constexpr unsigned letterPrior = 30;
@@ -58,11 +59,11 @@ unsigned priorOf(const CharacterFacts& facts) {
     return signPrior + std::min(blanks > 2 ? blanks - 2 : 0u, 5u);
   }
   if (isOneOf(facts.script, {"Latin", "Greek", "Cyrillic"})) return letterPrior;
-  // The first plane has the scripts that people use today, and few others.
+  // The Basic Multilingual Plane has the scripts that people use today, and few others.
   return facts.codePoint < 0x10000 ? scriptPrior : rareScriptPrior;
 }
 
-// A character that has readings in all languages is a common one.
+// A character that has readings in all languages is common.
 unsigned hanPriorOf(std::string_view line) {
   unsigned missing = 0;
   for (std::size_t reading = 1; reading <= 4; ++reading) missing += column(line, reading).empty();
@@ -76,7 +77,7 @@ std::vector<Doc> docsOfSupplement() {
   for (std::size_t place = 0; place < emojiCount(); ++place) {
     if (emojiBase(place) != place) continue;
     const char32_t key = *characterKey(emojiAt(place).text);
-    // A doc of an emoji of the catalog stays only if it gets texts of its own: see addVariantNames().
+    // An emoji of the catalog gets a doc here only if it has variants: see addVariantNames().
     if (!known.contains(key) || !emojiVariants(place).empty())
       docs.push_back({emojiPrior, key, DocKind::emoji});
     known.insert(key);
@@ -99,7 +100,8 @@ std::vector<Doc> docsOfSupplement() {
   return docs;
 }
 
-// Adds the names that variants of an emoji have apart from the names of tones: "kiss: person, person".
+// Adds the names of an emoji's variants, without the names of skin tones, if they differ from the name of the
+// emoji: "kiss: person, person".
 void addVariantNames(IndexBuilder& builder, std::size_t place) {
   for (const SearchLanguage& language : searchLanguages) {
     std::set<std::string> names{wordsOf(annotationOf(emojiAt(place).text, language.code).name)};
@@ -138,7 +140,8 @@ void addAnnotations(IndexBuilder& builder, std::string_view text) {
   }
 }
 
-// People know flags by the code of the country, which the regional indicators spell.
+// Adds the code of the country, which the regional indicators of a flag spell. People search for flags by
+// this code.
 void addCountryCode(IndexBuilder& builder, std::string_view text) {
   std::string code;
   for (const char32_t point : codePoints(text)) {
@@ -156,7 +159,7 @@ void addCharacter(IndexBuilder& builder, char32_t codePoint) {
   addRemarks(builder, codePoint);
 }
 
-// Returns the definition without what stands in parentheses, which is about other characters.
+// Returns the definition without its parts in parentheses, which are about other characters.
 std::string withoutParentheses(std::string_view definition) {
   std::string rest;
   int depth = 0;
@@ -175,7 +178,7 @@ void addHan(IndexBuilder& builder, std::string_view line) {
   for (std::string_view senses = definition; !senses.empty();) {
     std::string_view commaList = takePart(senses, ';');
     while (!commaList.empty()) {
-      // Words that join others are left out, because they are a third of all words and say nothing.
+      // Stop words and function words are left out, because they are a third of all words and say nothing.
       std::string sense;
       for (WordReader reader(takePart(commaList, ',')); reader.next();) {
         if (isStopWord(reader.word()) || isFunctionWord(english, reader.word()) || reader.word() == "to")

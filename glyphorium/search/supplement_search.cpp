@@ -32,8 +32,8 @@ std::size_t placeOfKey(char32_t key) {
   return doc == Index::noDoc ? preparedRowCount() + key : catalogIndex().docEntity[doc];
 }
 
-// Of two answers, drops the one that changed the query more, and merges the rest. The results of the
-// supplement get places.
+// If one of the answers changed the query more than the other, usually drops it; otherwise merges the
+// results. Replaces the keys in the results of the supplement by places.
 SearchResults merged(Answer ofCatalog, Answer ofSupplement, std::size_t limit) {
   SearchResults& catalog = ofCatalog.results;
   SearchResults& supplement = ofSupplement.results;
@@ -50,7 +50,7 @@ SearchResults merged(Answer ofCatalog, Answer ofSupplement, std::size_t limit) {
              std::make_move_iterator(supplement.results.begin()),
              std::make_move_iterator(supplement.results.end()), std::back_inserter(both),
              [](const SearchResult& a, const SearchResult& b) { return a.cost < b.cost; });
-  // An emoji of the catalog is in both, if its variants have names of their own.
+  // An emoji of the catalog may be in both answers, if its variants have names of their own.
   std::unordered_set<std::size_t> seen;
   std::erase_if(both, [&](const SearchResult& result) { return !seen.insert(result.index).second; });
   SearchResults all{std::move(both), 0, catalog.approximate, catalog.lacksWords};
@@ -68,9 +68,9 @@ bool isMostWanted(const SearchResult& result) {
   return doc != Index::noDoc && catalogIndex().docPrior[doc] <= mostWantedPrior;
 }
 
-// Puts the emoji that has exactly these words as its name before others: Unicode calls another emoji
-// "grinning face with smiling eyes" than the emoji that people know by this name. But the characters that
-// people want most stay before emoji, such as the arrows.
+// Moves the emoji whose CLDR name consists of exactly these words to the front. This is needed because
+// Unicode's name and CLDR's name "grinning face with smiling eyes" belong to different emoji. But the most
+// wanted characters, such as the arrows, stay before emoji.
 void putNamedEmojiFirst(SearchResults& found, const std::string& words) {
   const auto end =
       found.results.begin() + static_cast<std::ptrdiff_t>(std::min(found.results.size(), mostExact));
@@ -100,15 +100,16 @@ SearchResults answerFromBoth(const ParsedQuery& query, SearchOptions options) {
   return found;
 }
 
-// Returns the variant of an emoji with these tones. There may be several: of two persons, two women, two men.
-// Then it is the one that has the words as its name apart from the tones, or else the first one.
+// Returns the variant of an emoji with these skin tones. There may be several: with two persons, two women,
+// two men. Then returns the variant whose name without the tones is `words`, or the first variant if there is
+// none with this name.
 std::string_view variantWith(std::size_t place, const std::vector<SkinTone>& tones,
                              const std::vector<std::string>& words) {
   std::string_view first;
   for (const std::size_t variant : emojiVariants(place)) {
     const std::string_view text = emojiAt(variant).text;
     std::vector<SkinTone> own = skinTonesOf(text);
-    // One tone means the same for all people of an emoji.
+    // A single tone in the query means this tone for all people of an emoji.
     if (tones.size() == 1 && std::adjacent_find(own.begin(), own.end(), std::not_equal_to<>()) == own.end())
       own.resize(1);
     if (own != tones) continue;
@@ -124,7 +125,8 @@ std::string_view variantWith(std::size_t place, const std::vector<SkinTone>& ton
   return first;
 }
 
-// Finds the emoji that the words apart from the tones mean, and returns their variants with these tones.
+// Searches for the query, from which the names of tones were removed, and returns the variants with these
+// tones of the emoji that it finds.
 SearchResults variants(ParsedQuery query, const std::vector<SkinTone>& tones, SearchOptions options) {
   const std::size_t limit = std::exchange(options.limit, preparedRowCount());
   query.bareText = joined(query.words, " ");
@@ -145,7 +147,8 @@ SearchResults variants(ParsedQuery query, const std::vector<SkinTone>& tones, Se
   return found;
 }
 
-// To look for a name takes a millisecond.
+// Returns true if the query has the form of a computed name. This saves the call of characterNamed(), which
+// takes about a millisecond.
 bool maybeComputedName(const ParsedQuery& query) {
   const std::vector<std::string>& words = query.words;
   if (words.size() == 3 && words[0] == "hangul" && words[1] == "syllable") return true;
@@ -154,8 +157,8 @@ bool maybeComputedName(const ParsedQuery& query) {
          ascii::number(std::string_view(query.bareText).substr(hyphen + 1), 16).value_or(0) >= 0x1000;
 }
 
-// Returns the characters of the query that are in no index: those whose names are computed, private use and
-// others.
+// Returns the characters of the query that are in no index, such as private-use characters and characters
+// with computed names.
 std::vector<SearchResult> withoutIndex(const ParsedQuery& query, bool isFound) {
   std::vector<SearchResult> found;
   const auto add = [&](char32_t codePoint, SearchField field) {
@@ -172,7 +175,7 @@ std::vector<SearchResult> withoutIndex(const ParsedQuery& query, bool isFound) {
   }
   for (const std::uint32_t number : query.likelyNumbers) add(number, SearchField::code);
   for (const std::uint32_t character : query.characters) add(character, SearchField::character);
-  // The names that are computed from code points are the only ones of which the search knows no words.
+  // The indexes have the words of all names except those that are computed from code points.
   if (!isFound && maybeComputedName(query)) {
     if (const auto codePoint = characterNamed(query.bareText))
       found.push_back({placeOfKey(*codePoint), SearchField::name, {}, 0, true});
@@ -208,7 +211,7 @@ SearchResults queryEverything(std::string_view text, const SearchOptions& option
   };
   std::vector<SearchResult> others = withoutIndex(*parsed, !found.results.empty() && !found.approximate);
   if (!others.empty() && found.approximate) found = {};
-  // The query is an emoji of several characters: it comes before its parts.
+  // If the query is an emoji of several code points, it comes before the characters that it consists of.
   const auto key = characterKey(trimmed(text));
   const bool isEmoji = key && *key >= firstEmojiNumber;
   if (isEmoji) {

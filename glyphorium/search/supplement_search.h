@@ -10,16 +10,16 @@
 
 namespace glyph::search {
 
-/// Searches the catalog and the supplement, and ranks the results together. SearchResult::index is a place:
-/// a number below preparedRowCount() is the position of an entity of the catalog, a larger one is
-/// preparedRowCount() and a key of emoji_numbers.h. Names of skin tones in the text choose variants of emoji.
-/// `text` must have no "group:", and `options` no groups.
+/// Searches the catalog and the supplement, and ranks the results together. SearchResult::index is a "place".
+/// A place below preparedRowCount() is the position of an entity of the catalog. Any other place is the sum
+/// of preparedRowCount() and a key of emoji_numbers.h. Names of skin tones in the text choose variants of
+/// emoji. `text` must not contain "group:", and `options` must have no groups.
 SearchResults queryEverything(std::string_view text, const SearchOptions& options);
 
 /// Returns the place of a character or an emoji. Returns nullopt if the text is neither.
 std::optional<std::size_t> placeOf(std::string_view text);
 
-/// Returns the text of a place.
+/// Returns the UTF-8 text of the character or emoji with this place.
 std::string textAt(std::size_t place);
 
 }  // namespace glyph::search

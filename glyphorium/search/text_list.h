@@ -15,7 +15,7 @@ struct TextRange {
 };
 
 /// A list of texts that are stored in one block of bytes. This is a view: the bytes and the offsets must
-/// outlive it.
+/// outlive the list.
 struct TextList {
   std::span<const char> bytes;
   std::span<const std::uint32_t> begins;  ///< the offset of each text in `bytes`, then the size of `bytes`

@@ -10,8 +10,8 @@
 namespace glyph::search {
 
 /// Gives each distinct word a number, in the order in which the words first appear. This is a hash table with
-/// open addressing that stores all words in one block of bytes. std::unordered_map would allocate memory for
-/// each of some 20,000 words, and building an index would take 20 percent longer.
+/// open addressing that stores all words in one block of bytes. With std::unordered_map, which allocates
+/// memory for each of about 20,000 words, building an index takes 20 percent longer.
 class WordNumbers {
  public:
   WordNumbers() : slots_(1u << 16, empty) { offsets_.push_back(0); }

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::size_t mostRespellings = 6;
 constexpr std::size_t shortestInnerPrefix = 3;
-constexpr std::size_t mostRespelledWords = 5;  // longer queries are phrases
+constexpr std::size_t mostRespelledWords = 5;  // longer queries are not respelled
 
 class WordSearch {
  public:
@@ -34,7 +34,7 @@ class WordSearch {
     }
     if (complete) keep(typed);
     if (complete && !isName(typed.matches)) addNamesInOtherLanguages();
-    // Words that are split or joined may be a whole text: "thumbsup".
+    // With its words split or joined, the query may be a whole text: "thumbsup".
     if (complete && !typed.matches.best.whole) addWholeRespellings();
     if (complete || !persistently) return std::move(found_);
     Reading best = readWidely(std::move(typed));
@@ -56,15 +56,15 @@ class WordSearch {
                                          bool prefixes) const {
     std::vector<QueryWord> result;
     const std::size_t mostTooShort = index_.weighedWith ? 2 : 1;
-    bool afterJoining = false;  // "a" is a letter, but not in "with a"
+    bool afterJoining = false;  // whether the previous word is a stop word: in "with a", "a" is no letter
     for (const std::string& text : words) {
       const bool isLast = &text == &words.back();
       QueryWord& word = result.emplace_back(
           QueryWord{text, {}, saysLittle(languages, text) && (text.size() > 1 || afterJoining), 0});
       afterJoining = word.isStopWord;
-      // As a prefix, a single letter would match a tenth of all words. Two letters are too few beyond the
-      // catalog, which has enough words that begin with them. Before the end, only unknown words are
-      // incomplete.
+      // A single letter is a prefix of a tenth of all words. For the supplement, two letters are too few as
+      // well: enough words of the catalog begin with them. A word that is not the last one counts as
+      // incomplete only if it is not in the dictionary.
       const bool mayBeBegun = isLast
                                   ? text.size() > mostTooShort
                                   : text.size() >= shortestInnerPrefix && index_.words.exactly(text).empty();
@@ -77,7 +77,7 @@ class WordSearch {
     return isStopWord(word) || isFunctionWord(languages, word);
   }
 
-  // A way to understand the query, and what it finds.
+  // One interpretation of the query, and the characters that it finds.
   struct Reading {
     std::vector<QueryWord> words;
     Matches matches;
@@ -93,20 +93,21 @@ class WordSearch {
   }
 
   std::vector<std::vector<std::string>> respelled() const {
-    // Words are split and joined by the catalog's index only: with its many short words, the other one has a
-    // part for nearly everything.
+    // Only the catalog's index is used to split and join words. The supplement's index has so many short
+    // words that nearly every word could be split into them.
     if (words_.size() > mostRespelledWords || index_.weighedWith) return {};
     std::vector<std::vector<std::string>> spellings = respellings(index_, words_, languages_);
     spellings.resize(std::min(spellings.size(), mostRespellings));
     return spellings;
   }
 
-  // Whether the query is a whole text of the best match, and not just an abbreviation in HTML.
+  // Returns true if the query is a whole text of the best match, other than an HTML name.
   static bool isName(const Matches& matches) {
     return matches.best.whole && matches.best.kind != PhraseKind::htmlName;
   }
 
-  // A word of another language may begin a word of this one: "luna" is the moon, and the beginning of "lunate".
+  // A word of another language may be a prefix of a word in the searched languages: "luna" means the moon,
+  // but is also a prefix of "lunate".
   void addNamesInOtherLanguages() {
     MatchFilter others = filter_;
     others.languages = ~filter_.languages;
@@ -118,7 +119,7 @@ class WordSearch {
 
   void addWholeRespellings() {
     for (const std::vector<std::string>& spelling : respelled()) {
-      // With more than two words, a whole text hardly ever has more words than the query.
+      // If the query has more than two words, splitting its words hardly ever gives a whole text.
       if (words_.size() > 2 && spelling.size() >= words_.size()) continue;
       Reading other = read(dictionaryWords(spelling, languages_, false), filter_, otherReadingCost);
       std::erase_if(other.matches.all, [](const Match& match) { return !match.whole; });
@@ -126,7 +127,7 @@ class WordSearch {
     }
   }
 
-  // Looks up the words that did not match in all languages, and corrects them.
+  // Looks up the unmatched words in all languages, and corrects them.
   Reading readWidely(Reading typed) const {
     MatchFilter anyLanguage = filter_;
     anyLanguage.languages = ~0u;

@@ -17,8 +17,8 @@ struct WordsFound {
 };
 
 /// Returns the characters that match the words best. The words must be folded. If no character matches all
-/// words and `persistently` is true, also corrects words, and leaves words out. If it is false, returns
-/// nothing in this case.
+/// words, the result depends on `persistently`: if true, words are corrected or left out; if false, the
+/// result is empty.
 WordsFound findWords(const Index& index, const std::vector<std::string>& words, const MatchFilter& filter,
                      bool persistently);
 

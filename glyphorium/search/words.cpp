@@ -17,9 +17,9 @@ bool isAscii(char c) {
 
 }  // namespace
 
-// Appends the folded letter or digit at the position to the word and moves the position behind it. Skips a
-// diacritic inside a word. Returns false and does not move the position if the character at the position is
-// not part of a word.
+// Appends the folded letter or digit at `position` to the word and moves `position` behind it. Skips a
+// diacritic inside a word. If the character is not part of a word, returns false and does not change
+// `position`.
 bool WordReader::appendNonAscii(std::size_t& position) {
   std::size_t end = position;
   const std::int32_t codePoint = nextCodePoint(text_, end);
@@ -30,7 +30,8 @@ bool WordReader::appendNonAscii(std::size_t& position) {
   return isPart;
 }
 
-// "l’œil" has the word "oeil": one letter before an apostrophe is an article or a preposition.
+// One letter before an apostrophe is an article or a preposition and does not count: the word of "l’œil" is
+// "oeil".
 bool WordReader::isElided() const {
   if (word_.size() != 1 || end_ >= text_.size()) return false;
   constexpr std::string_view apostrophe = "\u2019";

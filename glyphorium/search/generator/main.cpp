@@ -10,7 +10,7 @@
 #include "glyphorium/search/supplement_indexing.h"
 
 // The library's code refers to the indexes that this program creates. These definitions satisfy the linker.
-// This program never reads them.
+// This program never reads the indexes.
 extern "C" {
 extern const std::byte glyphoriumSearchIndex[];
 extern const std::byte glyphoriumSearchIndexEnd[];
