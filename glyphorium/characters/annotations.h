@@ -9,16 +9,17 @@
 
 namespace glyph {
 
-/// How people of a language call a character.
+/// What people call a character in one language.
 struct CharacterAnnotation {
   /// The text-to-speech name: "melting face", "Flagge: Deutschland". Empty if there is none.
   std::string name;
   std::vector<std::string> keywords;
 };
 
-/// Returns what CLDR says about a character or an emoji, with U+FE0F or without. Emoji with skin tones have
-/// the keywords of the emoji without. `language` is "en", "de", "fr", "it" or "es". The name and the list are
-/// empty for another language and for a character that CLDR does not describe. Any thread may call it.
+/// Returns the name and the keywords that CLDR has for a character or an emoji. U+FE0F may be missing in the
+/// text. An emoji with skin tones has the keywords of the same emoji without tones. `language` is "en", "de",
+/// "fr", "it" or "es". The name and the keywords are empty for other languages and for characters that CLDR
+/// does not describe. Any thread may call it.
 GLYPHORIUM_EXPORT CharacterAnnotation annotationOf(std::string_view text, std::string_view language);
 
 }  // namespace glyph

@@ -29,8 +29,9 @@ std::string_view lineOfRange(const CodePointTexts& ranges, char32_t codePoint) n
   return codePoint <= ascii::number(column(line, 0), 16) ? line : std::string_view();
 }
 
-// A Hangul syllable consists of a syllable without a final consonant and that consonant, or of a consonant
-// and a vowel.
+// Returns the canonical decomposition of a Hangul syllable. If the syllable has a final consonant, it
+// consists of the syllable without this consonant, and the consonant. Otherwise it consists of the initial
+// consonant and the vowel.
 std::u32string hangulDecomposition(char32_t syllable) {
   const char32_t number = syllable - 0xAC00;
   if (number % 28 != 0) return {syllable - number % 28, 0x11A7 + number % 28};
@@ -75,7 +76,7 @@ void readHan(CharacterFacts& facts) {
   facts.korean = column(line, 4);
 }
 
-// Returns the letters and digits of the text in lower case.
+// Returns only the letters and digits of the text, in lower case.
 std::string loose(std::string_view text) {
   std::string result;
   for (const char c : text) {

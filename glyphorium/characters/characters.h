@@ -9,15 +9,15 @@
 
 #include "glyphorium/export.h"
 
-/// What the Unicode Character Database 17.0 says about every code point, whether the catalog contains it or
-/// not. The data is in the library's read-only image. Nothing is built on first use.
+/// The facts of the Unicode Character Database 17.0 about every code point, also those outside the catalog.
+/// The data is in the library's read-only image, so nothing is built on first use.
 namespace glyph {
 
 enum class CharacterStatus : std::uint8_t {
   assigned,
-  control,  ///< general category Cc; it has no name, but aliases
+  control,  ///< general category Cc; has aliases, but no name
   privateUse,
-  surrogate,     ///< a half of a UTF-16 pair; it is no character
+  surrogate,     ///< one half of a UTF-16 surrogate pair; not a character
   noncharacter,  ///< never assigned: U+FDD0 to U+FDEF and the last two code points of each plane
   unassigned,
   none,  ///< the number is above 10FFFF
@@ -32,7 +32,7 @@ struct CharacterFacts {
   CharacterStatus status = CharacterStatus::none;
   std::string name;                     ///< see characterName()
   std::string label;                    ///< see characterNameOrLabel()
-  std::string_view version;             ///< of Unicode, in which the code point was assigned: "1.1", "17.0"
+  std::string_view version;             ///< the version of Unicode that assigned it: "1.1", "17.0"
   std::string_view category;            ///< general category, "Lu"; "Cn" if unassigned
   std::string_view block;               ///< "Latin-1 Supplement"; empty outside all blocks
   std::string_view script;              ///< "Latin", "Common"
@@ -40,16 +40,16 @@ struct CharacterFacts {
   std::string_view eastAsianWidth;      ///< "N", "Na", "W", "F", "H", "A"
   std::optional<int> combiningClass;    ///< nullopt if unassigned, and for some marks of Unicode 17.0
   std::string_view decompositionKind;   ///< "canonical", "compat", "fraction" ...
-  std::u32string decomposition;         ///< the mapping of one step
-  std::u32string upperCase;             ///< full mapping that depends on no language; empty if unchanged
+  std::u32string decomposition;         ///< the decomposition mapping, not applied recursively
+  std::u32string upperCase;             ///< full mapping, independent of language; empty if unchanged
   std::u32string lowerCase;
   std::u32string titleCase;
   std::string_view numericValue;           ///< "1/2", "1000"
-  std::vector<std::string> formalAliases;  ///< corrections, names of controls, abbreviations
+  std::vector<std::string> formalAliases;  ///< corrections, names of control characters, abbreviations
   std::vector<std::string> otherNames;     ///< informal aliases of the code charts
   std::vector<std::string> comments;       ///< remarks of the code charts
   std::string hanDefinition;               ///< English meaning of an ideograph
-  std::string mandarin;                    ///< readings; blanks separate several
+  std::string mandarin;                    ///< readings, separated by spaces; also in the next three
   std::string japaneseOn;
   std::string japaneseKun;
   std::string korean;
@@ -68,19 +68,19 @@ struct CodePointRange {
   char32_t last;
 };
 
-/// The kinds of sets that charactersWith() knows.
+/// The properties that charactersWith() can search for.
 enum class CharacterProperty : std::uint8_t { block, script, category, version };
 
-/// Returns the assigned code points that have the value, as ranges in ascending order. Letter case, blanks,
-/// hyphens and low lines do not count: "arrows", "Latin-1 supplement". For a category, "L" means all
-/// categories that begin with "L", and the long names of categoryName() count. A version is "15.1" or "15",
-/// which means 15.0. A block gives all its code points that are assigned. Empty if no code point has the
-/// value. Any thread may call it.
+/// Returns the assigned code points whose property has this value, as ranges in ascending order. Letter case,
+/// spaces, hyphens and underscores do not count: "arrows", "Latin-1 supplement". A category is a short value,
+/// where "L" means all categories that begin with "L", or a name that categoryName() returns. A version is
+/// "15.1", or "15", which means 15.0. Empty if no code point has the value. Any thread may call it.
 GLYPHORIUM_EXPORT std::vector<CodePointRange> charactersWith(CharacterProperty property,
                                                              std::string_view value);
 
-/// Returns all values of a property: of blocks and scripts the names, of the others the short forms. Blocks
-/// are in the order of code points, the others in ascending order. Any thread may call it.
+/// Returns all values of a property: the names of blocks and scripts, or the short forms of categories and
+/// versions. Blocks are in the order of code points. The other values are in ascending order. Any thread may
+/// call it.
 GLYPHORIUM_EXPORT std::vector<std::string_view> valuesOf(CharacterProperty property);
 
 }  // namespace glyph

@@ -6,15 +6,15 @@
 
 #include "glyphorium/export.h"
 
-/// How to show characters that are newer than the Unicode version of the ICU that the library runs with,
-/// which takes them for unassigned. Any thread may call these functions.
+/// Functions that show characters correctly even if the installed ICU is too old to know them. Such an ICU
+/// treats newer characters as unassigned. Any thread may call these functions.
 namespace glyph {
 
-/// Does what visibleSymbol() does, but keeps symbols that only ICU does not know.
+/// Like visibleSymbol(), but keeps symbols that are merely newer than ICU.
 GLYPHORIUM_EXPORT std::string shownSymbol(std::string_view symbol);
 
-/// Does what displayWidth() does, but gives two columns to every emoji of several code points and to wide
-/// characters that ICU does not know.
+/// Like displayWidth(), but counts two columns for every emoji of several code points and for wide characters
+/// that are newer than ICU.
 GLYPHORIUM_EXPORT int shownWidth(std::string_view text);
 
 }  // namespace glyph

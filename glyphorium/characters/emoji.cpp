@@ -34,7 +34,7 @@ std::size_t numberIn(std::string_view line, std::size_t columnNumber) {
   return ascii::number(column(line, columnNumber), 10).value_or(0);
 }
 
-// Returns the position in emojiTable of the emoji, which must be without variation selectors.
+// Returns the position of the emoji in emojiTable. The text must not contain variation selectors.
 std::optional<std::size_t> position(std::string_view text) {
   std::size_t begin = 0;
   for (std::size_t end = emojiTable.size(); begin < end;) {

@@ -7,12 +7,13 @@
 
 namespace glyph {
 
-/// Returns the key of the text in the tables of character_tables.h: the code point of a text of one code
-/// point, the number of an emoji of several. U+FE0F does not count beside other code points. Returns nullopt
-/// for another text.
+/// Returns the key of a character or an emoji in the tables of character_tables.h. The key is the code point
+/// if the text has only one, otherwise the number of the emoji. U+FE0F after other code points does not
+/// count. Returns nullopt for any other text.
 std::optional<char32_t> characterKey(std::string_view text);
 
-/// Returns the UTF-8 text of a code point, or the emoji of a number. Empty if there is none.
+/// Returns the UTF-8 text of a key, which is a code point or the number of an emoji. Empty if there is no
+/// such text.
 std::string textOfCharacterKey(char32_t key);
 
 }  // namespace glyph

@@ -5,7 +5,7 @@
 
 #include "glyphorium/export.h"
 
-/// English names for the short property values of CharacterFacts, in the words of the Unicode Standard. Each
+/// The English names that the Unicode Standard has for the short property values of CharacterFacts. Each
 /// function returns an empty text for a value that it does not know. Any thread may call them.
 namespace glyph {
 

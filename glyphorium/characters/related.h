@@ -18,12 +18,12 @@ enum class Relation : std::uint8_t {
   base,               ///< the letter without its mark: "e" for "é"
   withMark,           ///< "é" for "e"
   mirrorImage,        ///< ")" for "("
-  standsFor,          ///< what a compatibility character stands for: "1" for "①"
+  standsFor,          ///< the decomposition of a compatibility character: "1" for "①"
   compatibilityForm,  ///< "①" for "1"
   seeAlso,            ///< cross references of Unicode's code charts
 };
 
-/// Returns "upper case", "with a mark" and so on.
+/// Returns an English name of the relation: "upper case", "with a mark".
 GLYPHORIUM_EXPORT std::string_view relationName(Relation relation) noexcept;
 
 struct RelatedCharacters {
@@ -35,10 +35,10 @@ struct RelatedCharacters {
 /// A mapping to several characters ("SS" for "ß") is left out. Any thread may call it.
 GLYPHORIUM_EXPORT std::vector<RelatedCharacters> relatedCharacters(char32_t codePoint);
 
-/// What a character can be mistaken for, by Unicode's list of confusable characters.
+/// What a character can be mistaken for, according to Unicode's list of confusable characters.
 struct LookAlikes {
   std::u32string characters;  ///< in the order of code points, without the character itself
-  std::string text;           ///< several characters that look like it: "rn" for "m"; empty if there are none
+  std::string text;           ///< a sequence of characters that looks like it: "rn" for "m"; may be empty
 };
 
 /// Returns the look-alikes of a character: "-", "‐", "−" and others for "–". Empty if it has none. Any thread

@@ -21,8 +21,8 @@
 namespace glyph {
 namespace {
 
-// Raises the first letter of each word. Names of emoji are in lower case but for proper names, and not all
-// ASCII. An elided article ("d’Ivoire") stays as it is.
+// Changes the first letter of each word to upper case. Names of emoji are in lower case, except proper names,
+// and may contain other letters than ASCII. An elided article ("d’Ivoire") stays unchanged.
 std::string capitalizedEmojiName(std::string_view name) {
   std::string result(name);
   bool atBegin = true;
@@ -42,7 +42,7 @@ std::string hexListOf(std::string_view text) {
 std::string nameOfCodePoint(char32_t codePoint) {
   if (const std::string name = characterName(codePoint); !name.empty()) {
     std::string shown = capitalizedName(name);
-    // The code at the end of a computed name stays as it is.
+    // The code point at the end of a computed name stays in upper case.
     const std::size_t code = name.rfind('-') + 1;
     if (code > 0 && ascii::number(std::string_view(name).substr(code), 16) == codePoint)
       shown.replace(code, std::string::npos, name, code);
@@ -72,7 +72,7 @@ Entity supplementEntity(std::string_view text) {
   const std::string hexList = hexListOf(text);
   Entity entity = Unicode(hexList).computedEntity().generateEntity();
   entity.computed.fallbackName = shownCharacterName(text);
-  // The record's own forms are made for a single code.
+  // The class Unicode computes the code forms only for a single code point.
   if (const std::u32string points = codePoints(text); points.size() > 1) {
     const CodeFormats formats;
     entity.computed.decimal = points.front();
@@ -90,7 +90,8 @@ Entity supplementEntity(char32_t codePoint) {
 }
 
 Entity withSupplementName(Entity entity) {
-  // The table of Unicode 13.0 has labels such as "<CJK Ideograph, First>" for the ends of ranges.
+  // The name table of Unicode 13.0 has labels such as "<CJK Ideograph, First>" for the first and last code
+  // points of ranges.
   const std::string name = entity.name();
   if (name.empty() || name.starts_with('<'))
     entity.computed.fallbackName = shownCharacterName(entity.computed.symbol);
@@ -107,7 +108,7 @@ std::vector<std::string> supplementTexts() {
     if (known.insert(codePoint).second) texts.push_back(utf8(codePoint));
   };
   for (auto line = nameTableLine(firstNameTableLine); line; line = nameTableLine(line->next)) {
-    // The first and the last character of a range stand in the table under a label.
+    // Leave out the labels that the table has for the first and last code points of ranges.
     if (!line->entry.name.starts_with('<') && characterStatus(line->codePoint) == CharacterStatus::assigned)
       add(line->codePoint);
   }
