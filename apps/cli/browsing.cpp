@@ -45,7 +45,7 @@ int listEntities(Output& output, const ListRequest& request, const Listing& list
   using Key = glyph::UserInfluencedEntityKey;
   std::vector<const Entity*> entities;
   int exitCode = found;
-  if (request.all && !isReadable(Key::customAddedEntities)) exitCode = notRead;  // lists at least the catalog
+  if (request.all && !isReadable(Key::customAddedEntities)) exitCode = notRead;  // still lists the catalog
   if (request.groups.empty() && !request.all) {
     if (!isReadable(Key::displayedGroups) || !isReadable(Key::customAddedEntities)) return notRead;
     for (const Entity& entity : glyph::selectedEntities().get()) entities.push_back(&entity);

@@ -14,7 +14,7 @@ namespace {
 using glyph::ComputedEntity;
 using glyph::Entity;
 
-// Prints a label and a value. On a terminal, long values are wrapped under their beginning.
+// Prints a label and a value. On a terminal, long values are wrapped and their lines are aligned.
 void printLine(Output& output, std::string_view label, std::string_view value) {
   if (value.empty()) return;
   constexpr int indentation = 18;

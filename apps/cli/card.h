@@ -25,7 +25,7 @@ void printCard(Output& output, const std::vector<glyph::Entity>& entitiesOfOneCh
 /// language under `note` if there is one, and the enrichment under `additional` if there is one.
 std::string entityJson(const glyph::Entity& entity);
 
-/// Returns the JSON object of a card: that of entityJson(), and what the supplement knows under `unicode`.
+/// Returns the JSON object of a card: the members of entityJson(), and unicodeJson() under `unicode`.
 std::string cardJson(const glyph::Entity& entity);
 
 /// Prints a JSON array with one object per line. Call add() for each object, then end() once.

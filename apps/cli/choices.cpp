@@ -44,8 +44,8 @@ void printDisplayed(Output& output, bool json) {
   json ? printJsonArray(output, objects) : output.printTable(rows);
 }
 
-// Returns the added characters in the order of adding. The catalog's list leaves out those that its table
-// does not name; they have the names of the supplement.
+// Returns the characters that the user added, oldest first. Characters that the catalog's list leaves out,
+// because the name table does not have them, get the names of the supplement.
 std::vector<glyph::Entity> addedEntities() {
   std::vector<glyph::Entity> entities;
   const std::vector<glyph::Entity>& known = glyph::glyphorium().allCustomEntities;
@@ -71,8 +71,8 @@ void printAdded(Output& output, const Listing& listing) {
   printEntities(output, entities, listing);
 }
 
-// Returns the stored form of an argument that is a character, an emoji of several characters, or a code of
-// either: a hex code or a hex list. Returns nullopt for another argument.
+// Returns the hex code or hex list that is stored for an argument. The argument is a character, an emoji of
+// several code points, or a code for one of these. Returns nullopt for any other argument.
 std::optional<std::string> storedCode(const std::string& argument) {
   if (const auto codePoint = codePointOf(argument)) return glyph::toolKit().getHex(*codePoint);
   const std::u32string points = glyph::codePoints(argument);
@@ -111,7 +111,7 @@ bool readCodes(const Names& arguments, Names& codes) {
 
 bool isReadable(Key key) {
   const auto store = glyph::settingsStore();
-  if (const auto failure = store->readFailure(key.rawValue())) {  // why the catalog could not read it
+  if (const auto failure = store->readFailure(key.rawValue())) {  // if configure() could not read the list
     complainOfFailure(*failure);
     return false;
   }

@@ -16,10 +16,10 @@ namespace cli {
 int listGroups(Output& output, bool json);
 struct ListRequest {
   std::vector<std::string>
-      groups;  // names of groups and sets of characters; empty means the displayed groups
+      groups;  // groups, and sets as in charactersOfSet(); empty means the displayed groups
   bool all = false;
-  std::string regex;  // only characters whose names it matches somewhere; empty means all
-  std::string tone;   // of emoji: see skinToneNamed(); empty leaves them as they are
+  std::string regex;  // only characters whose names contain a match; empty means all
+  std::string tone;   // skin tone of emoji, see skinToneNamed(); empty changes no emoji
 };
 int listEntities(Output& output, const ListRequest& request, const Listing& listing);
 int showCharacters(Output& output, const std::vector<std::string>& arguments, const Listing& listing);
@@ -50,9 +50,9 @@ int displayGroups(Output& output, Choice choice, const std::vector<std::string>&
 int addCharacters(Output& output, const std::vector<std::string>& codes);
 int removeCharacters(Output& output, const std::vector<std::string>& codes);
 int listAdded(Output& output, const Listing& listing);
-int skinTone(Output& output, const std::string& name);  // empty prints the present one
+int skinTone(Output& output, const std::string& name);  // an empty name prints the current tone
 /// Returns whether the catalog could read the list that is stored under the key. If not, prints the reason.
-/// The user would otherwise mistake the default list for the stored one. Call it after configure().
+/// Otherwise, the user would take the default list for the stored one. Call this function after configure().
 bool isReadable(glyph::UserInfluencedEntityKey key);
 
 // The clipboard. `form` is an identifier from glyph::copyForms().
@@ -66,7 +66,7 @@ int addToIndex(Output& output, const std::vector<std::string>& arguments, bool a
 int removeFromIndex(Output& output, const std::vector<std::string>& arguments, bool all);
 int searchIndex(Output& output, const std::vector<std::string>& words, int limit, bool json);
 int enableIndex(Output& output, bool enable);
-int desktopSearchScope(Output& output, const std::string& scope);  // "all" or "mine"; empty prints it
+int desktopSearchScope(Output& output, const std::string& scope);  // "all" or "mine"; empty prints the scope
 
 // The embedded data, unchanged.
 int listNames(Output& output, const std::vector<std::string>& hexCodes, bool json);

@@ -18,8 +18,8 @@ namespace cli {
 
 namespace {
 
-// Returns entries for the characters that an argument means, with the names of Unicode or the labels in their
-// place.
+// Returns entries for the characters that an argument means. The entries have Unicode's names, or labels for
+// characters without a name.
 std::vector<glyph::RawUnicodeEntity> entriesOf(const std::string& argument) {
   std::vector<glyph::Entity> entities;
   if (auto set = charactersOfSet(argument)) {

@@ -24,23 +24,23 @@ using glyph::Entity;
 // The table is printed in portions of this many rows. On a terminal, columns are aligned within a portion.
 constexpr std::size_t rowsAtOnce = 2000;
 
-// Size of one read, and size of the collected output at which it is written.
+// In bytes: the size of one read. Output is also written when this many bytes have been collected.
 constexpr std::size_t bytesAtOnce = 1 << 16;
 
-// In bytes. No real grapheme cluster is longer. A longer sequence is shown in several parts.
+// In bytes. No real grapheme cluster is longer than this. A longer sequence is shown in several parts.
 constexpr std::size_t longestCluster = 4096;
 
 std::string nameOf(char32_t codePoint) {
   return entityOfCodePoint(codePoint).name();
 }
 
-// Returns the name of an emoji of several characters. Empty for other clusters.
+// Returns the name of an emoji. Empty for any other grapheme cluster.
 std::string nameOfSequence(std::string_view cluster) {
   const auto place = glyph::emojiPlace(cluster);
   return place ? glyph::shownCharacterName(cluster) : std::string();
 }
 
-// Returns how many bytes at the end of the text belong to a code point that is not complete yet.
+// Returns the number of bytes at the end of the text that begin an incomplete UTF-8 sequence.
 std::size_t unfinishedBytes(std::string_view text) {
   for (std::size_t length = 1; length <= std::min<std::size_t>(3, text.size()); ++length) {
     const auto byte = static_cast<unsigned char>(text[text.size() - length]);
@@ -94,7 +94,7 @@ class Identification {
     return true;
   }
 
-  // Bytes that are not UTF-8 have a row, too, so that the place of the damage can be seen.
+  // Bytes that are not UTF-8 also get a row, which shows where the text is damaged.
   void identifyBytes(std::string_view bytes) {
     hasBadBytes_ = true;
     std::string hex;

@@ -21,8 +21,7 @@ namespace {
 
 using glyph::Entity;
 
-// Keeps the first error of all requests that were given its completion(). The completions run on the index's
-// own thread.
+// Keeps the first error that its completions receive. The completions run on the index's own thread.
 class Errors {
  public:
   glyph::SearchableIndex::Completion completion() {

@@ -22,7 +22,7 @@ constexpr int widestPadding = 999;
 
 struct Field {
   std::string_view name;
-  char side = ' ';  // where the text stands: l or r
+  char side = ' ';  // 'l' or 'r': the alignment of the text; ' ' for no padding
   int width = 0;
 };
 
@@ -31,7 +31,7 @@ bool isField(std::string_view name) {
          glyph::copyForm(name);
 }
 
-// Reads what stands between the parentheses of a field.
+// Reads the text between the parentheses of a field.
 std::optional<Field> readField(std::string_view text) {
   const std::size_t blank = text.find(' ');
   Field field{text.substr(0, blank)};
@@ -61,8 +61,8 @@ std::string valueOf(std::string_view name, const Entity& entity) {
   return std::string(name == "version" ? facts.version : facts.numericValue);
 }
 
-// Calls text(part) for the fixed parts of a template and field(part) for what stands between parentheses.
-// Returns the fault if the template has one.
+// Calls onText() for the fixed parts of a template, and onField() for each of its fields. Returns an error
+// message if the template has a fault.
 template <class OnText, class OnField>
 std::optional<std::string> read(std::string_view format, OnText onText, OnField onField) {
   for (std::size_t i = 0; i < format.size(); ++i) {
@@ -126,7 +126,7 @@ void printListing(Output& output, const std::vector<const Entity*>& entities, co
     std::vector<std::string> values;
     for (const std::string_view field : tsvFields) {
       std::string value = valueOf(field, *entity);
-      // A tab or a line feed as the character itself would break the table.
+      // A tab or a line feed in the column of the character would break the table.
       if (field == "char" && value.size() == 1 && static_cast<unsigned char>(value.front()) < 0x20)
         value = shownSymbol(value);
       values.push_back(std::move(value));

@@ -30,14 +30,14 @@ Character emojiCharacter(std::size_t place) {
   return {glyph::supplementEntity(glyph::emojiAt(place).text)};
 }
 
-// Returns the place of an emoji of several characters.
+// Returns the place of an emoji that is not a single character.
 std::optional<std::size_t> placeOfSequence(std::string_view text) {
   const auto place = glyph::emojiPlace(text);
   return place && glyph::emojiAt(*place).kind != "single" ? place : std::nullopt;
 }
 
-// Returns the place of the emoji that has this name in English or in a language of the user, or this
-// shortcode.
+// Returns the place of the emoji with this shortcode, or with this name in English or in a language of the
+// user.
 std::optional<std::size_t> emojiNamed(std::string_view text) {
   const std::string wanted = glyph::lowercased(text);
   if (wanted.empty()) return std::nullopt;
@@ -62,7 +62,7 @@ Character characterOfCodePoint(char32_t codePoint) {
   return {entityOfCodePoint(codePoint)};
 }
 
-// Returns the number of a code such as "U+D800", "d800", "0o20622" or "0b10000110010010".
+// Returns the code point of a code such as "U+D800", "d800", "0o20622" or "0b10000110010010".
 std::optional<char32_t> anyCode(std::string_view text) {
   for (const auto& [prefix, base] : {std::pair<std::string_view, int>{"0o", 8}, {"0b", 2}}) {
     std::uint32_t number = 0;
@@ -80,8 +80,8 @@ std::optional<char32_t> anyCode(std::string_view text) {
   return std::nullopt;
 }
 
-// Returns the text of a list of bare codes, "1f1e9 1f1ea" or "1F1E9,1F1EA", in which each has four digits or
-// more. Empty for another text.
+// Returns the characters of a list of hex codes, each with four digits or more: "1f1e9 1f1ea" or
+// "1F1E9,1F1EA". Empty for any other text.
 std::string textOfCodes(std::string_view list) {
   std::string text;
   while (!list.empty()) {
@@ -152,7 +152,7 @@ Entity entityOfCodePoint(char32_t codePoint) {
 
 ResolvedText resolve(std::string_view argument) {
   if (const auto place = placeOfSequence(argument)) return {{emojiCharacter(*place)}, false};
-  // The selector asks for the colourful form of an emoji and is no character of its own here.
+  // The variation selector only asks for the coloured form of the emoji. It is not resolved as a character.
   if (glyph::emojiPlace(argument) && argument.ends_with(variationSelector))
     argument.remove_suffix(variationSelector.size());
   ResolvedText resolved = glyph::resolve(argument);

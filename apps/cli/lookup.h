@@ -18,28 +18,27 @@ using glyph::groupNamed;
 using glyph::nearestTexts;
 using glyph::ResolvedText;
 
-/// Returns the characters that an argument means, in all of Unicode. It understands what glyph::resolve()
-/// does, and
-/// - emoji of several characters, also by their code points;
-/// - names and formal aliases of Unicode, names of emoji, shortcodes with their colons (":+1:");
-/// - surrogates by their code;
+/// Returns the characters of all of Unicode that an argument means. The argument may be anything that
+/// glyph::resolve() reads, or
+/// - emoji of several code points, also given as codes;
+/// - Unicode names and formal aliases, names of emoji, shortcodes with their colons (":+1:");
+/// - surrogates, given as codes;
 /// - octal and binary numbers: "0o20622", "0b10000110010010";
 /// - several characters in a row, if none of them is ASCII.
-/// An emoji of several characters is one character. The catalog must be configured.
+/// An emoji of several code points counts as one character. The catalog must be configured.
 ResolvedText resolve(std::string_view argument);
 
 /// Returns the characters of a set, in the order of code points or of Unicode's lists of emoji. An argument
 /// may be:
 /// - a range of codes: "U+2190..2193", "2190..21ff";
 /// - "block:arrows", "script:Greek", "category:Sc", "age:15": see glyph::charactersWith();
-/// - "emoji", or "emoji:food": all emoji without variants of skin tones, or those of which the group or
-/// subgroup has
-///   this word.
+/// - "emoji": all emoji, without their variants with skin tones;
+/// - "emoji:food": the same emoji, but only of groups and subgroups with this word in their names.
 /// Returns nullopt if the argument has none of these forms. The list is empty if the set is. The catalog need
 /// not be configured.
 std::optional<std::vector<glyph::Entity>> charactersOfSet(std::string_view argument);
 
-/// Returns a message that a set is unknown or empty, with the values that are most similar.
+/// Returns a message that a set is unknown or empty. The message suggests the values that are most similar.
 std::string unknownSet(const std::string& argument);
 
 /// Returns a message that the argument is not a character. If a search for the argument finds characters, the

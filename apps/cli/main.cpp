@@ -297,7 +297,8 @@ std::string explanation(const CLI::App& app, const CLI::ParseError& error) {
          (names.empty() ? "" : "; did you mean '" + names.front() + "'?");
 }
 
-// Marks an argument that begins like an option but is none, such as "->".
+// Precedes an argument that begins with a hyphen but is not an option, such as "->". So the parser does not
+// take it for one.
 constexpr char noOption = '\x1f';
 
 // Returns the arguments in reverse order, as the parser wants them.
@@ -331,7 +332,8 @@ int written(cli::Output& output, int exitCode) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // A write beyond the file size limit would kill the program. Now the write fails, and the user is told.
+  // Without this, a write beyond the file size limit would kill the program. With it, the write fails with an
+  // error message.
   std::signal(SIGXFSZ, SIG_IGN);
   for (int i = 1; i < argc; ++i) {
     if (glyph::isWellFormedUtf8(argv[i])) continue;

@@ -26,7 +26,7 @@ bool noColor() {
   return value && *value;
 }
 
-// Returns a text that no other text contains, because nobody can predict it.
+// Returns a random text, so that no text to be printed can contain it.
 std::string newMark() {
   std::random_device random;
   return "\x1b" + std::to_string(random()) + "," + std::to_string(random()) + ",";
@@ -125,7 +125,7 @@ bool Output::flush() {
       continue;
     }
     if (errno == EINTR) continue;
-    if (errno == EAGAIN) {  // a non-blocking pipe that is full
+    if (errno == EAGAIN) {  // a full, non-blocking pipe
       pollfd ready{STDOUT_FILENO, POLLOUT, 0};
       poll(&ready, 1, -1);
       continue;

@@ -27,8 +27,8 @@ using glyph::Entity;
 
 volatile std::sig_atomic_t resized = 0;
 
-// The terminal of the user, whatever standard input and output are, with keys that arrive one by one. The
-// destructor restores it. The screen is the alternate one, so that what was on it comes back.
+// The user's terminal, even if standard input and output are redirected. It delivers each key at once and
+// shows the alternate screen. The destructor restores its mode and its screen.
 class Terminal {
  public:
   Terminal() : file_(open("/dev/tty", O_RDWR | O_CLOEXEC)) {
@@ -65,8 +65,8 @@ class Terminal {
     }
   }
 
-  // Waits for the next bytes of the keyboard. Empty if the size of the terminal changed. Returns false if the
-  // terminal is gone.
+  // Waits for the next bytes from the keyboard. `bytes` is empty if the wait timed out or the size of the
+  // terminal changed. Returns false if the terminal is gone.
   bool read(std::string& bytes, int milliseconds = -1) const {
     bytes.clear();
     pollfd ready{file_, POLLIN, 0};
@@ -91,7 +91,8 @@ class Terminal {
   bool isOpen_ = false;
 };
 
-// Returns the text cut to this many columns. Escape sequences for colours have no width and are kept.
+// Returns the text, truncated to this number of columns. Escape sequences for colours have no width and are
+// kept.
 std::string cut(std::string_view text, int columns) {
   std::string result;
   for (int used = 0; !text.empty();) {
@@ -125,7 +126,8 @@ class Finder {
       pending_ += bytes;
       resized = 0;
       while (!pending_.empty() && !isDone_) {
-        // A lone escape is the key. The bytes of other keys that begin with it come at once.
+        // If no bytes follow the escape character soon, the user pressed the Escape key. The other keys that
+        // begin with this character send all their bytes at once.
         if (pending_ == "\x1b") {
           if (!terminal_.read(bytes, 30)) return false;
           if (bytes.empty()) return false;
@@ -138,7 +140,8 @@ class Finder {
     return false;
   }
 
-  // The marked characters in the order of marking, or the one under the cursor.
+  // Returns the marked characters in the order of marking. If there are none, returns the one under the
+  // cursor.
   std::vector<Entity> chosen() const {
     if (!marked_.empty()) return marked_;
     return cursor_ < found_.size() ? std::vector{search_.entity(found_[cursor_])} : std::vector<Entity>();
@@ -188,7 +191,7 @@ class Finder {
     }
   }
 
-  // Removes the sequence of a key that means nothing here.
+  // Removes the escape sequence of a key without a function.
   void skipUnknownKey() {
     std::size_t size = 2;
     if (pending_.size() > 1 && (pending_[1] == '[' || pending_[1] == 'O')) {
@@ -274,7 +277,7 @@ class Finder {
     const winsize size = terminal_.size();
     const int columns = size.ws_col;
     const int rows = size.ws_row;
-    // Below the list comes the card, as large as the list.
+    // The card is below the list and has the same height.
     const int cardRows = rows >= 12 ? (rows - 3) / 2 : 0;
     page_ = std::max(rows - 2 - (cardRows > 0 ? cardRows + 1 : 0), 1);
     const auto page = static_cast<std::size_t>(page_);

@@ -12,7 +12,7 @@
 namespace cli {
 namespace {
 
-// The functions of ICU's library for regular expressions. Their names end in the version of ICU.
+// The functions of ICU's library for regular expressions. Their symbol names end in the version of ICU.
 struct Functions {
   decltype(&uregex_open) open = nullptr;
   decltype(&uregex_setText) setText = nullptr;

@@ -6,9 +6,9 @@
 
 namespace cli {
 
-/// A regular expression of ICU, without regard to letter case. ICU's expressions know the properties of
-/// characters (\p{Greek}), but they are in a library of their own that hardly any call of the program needs.
-/// So it is loaded here.
+/// A regular expression of ICU that ignores letter case. Such expressions support the properties of
+/// characters (\p{Greek}). ICU has a separate library for them, which few runs of the program need. So the
+/// library is loaded only when the first expression is made.
 class RegularExpression {
  public:
   /// `pattern` is UTF-8.

@@ -14,7 +14,7 @@ using glyph::Entity;
 
 constexpr std::size_t noLimit = 1'000'000;
 
-// Returns the name. The parts that match the query are highlighted.
+// Returns the name with the parts highlighted that match the query.
 std::string highlighted(const Output& output, const std::string& name, const glyph::SearchResult& result) {
   std::string text;
   std::size_t at = 0;
@@ -26,19 +26,20 @@ std::string highlighted(const Output& output, const std::string& name, const gly
   return text + name.substr(at);
 }
 
-// Returns the group, and for a Han character what it means.
+// Returns the group, or for a character outside all groups the meaning that it has as a Han character.
 std::string placeOf(const Entity& entity) {
   if (!entity.computed.group.empty()) return std::string(entity.computed.group);
   return glyph::characterFacts(static_cast<char32_t>(entity.computed.decimal)).hanDefinition;
 }
 
-// Returns the JSON object with the member "approximate", if it is true.
+// Returns the JSON object. If `approximate` is true, it gets the member "approximate".
 std::string marked(std::string object, bool approximate) {
   if (approximate) object.insert(object.rfind('}'), ",\"approximate\":true");
   return object;
 }
 
-// Returns the end of a message for a query that is a character outside all groups. Empty for other queries.
+// If the query is a character outside all groups, returns a text for the end of an error message. Empty for
+// other queries.
 std::string beyondTheCatalog(const std::string& query) {
   const std::vector<Character> characters = resolve(query).characters;
   if (characters.empty()) return {};

@@ -25,7 +25,7 @@ using glyph::Entity;
 using Json = nlohmann::ordered_json;
 using Lines = std::vector<CardLine>;
 
-// So many characters of a list fit on a card; the JSON object has all.
+// The maximum number of characters in a list on a card. The JSON object has all of them.
 constexpr std::size_t mostListed = 24;
 
 struct EscapeForm {
@@ -41,7 +41,7 @@ std::string copyFormOf(const Entity& entity, std::string_view form) {
   return glyph::copyForm(form)->text(entity).value_or("");
 }
 
-// Returns the characters, separated by blanks, and their codes if there are few.
+// Returns the characters, separated by spaces. If there are few, adds their codes.
 std::string listed(const std::u32string& characters) {
   std::vector<std::string> texts;
   const bool areFew = characters.size() <= 4;

@@ -8,14 +8,14 @@
 
 #include "glyphorium/entity/records.h"
 
-/// What the supplement knows about a character, for its card.
+/// The facts of the Unicode Character Database about a character, for its card.
 namespace cli {
 
 /// A line of the card: a label and a value.
 using CardLine = std::pair<std::string, std::string>;
 
-/// Returns the lines of a character or of an emoji of several characters: its properties, how to type it,
-/// escapes of languages, related characters and look-alikes.
+/// Returns the lines for a character or an emoji: its properties, how to type it, its escapes in programming
+/// languages, related characters and look-alikes.
 std::vector<CardLine> unicodeLines(const glyph::Entity& entity);
 
 /// Returns the same facts as a JSON object.

@@ -3,9 +3,8 @@
 
 namespace cli {
 
-/// Limits the time that this program waits for locked settings and a locked search index to five seconds, all
-/// waits together. After one
-/// second, a message on standard error explains why the program is waiting.
+/// Limits the total time that this program waits for locked settings and for a locked search index to five
+/// seconds. After one second, a message on standard error explains why the program is waiting.
 void limitLockWaits();
 
 }  // namespace cli
