@@ -15,7 +15,7 @@
 namespace browser {
 namespace {
 
-// The characters that a text names, or else those it consists of.
+// Returns the characters that a text names. If it names none, returns the characters that it consists of.
 std::vector<glyph::Entity> charactersOf(const std::string& text) {
   if (glyph::emojiPlace(text)) return {glyph::supplementEntity(text)};
   std::vector<glyph::Entity> entities;
@@ -26,7 +26,7 @@ std::vector<glyph::Entity> charactersOf(const std::string& text) {
   }
   if (!entities.empty()) return entities;
   for (const char32_t codePoint : glyph::codePoints(text)) {
-    // A text of letters is a name that does not exist, rather than some letters to add.
+    // ASCII letters are more likely a misspelt name than characters to add.
     if (codePoint < 0x80 && glyph::isAlphanumeric(codePoint)) return {};
     if (codePoint != ' ') entities.push_back(glyph::supplementEntity(glyph::utf8(codePoint)));
   }

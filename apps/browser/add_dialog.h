@@ -14,7 +14,7 @@ namespace browser {
 class Catalog;
 class LargeGlyph;
 
-/// What a text names for the dialog below.
+/// The characters that a text in the dialog names.
 struct NamedCharacters {
   std::vector<std::string> hexes;  ///< empty if the text names nothing that can be added
   QString message;                 ///< the name of the character, or why there is none
@@ -23,14 +23,14 @@ struct NamedCharacters {
 /// Reads codes, a name, an HTML reference or characters.
 NamedCharacters namedCharacters(const Catalog& catalog, const QString& text);
 
-/// Asks for characters to add to the user's own, with a preview.
+/// Asks the user for characters to add, and shows a preview of them.
 class AddDialog : public QDialog {
   Q_OBJECT
 
  public:
   AddDialog(Catalog& catalog, QWidget* parent);
 
-  /// The characters that were chosen.
+  /// The hex codes of the characters that the user chose.
   const std::vector<std::string>& hexes() const { return hexes_; }
 
  private:

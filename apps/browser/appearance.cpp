@@ -17,7 +17,8 @@ namespace browser {
 namespace {
 
 constexpr std::string_view themeKey = "browserTheme";
-// What the desktop preferred last time, so that the first window need not wait for its answer.
+// The desktop's preference at the last start, so that the first window need not wait for the desktop's
+// answer.
 constexpr std::string_view desktopIsDarkKey = "browserDesktopIsDark";
 
 constexpr std::string_view themeNames[] = {"system", "light", "dark"};
@@ -28,8 +29,9 @@ const QString portalSettings = QStringLiteral("org.freedesktop.portal.Settings")
 const QString appearanceSpace = QStringLiteral("org.freedesktop.appearance");
 const QString colourScheme = QStringLiteral("color-scheme");
 
-// Texts have a contrast of at least 4.5 to 1 with what they lie on, marks and frames one of 3 to 1: text and
-// faint on window and base, white on button, highlightedText on accent, link on window.
+// Texts have a contrast of at least 4.5 to 1 to their background, marks and frames at least 3 to 1. These
+// pairs must have it: text and faint on window and base, white on button, highlightedText on accent, link on
+// window.
 struct Colours {
   QColor window, base, text, faint, accent, highlightedText, button, link;
 };
@@ -65,7 +67,8 @@ QPalette paletteOf(const Colours& colours) {
   return palette;
 }
 
-// The style sheet of the own look. %1 to %8 stand for the colours below, %7 for the name of the theme.
+// The style sheet of the program's own look. %1 to %8 are placeholders for the arguments below, of which %7
+// is the name of the theme and the others are colours.
 constexpr const char* sheet = R"(
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
 QScrollBar::handle:vertical { background: rgba(%1, 60); border-radius: 3px; min-height: 40px; margin: 3px; }
@@ -178,7 +181,7 @@ void Appearance::changeSetting(const QString& space, const QString& key, const Q
   if (space != appearanceSpace || key != colourScheme) return;
   QVariant inner = value.variant();
   if (inner.canConvert<QDBusVariant>())
-    inner = inner.value<QDBusVariant>().variant();  // portals differ in this
+    inner = inner.value<QDBusVariant>().variant();  // some portals wrap the value twice
   setDesktopDark(inner.toUInt() == 1);
 }
 

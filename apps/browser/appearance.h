@@ -16,15 +16,15 @@ class Appearance : public QObject {
  public:
   enum class Theme { system, light, dark };
 
-  /// The texts with which a theme is stored and chosen: "system", "light", "dark". Any other text gives
-  /// Theme::system.
+  /// Convert a theme from and to the text with which it is stored and chosen: "system", "light", "dark". Any
+  /// other text gives Theme::system.
   static Theme themeNamed(std::string_view name);
   static std::string_view nameOf(Theme theme);
   /// The theme that the user has chosen in the settings.
   static Theme chosen();
   static void choose(Theme theme);
 
-  /// Call it once, before the first window.
+  /// Make one object, before the first window.
   explicit Appearance(Theme theme);
 
   void setTheme(Theme theme);

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int lingeringMilliseconds = 10 * 60 * 1'000;
 
-// The desktop gives the focus back to the other window before the text is typed.
+// The text is typed after this time, so that the desktop can give the focus back to the other window first.
 constexpr int focusMilliseconds = 180;
 
 }  // namespace
@@ -50,7 +50,7 @@ void BrowserApplication::showWindow(const QString& words) {
   if (!window_) {
     window_ = std::make_unique<MainWindow>(catalog_, appearance_);
     connect(window_.get(), &MainWindow::closed, this, [this] {
-      // The window is deleted when it has finished its event.
+      // The window must not be deleted before it has finished its event.
       window_.release()->deleteLater();
       if (!lingering_.isActive()) quitUnlessNeeded();
     });
@@ -82,7 +82,8 @@ void BrowserApplication::finishPick(const QString& text) {
   });
 }
 
-// Says once that the text must be pasted, in a notification, because the picker is closed.
+// Explains once that the user must paste the text. Shows a desktop notification, because the picker is
+// closed.
 void BrowserApplication::explainTyping() {
   if (preferences::wasTypingExplained()) return;
   preferences::setTypingExplained();

@@ -15,9 +15,9 @@ namespace browser {
 class MainWindow;
 class Picker;
 
-/// The windows of the program, and how long it runs: until the main window is closed; if it was started for
-/// the picker, some minutes longer, so that the next pick is quick; if it was started in the background,
-/// until the session ends.
+/// Owns the windows of the program, and decides when it ends. It ends when the main window is closed. If it
+/// was started for the picker, it ends some minutes later, so that the next pick is quick. If it was started
+/// in the background, it runs until the session ends.
 class BrowserApplication : public QObject {
   Q_OBJECT
 

@@ -7,27 +7,26 @@
 
 namespace browser {
 
-/// What a start of the program is for.
+/// What the program was started for.
 struct Request {
   enum class Kind { window, pick, background };
   Kind kind = Kind::window;
-  QString words{};            ///< to search for; of Kind::window
-  QString activationToken{};  ///< with which the desktop lets a window come to the front; may be empty
+  QString words{};            ///< for Kind::window: the words to search for
+  QString activationToken{};  ///< lets a window come to the front; may be empty
 };
 
 /// Makes the running program serve the request. Returns false if none is running. Needs a QCoreApplication.
 bool sendToRunning(const Request& request);
 
-/// The running program on the session bus, so that a second start finds it. Its name is the application
-/// identifier with
-/// ".Browser" appended.
+/// The service on the session bus through which a second start finds the running program. Its name is the
+/// application identifier with ".Browser" appended.
 class BrowserService : public QObject {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.glyphorium.Browser")
 
  public:
   BrowserService();
-  /// False if another program was quicker, or if there is no bus.
+  /// False if another process has registered the name, or if there is no bus.
   bool isRegistered() const { return isRegistered_; }
 
  public Q_SLOTS:

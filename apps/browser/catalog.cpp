@@ -99,7 +99,7 @@ void Catalog::setDisplayed(const std::string& group, bool displayed) {
   displayedGroups_ = catalog.selectedGroups();
   checkStored();
   Q_EMIT groupsChanged();
-  // The list is built again after the last of several changes.
+  // Several changes rebuild the list only once.
   QTimer::singleShot(0, this, [] {
     glyph::Glyphorium& changed = glyph::glyphorium();
     if (!changed.selectedGroupsHadChanged.get()) return;
@@ -201,7 +201,7 @@ void Catalog::copyWithTone(const Entity& emoji, glyph::SkinTone tone) {
 void Catalog::applySkinTone(std::vector<Entity>& characters) const {
   if (skinTone_ == glyph::SkinTone::none) return;
   for (Entity& entity : characters) {
-    // What users have added stays as they have chosen it.
+    // Characters that the user added keep the tone that the user chose.
     const bool isEmoji = entity.computed.group.view() == "emoji" || entity.computed.group.empty();
     if (!isEmoji) continue;
     const std::string text = glyph::withSkinTone(entity.computed.symbol, skinTone_);
@@ -216,7 +216,8 @@ void Catalog::readSettings() {
   const auto store = glyph::settingsStore();
   using Key = glyph::UserInfluencedEntityKey;
   for (const Key key : Key::allCases()) {
-    // A list that cannot be read now is not an empty list: the window keeps what it shows.
+    // If a list cannot be read now, the window keeps the list that it shows. An unreadable list is not an
+    // empty list.
     if (const auto failure = store->readFailure(key.rawValue())) {
       Q_EMIT settingsFailed(QString::fromStdString(*failure));
       return;

@@ -11,8 +11,8 @@
 
 namespace browser {
 
-/// The library as the windows see it: its lists, its notifications as signals, and the user's commands. There
-/// is one object, which belongs to the thread of the windows.
+/// The windows' interface to the library: its lists, its notifications as signals, and the user's commands.
+/// There is one object. Only the GUI thread may use it.
 class Catalog : public QObject {
   Q_OBJECT
 
@@ -20,8 +20,8 @@ class Catalog : public QObject {
   /// Configures the library's catalog.
   Catalog();
 
-  /// Returns the entity of a hex code or hex list: an added one, one of the catalog, or one of the
-  /// supplement, whose name is empty if it is no character and no emoji.
+  /// Returns the entity of a hex code or hex list, from the added characters, the catalog or the supplement.
+  /// Its name is empty if the code is neither a character nor an emoji.
   glyph::Entity entity(const std::string& hex) const;
   /// Returns the entity of a character or an emoji, given as UTF-8.
   glyph::Entity characterOf(std::string_view text) const;
@@ -35,28 +35,29 @@ class Catalog : public QObject {
   const std::vector<std::string>& favourites() const { return favourites_; }
   const std::vector<std::string>& recentlyCopied() const { return recentlyCopied_; }
 
-  /// Displays the group, or stops displaying it. The displayed list follows a moment later, once for several
-  /// changes.
+  /// Displays the group, or stops displaying it. The displayed list is rebuilt a moment later, only once for
+  /// several changes.
   void setDisplayed(const std::string& group, bool displayed);
 
-  /// Adds characters to the group "custom" or removes them. The user can undo it.
+  /// Adds characters to the group "custom" or removes them. The user can undo this.
   void add(const std::vector<std::string>& hexes);
   void remove(const std::vector<std::string>& hexes);
   QUndoStack& undoStack() { return undoStack_; }
 
-  /// Adds the character to the favourites, or removes it from them. The user can undo it.
+  /// Adds the character to the favourites, or removes it from them. The user can undo this.
   void toggleFavourite(const std::string& hex);
 
-  /// Copies this form of the character. Does nothing if the character does not have the form.
+  /// Copies the character in this form. Does nothing if the character does not have the form.
   void copy(const glyph::Entity& entity, const glyph::CopyForm& form);
-  /// Returns the form that the user copies with Alt+Enter, or one that every character has.
+  /// Returns the form that the user copies with Alt+Enter. If the character does not have it, returns a form
+  /// that every character has.
   const glyph::CopyForm& otherForm(const glyph::Entity& entity) const;
   /// Copies a text that was composed from these characters.
   void copyText(const QString& text, const std::vector<std::string>& hexes);
 
   void forgetRecentlyCopied();
 
-  /// The tone that emoji of people and hands take in lists of emoji and in what a search finds.
+  /// The skin tone of emoji of people and hands in lists of emoji and in search results.
   glyph::SkinTone skinTone() const { return skinTone_; }
   /// Remembers the tone, and copies the emoji with it.
   void copyWithTone(const glyph::Entity& emoji, glyph::SkinTone tone);
@@ -64,7 +65,7 @@ class Catalog : public QObject {
   /// Gives the emoji among these characters the tone that the user prefers.
   void applySkinTone(std::vector<glyph::Entity>& characters) const;
 
-  /// Takes over what another program has changed in the settings.
+  /// Reads the settings again, because another program may have changed them.
   void readSettings();
 
  Q_SIGNALS:
@@ -75,9 +76,9 @@ class Catalog : public QObject {
   void favouritesChanged();
   void recentlyCopiedChanged();
   void skinToneChanged();
-  /// A text was copied. `text` is what to show of it.
+  /// A text was copied. `text` is the text to show to the user.
   void copied(const QString& text);
-  /// The settings could not be stored, or not be read. `reason` is a sentence of the library.
+  /// The settings could not be stored or read. `reason` is the library's error message.
   void settingsFailed(const QString& reason);
 
  private:

@@ -51,7 +51,7 @@ QToolButton* newIconButton(Symbol symbol, const QString& name) {
   return button;
 }
 
-// A line that ends with an ellipsis where the place ends.
+// A label of one line. If the text is too wide, it ends with an ellipsis.
 class ElidedLabel : public QLabel {
  public:
   using QLabel::QLabel;
@@ -312,7 +312,7 @@ void CharacterCard::setCharacter(const glyph::Entity* entity) {
   const QString unicodeName = fromUtf8(entity->computed.fallbackName);
   unicodeName_->setText(tr("Unicode name: %1").arg(unicodeName));
   unicodeName_->setVisible(!unicodeName.isEmpty() && unicodeName != name_->text());
-  // The line keeps its place while the font is not known yet.
+  // A space keeps the height of the line until the font is known.
   font_->setText(QStringLiteral(" "));
   font_->setVisible(!isShownAsBox(*entity));
   glyph_->setCharacter(*entity);
@@ -391,7 +391,7 @@ CharacterCard::CharacterRow CharacterCard::addCharacterRow(const QString& title)
   return {addSection(title, content), flow};
 }
 
-// The buttons of earlier characters are used again, because making them takes most of the time of a card.
+// Reuses the buttons of earlier characters, because making buttons takes most of the time that a card needs.
 void CharacterCard::fill(const CharacterRow& row, const std::vector<std::string>& texts) {
   const int count = static_cast<int>(std::min(texts.size(), mostRelated));
   for (int i = 0; i < std::max(count, row.flow->count()); ++i) {
@@ -449,7 +449,7 @@ QGridLayout* CharacterCard::newTable() {
   return grid;
 }
 
-// The labels of earlier rows are used again.
+// Reuses the labels of earlier rows.
 void CharacterCard::fill(QGridLayout* table, const std::vector<std::pair<QString, QString>>& rows) {
   for (int row = 0; row < std::max(table->rowCount(), static_cast<int>(rows.size())); ++row) {
     const bool isUsed = row < static_cast<int>(rows.size());
@@ -474,7 +474,7 @@ void CharacterCard::fill(QGridLayout* table, const std::vector<std::pair<QString
   }
 }
 
-// One way of each method: the usual one.
+// Shows one way to type the character for each method: the most usual way.
 void CharacterCard::showTyping() {
   std::vector<std::pair<QString, QString>> rows;
   std::string_view last;

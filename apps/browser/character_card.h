@@ -32,7 +32,7 @@ class LargeGlyph : public QWidget {
   QSize minimumSizeHint() const override { return {96, 96}; }
 
  Q_SIGNALS:
-  /// What draws the character has become known. `family` is empty if no installed font does.
+  /// The font that draws the character is known now. `family` is empty if no installed font draws it.
   void fontKnown(const QString& family);
 
  protected:
@@ -52,11 +52,11 @@ class CharacterCard : public QScrollArea {
  public:
   explicit CharacterCard(Catalog& catalog, QWidget* parent = nullptr);
 
-  /// Null empties the card.
+  /// A null pointer empties the card.
   void setCharacter(const glyph::Entity* entity);
-  /// Whether the card is wide and low, so that the glyph stands beside its name.
+  /// If `compact` is true, the card is wide and low, with the glyph beside its name.
   void setCompact(bool compact);
-  /// Shows the favourite mark and the groups anew.
+  /// Updates the favourite mark and the groups.
   void refresh();
 
  Q_SIGNALS:
@@ -129,7 +129,7 @@ class CharacterCard : public QScrollArea {
   CharacterRow variants_, related_, lookAlikes_;
 };
 
-/// Returns the hex codes that a usage note mentions, "(2019)", in their order.
+/// Returns the hex codes that a usage note mentions in the form "(2019)", in the order of the note.
 std::vector<std::string> codesInNote(const QString& note);
 
 }  // namespace browser

@@ -23,13 +23,14 @@ constexpr KindName kindNames[] = {{Kind::all, "all"},
                                   {Kind::favourites, "favourites"},
                                   {Kind::recentlyCopied, "recently-copied"}};
 
-// The kinds that have a name are stored with a prefix.
+// The prefixes in the stored form of scopes that have a name.
 constexpr KindName prefixes[] = {{Kind::group, "group:"}, {Kind::emoji, "emoji:"}, {Kind::block, "block:"}};
 
-// More than the catalog has.
+// More characters than the catalog contains.
 constexpr std::size_t everything = 100'000;
 
-// Each character of the catalog once, the user's own first, with a section for each group.
+// Returns each character of the catalog once, with a section for each group. The characters that the user
+// added come first.
 std::vector<Entity> allCharacters(std::vector<GridSection>& sections) {
   std::vector<Entity> all;
   std::unordered_set<std::string_view> seen;
@@ -58,7 +59,8 @@ std::vector<Entity> charactersOfGroup(const std::string& group) {
   return found;
 }
 
-// A section for each run of a group, or none if the groups alternate too often to read as headings.
+// Returns a section for each run of characters of one group. Returns no sections if the groups alternate so
+// often that there would be too many headings.
 std::vector<GridSection> groupSections(const std::vector<Entity>& entities) {
   std::vector<GridSection> sections;
   std::unordered_set<std::string_view> groups;
@@ -111,7 +113,7 @@ QString Scope::title() const {
     case Kind::emoji:
       return emojiGroupTitle(group);
     case Kind::block:
-      // Most blocks have the title of a group.
+      // Most blocks have the same name as a group, so the titles of groups are used.
       return QCoreApplication::translate("GroupTitle", group.c_str());
     case Kind::text:
       return CharacterFilter::tr("Characters of “%1”").arg(fromUtf8(group).simplified().left(40));
@@ -243,7 +245,7 @@ std::vector<Entity> CharacterFilter::charactersOfBlock() const {
   return found;
 }
 
-// The emoji of the group, with a section for each subgroup.
+// Returns the emoji of the group, with a section for each subgroup.
 std::vector<Entity> CharacterFilter::emojiOfGroup(std::string_view group,
                                                   std::vector<GridSection>& sections) const {
   std::vector<Entity> found;
@@ -261,7 +263,7 @@ std::vector<Entity> CharacterFilter::emojiOfGroup(std::string_view group,
   return found;
 }
 
-// Each character of the text once, in the order of the text. An emoji of several code points is one
+// Returns each character of the text once, in the order of the text. An emoji of several code points is one
 // character.
 std::vector<Entity> CharacterFilter::charactersOfText() const {
   std::vector<Entity> found;
@@ -352,8 +354,8 @@ void CharacterFilter::search() {
   list_ = std::move(matching);
 }
 
-// Characters and emoji outside of the catalog that the query names exactly. The user can look at them and add
-// them.
+// Returns characters and emoji outside the catalog that the query names exactly. The user can look at them
+// and add them.
 std::vector<Entity> CharacterFilter::beyondCatalog() const {
   const std::string text = query_.trimmed().toStdString();
   if (glyph::emojiPlace(text)) return {catalog_.characterOf(text)};

@@ -16,30 +16,32 @@ namespace browser {
 
 class Catalog;
 
-/// A part of the catalog that a window shows.
+/// The set of characters that a window shows.
 struct Scope {
   enum class Kind { all, displayed, favourites, recentlyCopied, group, emoji, block, text, picker };
-  /// Kind::text: the characters of a text. Kind::picker: what the user is likely to want next, which is
-  /// favourites, recently copied characters and those of the checked groups; a query searches everything.
+  /// Kind::text: the characters of a text. Kind::picker: the characters that the user is likely to want,
+  /// which are favourites, recently copied characters and those of the displayed groups. With this kind, a
+  /// query searches everything.
   Kind kind = Kind::all;
-  std::string group{};  ///< the name of the group, group of emoji or block; of Kind::text the text
+  std::string group{};  ///< the name of the group, emoji group or block; for Kind::text the text
 
   bool operator==(const Scope&) const = default;
 
-  /// The text with which a scope is stored, and the scope of such a text. Any other text gives Kind::all.
+  /// Convert a scope to the text with which it is stored, and back. Any other text gives Kind::all.
   std::string text() const;
   static Scope fromText(std::string_view text);
   /// The name of the scope in the user's language.
   QString title() const;
 };
 
-/// Which characters a window shows: those of a scope that match what the user typed.
+/// Determines the characters that a window shows: those of a scope that match the text that the user typed.
 class CharacterFilter : public QObject {
   Q_OBJECT
 
  public:
-  /// The list is kept in `list`; it is absent while the window shows glyph::selectedEntities() as it is. The
-  /// main window passes glyph::filteredEntities(), where other parts of the application find its list.
+  /// Stores the list of characters in `list`. `list` is nullopt while the window shows
+  /// glyph::selectedEntities() unchanged. The main window passes glyph::filteredEntities(), where other parts
+  /// of the application find its list.
   CharacterFilter(Catalog& catalog, std::optional<std::vector<glyph::Entity>>& list);
 
   const Scope& scope() const { return scope_; }
@@ -47,16 +49,16 @@ class CharacterFilter : public QObject {
   void setScope(const Scope& scope);
   void setQuery(const QString& query);
 
-  /// The characters to show, until the next changed().
+  /// The characters to show. The reference is valid until the next changed().
   const std::vector<glyph::Entity>& characters() const;
   const std::vector<GridSection>& sections() const { return sections_; }
-  /// The number of characters outside of the scope that match the query.
+  /// The number of characters outside the scope that match the query.
   std::size_t elsewhere() const { return elsewhere_; }
-  /// Whether nothing matches the query as typed, so that it was corrected.
+  /// Whether nothing matches the query as typed, so that the search corrected it.
   bool isApproximate() const { return approximate_; }
 
  Q_SIGNALS:
-  /// `isSameView` is true if scope and query are as before.
+  /// `isSameView` is true if the scope and the query have not changed.
   void changed(bool isSameView);
 
  private:

@@ -25,7 +25,8 @@ QColor withAlpha(QColor colour, double alpha) {
   return colour;
 }
 
-// The tables behind isInvisible() end with Unicode 15.0 and take later characters for unassigned ones.
+// Returns true for characters that are newer than Unicode 15.0, the version of isInvisible(), which takes
+// such characters for unassigned.
 bool isLaterCharacter(char32_t point) {
   const std::string_view category = glyph::characterCategory(point);
   if (category.starts_with('C') || category.starts_with('Z')) return false;
@@ -50,8 +51,9 @@ GlyphRequest cellRequest(const glyph::Entity& entity, int cellSize, double ratio
   const std::u32string points = glyph::codePoints(entity.computed.symbol.view());
   const bool isMark = !points.empty() && glyph::isCombining(points.front()) &&
                       glyph::characterCategory(points.front()) != "Me";
-  // A mark stands on a dotted circle, unless it encloses: few fonts centre it on one. Anything else is drawn
-  // as it is, private use included: the user may have a font.
+  // A combining mark is drawn on a dotted circle, except an enclosing mark, which few fonts centre on the
+  // circle. All other characters are drawn unchanged. This includes private use, for which the user may have
+  // a font.
   request.text = isMark ? shownText(entity) : fromUtf8(entity.computed.symbol);
   const bool isEmoji = entity.computed.group.empty() && glyph::emojiPlace(entity.computed.symbol).has_value();
   if (isEmoji || entity.computed.group.view() == "emoji") {
@@ -100,7 +102,7 @@ CharacterGrid::CharacterGrid(QWidget* parent) : QAbstractScrollArea(parent) {
 
 void CharacterGrid::setCharacters(const std::vector<glyph::Entity>& characters,
                                   std::vector<GridSection> sections, bool keepCurrent) {
-  // The old list may be gone already, so the character is remembered by the caller's list only.
+  // The old list may no longer exist, so the current character is looked up only in the new list.
   int wanted = characters.empty() ? -1 : 0;
   if (keepCurrent && current_ >= 0) {
     const auto same = std::find_if(characters.begin(), characters.end(), [&](const glyph::Entity& entity) {
@@ -203,7 +205,7 @@ void CharacterGrid::ensureVisible(int index) {
 }
 
 void CharacterGrid::resizeEvent(QResizeEvent*) {
-  // The character at the top stays there.
+  // Keep the character at the top in its place.
   const int top = layout_.indexAt({rulerWidth() + 1, verticalScrollBar()->value() + cellSize_});
   layOut();
   if (top > 0) verticalScrollBar()->setValue(layout_.cellRect(top).top() - cellSize_ + 1);
@@ -222,7 +224,7 @@ void CharacterGrid::scrollContentsBy(int, int) {
 }
 
 bool CharacterGrid::event(QEvent* event) {
-  // Tab moves on; the arrow keys stay within the grid.
+  // Tab moves to the next widget. The arrow keys stay within the grid.
   if (event->type() == QEvent::ShortcutOverride) {
     auto* const key = static_cast<QKeyEvent*>(event);
     if (key->modifiers() == Qt::NoModifier && !key->text().isEmpty() && key->text().front().isPrint())
@@ -278,7 +280,7 @@ void CharacterGrid::paintEvent(QPaintEvent* event) {
   }
 }
 
-// A large symbol over the text, together in the middle.
+// Paints a large symbol with the text below it, centred together.
 void CharacterGrid::paintEmpty(QPainter& painter) {
   constexpr int side = 56, gap = 14;
   const int width = std::min(viewport()->width() - 48, 420);

@@ -14,8 +14,9 @@
 
 namespace browser {
 
-/// A scrolling grid of characters with headings and a ruler of codes. It paints only what is visible, from
-/// pictures that are drawn in the background. One cell is the current one, unless the grid is empty.
+/// A scrolling grid of characters with headings and a ruler of codes. It paints only the visible cells, with
+/// pictures that GlyphRenderer draws in the background. One cell is the current one, unless the grid is
+/// empty.
 class CharacterGrid : public QAbstractScrollArea {
   Q_OBJECT
 
@@ -24,8 +25,8 @@ class CharacterGrid : public QAbstractScrollArea {
 
   explicit CharacterGrid(QWidget* parent = nullptr);
 
-  /// Shows the characters. The list must live until the next call. The cell of the same character as before
-  /// stays current if `keepCurrent`, otherwise the first cell becomes current. `sections` may be empty.
+  /// Shows the characters. The list must live until the next call. If `keepCurrent` is true, the current
+  /// character stays current; otherwise the first cell becomes current. `sections` may be empty.
   void setCharacters(const std::vector<glyph::Entity>& characters, std::vector<GridSection> sections,
                      bool keepCurrent);
   int count() const { return layout_.count(); }
@@ -37,26 +38,26 @@ class CharacterGrid : public QAbstractScrollArea {
   const glyph::Entity* currentCharacter() const { return current_ < 0 ? nullptr : &character(current_); }
 
   int cellSize() const { return cellSize_; }
-  /// The size is limited to the range above.
+  /// The size is clamped to the range above.
   void setCellSize(int size);
   void setRulerShown(bool shown);
 
-  /// What marks a cell as a favourite.
+  /// Sets the function that decides whether a character gets the favourite mark.
   void setFavouriteTest(std::function<bool(const glyph::Entity&)> isFavourite) {
     isFavourite_ = std::move(isFavourite);
   }
 
-  /// What to show in the middle of an empty grid.
+  /// Sets the text and the icon that an empty grid shows in the middle.
   void setEmptyText(const QString& text, const QIcon& icon);
 
-  /// The place of a cell in the viewport.
+  /// The rectangle of a cell in the viewport.
   QRect visibleRect(int index) const;
   int indexAt(QPoint inViewport) const;
   const GridLayout& layoutOfCells() const { return layout_; }
 
  Q_SIGNALS:
   void currentChanged(int index);
-  /// Enter or a double click.
+  /// The user pressed Enter or double-clicked the cell.
   void activated(int index, Qt::KeyboardModifiers modifiers);
   void clicked(int index);
   /// The mouse button was held down on a cell.
@@ -64,7 +65,7 @@ class CharacterGrid : public QAbstractScrollArea {
   void collected(int index);
   void menuRequested(int index, QPoint globalPosition);
   void cellSizeChanged(int size);
-  /// The user typed this text; it belongs into the search field.
+  /// The user typed this text in the grid. It should go to the search field.
   void typed(const QString& text);
   void backspacePressed();
 
@@ -105,7 +106,7 @@ class CharacterGrid : public QAbstractScrollArea {
   QIcon emptyIcon_;
   int cellSize_ = commonCell;
   int current_ = -1;
-  std::string currentHex_;  // of the current cell
+  std::string currentHex_;  // hex code of the current character
   int hovered_ = -1;
   bool hasRuler_ = true;
   int wheelRest_ = 0;
@@ -113,13 +114,13 @@ class CharacterGrid : public QAbstractScrollArea {
   QTimer holdTimer_;
 };
 
-/// What the renderer is asked for to show the character in a cell of this size.
+/// Returns the request to the renderer for the character in a cell of this size.
 GlyphRequest cellRequest(const glyph::Entity& entity, int cellSize, double ratio);
 
-/// Whether the character is shown as a box because it has no glyph by its nature.
+/// Whether the character is shown as a box because characters of its kind have no glyph.
 bool isShownAsBox(const glyph::Entity& entity);
 
-/// Whether the meaning of the code point is left to agreement, so that only special fonts have it.
+/// Whether the code point is for private use, so that only special fonts have a glyph for it.
 bool isPrivateUse(char32_t point);
 
 /// Paints the character into the area: its picture, a box if it has none, or nothing while the picture is

@@ -17,25 +17,25 @@ inline QString fromUtf8(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-/// "U+2192"; for a sequence the code points are separated by blanks.
+/// The code points, separated by spaces: "U+2192".
 QString codeText(const glyph::Entity& entity);
 
 /// The name, or a text that says that the character has none.
-QString nameText(const glyph::Entity& entity);  /// Whether the entity is a character with a name of its own,
-                                                /// rather than with a label such as "<reserved-0378>".
+QString nameText(const glyph::Entity& entity);
+
+/// Whether the character has a name, rather than only a label such as "<reserved-0378>".
 bool hasName(const glyph::Entity& entity);
 
-/// What people of the user's language call the character.
-/// Empty if that is not known, or not more than nameText().
+/// What people of the user's language call the character. Empty if this is not known or equal to nameText().
 QString localNameText(const glyph::Entity& entity);
 
 /// The character, or a visible substitute if it is invisible.
 QString shownText(const glyph::Entity& entity);
 
 /// The characters with these hex codes, shortened if there are many.
-QString shownTexts(const Catalog& catalog,
-                   const std::vector<std::string>& hexes);  /// The title of a group of emoji
-                                                            /// (glyph::Emoji::group) in the user's language.
+QString shownTexts(const Catalog& catalog, const std::vector<std::string>& hexes);
+
+/// The title of a group of emoji (glyph::Emoji::group) in the user's language.
 QString emojiGroupTitle(std::string_view group);
 
 /// The title of a way to type a character (glyph::WayToType) in the user's language.

@@ -7,8 +7,9 @@
 
 namespace browser {
 
-/// Returns the clipboard of Qt as the library's pasteboard. Create it once, after the QGuiApplication. When
-/// the application quits, the text is handed to a program in the background, so that it can still be pasted.
+/// Returns a pasteboard for the library that uses Qt's clipboard. Create it once, after the QGuiApplication.
+/// When the application quits, the text is handed to a program in the background, so that it can still be
+/// pasted.
 std::shared_ptr<glyph::Pasteboard> applicationPasteboard();
 
 }  // namespace browser

@@ -11,7 +11,7 @@ namespace browser {
 
 /// Why a character is shown as a box.
 enum class BoxKind {
-  invisible,  ///< it has no glyph by its nature: dashed outline
+  invisible,  ///< characters of its kind have no glyph: dashed outline
   missing,    ///< no installed font draws it: plain outline
 };
 

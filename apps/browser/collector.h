@@ -9,8 +9,8 @@ class QLineEdit;
 
 namespace browser {
 
-/// A strip with characters that are to be copied together. It is hidden while it is empty. The text can be
-/// edited.
+/// A strip with an editable text that collects characters to copy them together. It is hidden while it is
+/// empty.
 class Collector : public QWidget {
   Q_OBJECT
 
@@ -23,7 +23,7 @@ class Collector : public QWidget {
 
  Q_SIGNALS:
   void copyRequested(const QString& text);
-  /// The user is done here: Escape, or the strip was emptied.
+  /// The user has left the strip: by Escape, or by deleting its text.
   void left();
 
  protected:

@@ -28,7 +28,7 @@ void FlowLayout::setGeometry(const QRect& area) {
   place(area, true);
 }
 
-// Returns the height of all lines.
+// Returns the height of all lines. Moves the widgets if `move` is true.
 int FlowLayout::place(const QRect& area, bool move) const {
   int x = area.x(), y = area.y(), lineHeight = 0;
   const Qt::LayoutDirection direction = parentWidget() ? parentWidget()->layoutDirection() : Qt::LeftToRight;

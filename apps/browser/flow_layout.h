@@ -6,7 +6,7 @@
 
 namespace browser {
 
-/// Places widgets in lines like words of a text.
+/// Places widgets in lines, like the words of a text.
 class FlowLayout : public QLayout {
  public:
   explicit FlowLayout(int gap) : gap_(gap) {}

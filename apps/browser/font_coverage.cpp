@@ -8,7 +8,8 @@
 namespace browser {
 namespace {
 
-// A font need not have a glyph of its own for these: they change or join the glyphs of others.
+// Joiners and variation selectors. A font needs no glyphs for them, because they only change or join other
+// glyphs.
 bool isModifier(char32_t codePoint) {
   return codePoint == 0x200D || codePoint == 0x200C || (codePoint >= 0xFE00 && codePoint <= 0xFE0F) ||
          (codePoint >= 0xE0000 && codePoint <= 0xE01EF);
@@ -48,7 +49,7 @@ const FontCoverage::Fonts& FontCoverage::fonts(FontClass fontClass) const {
   FcConfigSubstitute(nullptr, pattern, FcMatchPattern);
   FcDefaultSubstitute(pattern);
   FcResult result = FcResultMatch;
-  // Trimmed: a font that adds no code point to those before it is left out.
+  // FcTrue leaves out fonts without code points that the fonts before them lack.
   made = std::make_unique<Fonts>(FcFontSort(nullptr, pattern, FcTrue, nullptr, &result));
   FcPatternDestroy(pattern);
   return *made;
@@ -76,7 +77,7 @@ QStringList FontCoverage::families(const std::u32string& codePoints, FontClass f
     QStringList& list = isColoured ? coloured : fitting;
     if (!list.contains(family)) list.append(family);
   }
-  // Emoji are coloured; digits and letters, which fonts for emoji have too, are not.
+  // Emoji should be coloured. Digits and letters should not, although emoji fonts have glyphs for them, too.
   const QStringList all = fontClass == FontClass::emoji ? coloured + fitting : fitting + coloured;
   return all.mid(0, limit);
 }

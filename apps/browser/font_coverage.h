@@ -8,12 +8,11 @@
 
 namespace browser {
 
-/// Which of the style classes of fonts suits a character.
+/// The class of fonts that suits a character.
 enum class FontClass { sans, serif, emoji };
 
-/// Says which installed fonts draw a text, by the coverage tables of fontconfig. Qt would open one font after
-/// another until one draws the text, which takes seconds where many fonts are installed. One thread may use
-/// an object.
+/// Finds installed fonts that draw a text, by the coverage tables of fontconfig. Qt would open one font after
+/// another until one draws the text, which takes seconds where many fonts are installed. Not thread-safe.
 class FontCoverage {
  public:
   /// `preferred` is the family that is tried before all others; it may be empty. `languages` are BCP 47 tags.
@@ -23,8 +22,8 @@ class FontCoverage {
   FontCoverage(const FontCoverage&) = delete;
   FontCoverage& operator=(const FontCoverage&) = delete;
 
-  /// Returns the best families, at most `limit`, that have a glyph for each code point. Joiners and variation
-  /// selectors do not count. Empty if there is none.
+  /// Returns at most `limit` families that have a glyph for each code point except joiners and variation
+  /// selectors. The best family comes first. Empty if there is no such family.
   QStringList families(const std::u32string& codePoints, FontClass fontClass, int limit = 4) const;
 
  private:

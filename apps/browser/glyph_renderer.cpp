@@ -17,18 +17,18 @@
 namespace browser {
 namespace {
 
-// The pictures of some 4,000 cells of common size.
+// Enough for the pictures of about 4,000 cells of common size.
 constexpr qsizetype keptBytesLimit = 16 << 20;
 
-// Requests that nobody waits for any more are dropped: the user has scrolled on.
+// If more requests wait, the oldest are dropped, because the user has scrolled on.
 constexpr std::size_t mostWaiting = 3'000;
 
-// So many pictures are handed over at once.
+// The number of pictures that the thread passes to the GUI thread at once.
 constexpr std::size_t batch = 40;
 
-// The fonts that a thread of Qt has opened stay open until it ends: some hundred of them, in a walk through
-// all characters. So the thread ends after so many pictures, and when nothing has been asked of it for a
-// while. The next request starts another one.
+// Fonts that a thread opens with Qt stay open until the thread ends. Drawing all characters would open
+// several hundred fonts. So the thread ends after mostPicturesOfThread pictures, or after longestIdling
+// without a request. The next request starts a new thread.
 constexpr int mostPicturesOfThread = 2'000;
 constexpr std::chrono::seconds longestIdling{3};
 
@@ -75,7 +75,7 @@ GlyphPicture draw(const GlyphRequest& request, const QString& family, const QCol
     pixels *= box / widest;
     layOut(line, request.text, family, pixels);
   }
-  // Centred by its ink across, and on a common base line where it fits.
+  // The ink of the glyph is centred horizontally. Glyphs have a common baseline where they fit.
   const QRectF ink = line.ink;
   const double baseline = line.layout.lineAt(0).ascent();
   const double wanted = box / 2 + 0.36 * pixels - baseline;
@@ -94,7 +94,7 @@ GlyphPicture draw(const GlyphRequest& request, const QString& family, const QCol
   line.layout.draw(&painter, QPointF(shiftX, shiftY) - area.topLeft());
   painter.end();
   GlyphPicture picture;
-  picture.image = canvas.copy();  // what has been painted on keeps the means to do so, over a kilobyte
+  picture.image = canvas.copy();  // the painted image keeps its paint engine, over a kilobyte
   picture.image.setDevicePixelRatio(request.ratio);
   picture.corner = QPointF(area.topLeft()) / request.ratio;
   picture.family = family;
@@ -126,20 +126,20 @@ GlyphRenderer::GlyphRenderer() : pictures_(keptBytesLimit) {
 }
 
 void GlyphRenderer::startThread() {
-  if (thread_) thread_->wait();  // it has left work() already
+  if (thread_) thread_->wait();  // the old thread has already left work()
   thread_.reset(QThread::create([this] { work(); }));
   thread_->setObjectName("glyphs");
   connect(thread_.get(), &QThread::finished, this, [this, ended = thread_.get()] {
     if (ended != thread_.get()) return;
     ended->wait();
 #ifdef __GLIBC__
-    malloc_trim(0);  // what its fonts have taken goes back to the system
+    malloc_trim(0);  // returns the memory of its fonts to the system
 #endif
   });
   thread_->start(QThread::LowPriority);
 }
 
-// The pictures that are waited for are drawn even if the thread has just ended.
+// Starts a thread if requests are waiting and no thread is working.
 void GlyphRenderer::wakeThread() {
   {
     const std::lock_guard lock(mutex_);
@@ -229,7 +229,7 @@ void GlyphRenderer::work() {
         isWorking_ = false;
         lock.unlock();
         handOver();
-        // Another thread goes on if there is more to draw.
+        // If requests are waiting, this starts another thread.
         QMetaObject::invokeMethod(this, &GlyphRenderer::wakeThread, Qt::QueuedConnection);
         return;
       }

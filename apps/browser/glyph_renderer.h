@@ -23,11 +23,11 @@ class QThread;
 
 namespace browser {
 
-/// What to draw.
+/// A text to draw and how to draw it.
 struct GlyphRequest {
   QString text;
   FontClass fontClass = FontClass::sans;
-  int size = 32;       ///< of the font, in logical pixels
+  int size = 32;       ///< font size in logical pixels
   int box = 48;        ///< the glyph is scaled down until it fits into a square of this many logical pixels
   double ratio = 1.0;  ///< device pixels per logical pixel
 
@@ -41,12 +41,12 @@ size_t qHash(const GlyphRequest& request, size_t seed = 0);
 /// A drawn glyph.
 struct GlyphPicture {
   QImage image;    ///< null if no installed font draws the text
-  QPointF corner;  ///< upper left corner of the image relative to that of the box, in logical pixels
-  QString family;  ///< of the font that was used
+  QPointF corner;  ///< position of the image relative to the upper left corner of the box, in logical pixels
+  QString family;  ///< family of the font that was used
 };
 
-/// Draws glyphs on a thread of its own and keeps the pictures: shaping and opening a font may take longer
-/// than a frame.
+/// Draws glyphs on a separate thread, because opening a font and shaping may take longer than a frame. Keeps
+/// the pictures.
 class GlyphRenderer : public QObject {
   Q_OBJECT
 
@@ -57,17 +57,18 @@ class GlyphRenderer : public QObject {
   GlyphRenderer();
   ~GlyphRenderer() override;
 
-  /// Returns the picture, or null if it is not drawn yet. Then it is drawn, and picturesReady() follows. The
-  /// newest request is served first. The pointer is valid until control returns to the event loop.
+  /// Returns the picture. If it is not drawn yet, returns null, draws it in the background and then emits
+  /// picturesReady(). The newest request is served first. The pointer is valid until control returns to the
+  /// event loop.
   const GlyphPicture* picture(const GlyphRequest& request);
 
   /// Returns the size of the pictures that are kept, in bytes.
   qsizetype keptBytes() const { return pictures_.totalCost(); }
 
-  /// Sets the colour of all glyphs but coloured ones, and draws anew.
+  /// Sets the colour of all glyphs except coloured ones, and draws all pictures again.
   void setColour(const QColor& colour);
 
-  /// Sets the family that is tried first. An empty text means that of the application.
+  /// Sets the font family that is tried first. An empty text means the family of the application's font.
   void setFamily(const QString& family);
   const QString& family() const { return family_; }
 
@@ -89,15 +90,15 @@ class GlyphRenderer : public QObject {
 
   std::mutex mutex_;
   std::condition_variable wake_;
-  // What follows is shared with the thread.
+  // The following members are shared with the thread and protected by mutex_.
   std::deque<GlyphRequest> waiting_;
-  std::set<GlyphRequest> known_;  // those that wait or are being drawn
+  std::set<GlyphRequest> known_;  // the requests that wait or are being drawn
   QColor wantedColour_;
   QString wantedFamily_;
   int generation_ = 0;  // counts the changes of colour and family, so that older pictures are dropped
   bool stopping_ = false;
   bool isWorking_ = false;  // whether the thread will look for requests once more
-  // What follows belongs to the thread while it works.
+  // The following members belong to the thread while it works.
   std::optional<FontCoverage> coverage_;
   QString coveredFamily_;
   std::unique_ptr<QThread> thread_;

@@ -105,10 +105,11 @@ class Grid : public QAccessibleWidget {
 
  private:
   CharacterGrid* grid_;
-  mutable std::map<int, QAccessible::Id> cells_;  // those that somebody has asked for
+  mutable std::map<int, QAccessible::Id> cells_;  // only the cells that were asked for
 };
 
-// Screen readers announce a window by this role. Qt gives it to windows of its own classes only.
+// Screen readers announce a window if it has the window role. Qt gives this role only to windows of its own
+// classes.
 QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
   if (CharacterGrid* const grid = gridOf(object)) return new Grid(grid);
   if (className == QLatin1String("browser::MainWindow"))

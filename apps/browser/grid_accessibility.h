@@ -3,7 +3,7 @@
 
 namespace browser {
 
-/// Lets assistive technology read and use every CharacterGrid: a list whose items are the cells.
+/// Makes every CharacterGrid accessible to assistive technology, as a list whose items are the cells.
 void installGridAccessibility();
 
 }  // namespace browser

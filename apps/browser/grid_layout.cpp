@@ -50,7 +50,7 @@ QRect GridLayout::cellRect(int index) const {
   if (index < 0 || place >= lines_.size()) return {};
   const Line& line = lines_[place];
   const int column = index - line.first;
-  // The cells fill the width: the remaining pixels are spread over the columns.
+  // The remaining pixels are spread over the columns, so that the cells fill the width.
   const auto left = [&](int of) { return ruler_ + (width_ - ruler_) * of / columns_; };
   return {left(column), line.y, left(column + 1) - left(column), line.height};
 }

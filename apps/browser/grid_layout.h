@@ -14,7 +14,8 @@ struct GridSection {
   int count = 0;
 };
 
-/// Where the cells and headings of a grid are. Coordinates are those of the whole content, in logical pixels.
+/// The positions of the cells and headings of a grid. Coordinates are relative to the whole content, in
+/// logical pixels.
 class GridLayout {
  public:
   struct Line {
@@ -46,9 +47,9 @@ class GridLayout {
   int firstOfLine(int index) const { return lines_[lineOf(index)].first; }
   int lastOfLine(int index) const;
 
-  /// Returns the lines that touch this range of y.
+  /// Returns the lines that overlap this range of y coordinates.
   std::vector<Line> linesBetween(int top, int bottom) const;
-  /// Returns the section that is at this y.
+  /// Returns the number of the section at this y coordinate.
   int sectionAt(int y) const;
 
  private:

@@ -13,7 +13,7 @@
 namespace browser {
 namespace {
 
-// Shapes on a field of 16 by 16, as elements of SVG. Lines are drawn in the current colour.
+// Returns the shape as SVG elements in a square of 16 by 16. Lines are drawn in the current colour.
 const char* shape(Symbol symbol) {
   switch (symbol) {
     case Symbol::add:

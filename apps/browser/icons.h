@@ -28,7 +28,7 @@ enum class Symbol {
 
 QIcon symbolIcon(Symbol symbol);
 
-/// Puts a magnifying glass and a button to empty the field into a search field. The names are for assistive
+/// Adds a magnifying glass and a button that clears the text to a search field. The names are for assistive
 /// technology.
 void addSearchIcon(QLineEdit& field, const QString& searchName, const QString& clearName);
 

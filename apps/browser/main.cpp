@@ -17,7 +17,7 @@ struct Options {
   QString theme;
 };
 
-// Ends the program if the user asks for help, or for what does not exist.
+// Ends the program if the user asks for help or the version, or if an option is not known.
 Options readOptions() {
   QCommandLineParser parser;
   parser.setApplicationDescription(QCoreApplication::translate(
@@ -47,8 +47,8 @@ Options readOptions() {
           parser.value(theme)};
 }
 
-// Qt prints a line for each font that has a character but not the rules of its script. That is no problem
-// here: the next font is tried.
+// Qt prints a line for each font that has a character but lacks the OpenType rules of its script. These lines
+// are dropped, because the program then tries the next font.
 QtMessageHandler standardHandler = nullptr;
 void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
   if (!message.startsWith(QLatin1String("  OpenType support missing")))
@@ -63,14 +63,14 @@ void nameApplication() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // The library reports changes of the catalog line by line, which is of no use here. Problems go to standard
-  // error.
+  // The library's diagnostic lines mostly report changes of the catalog, so they are dropped. The program
+  // itself reports problems on standard error.
   glyph::setDiagnosticsSink([](std::string_view) {});
   standardHandler = qInstallMessageHandler(handleMessage);
   Options options;
   {
-    // A running program is found without the connection to the display, which takes most of the time of a
-    // start.
+    // To find a running program, no connection to the display is made, because that takes most of the start
+    // time.
     const QCoreApplication messenger(argc, argv);
     nameApplication();
     browser::Translations translations;

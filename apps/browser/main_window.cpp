@@ -35,7 +35,7 @@
 namespace browser {
 namespace {
 
-// Below this width, in logical pixels, the card and the groups do not stand beside the characters.
+// In logical pixels. In a narrower window, the card and the groups are not beside the characters.
 constexpr int narrowWidth = 860;
 
 QToolButton* newButton(Symbol symbol, const QString& name) {
@@ -61,7 +61,7 @@ MainWindow::MainWindow(Catalog& catalog, Appearance& appearance)
   setAcceptDrops(true);
   auto* const whole = new QHBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);
-  whole->setSizeConstraint(QLayout::SetNoConstraint);  // the narrow window has another arrangement
+  whole->setSizeConstraint(QLayout::SetNoConstraint);  // the arrangement of a narrow window needs less width
   setMinimumSize(400, 360);
   whole->addWidget(columns_);
   for (QSplitter* const splitter : {columns_, characterAndCard_}) {
@@ -127,7 +127,7 @@ QWidget* MainWindow::makeHitBar() {
   hits_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   elsewhere_ = new QPushButton;
   elsewhere_->setFlat(true);
-  // The bar is as high with buttons as without.
+  // The height of the bar does not depend on whether it has buttons.
   hitBar_->setMinimumHeight(elsewhere_->sizeHint().height() + 6);
   row->addWidget(hits_, 1);
   row->addWidget(elsewhere_);
@@ -152,8 +152,7 @@ QWidget* MainWindow::makeMiddle() {
   column->addWidget(collector_);
   grid_->setFavouriteTest(
       [this](const glyph::Entity& entity) { return catalog_.isFavourite(entity.computed.hex); });
-  // The card follows when the user pauses: each of its texts takes a moment, which typing and walking do not
-  // wait for.
+  // The card is updated only when the user pauses, so that its texts do not slow down typing and moving.
   cardTimer_.setSingleShot(true);
   cardTimer_.setInterval(30);
   connect(&cardTimer_, &QTimer::timeout, this, [this] { card_->setCharacter(grid_->currentCharacter()); });
@@ -338,7 +337,7 @@ void MainWindow::chooseScope(const Scope& scope) {
   }
 }
 
-// Called before a link on the card leads away.
+// Remembers the current place before the user follows a link on the card.
 void MainWindow::rememberPlace() {
   const glyph::Entity* const entity = grid_->currentCharacter();
   if (!entity) return;
@@ -359,7 +358,7 @@ void MainWindow::goBack() {
   grid_->setFocus();
 }
 
-// Shows the character in the grid: where it is, or else alone.
+// Selects the character in the grid. If the grid does not contain it, shows it alone.
 void MainWindow::chooseCharacter(const QString& hex) {
   const std::string code = hex.toStdString();
   const auto isShown = [&] {
@@ -506,7 +505,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
       if (grid_->current() >= 0) {
         copyCharacter(grid_->current(), key->modifiers());
       } else if (filter_.elsewhere() > 0) {
-        chooseScope({Scope::Kind::all});  // Enter once more copies the first one there
+        chooseScope({Scope::Kind::all});  // pressing Enter again copies the first character there
       }
       return true;
     default:
@@ -622,7 +621,7 @@ void MainWindow::showShortcuts() {
   for (const Row& row : rows) {
     table += QStringLiteral("<tr><td><b>%1</b>&nbsp;&nbsp;</td><td>%2</td></tr>").arg(row.keys, row.effect);
   }
-  // A message box would become narrow and high on small screens.
+  // A message box would be too narrow and too high on small screens.
   QDialog dialog(this);
   dialog.setWindowTitle(tr("Keys and mouse"));
   auto* const column = new QVBoxLayout(&dialog);

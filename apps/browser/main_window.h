@@ -24,8 +24,8 @@ class Collector;
 class Sidebar;
 class Toast;
 
-/// The window: groups, characters with a search field, and a card of the current character. In a narrow
-/// window the card moves below the characters, and the groups take their place on demand.
+/// The main window: groups, characters with a search field, and a card of the current character. In a narrow
+/// window, the card is below the characters, and the user can show the groups in place of the characters.
 class MainWindow : public QWidget {
   Q_OBJECT
 
@@ -33,7 +33,7 @@ class MainWindow : public QWidget {
   MainWindow(Catalog& catalog, Appearance& appearance);
   ~MainWindow() override;
 
-  /// Searches everything for the text. An empty text only shows the window's characters.
+  /// Searches all characters for the text. An empty text only moves the focus to the search field.
   void search(const QString& text);
 
  Q_SIGNALS:

@@ -30,7 +30,7 @@ constexpr int leavingMilliseconds = 250;
 
 }  // namespace
 
-// The size is fixed, because tiling window managers let such windows float.
+// The size is fixed, because tiling window managers do not tile windows of fixed size.
 Picker::Picker(Catalog& catalog)
     : QWidget(nullptr, Qt::Dialog | Qt::WindowStaysOnTopHint | Qt::FramelessWindowHint),
       catalog_(catalog),
@@ -125,7 +125,7 @@ void Picker::showCurrent() {
 
 void Picker::pick(int index, Qt::KeyboardModifiers modifiers) {
   if (modifiers & Qt::ControlModifier) return collect(index);
-  // Enter takes the collection, if there is one.
+  // Enter copies the collected characters, if there are any.
   if (!collector_->text().isEmpty() && !(modifiers & Qt::AltModifier)) {
     Q_EMIT collector_->copyRequested(collector_->text());
     return;
@@ -195,8 +195,8 @@ void Picker::closeEvent(QCloseEvent* event) {
 void Picker::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() != QEvent::ActivationChange) return;
-  // A click beside the window closes it, unless the user has collected something. On Wayland, the focus also
-  // leaves for a moment when a keyboard or an input method comes or goes.
+  // A click outside the window closes it, unless the user has collected characters. On Wayland, the window
+  // also loses the focus for a moment when a keyboard or an input method is added or removed.
   const auto isLeft = [this] {
     return isVisible() && !isActiveWindow() && !QGuiApplication::focusWindow() &&
            collector_->text().isEmpty();

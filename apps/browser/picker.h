@@ -16,8 +16,8 @@ class Catalog;
 class CharacterGrid;
 class Collector;
 
-/// A small window to pick a character for another program: a search field over favourites and recently copied
-/// characters. Enter copies and closes.
+/// A small window to pick a character for another program. It has a search field above favourites and
+/// recently copied characters. Enter copies the character and closes the window.
 class Picker : public QWidget {
   Q_OBJECT
 
@@ -28,7 +28,7 @@ class Picker : public QWidget {
   void open();
 
  Q_SIGNALS:
-  /// The window has closed. `text` was copied; null if the user picked nothing.
+  /// The window has closed. `text` is the copied text; it is null if the user picked nothing.
   void closed(const QString& text);
 
  protected:

@@ -74,8 +74,8 @@ bool startsWithDesktop() {
 bool setStartsWithDesktop(bool starts) {
   const QString file = autostartFile();
   if (!starts) return !QFile::exists(file) || QFile::remove(file);
-  // The rules of desktop entries: in a quoted argument these characters need a backslash, which itself is
-  // escaped once more as part of a string; a percent sign is doubled.
+  // In a quoted argument of a desktop entry, these characters need a backslash. Each backslash must be
+  // escaped again, because the argument is part of a string. A percent sign must be doubled.
   QString program = QCoreApplication::applicationFilePath();
   program.replace('\\', "\\\\\\\\")
       .replace('"', "\\\\\"")

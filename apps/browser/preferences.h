@@ -11,11 +11,11 @@ namespace browser::preferences {
 std::string otherForm();
 void setOtherForm(const std::string& identifier);
 
-/// The family that is tried first for glyphs. Empty means that the program chooses.
+/// The font family that is tried first for glyphs. If it is empty, the program chooses.
 QString glyphFamily();
 void setGlyphFamily(const QString& family);
 
-/// Whether the picker types what it copies into the window that had the focus. At first it does.
+/// Whether the picker also types the copied text into the window that had the focus before. True by default.
 bool pickerTypes();
 void setPickerTypes(bool types);
 
@@ -23,7 +23,7 @@ void setPickerTypes(bool types);
 bool wasTypingExplained();
 void setTypingExplained();
 
-/// Whether the program starts with the desktop, in the background. Kept as an entry in the user's autostart
+/// Whether the program starts with the desktop, in the background. Stored as an entry in the user's autostart
 /// folder.
 bool startsWithDesktop();
 /// Returns false if the entry could not be written.

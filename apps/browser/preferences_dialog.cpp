@@ -30,7 +30,7 @@ QLabel* newText(const QString& text) {
   return label;
 }
 
-// What each desktop needs to start the picker with a key.
+// Returns instructions for each desktop to start the picker with a key.
 QString keyBindings() {
   struct Desktop {
     QString name, how;

@@ -10,7 +10,8 @@ namespace browser {
 class Appearance;
 class Catalog;
 
-/// The user's choices about windows, the picker and the desktop's search. Each takes effect at once.
+/// A dialog for the user's choices about windows, the picker and the desktop's search. Each choice takes
+/// effect at once.
 class PreferencesDialog : public QDialog {
   Q_OBJECT
 

@@ -20,7 +20,7 @@ SettingsWatch::SettingsWatch() : directory_(glyph::applicationConfigDirectory().
 }
 
 // Watches the directory for new files, and the files for new content. SQLite writes to the file with the
-// suffix "-wal" first. While the directory does not exist, the nearest one above it is watched.
+// suffix "-wal" first. If the directory does not exist yet, watches its nearest existing parent.
 void SettingsWatch::watch() {
   if (directory_.empty()) return;
   QStringList paths;

@@ -8,8 +8,8 @@
 
 namespace browser {
 
-/// Tells when the settings file may have changed, through this program or another one such as the command
-/// line.
+/// Emits a signal when this program or another one, such as the command line, may have changed the settings
+/// file.
 class SettingsWatch : public QObject {
   Q_OBJECT
 
@@ -17,7 +17,7 @@ class SettingsWatch : public QObject {
   SettingsWatch();
 
  Q_SIGNALS:
-  /// A moment after the last of several changes.
+  /// Emitted once for several changes, a moment after the last one.
   void changed();
 
  private:

@@ -19,7 +19,7 @@ using Kind = Scope::Kind;
 
 constexpr int checkSize = 16;
 
-// Paints the rows and lets a click on the check mark change it.
+// Paints the rows. A click on a check mark changes it.
 class ScopeDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -52,7 +52,7 @@ class ScopeDelegate : public QStyledItemDelegate {
     const bool isPress = event->type() == QEvent::MouseButtonPress;
     if (!isPress && event->type() != QEvent::MouseButtonRelease) return false;
     const QPoint point = static_cast<QMouseEvent*>(event)->position().toPoint();
-    // The area around the mark belongs to it too, and a click on it does not select the row.
+    // The area around the check mark also reacts to clicks. Such a click does not select the row.
     if (!checkArea(option).adjusted(-9, -9, 6, 9).contains(point)) return false;
     return isPress || flip();
   }
@@ -96,7 +96,7 @@ class ScopeDelegate : public QStyledItemDelegate {
     QFont small = option.font;
     small.setPointSizeF(small.pointSizeF() * 0.88);
     painter.setFont(small);
-    // The faint colour is too faint on the ground of the current row.
+    // The faint colour has too little contrast to the background of the current row.
     painter.setPen(isCurrent ? text : option.palette.color(QPalette::PlaceholderText));
     const QString count = QLocale().toString(index.data(ScopeModel::countRole).toLongLong());
     const int countWidth = QFontMetrics(small).horizontalAdvance(count);
@@ -110,7 +110,7 @@ class ScopeDelegate : public QStyledItemDelegate {
     painter.setFont(option.font);
     painter.setPen(text);
     const QRect place = row.adjusted(0, 0, -countWidth - 8, 0);
-    // Many titles differ in their last word only.
+    // Many titles differ only in their last word.
     const QString title =
         QFontMetrics(option.font).elidedText(index.data().toString(), Qt::ElideMiddle, place.width());
     painter.drawText(mirrored(place), static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading), title);
@@ -188,7 +188,7 @@ qlonglong ScopeModel::characterCount(const Scope& scope) const {
   return glyph::glyphorium().allEntityGroupNamesWithCount[scope.group];
 }
 
-// Counting takes a moment, so it is done once, for the rows that are looked at.
+// Counting takes a moment, so only visible rows are counted, and each only once.
 qlonglong ScopeModel::countOutsideCatalog(const Scope& scope) const {
   const auto [known, isNew] = counts_.try_emplace(scope.text());
   if (!isNew) return known->second;
@@ -288,7 +288,7 @@ Sidebar::Sidebar(Catalog& catalog, QWidget* parent) : QListView(parent), model_(
   updatePalette();
 }
 
-// The list lies on the window's own colour.
+// Gives the list the background colour of the window.
 void Sidebar::updatePalette() {
   QPalette colours;
   colours.setColor(QPalette::Base, QGuiApplication::palette().color(QPalette::Window));

@@ -13,8 +13,8 @@ namespace browser {
 
 class Catalog;
 
-/// The scopes as rows: the parts of the catalog, then a heading and the groups, each with a check mark for
-/// being displayed and the number of its characters.
+/// The scopes as rows. The parts of the catalog come first, then a heading and the groups. Each group has a
+/// check mark, which says whether it is displayed, and the number of its characters.
 class ScopeModel : public QAbstractListModel {
   Q_OBJECT
 
@@ -28,7 +28,7 @@ class ScopeModel : public QAbstractListModel {
   bool setData(const QModelIndex& index, const QVariant& value, int role) override;
   Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-  /// Null for the heading.
+  /// Returns null for a heading.
   const Scope* scope(const QModelIndex& index) const;
   QModelIndex indexOf(const Scope& scope) const;
 
@@ -43,7 +43,7 @@ class ScopeModel : public QAbstractListModel {
   Catalog& catalog_;
   std::vector<Row> rows_;
   std::size_t totalCount_ = 0;
-  mutable std::map<std::string, qlonglong> counts_;  // of the scopes outside of the catalog, by their texts
+  mutable std::map<std::string, qlonglong> counts_;  // by Scope::text(), for scopes outside the catalog
 };
 
 /// The list at the left of the window. The current row is the scope that is shown.

@@ -5,8 +5,8 @@
 
 namespace browser {
 
-/// Translates the texts of the program, and those of Qt's own dialogs and menus, into the first of the user's
-/// languages that the program has. Ends when it is destroyed. Needs a QCoreApplication.
+/// Translates the texts of the program and of Qt's own dialogs and menus, into the first of the user's
+/// languages that the program supports. The destructor ends the translation. Needs a QCoreApplication.
 class Translations {
  public:
   Translations();

@@ -15,11 +15,11 @@
 namespace browser {
 namespace {
 
-// A tool that takes longer waits for something that will not come.
+// The time that a tool may take beyond the typing itself. A tool that takes longer is ended.
 constexpr int longestMilliseconds = 5'000;
 
-// Characters that are on no key are put on a spare one for a moment. Programs on a busy machine learn of that
-// late: with less time for each, some characters are lost.
+// For a character that is on no key, the tool maps a spare key to it for a moment. On a busy machine,
+// programs notice this late. With a shorter delay, some characters are lost.
 constexpr int keyMilliseconds = 150;
 
 #ifdef BROWSER_HAS_XCB

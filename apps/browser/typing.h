@@ -7,22 +7,22 @@
 
 namespace browser {
 
-/// How a text gets into the window that has the focus.
+/// A program that types a text into the window that has the focus.
 struct TypingTool {
   QString program;
-  QStringList arguments;  ///< before the text
+  QStringList arguments;  ///< arguments that precede the text
 };
 
 /// Returns the tool for this desktop, or one with an empty program if none is installed: xdotool on X11,
 /// wtype on Wayland.
 TypingTool typingTool();
 
-/// Returns the window that has the focus on X11, as the number that xdotool takes. Empty elsewhere, and if no
-/// window has the focus.
+/// Returns the window that has the focus on X11, as the number that xdotool expects. Empty on other
+/// platforms, and if no window has the focus.
 QString focusedWindow();
 
-/// Types the text into the window, which gets the focus, or into the one that has the focus if `window` is
-/// empty. `done` is told whether the tool succeeded. Returns at once.
+/// Gives `window` the focus and types the text into it. If `window` is empty, types into the window that has
+/// the focus. Returns at once. `done` is called with true if the tool succeeded.
 void typeText(const QString& text, const QString& window, std::function<void(bool)> done);
 
 }  // namespace browser

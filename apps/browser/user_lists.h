@@ -17,10 +17,10 @@ class UserList {
   /// Returns the codes. Every call reads the settings.
   std::vector<std::string> codes() const;
 
-  /// Puts the code in the first place, where it is once.
+  /// Puts the code first in the list, and removes it from its former place.
   void putFirst(const std::string& code) const;
 
-  /// Removes the code if it is in the list, otherwise puts it in the first place.
+  /// Removes the code if it is in the list, otherwise puts it first.
   void toggle(const std::string& code) const;
 
   void clear() const;

@@ -6,10 +6,10 @@
 
 namespace browser {
 
-/// How the user left the main window. Kept in glyph::settingsStore().
+/// The state of the main window when the user closed it. Stored in glyph::settingsStore().
 struct WindowSettings {
-  QByteArray geometry;  ///< of QWidget::saveGeometry(); empty if it is not known, as the next two
-  QByteArray columns;   ///< of QSplitter::saveState()
+  QByteArray geometry;  ///< from QWidget::saveGeometry(); empty if not known
+  QByteArray columns;   ///< from QSplitter::saveState(); empty if not known
   QByteArray card;
   bool hasSidebar = true;
   int cellSize = 0;   ///< 0 means the usual size
