@@ -147,7 +147,8 @@ def test_command_line():
 
 
 def test_declarations_agree_with_the_header():
-    """A wrong number of arguments would not be noticed by ctypes."""
+    """ctypes does not notice a wrong number of arguments, so this compares the declarations with the
+    headers."""
     headers = pathlib.Path(os.environ["GLYPHORIUM_HEADERS"])
     text = re.sub(r"/\*.*?\*/", "", "".join(p.read_text() for p in sorted(headers.glob("*.h"))), flags=re.S)
     declared = dict(re.findall(r"glyphorium_([a-z_0-9]+)\(([^()]*)\);", text))

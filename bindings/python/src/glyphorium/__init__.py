@@ -5,9 +5,8 @@
     >>> glyphorium.character("→").name
     'Rightwards Arrow'
 
-Texts are str. A lone surrogate counts as U+FFFD. Functions raise ValueError for an argument that has no meaning,
-KeyError where a thing is asked for by a name that it does not have, OSError where the desktop or the disk refuses,
-and MemoryError.
+Texts are str. A lone surrogate counts as U+FFFD. Functions raise ValueError for an invalid argument, KeyError
+if nothing has the requested name or code, OSError if the desktop or the disk refuses, and MemoryError.
 
 Threads: one thread at a time may use the functions on displayed groups and added characters, and configure(). All
 other functions may be called from any thread.
@@ -40,7 +39,7 @@ version: str = lib.version().decode()
 
 @dataclasses.dataclass(frozen=True)
 class Character:
-    """One entry of the catalog. Two entries are equal if their hex codes are."""
+    """One entry of the catalog. Two entries are equal if their hex codes are equal."""
 
     hex: str
     """The code point in hexadecimal, lower case, at least four digits: "2192". For a character of several code points,
@@ -48,11 +47,12 @@ class Character:
     symbol: str = dataclasses.field(compare=False)
     """The character itself."""
     name: str = dataclasses.field(compare=False)
-    """The name to show: the better name of the enrichment if there is one, else the table's."""
+    """The name to show: the better name of the enrichment if there is one, otherwise the name in the name
+    table."""
     table_name: str = dataclasses.field(compare=False)
-    """The name in the table."""
+    """The name in the name table."""
     group: str = dataclasses.field(compare=False)
-    """The group; empty for a character that the catalog does not hold."""
+    """The group; empty for a character that is not in the catalog."""
     decimal: int = dataclasses.field(compare=False)
     """The code point as a number."""
     html_hex: str = dataclasses.field(compare=False)
@@ -70,8 +70,8 @@ class Character:
 
     @property
     def note(self) -> Optional[str]:
-        """The usage note to show, in the first of languages(), else in English, else None: that of the enrichment, or
-        a supplementary note of the library if the enrichment has none."""
+        """The usage note to show, in the first of languages(), otherwise in English, otherwise None. It comes
+        from the enrichment, or from the supplementary notes of the library if the enrichment has none."""
         return self._with_handle(lib.entity_localized_note)
 
     def form(self, identifier: str) -> Optional[str]:
@@ -82,7 +82,7 @@ class Character:
         return self._with_handle(lib.entity_form, identifier.encode())
 
     def _with_handle(self, function: Any, *arguments: Any) -> Optional[str]:
-        """Returns the owned text that a function of the library gives for this character."""
+        """Calls a library function that returns an owned text for this character, and returns the text."""
         is_code_point = format(self.decimal, "04x") == self.hex
         handle = (lib.entity_of(self.decimal) if is_code_point else None) or lib.entity_from_hex(
             _library.identifier(self.hex))
@@ -121,8 +121,8 @@ _configured = False
 
 
 def configure() -> None:
-    """Fills the catalog again with the user's stored choices. The other functions do it when they first need it; call
-    it when another program may have changed the choices."""
+    """Fills the catalog again with the user's stored choices. The other functions do this when they first
+    need the catalog. Call it when another program may have changed the choices."""
     global _configured
     if not _library.check(lib.configure()):
         raise OSError("the catalog cannot be configured")
@@ -136,8 +136,8 @@ def _ensure_configured() -> None:
 
 
 def characters(text: str) -> List[Character]:
-    """Returns the characters that a text means exactly: one user-perceived character ("→"), codes ("U+2192", "&rarr;",
-    "2192") or a name ("rightwards arrow"). Empty if it means none."""
+    """Returns the characters that a text means exactly: one user-perceived character ("→"), codes ("U+2192",
+    "&rarr;", "2192") or a name ("rightwards arrow"). Empty if the text means no character."""
     _ensure_configured()
     data = _library.utf8(text)
     return [_character(entity) for entity in _library.entities(lib.resolve(data, len(data), None))]
@@ -171,16 +171,16 @@ class Result:
 
     character: Character
     field: str
-    """What matches best: "character", "code", "name", "alias", "html_name", "search_term", "annotation", "group",
-    "note" or "notation"."""
+    """The field that matches best: "character", "code", "name", "alias", "html_name", "search_term",
+    "annotation", "group", "note" or "notation"."""
     exact: bool
-    """Whether the text is the character, its code, or a whole name or term of it."""
+    """Whether the query is the character, its code, or one of its whole names or terms."""
     ranges: Tuple[Tuple[int, int], ...]
     """The parts of character.name that match, as indexes of characters, for highlighting."""
 
 
 class Results(Sequence[Result]):
-    """The results of a search, the best first."""
+    """The results of a search, best first."""
 
     def __init__(self, results: List[Result], total: int, approximate: bool) -> None:
         self._results = results
@@ -204,7 +204,8 @@ _FIELDS = ("character", "code", "name", "alias", "html_name", "search_term", "an
 
 
 class _Search:
-    """The search over the catalog and the added characters, made again when these have changed."""
+    """The search over the catalog and the added characters. It is made again when the added characters
+    change."""
 
     handle: Any = None
     lock = threading.Lock()
@@ -224,9 +225,9 @@ def search(text: str, *, limit: int = 100, languages: Optional[Sequence[str]] = 
     """Searches the whole catalog and the user's own characters.
 
     text       words in any order, codes, HTML references, characters, "->", and "group:arrows"
-    limit      the greatest number of results
+    limit      the maximum number of results
     languages  the user's languages ("de"); None stands for glyphorium.languages()
-    groups     exact names; if there are any, only these groups are searched
+    groups     exact names of groups; if there are any, only these groups are searched
     """
     if limit < 0:
         raise ValueError("limit is negative")
@@ -256,8 +257,8 @@ def _result(handle: Any, index: int) -> Result:
 
 
 def parse_codes(text: str) -> List[Union[int, str]]:
-    """Reads a text that consists of codes only ("U+2192, &rarr;") and returns each as the number of a code point or as
-    an HTML name. Empty if the text contains anything else."""
+    """Reads a text that consists only of codes ("U+2192, &rarr;"). Returns each code as a number, the code
+    point, or as an HTML name. Empty if the text contains anything else."""
     handle = _library.check(lib.codes_parse(_library.identifier(text)))
     try:
         return [
@@ -280,7 +281,7 @@ def copy_forms() -> List[str]:
 
 
 def nearest(text: str, candidates: Sequence[str], limit: int = 3) -> List[str]:
-    """Returns the candidates that the user may have meant by a mistyped text, the nearest first."""
+    """Returns the candidates that are most similar to a mistyped text, the most similar first."""
     return _library.texts(lib.nearest_texts(_library.identifier(text), *_library.array(candidates), max(limit, 0)))
 
 
@@ -306,7 +307,8 @@ def groups() -> List[str]:
 
 
 def group_count(group: str) -> int:
-    """Returns the number of characters of a group. Letter case does not count. Raises KeyError if there is none."""
+    """Returns the number of characters of a group. Letter case does not count. Raises KeyError if there is no
+    such group."""
     _ensure_configured()
     spelled = _library.terminated(lib.group_named, _library.identifier(group))
     if spelled is None:
@@ -332,8 +334,8 @@ def displayed_groups() -> List[str]:
 
 
 def display(group_names: Iterable[str]) -> None:
-    """Stores the names of the displayed groups and rebuilds displayed(). Raises KeyError for a name that no group
-    has."""
+    """Stores the names of the displayed groups and rebuilds displayed(). Raises KeyError if a group does not
+    exist."""
     names = []
     for group in group_names:
         spelled = _library.terminated(lib.group_named, _library.identifier(group))
@@ -355,14 +357,15 @@ def _codes_of(texts: Iterable[str]) -> List[str]:
 
 
 def add(*texts: str) -> None:
-    """Adds characters to the user's own, in one change. Each text means one character, as in character()."""
+    """Adds characters to those that the user added, in one change. Each text means one character, as in
+    character()."""
     codes = _codes_of(texts)
     _ensure_configured()
     _stored(lib.add_custom_codes(*_library.array(codes)))
 
 
 def remove(*texts: str) -> None:
-    """Removes characters from the user's own, in one change."""
+    """Removes characters from those that the user added, in one change."""
     codes = _codes_of(texts)
     _ensure_configured()
     _stored(lib.remove_custom_codes(*_library.array(codes)))
@@ -374,7 +377,7 @@ def languages() -> List[str]:
 
 
 def set_languages(tags: Optional[Sequence[str]]) -> None:
-    """Replaces the user's languages. None restores those of the environment."""
+    """Replaces the user's languages. None restores the languages of the environment."""
     _library.check(lib.set_languages(*(_library.array(tags) if tags is not None else (None, 0))))
 
 
@@ -382,25 +385,27 @@ def set_languages(tags: Optional[Sequence[str]]) -> None:
 
 
 def copy(text: str, displayed: Optional[str] = None) -> None:
-    """Replaces the content of the clipboard by the text, and posts "entityCopied" with `displayed` or the text. Raises
-    OSError if the clipboard refuses."""
+    """Replaces the content of the clipboard by the text. Posts "entityCopied" with `displayed`, or with the
+    text if that is None. Raises OSError if the clipboard refuses the text."""
     data = _library.utf8(text)
     if not _library.check(lib.copy(data, len(data), _library.identifier(displayed) if displayed is not None else None)):
         raise OSError("the clipboard did not accept the text")
 
 
 def set_application_identifier(identifier: str) -> None:
-    """Sets the reverse-DNS identifier of the application, which names its settings and its index. Call it first."""
+    """Sets the reverse-DNS identifier of the application, which names its settings and its index. Call it
+    before all other functions."""
     if not _library.check(lib.set_application_identifier(_library.identifier(identifier))):
         raise ValueError(identifier)
 
 
 class Observation:
-    """The registration of an observer. It ends with end(), or with the `with` block of the object."""
+    """The registration of an observer. It lasts until end() is called, until a `with` block over it ends, or
+    until it is deleted."""
 
     def __init__(self, handle: Any, callback: Any) -> None:
         self._handle = handle
-        self._callback = callback  # ctypes needs the object as long as the library may call it
+        self._callback = callback  # must live as long as the library may call it
 
     def end(self) -> None:
         """Ends the registration."""
@@ -419,8 +424,8 @@ class Observation:
 
 
 def observe(name: str, callback: Callable[[Optional[str]], None]) -> Observation:
-    """Calls callback(object) for every notification with this name, such as "contentHasChanged" and "entityCopied", as
-    long as the observation lives."""
+    """Calls callback(object) for every notification with this name, such as "contentHasChanged" and
+    "entityCopied", until the observation ends."""
     function = _library.Observer(lambda user, name, text: callback(text.optional()))
     return Observation(
         _library.check(lib.observe(_library.identifier(name), function, None, _library.Destroy(0))), function)
@@ -432,13 +437,14 @@ def post(name: str, object: Optional[str] = None) -> None:
         lib.post(_library.identifier(name), _library.identifier(object) if object is not None else None))
 
 
-# What the library calls. A service that was replaced may still run on another thread, so none is ever dropped.
+# The Python functions that the library calls. They are never dropped, because a replaced function may still
+# run on another thread.
 _kept: List[Any] = []
 
 
 def set_diagnostics(sink: Optional[Callable[[str], None]]) -> None:
-    """Sends the diagnostic lines of the library to a function. None restores standard output and standard error. By
-    default this package drops the lines about changes of the catalog."""
+    """Sends the diagnostic lines of the library to `sink`. None restores standard output and standard error.
+    Until the first call, this package drops the lines."""
     if sink is None:
         function = _library.Diagnostics(0)
     else:
@@ -450,8 +456,8 @@ def set_diagnostics(sink: Optional[Callable[[str], None]]) -> None:
 
 
 def set_pasteboard(receive: Optional[Callable[[str], bool]]) -> None:
-    """Makes copy() call a function with the text. It returns whether it accepted the text. None restores the desktop's
-    clipboard."""
+    """Makes copy() call `receive` with the text. `receive` must return whether it accepted the text. None
+    restores the desktop's clipboard."""
     if receive is None:
         _library.check(lib.set_pasteboard(None, None, _library.Destroy(0)))
         return

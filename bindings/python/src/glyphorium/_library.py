@@ -12,7 +12,7 @@ from typing import Any, Callable, Iterator, Optional, Sequence, Tuple
 
 
 class Text(Structure):
-    """A borrowed text."""
+    """A borrowed text of the library."""
 
     _fields_ = [("data", c_void_p), ("size", c_size_t)]
 
@@ -52,7 +52,7 @@ _text_in = c_char_p
 _list_in = (POINTER(c_char_p), c_size_t)
 _size_out = POINTER(c_size_t)
 
-# The result and the arguments of each function. An owned text is c_void_p, because it must be freed.
+# The result and argument types of each function. An owned text is c_void_p, because it must be freed.
 _functions: "dict[str, Tuple[Any, ...]]" = {
     "last_status": (c_uint32,),
     "version": (c_char_p,),
@@ -156,7 +156,7 @@ def _load() -> ctypes.CDLL:
 
 
 class Library:
-    """The functions of the C interface without their prefix."""
+    """The functions of the C interface, as attributes whose names lack the prefix."""
 
     def __init__(self) -> None:
         library = _load()
@@ -181,14 +181,14 @@ def utf8(text: str) -> bytes:
 
 
 def identifier(text: str) -> bytes:
-    """Encodes a text that may not contain NUL."""
+    """Encodes a text for the library. Raises ValueError if it contains NUL."""
     if "\0" in text:
         raise ValueError("the text contains NUL")
     return utf8(text)
 
 
 def check(result: Any) -> Any:
-    """Raises the exception for the status of the last call if its result is neutral."""
+    """Returns the result. Raises MemoryError or ValueError if the result is neutral for that reason."""
     if not result:
         status = lib.last_status()
         if status == OUT_OF_MEMORY:
