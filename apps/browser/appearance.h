@@ -7,8 +7,8 @@
 
 namespace browser {
 
-/// The colours of the windows. Where the desktop brings its own style for Qt, as KDE does, that style is used
-/// as it is. Elsewhere the windows get a light or dark look of their own, which follows the desktop's
+/// The colours of the windows. If the desktop has its own style for Qt, as KDE does, the windows use that
+/// style unchanged. Otherwise they have the program's own light or dark look, which follows the desktop's
 /// preference.
 class Appearance : public QObject {
   Q_OBJECT

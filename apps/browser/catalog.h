@@ -59,7 +59,7 @@ class Catalog : public QObject {
 
   /// The skin tone of emoji of people and hands in lists of emoji and in search results.
   glyph::SkinTone skinTone() const { return skinTone_; }
-  /// Remembers the tone, and copies the emoji with it.
+  /// Makes `tone` the preferred skin tone, and copies the emoji with it.
   void copyWithTone(const glyph::Entity& emoji, glyph::SkinTone tone);
   void setSkinTone(glyph::SkinTone tone);
   /// Gives the emoji among these characters the tone that the user prefers.

@@ -65,7 +65,7 @@ class ElidedLabel : public QLabel {
   }
 };
 
-// A button with a character on it.
+// A button that shows a character.
 class CharacterButton : public QToolButton {
  public:
   CharacterButton() {

@@ -70,7 +70,7 @@ int GridLayout::moved(int index, int lines) const {
   const int step = lines < 0 ? -1 : 1;
   std::size_t best = place;
   for (int left = std::abs(lines); left > 0;) {
-    place += static_cast<std::size_t>(step);  // wraps at the beginning
+    place += static_cast<std::size_t>(step);  // below 0 it wraps around to a large number
     if (place >= lines_.size()) break;
     if (lines_[place].count == 0) continue;
     best = place;

@@ -30,7 +30,8 @@ class GridLayout {
   void setSections(std::vector<GridSection> sections);
   const std::vector<GridSection>& sections() const { return sections_; }
 
-  /// `cell` is the smallest width and the height of a cell. `ruler` is the space before the first column.
+  /// `cell` is the minimum width of a cell, and its height. `ruler` is the width of the space before the
+  /// first column.
   void setGeometry(int width, int cell, int ruler, int heading);
 
   int count() const { return count_; }

@@ -88,7 +88,7 @@ class MainWindow : public QWidget {
   void restore();
   void save() const;
 
-  // Where the user was before following a link.
+  // The place where the user was before following a link.
   struct Place {
     Scope scope;
     QString words;

@@ -10,8 +10,8 @@ namespace browser {
 class Appearance;
 class Catalog;
 
-/// A dialog for the user's choices about windows, the picker and the desktop's search. Each choice takes
-/// effect at once.
+/// A dialog for the user's choices about windows, the picker and the desktop's search. A choice takes effect
+/// at once.
 class PreferencesDialog : public QDialog {
   Q_OBJECT
 

@@ -12,7 +12,7 @@ struct WindowSettings {
   QByteArray columns;   ///< from QSplitter::saveState(); empty if not known
   QByteArray card;
   bool hasSidebar = true;
-  int cellSize = 0;   ///< 0 means the usual size
+  int cellSize = 0;   ///< 0 means the default size
   std::string scope;  ///< see Scope::text()
 };
 

@@ -17,8 +17,8 @@ using glyph::shownSymbol;
 /// name.
 void printEntities(Output& output, const std::vector<const glyph::Entity*>& entities, const Listing& listing);
 
-/// Prints everything that is known about one character. The list must not be empty. Its entities differ only
-/// in their groups.
+/// Prints all facts about one character. The list must not be empty, and its entities may differ only in
+/// their groups.
 void printCard(Output& output, const std::vector<glyph::Entity>& entitiesOfOneCharacter);
 
 /// Returns the JSON object of an entity: the fields of the record, `name`, the usage note in the user's

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The finder: a list in the terminal that follows what the user types.
+// The finder: a list in the terminal that shows the search results for the text while the user types it.
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/ioctl.h>

@@ -18,7 +18,7 @@ using CardLine = std::pair<std::string, std::string>;
 /// languages, related characters and look-alikes.
 std::vector<CardLine> unicodeLines(const glyph::Entity& entity);
 
-/// Returns the same facts as a JSON object.
+/// Returns the facts of unicodeLines() as a JSON object.
 nlohmann::ordered_json unicodeJson(const glyph::Entity& entity);
 
 }  // namespace cli

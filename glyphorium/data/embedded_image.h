@@ -19,8 +19,7 @@ extern const EmbeddedText embeddedTextList[];
 extern const std::size_t embeddedTextCount;
 
 /// For some code points, the offset in structuredUnicodeJSON() of the line with the code point's first entry.
-/// The lines of code points that are not in the index follow the line of the closest lower code point that
-/// is.
+/// The lines of the other code points follow the line of the nearest lower code point in the index.
 extern const CodePointIndex nameIndex;
 
 /// For each code point that has enrichment, the offset in preparedEnrichment of its row.

@@ -38,8 +38,8 @@ struct Phrase {
   /// `words`.
   std::uint8_t coreWords;
   /// The position of the noun that the other words describe. This is the last word, or the first word in
-  /// languages in which nouns come first. Stop words do not count, nor does anything from the first function
-  /// word on.
+  /// languages in which nouns come first. Stop words do not count, nor do the first function word and the
+  /// words after it.
   std::uint8_t head;
 };
 static_assert(sizeof(Phrase) == 8);

@@ -62,7 +62,7 @@ std::string accented(std::string_view command) {
   return sign + "{" + letter + "}";
 }
 
-// Returns the characters for an Alt code. The table does not have the codes of ASCII, which are the code
+// Returns the characters for an Alt code. The table does not contain the ASCII codes, which equal their code
 // points.
 CodePoints altCode(std::string_view number) {
   const CodePoints found = exactly(notations::altCodes, number);
@@ -73,8 +73,7 @@ CodePoints altCode(std::string_view number) {
 CodePoints latex(std::string_view command) {
   CodePoints found = exactly(notations::latexCommands, command);
   if (!found.empty() || command.size() < 3) return found;
-  // A command of several letters ends before its argument, so only the others can be an accent with its
-  // letter.
+  // A command that begins with two letters is a name. Any other command may be an accent with its letter.
   if (!ascii::isLetter(command[1]) || !ascii::isLetter(command[2])) {
     std::string spelling = accented(command);
     found = exactly(notations::latexCommands, spelling);

@@ -14,8 +14,8 @@
 namespace glyph::search {
 
 // The score of a match is a cost: the smaller, the better. It is the sum of
-// - the loss of each word of the query. A word has a weight, and loses the part of the weight that WordMatch
-//   determines. A word that does not match loses its whole weight;
+// - the loss of each word of the query. A word has a weight. It loses a part of it, depending on how it
+//   matches, or all of it if it does not match;
 // - how well the best matching text of the character and the query cover each other;
 // - the prior of the character, from 0 to 80, which decides between equally good matches: see static_rank.h.
 // See docs/search.md for a description with examples.

@@ -102,7 +102,7 @@ Table readLaterNames(const Path& file, const NameTable& names) {
   return table;
 }
 
-// The inverse of the decompositions, as `composites` has them.
+// Returns the inverse of the decompositions, in the form of the table `composites`.
 Table compositesOf(const Table& decompositions) {
   std::map<char32_t, std::pair<std::string, std::string>> composites;
   for (const auto& [codePoint, line] : decompositions) {
