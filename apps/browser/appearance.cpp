@@ -29,9 +29,9 @@ const QString portalSettings = QStringLiteral("org.freedesktop.portal.Settings")
 const QString appearanceSpace = QStringLiteral("org.freedesktop.appearance");
 const QString colourScheme = QStringLiteral("color-scheme");
 
-// Texts have a contrast of at least 4.5 to 1 to their background, marks and frames at least 3 to 1. These
-// pairs must have it: text and faint on window and base, white on button, highlightedText on accent, link on
-// window.
+// Texts need a contrast ratio of at least 4.5:1 to their background, icons and borders at least 3:1. The
+// texts and their backgrounds are: `text` and `faint` on `window` and `base`, white on `button`,
+// `highlightedText` on `accent`, `link` on `window`.
 struct Colours {
   QColor window, base, text, faint, accent, highlightedText, button, link;
 };

@@ -96,7 +96,7 @@ Exactness exactnessOf(const Wanted& wanted, const Entity& entity, const SearchRe
   return result.field == SearchField::htmlName ? Exactness::part : Exactness::word;
 }
 
-// Returns the exactness for a character that only an index contains.
+// Returns how exactly the query matches a character that is in a host's search index but not in the catalog.
 Exactness exactnessOf(const Wanted& wanted, const Entity& entity) {
   if (wanted.text.empty()) return Exactness::part;
   if (entity.computed.symbol == wanted.text || entity.computed.hex == wanted.lowered) return Exactness::code;

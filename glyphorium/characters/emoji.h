@@ -26,7 +26,7 @@ struct Emoji {
 
 GLYPHORIUM_EXPORT std::size_t emojiCount() noexcept;
 
-/// Returns the emoji at this place. All its texts are empty if the place is too large.
+/// Returns the emoji at this index. If the index is out of range, returns an emoji whose texts are all empty.
 GLYPHORIUM_EXPORT Emoji emojiAt(std::size_t place) noexcept;
 
 /// Returns the place of the emoji that the UTF-8 text consists of. U+FE0F may be missing. Returns nullopt if

@@ -117,8 +117,8 @@ struct Index {
 
   /// If `names` is empty, this function returns the shown name of the entity at a position.
   std::string (*nameOf)(std::uint32_t entity) = nullptr;
-  /// Another index. The weight of a word depends on the texts of both indexes, so that their costs are
-  /// comparable.
+  /// A second index that is searched together with this one. The weight of a word depends on the texts of
+  /// both, so that the costs of their results are comparable.
   const Index* weighedWith = nullptr;
 
   static constexpr std::uint32_t noCodePoint = 0xFFFFFFFF;

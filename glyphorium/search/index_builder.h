@@ -30,11 +30,10 @@ struct Texts {
 /// order of the static rank.
 class IndexBuilder {
  public:
-  /// How the index stores the places of words: see Index::phrases and Index::postings.
-  /// - phrases: for a list of entities of any length.
-  /// - shapes: without `phrases`, which saves memory if most texts are short. There may be at most 65,536
-  ///   docs. The entity of each doc must equal its code point, and the docs must be sorted by prior and then
-  ///   by code point.
+  /// How the index stores the positions of words: see Index::phrases and Index::postings.
+  /// - `phrases` stores each text in Index::phrases. It works for any list of entities.
+  /// - `shapes` does not use Index::phrases, which saves memory if most texts are short. It needs at most
+  ///   65,536 documents, sorted by prior and then by code point, each with its code point as its entity.
   enum class Form { phrases, shapes };
 
   explicit IndexBuilder(Form form);

@@ -143,7 +143,8 @@ class Matcher {
     return (filter_.languages >> phrase.language & 1) != 0 && (!filter_.docs || (*filter_.docs)[phrase.doc]);
   }
 
-  // Which characters are looked at: those that an earlier word matches, or the others.
+  // Which characters a pass over the postings examines: those that an earlier word of the query has matched,
+  // or those that none has matched.
   enum class Docs { begun, others };
 
   bool isBegun(std::uint32_t doc) const { return scratch_.begun[doc / 64] >> doc % 64 & 1; }
@@ -307,7 +308,8 @@ class Matcher {
     const bool whole = text.allWhole && text.words == contentWords_ && coversText(phrase, textMatch(text));
     const bool named = state.nameGain >= state.phraseGain;
     std::uint32_t cost = state.best + (named ? 0 : unnamedCost);
-    // An HTML name whose words are also in the name ("sigma") is a real word and not an abbreviation.
+    // If the words of an HTML name (such as "sigma") are also in the Unicode name, they are real words, not
+    // abbreviations.
     if (named && phrase.kind == PhraseKind::htmlName) cost -= htmlNameCost - htmlNameInNameCost;
     const unsigned wholeName = whole && phrase.kind <= PhraseKind::replacedName ? phrase.words : 0u;
     return {cost + priorCost(index_.docPrior[doc], wholeName), doc, phrase.kind, whole, asTyped};

@@ -117,8 +117,8 @@ void addBareNumber(std::string_view text, ParsedQuery& query) {
   numbers.insert(likely ? numbers.end() : numbers.begin(), *ascii::number(text, 10));
 }
 
-// Removes the codes with a prefix from a text with words, and adds the codes to `query`. Returns the rest of
-// the text. People paste texts such as "U+2192 RIGHTWARDS ARROW" from the output of programs.
+// Moves the codes that begin with "U+" or another prefix from a text with words to `query`, and returns the
+// rest of the text. Users paste such texts from the output of programs: "U+2192 RIGHTWARDS ARROW".
 std::string takeMarkedCodes(std::string_view text, ParsedQuery& query) {
   std::string words;
   for (const std::string_view part : splitAtBlanks(text)) {

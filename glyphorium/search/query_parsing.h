@@ -31,7 +31,8 @@ struct ParsedQuery {
   std::vector<std::uint32_t> characters;
   /// Characters beside Latin words that are neither Latin letters nor on the keyboard.
   std::vector<std::uint32_t> besideWords;
-  /// Signs and letters that are more likely part of a term than meant as characters.
+  /// Signs and letters that are more likely a part of a search word than the character that the user looks
+  /// for.
   std::vector<std::uint32_t> otherCharacters;
 
   /// The text without groups, without codes beside words, and without blanks at both ends. May be an HTML

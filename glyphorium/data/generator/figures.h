@@ -15,7 +15,7 @@ class Figures {
  public:
   explicit Figures(const std::filesystem::path& sources);
 
-  /// Records the value of a figure in the generated texts.
+  /// Records the value of a number that was counted in the generated texts.
   void reached(const std::string& figure, std::size_t value) { reached_[figure] = value; }
 
   /// Throws SourceError if a recorded value differs from the value in the file, if a figure of the file was

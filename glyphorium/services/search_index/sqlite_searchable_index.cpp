@@ -42,7 +42,7 @@ void carryOut(const SearchableIndexRequest& request, IndexStore& store) {
 }
 
 // Limits for the waiting requests that share a transaction. A batch is full when it has this many requests,
-// or at least this many items. The limits are large enough to save most of the commits, and small enough that
+// or at least this many items. The limits are large enough to avoid most commits, and small enough that
 // completions are called regularly.
 constexpr std::size_t batchRequests = 256;
 constexpr std::size_t batchItems = 20'000;

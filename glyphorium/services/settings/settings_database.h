@@ -55,7 +55,7 @@ class SettingsDatabase {
 
   /// The reason why the last step failed.
   const std::string& error() const { return error_; }
-  /// The path of the file in use, after all symbolic links. Empty before the first step.
+  /// The path of the open file, with all symbolic links resolved. Empty until the database is first used.
   const std::filesystem::path& file() const { return file_; }
 
  private:
