@@ -57,8 +57,8 @@ class GLYPHORIUM_EXPORT CatalogSearch {
   /// Returns true if the result of this object is a character that the user added.
   bool isOfUser(const SearchResult& result) const { return result.index < added_.size(); }
 
-  /// Returns true if the result is a character of the catalog that the user did not add. Only entity() has the
-  /// other results: the user added them, or they are in the supplement.
+  /// Returns true if the result is a character of the catalog that the user did not add. Only entity() has
+  /// the other results: the user added them, or they are in the supplement.
   bool isInCatalog(const SearchResult& result) const;
 
   /// Returns the position in Glyphorium::buildInEntities() of a result for which isInCatalog() is true. A
