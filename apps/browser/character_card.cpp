@@ -42,15 +42,6 @@ QLabel* newHeading(const QString& title) {
   return heading;
 }
 
-QToolButton* newIconButton(Symbol symbol, const QString& name) {
-  auto* const button = new QToolButton;
-  button->setIcon(symbolIcon(symbol));
-  button->setAutoRaise(true);
-  button->setToolTip(name);
-  button->setAccessibleName(name);
-  return button;
-}
-
 // A label of one line. If the text is too wide, it ends with an ellipsis.
 class ElidedLabel : public QLabel {
  public:

@@ -9,6 +9,7 @@
 #include <QPalette>
 #include <QPixmap>
 #include <QSvgRenderer>
+#include <QToolButton>
 
 namespace browser {
 namespace {
@@ -85,6 +86,15 @@ class SymbolEngine : public QIconEngine {
 
 QIcon symbolIcon(Symbol symbol) {
   return QIcon(new SymbolEngine(symbol));
+}
+
+QToolButton* newIconButton(Symbol symbol, const QString& name) {
+  auto* const button = new QToolButton;
+  button->setIcon(symbolIcon(symbol));
+  button->setAutoRaise(true);
+  button->setToolTip(name);
+  button->setAccessibleName(name);
+  return button;
 }
 
 void addSearchIcon(QLineEdit& field, const QString& searchName, const QString& clearName) {

@@ -4,6 +4,7 @@
 #include <QIcon>
 
 class QLineEdit;
+class QToolButton;
 
 namespace browser {
 
@@ -27,6 +28,9 @@ enum class Symbol {
 };
 
 QIcon symbolIcon(Symbol symbol);
+
+/// Returns a new flat button with this symbol. The name is its tooltip and its name for assistive technology.
+QToolButton* newIconButton(Symbol symbol, const QString& name);
 
 /// Adds a magnifying glass and a button that clears the text to a search field. The names are for assistive
 /// technology.

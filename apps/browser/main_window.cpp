@@ -38,15 +38,6 @@ namespace {
 // In logical pixels. In a narrower window, the card and the groups are not beside the characters.
 constexpr int narrowWidth = 860;
 
-QToolButton* newButton(Symbol symbol, const QString& name) {
-  auto* const button = new QToolButton;
-  button->setIcon(symbolIcon(symbol));
-  button->setAutoRaise(true);
-  button->setToolTip(name);
-  button->setAccessibleName(name);
-  return button;
-}
-
 }  // namespace
 
 MainWindow::MainWindow(Catalog& catalog, Appearance& appearance)
@@ -85,15 +76,15 @@ QWidget* MainWindow::makeHeader() {
   auto* const header = new QWidget;
   auto* const row = new QHBoxLayout(header);
   row->setContentsMargins(8, 8, 8, 8);
-  sidebarButton_ = newButton(Symbol::sidebar, tr("Groups (F9)"));
+  sidebarButton_ = newIconButton(Symbol::sidebar, tr("Groups (F9)"));
   searchField_ = new QLineEdit;
   searchField_->setPlaceholderText(tr("Search by name, meaning, code or character"));
   addSearchIcon(*searchField_, tr("Search"), tr("Empty the search field"));
   searchField_->setAccessibleName(tr("Search"));
   searchField_->setMinimumHeight(searchField_->fontMetrics().height() + 16);
   searchField_->installEventFilter(this);
-  auto* const add = newButton(Symbol::add, tr("Add a character (Ctrl+N)"));
-  auto* const menuButton = newButton(Symbol::menu, tr("Menu (F10)"));
+  auto* const add = newIconButton(Symbol::add, tr("Add a character (Ctrl+N)"));
+  auto* const menuButton = newIconButton(Symbol::menu, tr("Menu (F10)"));
   menuButton->setPopupMode(QToolButton::InstantPopup);
   menu_ = new QMenu(this);
   menuButton->setMenu(menu_);
