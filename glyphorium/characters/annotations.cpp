@@ -22,7 +22,7 @@ void append(std::vector<std::string>& list, std::string_view texts) {
 // Returns what the skin tone in the text appends to the name of an emoji in the language: ": dark skin tone".
 std::string nameOfTone(std::string_view text, std::string_view language) {
   for (const char32_t point : codePoints(text)) {
-    if (point < 0x1F3FB || point > 0x1F3FF) continue;
+    if (!isSkinToneModifier(point)) continue;
     const std::string sample = utf8(toneSample);
     const std::string name = annotationOf(sample, language).name;
     const std::string toned = annotationOf(sample + utf8(point), language).name;

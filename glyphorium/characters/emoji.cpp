@@ -52,10 +52,6 @@ std::string_view lineAt(std::size_t place) noexcept {
                                    : std::string_view();
 }
 
-bool isSkinTone(char32_t codePoint) {
-  return codePoint >= 0x1F3FB && codePoint <= 0x1F3FF;
-}
-
 }  // namespace
 
 std::size_t emojiCount() noexcept {
@@ -95,11 +91,12 @@ std::string withSkinTone(std::string_view text, SkinTone tone) {
   if (variants.empty()) return std::string(text);
   if (tone == SkinTone::none) return std::string(emojiAt(emojiBase(*place)).text);
   const char32_t wanted =
-      U'\U0001F3FB' + static_cast<char32_t>(tone) - static_cast<char32_t>(SkinTone::light);
+      lightestModifier + static_cast<char32_t>(tone) - static_cast<char32_t>(SkinTone::light);
   for (const std::size_t variant : variants) {
     const std::u32string points = codePoints(emojiAt(variant).text);
-    const bool isWanted = std::all_of(points.begin(), points.end(),
-                                      [&](char32_t point) { return !isSkinTone(point) || point == wanted; });
+    const bool isWanted = std::all_of(points.begin(), points.end(), [&](char32_t point) {
+      return !isSkinToneModifier(point) || point == wanted;
+    });
     if (isWanted) return std::string(emojiAt(variant).text);
   }
   return std::string(text);

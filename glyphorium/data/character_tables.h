@@ -57,6 +57,13 @@ extern const CodePointTexts emojiOrder;
 /// tone begins with its name without one.
 inline constexpr char32_t toneSample = 0x1F44B;
 
+/// The first and the last of the code points that give the emoji before them a skin tone.
+inline constexpr char32_t lightestModifier = 0x1F3FB;
+inline constexpr char32_t darkestModifier = 0x1F3FF;
+constexpr bool isSkinToneModifier(char32_t codePoint) {
+  return codePoint >= lightestModifier && codePoint <= darkestModifier;
+}
+
 /// Names and keywords of CLDR in a language.
 struct CharacterAnnotations {
   std::string_view language;  ///< BCP 47

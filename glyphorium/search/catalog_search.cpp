@@ -107,7 +107,7 @@ SearchResults CatalogSearch::query(std::string_view text, const SearchOptions& o
 // Gives emoji the preferred skin tone, except an emoji that the query itself contains.
 void CatalogSearch::useTone(SearchResults& found) const {
   for (SearchResult& result : found.results) {
-    if (result.field == SearchField::character || result.field == SearchField::code) continue;
+    if (search::isInQuery(result)) continue;
     const std::string text = search::textAt(result.index);
     const std::string toned = search::skinTonesOf(text).empty() ? withSkinTone(text, tone_) : text;
     if (toned == text) continue;

@@ -14,9 +14,6 @@
 namespace glyph::search {
 namespace {
 
-constexpr char32_t lightestModifier = 0x1F3FB;
-constexpr char32_t darkestModifier = 0x1F3FF;
-
 SkinTone toneOf(char32_t modifier) {
   return static_cast<SkinTone>(static_cast<char32_t>(SkinTone::light) + (modifier - lightestModifier));
 }
@@ -77,9 +74,15 @@ std::vector<SkinTone> takeSkinTones(std::vector<std::string>& words) {
 std::vector<SkinTone> skinTonesOf(std::string_view emoji) {
   std::vector<SkinTone> tones;
   for (const char32_t point : codePoints(emoji)) {
-    if (point >= lightestModifier && point <= darkestModifier) tones.push_back(toneOf(point));
+    if (isSkinToneModifier(point)) tones.push_back(toneOf(point));
   }
   return tones;
+}
+
+std::vector<std::string> wordsWithoutSkinTones(std::string_view name) {
+  std::vector<std::string> words = listOfWords(name);
+  takeSkinTones(words);
+  return words;
 }
 
 }  // namespace glyph::search

@@ -13,6 +13,9 @@ namespace glyph::search {
 /// "medium light skin tone", "dunkle hautfarbe". Returns the tones in the order of the query.
 std::vector<SkinTone> takeSkinTones(std::vector<std::string>& words);
 
+/// Returns the folded words of the name of an emoji, without those that name a skin tone.
+std::vector<std::string> wordsWithoutSkinTones(std::string_view name);
+
 /// Returns the skin tones in the text of an emoji, in the order of the text. Empty if there are none.
 std::vector<SkinTone> skinTonesOf(std::string_view emoji);
 

@@ -32,7 +32,12 @@
 namespace glyph::search {
 namespace {
 
-enum class DocKind { emoji, character, han };
+enum class DocKind {
+  emoji,
+  variants,  // of an emoji of the catalog: only their names
+  character,
+  han
+};
 
 struct Doc {
   unsigned prior;
@@ -70,6 +75,31 @@ unsigned hanPriorOf(std::string_view line) {
   return hanPrior + missing;
 }
 
+// Returns the names of an emoji's variants in a language, without the names of skin tones, as far as they
+// differ from the name of the emoji and from each other: "kiss: person, person".
+std::vector<std::string> variantNames(std::size_t place, std::string_view language) {
+  std::vector<std::string> names{wordsOf(annotationOf(emojiAt(place).text, language).name)};
+  for (const std::size_t variant : emojiVariants(place)) {
+    std::string name = joined(wordsWithoutSkinTones(annotationOf(emojiAt(variant).text, language).name), " ");
+    if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(std::move(name));
+  }
+  names.erase(names.begin());
+  return names;
+}
+
+bool hasVariantNames(std::size_t place) {
+  return std::any_of(searchLanguages.begin(), searchLanguages.end(), [&](const SearchLanguage& language) {
+    return !variantNames(place, language.code).empty();
+  });
+}
+
+void addVariantNames(IndexBuilder& builder, std::size_t place) {
+  for (const SearchLanguage& language : searchLanguages) {
+    for (const std::string& name : variantNames(place, language.code))
+      builder.addText(PhraseKind::textToSpeechName, language.code, name);
+  }
+}
+
 std::vector<Doc> docsOfSupplement() {
   std::unordered_set<char32_t> known;
   for (std::size_t place = 0; place < preparedRowCount(); ++place) known.insert(preparedRow(place).codePoint);
@@ -77,10 +107,10 @@ std::vector<Doc> docsOfSupplement() {
   for (std::size_t place = 0; place < emojiCount(); ++place) {
     if (emojiBase(place) != place) continue;
     const char32_t key = *characterKey(emojiAt(place).text);
-    // An emoji of the catalog gets a doc here only if it has variants: see addVariantNames().
-    if (!known.contains(key) || !emojiVariants(place).empty())
+    if (known.insert(key).second)
       docs.push_back({emojiPrior, key, DocKind::emoji});
-    known.insert(key);
+    else if (hasVariantNames(place))
+      docs.push_back({emojiPrior, key, DocKind::variants});
   }
   for (const std::string& text : supplementTexts()) {
     const std::u32string points = codePoints(text);
@@ -98,36 +128,6 @@ std::vector<Doc> docsOfSupplement() {
   std::sort(docs.begin(), docs.end(),
             [](const Doc& a, const Doc& b) { return std::pair(a.prior, a.key) < std::pair(b.prior, b.key); });
   return docs;
-}
-
-// Adds the names of an emoji's variants, without the names of skin tones, if they differ from the name of the
-// emoji: "kiss: person, person".
-void addVariantNames(IndexBuilder& builder, std::size_t place) {
-  for (const SearchLanguage& language : searchLanguages) {
-    std::set<std::string> names{wordsOf(annotationOf(emojiAt(place).text, language.code).name)};
-    for (const std::size_t variant : emojiVariants(place)) {
-      std::vector<std::string> words;
-      const std::string name = annotationOf(emojiAt(variant).text, language.code).name;
-      for (WordReader reader(name); reader.next();) words.emplace_back(reader.word());
-      takeSkinTones(words);
-      const std::string rest = joined(words, " ");
-      if (names.insert(rest).second) builder.addText(PhraseKind::textToSpeechName, language.code, rest);
-    }
-  }
-}
-
-bool hasVariantNames(std::size_t place) {
-  for (const SearchLanguage& language : searchLanguages) {
-    const std::string own = wordsOf(annotationOf(emojiAt(place).text, language.code).name);
-    for (const std::size_t variant : emojiVariants(place)) {
-      std::vector<std::string> words;
-      const std::string name = annotationOf(emojiAt(variant).text, language.code).name;
-      for (WordReader reader(name); reader.next();) words.emplace_back(reader.word());
-      takeSkinTones(words);
-      if (joined(words, " ") != own) return true;
-    }
-  }
-  return false;
 }
 
 void addAnnotations(IndexBuilder& builder, std::string_view text) {
@@ -201,23 +201,17 @@ void addHan(IndexBuilder& builder, std::string_view line) {
 
 IndexImage buildSupplementIndex() {
   IndexBuilder builder(IndexBuilder::Form::shapes);
-  std::unordered_set<char32_t> catalog;
-  for (std::size_t place = 0; place < preparedRowCount(); ++place)
-    catalog.insert(preparedRow(place).codePoint);
   for (const Doc& doc : docsOfSupplement()) {
     const std::string text = textOfCharacterKey(doc.key);
-    const bool isOfCatalog = catalog.contains(doc.key);
-    if (isOfCatalog && !hasVariantNames(*emojiPlace(text))) continue;
     builder.addDoc(doc.key, doc.key, static_cast<std::uint8_t>(doc.prior));
     if (doc.kind == DocKind::han) {
       addHan(builder, hanReadings.find(doc.key));
       continue;
     }
-    if (doc.kind == DocKind::emoji) {
+    if (doc.kind == DocKind::emoji || doc.kind == DocKind::variants)
       addVariantNames(builder, *emojiPlace(text));
-      if (isOfCatalog) continue;
-      addCountryCode(builder, text);
-    }
+    if (doc.kind == DocKind::variants) continue;
+    if (doc.kind == DocKind::emoji) addCountryCode(builder, text);
     if (doc.key < firstEmojiNumber) addCharacter(builder, doc.key);
     addAnnotations(builder, text);
   }

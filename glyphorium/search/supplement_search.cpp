@@ -75,9 +75,7 @@ void putNamedEmojiFirst(SearchResults& found, const std::string& words) {
   const auto end =
       found.results.begin() + static_cast<std::ptrdiff_t>(std::min(found.results.size(), mostExact));
   const auto placeOfEmoji = [](const SearchResult& result) {
-    return result.exact && result.field != SearchField::character && result.field != SearchField::code
-               ? emojiPlace(textAt(result.index))
-               : std::nullopt;
+    return result.exact && !isInQuery(result) ? emojiPlace(textAt(result.index)) : std::nullopt;
   };
   for (auto result = found.results.begin(); result != end; ++result) {
     const auto place = placeOfEmoji(*result);
@@ -115,11 +113,7 @@ std::string_view variantWith(std::size_t place, const std::vector<SkinTone>& ton
     if (own != tones) continue;
     if (first.empty()) first = text;
     for (const SearchLanguage& language : searchLanguages) {
-      std::vector<std::string> name;
-      const std::string annotated = annotationOf(text, language.code).name;
-      for (WordReader reader(annotated); reader.next();) name.emplace_back(reader.word());
-      takeSkinTones(name);
-      if (name == words) return text;
+      if (wordsWithoutSkinTones(annotationOf(text, language.code).name) == words) return text;
     }
   }
   return first;
@@ -206,9 +200,6 @@ SearchResults queryEverything(std::string_view text, const SearchOptions& option
     if (!found.results.empty()) return found;
   }
   SearchResults found = answerFromBoth(*parsed, options);
-  const auto isNamed = [](const SearchResult& one) {
-    return one.field == SearchField::character || one.field == SearchField::code;
-  };
   std::vector<SearchResult> others = withoutIndex(*parsed, !found.results.empty() && !found.approximate);
   if (!others.empty() && found.approximate) found = {};
   // If the query is an emoji of several code points, it comes before the characters that it consists of.
@@ -219,8 +210,8 @@ SearchResults queryEverything(std::string_view text, const SearchOptions& option
     std::erase_if(found.results, [&](const SearchResult& one) { return one.index == place; });
     others.insert(others.begin(), {place, SearchField::character, {}, 0, true});
   }
-  const auto at =
-      isEmoji ? found.results.begin() : std::find_if_not(found.results.begin(), found.results.end(), isNamed);
+  const auto at = isEmoji ? found.results.begin()
+                          : std::find_if_not(found.results.begin(), found.results.end(), isInQuery);
   found.results.insert(at, others.begin(), others.end());
   found.total += others.size();
   if (found.results.size() > options.limit) found.results.resize(options.limit);

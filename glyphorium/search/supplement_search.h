@@ -16,6 +16,11 @@ namespace glyph::search {
 /// emoji. `text` must not contain "group:", and `options` must have no groups.
 SearchResults queryEverything(std::string_view text, const SearchOptions& options);
 
+/// Returns true if the query itself contains the character or its code.
+inline bool isInQuery(const SearchResult& result) {
+  return result.field == SearchField::character || result.field == SearchField::code;
+}
+
 /// Returns the place of a character or an emoji. Returns nullopt if the text is neither.
 std::optional<std::size_t> placeOf(std::string_view text);
 

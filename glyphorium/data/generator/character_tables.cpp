@@ -163,9 +163,8 @@ class EmojiNumbers {
     for (std::size_t i = 0; i < lines.size(); ++i) {
       std::u32string points = codePointsOf(lines[i], lines[i].columns[0]);
       const std::string emoji = utf8Of(points);
-      const bool isVariant = points.size() > 1 &&
-                             std::any_of(points.begin(), points.end(),
-                                         [](char32_t point) { return point >= 0x1F3FB && point <= 0x1F3FF; });
+      const bool isVariant =
+          points.size() > 1 && std::any_of(points.begin(), points.end(), isSkinToneModifier);
       std::erase(points, char32_t{0xFE0F});
       const char32_t own = numbers_.at(points);
       // In Unicode's lists, the variants with skin tones follow their base, which has no skin tone.
@@ -198,7 +197,7 @@ class EmojiNumbers {
   std::optional<std::pair<char32_t, char32_t>> baseAndTone(char32_t key, const std::u32string& points) const {
     char32_t tone = 0;
     for (const char32_t point : points) {
-      if (point < 0x1F3FB || point > 0x1F3FF) continue;
+      if (!isSkinToneModifier(point)) continue;
       if (tone != 0 && tone != point) return std::nullopt;
       tone = point;
     }
