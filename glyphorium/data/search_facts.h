@@ -13,7 +13,6 @@
 namespace glyph {
 
 enum class SearchFactKind : std::uint8_t {
-  alias,         ///< formal aliases and abbreviations in Unicode's NameAliases file
   htmlName,      ///< all names of the HTML Standard's references, without "&" and ";"
   everydayName,  ///< names that people use for the character
   /// One text: the character's position in the list of most wanted characters, as a decimal number, counted

@@ -4,12 +4,14 @@
 #include <string>
 #include <string_view>
 
+#include "glyphorium/characters/annotations.h"
 #include "glyphorium/data/character_tables.h"
 #include "glyphorium/data/search_facts.h"
 #include "glyphorium/search/index_builder.h"
 #include "glyphorium/search/letter_description.h"
 #include "glyphorium/search/static_rank.h"
 #include "glyphorium/search/text_parts.h"
+#include "glyphorium/text/unicode_text.h"
 
 namespace glyph::search {
 namespace {
@@ -24,19 +26,6 @@ void addEnrichment(IndexBuilder& builder, const Entity& entity) {
   }
   for (const AdditionalDataAdvice& advice : data.advice)
     builder.addText(PhraseKind::note, advice.lang, advice.text);
-}
-
-PhraseKind phraseKind(SearchFactKind kind) {
-  switch (kind) {
-    case SearchFactKind::alias:
-      return PhraseKind::alias;
-    case SearchFactKind::htmlName:
-      return PhraseKind::htmlName;
-    case SearchFactKind::everydayName:
-    case SearchFactKind::mostWanted:
-      break;
-  }
-  return PhraseKind::everydayName;
 }
 
 }  // namespace
@@ -58,24 +47,31 @@ void addRemarks(IndexBuilder& builder, std::uint32_t codePoint) {
   }
 }
 
-void addSearchFacts(IndexBuilder& builder, std::uint32_t codePoint) {
-  addRemarks(builder, codePoint);
+void addOtherNames(IndexBuilder& builder, std::uint32_t codePoint) {
+  const std::string_view aliases = nameAliases.find(codePoint).value_or("");
+  for (std::size_t i = 1; !column(aliases, i).empty(); i += 2)
+    builder.addText(PhraseKind::alias, "", column(aliases, i));
   for (std::size_t list = 0; list < searchFactCount; ++list) {
     const SearchFacts& facts = searchFactList[list];
     if (facts.kind == SearchFactKind::mostWanted) continue;
     std::string_view texts = facts.textsOf(codePoint);
     while (!texts.empty()) {
       const std::string_view text = takePart(texts, '\n');
-      if (facts.kind == SearchFactKind::htmlName) builder.addHtmlName(text);
-      if (!text.empty()) builder.addText(phraseKind(facts.kind), facts.language, text);
+      const bool isHtmlName = facts.kind == SearchFactKind::htmlName;
+      if (isHtmlName) builder.addHtmlName(text);
+      if (text.empty()) continue;
+      builder.addText(isHtmlName ? PhraseKind::htmlName : PhraseKind::everydayName, facts.language, text);
     }
   }
-  for (const CharacterAnnotations& annotations : characterAnnotations) {
-    const std::string line = annotations.texts.find(codePoint);
-    if (const std::string_view name = column(line, 0); !name.empty())
-      builder.addText(PhraseKind::textToSpeechName, annotations.language, name);
-    for (std::string_view keywords = column(line, 1); !keywords.empty();)
-      builder.addText(PhraseKind::keyword, annotations.language, takePart(keywords, '\n'));
+}
+
+void addAnnotations(IndexBuilder& builder, std::string_view text) {
+  for (const SearchLanguage& language : searchLanguages) {
+    const CharacterAnnotation annotation = annotationOf(text, language.code);
+    if (!annotation.name.empty())
+      builder.addText(PhraseKind::textToSpeechName, language.code, annotation.name);
+    for (const std::string& keyword : annotation.keywords)
+      builder.addText(PhraseKind::keyword, language.code, keyword);
   }
 }
 
@@ -90,7 +86,10 @@ IndexImage buildIndex(std::span<const Entity> entities, ShownNames shownNames) {
     if (shownNames == ShownNames::stored) builder.addShownName(name);
     addName(builder, name);
     if (entity.additional) addEnrichment(builder, entity);
-    if (doc.codePoint != Index::noCodePoint) addSearchFacts(builder, doc.codePoint);
+    if (doc.codePoint == Index::noCodePoint) continue;
+    addRemarks(builder, doc.codePoint);
+    addOtherNames(builder, doc.codePoint);
+    addAnnotations(builder, utf8(doc.codePoint));
   }
   for (const GroupMembers& members : ranked.groups) {
     std::vector<std::uint32_t> docs;

@@ -24,8 +24,10 @@ void addName(IndexBuilder& builder, std::string_view name);
 /// Adds the informal aliases and the comments that the code charts have for the code point.
 void addRemarks(IndexBuilder& builder, std::uint32_t codePoint);
 
-/// Calls addRemarks(), and adds the texts that the search data has for the code point: aliases, annotations,
-/// everyday names.
-void addSearchFacts(IndexBuilder& builder, std::uint32_t codePoint);
+/// Adds the formal aliases, HTML names and everyday names of the code point.
+void addOtherNames(IndexBuilder& builder, std::uint32_t codePoint);
+
+/// Adds the text-to-speech names and the keywords of a character or an emoji in all languages.
+void addAnnotations(IndexBuilder& builder, std::string_view text);
 
 }  // namespace glyph::search

@@ -47,7 +47,7 @@ struct Doc {
 
 // The priors of the supplement. In the catalog, signs have a prior of at most 30, and private-use characters
 // have privateUsePrior or more.
-constexpr unsigned emojiPrior = 22;
+constexpr unsigned emojiPrior = 17;
 constexpr unsigned signPrior = 25;
 constexpr unsigned letterPrior = 30;
 constexpr unsigned scriptPrior = behindPrivateUsePrior;
@@ -130,16 +130,6 @@ std::vector<Doc> docsOfSupplement() {
   return docs;
 }
 
-void addAnnotations(IndexBuilder& builder, std::string_view text) {
-  for (const SearchLanguage& language : searchLanguages) {
-    const CharacterAnnotation annotation = annotationOf(text, language.code);
-    if (!annotation.name.empty())
-      builder.addText(PhraseKind::textToSpeechName, language.code, annotation.name);
-    for (const std::string& keyword : annotation.keywords)
-      builder.addText(PhraseKind::keyword, language.code, keyword);
-  }
-}
-
 // Adds the code of the country, which the regional indicators of a flag spell. People search for flags by
 // this code.
 void addCountryCode(IndexBuilder& builder, std::string_view text) {
@@ -153,10 +143,8 @@ void addCountryCode(IndexBuilder& builder, std::string_view text) {
 
 void addCharacter(IndexBuilder& builder, char32_t codePoint) {
   addName(builder, capitalizedName(characterName(codePoint)));
-  const std::string_view aliases = nameAliases.find(codePoint).value_or("");
-  for (std::size_t i = 1; !column(aliases, i).empty(); i += 2)
-    builder.addText(PhraseKind::alias, "", column(aliases, i));
   addRemarks(builder, codePoint);
+  addOtherNames(builder, codePoint);
 }
 
 // Returns the definition without its parts in parentheses, which are about other characters.

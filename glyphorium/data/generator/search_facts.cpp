@@ -51,22 +51,6 @@ Facts readFacts(const std::filesystem::path& file, const NameTable& names, bool 
   return facts;
 }
 
-Facts readAliases(const std::filesystem::path& file, const NameTable& names) {
-  Facts facts;
-  char32_t previous = 0;
-  for (const SourceLine& line : readTable(file, 3, 3)) {
-    const char32_t codePoint = orderedCodePoint(line, names, previous);
-    const std::string& type = line.columns[1];
-    if (type != "correction" && type != "control" && type != "alternate" && type != "figment" &&
-        type != "abbreviation") {
-      line.fail("'" + type + "' is not a type of alias");
-    }
-    requireDistinctTexts(line, 2, false);
-    facts[codePoint].push_back(line.columns[2]);
-  }
-  return facts;
-}
-
 Facts readHtmlNames(const std::filesystem::path& file) {
   Facts facts;
   for (const SourceLine& line : readTable(file, 3, 3)) {
@@ -138,9 +122,6 @@ void addSearchFacts(const std::filesystem::path& sources, const std::vector<Lang
   const std::filesystem::path folder = sources / "search";
   // Only the numbers of texts in imported lists are checked, so that no text gets lost. This project's own
   // lists grow.
-  const Facts aliases = readAliases(folder / "name-aliases.tsv", names);
-  image.addSearchFacts("alias", "", aliases);
-  figures.reached("name aliases", count(aliases));
   const Facts htmlNames = readHtmlNames(sources / "enrichment" / "html-references.tsv");
   image.addSearchFacts("htmlName", "", htmlNames);
   figures.reached("html names", count(htmlNames));
