@@ -13,6 +13,7 @@ extern const std::string_view latexCommands;     ///< with the backslash: "\alph
 extern const std::string_view shortcodes;        ///< without colons: "tada"
 extern const std::string_view composeSequences;  ///< the keys after the Compose key, without blanks: "<3"
 extern const std::string_view digraphs;          ///< two characters, as in RFC 1345 and in editors: "a:"
+extern const std::string_view drawings;          ///< signs of a keyboard, without blanks: "|->", ":-)"
 extern const std::string_view altCodes;          ///< decimal numbers; a leading zero means code page 1252
 
 }  // namespace glyph::notations

@@ -154,6 +154,7 @@ NotationsFound readNotation(std::string_view text) {
   } else if (text.size() == 2 && !(ascii::isAlphanumeric(text[0]) && ascii::isAlphanumeric(text[1]))) {
     found.guessed = exactly(notations::digraphs, text);
   }
+  found.drawn = exactly(notations::drawings, withoutBlanks(text));
   return found;
 }
 

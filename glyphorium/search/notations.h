@@ -11,6 +11,7 @@ namespace glyph::search {
 struct NotationsFound {
   std::vector<std::uint32_t> certain;  ///< the text is a whole notation in an unmistakable form
   std::vector<std::uint32_t> begun;    ///< the text is a prefix of their notations
+  std::vector<std::uint32_t> drawn;    ///< the text draws them with the signs of a keyboard
   std::vector<std::uint32_t> guessed;  ///< the text may also mean something else
 };
 
@@ -19,6 +20,7 @@ struct NotationsFound {
 /// - a shortcode between colons: ":tada:"; the last colon may be missing;
 /// - a Windows Alt code: "alt 0176", "alt+3";
 /// - a sequence of keys after the Compose key: "Compose < 3", "compose o c";
+/// - a drawing with the signs of a keyboard: "|->", "[x]", ":-)";
 /// - a digraph of editors: "^K a:", "Ctrl-K a:", "digraph a:". Without such a word, it is only a guess.
 NotationsFound readNotation(std::string_view text);
 

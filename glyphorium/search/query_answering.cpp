@@ -92,6 +92,8 @@ class Answering {
         add(index_.docOfHtmlName(item.htmlName), place++, SearchField::htmlName, true);
     }
     const bool isCode = !hits_.empty();
+    for (const std::uint32_t codePoint : query_.notations.drawn)
+      add(index_.docOfCodePoint(codePoint), place++, SearchField::notation, true);
     for (const std::uint32_t codePoint : query_.notations.begun) {
       const std::uint32_t doc = index_.docOfCodePoint(codePoint);
       if (doc == Index::noDoc) continue;

@@ -79,11 +79,11 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"\u200D", {"200d"}, SearchField::character},
       {"жук", {"0436", "0443", "043a"}, SearchField::character},
       // ASCII signs that people type in place of a character; the signs themselves come after this character
-      {"->", {"2192", "002d", "003e"}, SearchField::searchTerm},
-      {"(C)", {"00a9"}, SearchField::searchTerm},
-      {"1/2", {"00bd"}, SearchField::searchTerm},
-      {"!=", {"2260", "0021", "003d"}, SearchField::searchTerm},
-      {"...", {"2026"}, SearchField::searchTerm},
+      {"->", {"2192", "002d", "003e"}, SearchField::notation},
+      {"(C)", {"00a9"}, SearchField::notation},
+      {"1/2", {"00bd"}, SearchField::notation},
+      {"!=", {"2260", "0021", "003d"}, SearchField::notation},
+      {"...", {"2026"}, SearchField::notation},
       // notations for characters in other programs, such as LaTeX and Alt codes
       {"\\neq", {"2260"}, SearchField::notation},
       {"\\cdot", {"22c5", "00b7"}, SearchField::notation},  // more sources have the first
@@ -98,6 +98,8 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {":tada:", {"1f389"}, SearchField::notation},
       {":+1:", {"1f44d"}, SearchField::notation},
       {":tad", {"1f389"}, SearchField::notation},
+      {":-)", {"1f642"}, SearchField::notation},
+      {"| - >", {"21a6", "007c", "002d"}, SearchField::notation},
       {"alt 0176", {"00b0"}, SearchField::notation},
       {"Alt+3", {"2665"}, SearchField::notation},
       {"alt-228", {"03a3", "00f5"}, SearchField::notation},  // differs between two code pages

@@ -40,14 +40,16 @@ Notations readLatex(const std::filesystem::path& file) {
   return notations;
 }
 
-// Reads the lines that stand for a single code point.
+// Reads the lines that stand for a single code point. If several lines have the same notation, the first one
+// is the likeliest.
 Notations readPairs(const std::filesystem::path& file, std::size_t columns, bool withoutBlanks) {
   Notations notations;
   for (const SourceLine& line : readTable(file, columns, columns)) {
     if (line.columns[0].find(',') != std::string::npos) continue;
     std::string text = line.columns[1];
     if (withoutBlanks) std::erase(text, ' ');
-    notations[text].emplace_back(0, line.codePoint(0, false));
+    auto& codePoints = notations[text];
+    codePoints.emplace_back(codePoints.size(), line.codePoint(0, false));
   }
   return notations;
 }
@@ -88,6 +90,7 @@ void addNotations(const std::filesystem::path& sources, EmbeddedImage& image) {
   image.addNotations("shortcodes", linesOf(readPairs(folder / "emoji-shortcodes.tsv", 3, false)));
   image.addNotations("composeSequences", linesOf(readPairs(folder / "compose-sequences.tsv", 2, true)));
   image.addNotations("digraphs", linesOf(readPairs(folder / "digraphs.tsv", 2, false)));
+  image.addNotations("drawings", linesOf(readPairs(folder / "drawings.tsv", 2, true)));
   image.addNotations("altCodes", linesOf(readAltCodes(folder / "alt-codes.tsv")));
 }
 
