@@ -52,8 +52,9 @@ void addDictionaryWords(const Index& index, QueryWord& word, const Languages& la
 
 std::size_t postingCount(const Index& index, const QueryWord& word) {
   std::size_t count = 0;
-  for (const Alternative& alternative : word.alternatives)
-    count += index.postingsOf(alternative.words).size();
+  for (const Alternative& alternative : word.alternatives) {
+    if (!isLetterOfWord(word, alternative)) count += index.postingsOf(alternative.words).size();
+  }
   return count;
 }
 

@@ -19,7 +19,8 @@ constexpr std::uint32_t noText = 0xFFFFFFFF;
 // If a word has more than this number of postings per character, a binary search for each character costs
 // less than reading all postings.
 constexpr std::size_t postingsPerSearch = 16;
-constexpr std::size_t shortestGroupWord = 3;  // in bytes; groups are not found by shorter words
+constexpr std::size_t mostDocsForLetter = 3000;  // in which a letter is looked up as a prefix
+constexpr std::size_t shortestGroupWord = 3;     // in bytes; groups are not found by shorter words
 
 // How a text matches the words of the query that were looked up so far.
 struct PhraseState {
@@ -33,6 +34,7 @@ struct PhraseState {
   std::uint8_t aligned = 0;
   std::int8_t shift = 0;  // of the first matched word: position in the text minus position in the query
   std::uint8_t variants = 0;
+  std::uint8_t prefixes = 0;
   bool isLastAligned = false;
   bool head = false;
   bool allWhole = true;  // no matched word is incomplete or mistyped
@@ -51,6 +53,7 @@ struct DocState {
   std::uint32_t phraseGain = 0;
   std::uint32_t nameGain = 0;
   std::uint32_t phrases = noText;  // the position in Scratch::phrases of the first text
+  std::uint32_t letters = 0;       // bit i: word i is a letter that matches only as a prefix
 };
 
 // Working memory that is reused for the next query. Each query has a number, its epoch. A DocState with
@@ -83,7 +86,12 @@ struct Scratch {
 class Matcher {
  public:
   Matcher(const Index& index, std::vector<QueryWord>& words, const MatchFilter& filter, Scratch& scratch)
-      : index_(index), words_(words), filter_(filter), scratch_(scratch), epoch_(scratch.epoch) {}
+      : index_(index),
+        words_(words),
+        filter_(filter),
+        scratch_(scratch),
+        epoch_(scratch.epoch),
+        isShort_(words.size() == 1 && words[0].text.size() <= shortQuery) {}
 
   Matches match() {
     weigh();
@@ -107,6 +115,7 @@ class Matcher {
       if (!word.isStopWord && passed <= most) matchWord(word, place, Docs::others);
       if (count > 0) passed += word.weight;
     }
+    for (std::uint8_t place = 0; place < words_.size(); ++place) matchLetterOfWord(words_[place], place);
     for (std::uint32_t number = 0; number < scratch_.phrases.size(); ++number) offer(number);
     return result();
   }
@@ -154,6 +163,7 @@ class Matcher {
     const std::size_t begunDocs = scratch_.touchedDocs.size();
     for (const Alternative& alternative : word.alternatives) {
       if (word.isStopWord && alternative.match != WordMatch::whole) continue;
+      if (isLetterOfWord(word, alternative)) continue;
       const std::span<const std::uint32_t> postings = index_.postingsOf(alternative.words);
       const bool isOneWord = alternative.words.last - alternative.words.first == 1;
       if (docs == Docs::begun && isOneWord && begunDocs * postingsPerSearch < postings.size()) {
@@ -176,6 +186,21 @@ class Matcher {
     for (std::size_t i = begunDocs; i < scratch_.touchedDocs.size(); ++i) {
       const std::uint32_t doc = scratch_.touchedDocs[i];
       scratch_.begun[doc / 64] |= std::uint64_t{1} << doc % 64;
+    }
+  }
+
+  // Looks up a letter as a prefix in the characters that match other words, but not the letter itself.
+  void matchLetterOfWord(const QueryWord& word, std::uint8_t place) {
+    if (scratch_.touchedDocs.size() > mostDocsForLetter) return;
+    for (const Alternative& alternative : word.alternatives) {
+      if (!isLetterOfWord(word, alternative)) continue;
+      for (const std::uint32_t posting : index_.postingsOf(alternative.words)) {
+        const std::uint32_t doc = index_.docOfPosting(posting);
+        if (!isBegun(doc)) continue;
+        DocState& state = scratch_.docs[doc];
+        if ((state.matched >> place & 1) == 0) state.letters |= 1u << place;
+        if ((state.letters >> place & 1) != 0) notePosting(word, place, alternative.match, posting);
+      }
     }
   }
 
@@ -243,6 +268,7 @@ class Matcher {
       state.isLastAligned = isAligned;
       state.allWhole = state.allWhole && match <= WordMatch::variant;
       if (match == WordMatch::variant) ++state.variants;
+      if (match == WordMatch::prefix) ++state.prefixes;
       ++(word.isStopWord ? state.stopWords : state.words);
     }
     state.head = state.head || position == state.phrase.head;
@@ -266,7 +292,7 @@ class Matcher {
   }
 
   static TextMatch textMatch(const PhraseState& state) {
-    return {state.words, state.stopWords, state.aligned, state.variants, state.head};
+    return {state.words, state.stopWords, state.aligned, state.variants, state.prefixes, state.head};
   }
 
   // `matched` is the number of matched words without stop words.
@@ -300,7 +326,7 @@ class Matcher {
       const bool named = state.nameGain >= state.gain + state.current;
       const std::uint32_t cost = spread + (named ? 0 : unnamedCost);
       const bool inText = words_.size() == 1 && state.phrase != noText;
-      return {cost + priorCost(index_.docPrior[doc], 0), doc,
+      return {cost + priorCost(index_.docPrior[doc], isShort_, 0), doc,
               inText ? scratch_.phrases[state.phrase].phrase.kind : PhraseKind::name, false, asTyped};
     }
     const PhraseState& text = scratch_.phrases[state.phrase];
@@ -311,8 +337,10 @@ class Matcher {
     // If the words of an HTML name (such as "sigma") are also in the Unicode name, they are real words, not
     // abbreviations.
     if (named && phrase.kind == PhraseKind::htmlName) cost -= htmlNameCost - htmlNameInNameCost;
-    const unsigned wholeName = whole && phrase.kind <= PhraseKind::replacedName ? phrase.words : 0u;
-    return {cost + priorCost(index_.docPrior[doc], wholeName), doc, phrase.kind, whole, asTyped};
+    const bool isExactName =
+        whole && phrase.kind <= PhraseKind::replacedName && text.aligned == words_.size();
+    const unsigned wholeName = isExactName ? phrase.words : 0u;
+    return {cost + priorCost(index_.docPrior[doc], isShort_, wholeName), doc, phrase.kind, whole, asTyped};
   }
 
   Matches result() const {
@@ -349,6 +377,7 @@ class Matcher {
   std::uint32_t bestWeight_ = 0;     // the largest weight of the matched words of a character
   std::size_t contentWords_ = 0;
   std::uint32_t contentBits_ = 0;  // bit i: word i is not a stop word
+  const bool isShort_;
 };
 
 }  // namespace

@@ -33,4 +33,10 @@ struct QueryWord {
   std::uint32_t weight = 0;               ///< see score.h
 };
 
+/// Returns true if the word is a single letter that may be the beginning of longer words. So many words begin
+/// with the same letter that it only helps to choose among characters that match the other words.
+inline bool isLetterOfWord(const QueryWord& word, const Alternative& alternative) {
+  return word.text.size() == 1 && alternative.match == WordMatch::prefix;
+}
+
 }  // namespace glyph::search

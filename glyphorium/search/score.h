@@ -69,9 +69,10 @@ inline std::uint32_t lossPercent(PhraseKind kind) {
   return kind == PhraseKind::note ? 75 : kind == PhraseKind::comment ? 20 : 0;
 }
 
-// The cost that a word adds if it matches only as a variant, and the cost that a word adds if it does not
-// match.
+// The cost that a word adds if it matches only as a variant, if it is only the beginning of a word, and if it
+// does not match.
 inline constexpr std::uint32_t variantWordCost = 12;
+inline constexpr std::uint32_t prefixWordCost = 25;
 inline constexpr std::uint32_t missingWordCost = 90;
 
 // Both in percent of the weight of all words without stop words. If the words that the best character lacks
@@ -138,6 +139,7 @@ struct TextMatch {
   unsigned stopWords = 0;  ///< the number of matched stop words
   unsigned aligned = 0;    ///< the number of matched words with the same distance between query and text
   unsigned variants = 0;   ///< the number of words that match only as variants
+  unsigned prefixes = 0;   ///< the number of words that are only the beginning of a word
   bool head = false;       ///< whether the noun of the text matches
 };
 
@@ -154,17 +156,23 @@ inline std::uint32_t textCost(const Phrase& phrase, const TextMatch& match) {
   const std::uint32_t left = phrase.words > matched ? phrase.words - matched : 0;
   std::uint32_t cost = kindCost(phrase.kind) + extraWordCost * std::min(left, mostExtraWords);
   if (match.aligned < matched) cost += left > 0 ? otherOrderInPartCost : otherOrderCost;
-  cost += variantWordCost * match.variants;
+  cost += variantWordCost * match.variants + prefixWordCost * match.prefixes;
   if (coversText(phrase, match)) return cost + (left > 0 ? looselyWholeCost : 0);
   return cost + (match.head ? headCost : partCost);
 }
 
+// A query of a few letters is probably the beginning of a longer word. With this cost, the common signs with
+// such words come before the syllables of rare scripts whose names are these letters.
+inline constexpr std::size_t shortQuery = 3;  // in bytes
+inline constexpr std::uint32_t shortNameOfLetterCost = 40;
+
 /// Returns the cost that the character adds to a match. If the query is the whole name of the character,
 /// `wholeName` is the number of words of the name, otherwise 0.
-inline std::uint32_t priorCost(std::uint8_t prior, unsigned wholeName) {
+inline std::uint32_t priorCost(std::uint8_t prior, bool isShortQuery, unsigned wholeName) {
+  const std::uint32_t cost = prior + (isShortQuery && prior >= letterPrior ? shortNameOfLetterCost : 0);
   const bool isPrivateUse = prior >= privateUsePrior && prior < behindPrivateUsePrior;
-  if (!isPrivateUse || wholeName > 1) return prior;
-  return prior + (wholeName == 1 ? privateUseNameCost : privateUseCost);
+  if (!isPrivateUse || wholeName > 1) return cost;
+  return cost + (wholeName == 1 ? privateUseNameCost : privateUseCost);
 }
 
 }  // namespace glyph::search

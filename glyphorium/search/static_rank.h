@@ -17,6 +17,10 @@ namespace glyph::search {
 /// The highest prior of the characters that people want most.
 inline constexpr std::uint8_t mostWantedPrior = 6;
 
+/// The lowest prior of the letters of scripts, except for the most wanted letters and those of phonetic
+/// alphabets.
+inline constexpr std::uint8_t letterPrior = 18;
+
 /// The lowest prior of private-use characters. All other characters of the catalog have a lower prior.
 inline constexpr std::uint8_t privateUsePrior = 34;
 

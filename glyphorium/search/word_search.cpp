@@ -24,18 +24,12 @@ class WordSearch {
 
   WordsFound find(bool persistently) && {
     Reading typed = read(dictionaryWords(words_, languages_, true), filter_, 0);
-    bool complete = typed.isComplete();
-    if (!complete && words_.size() > 1 && words_.back().size() == 1) {
-      // The letter at the end is the beginning of a word that the user is still typing.
-      Reading begun =
-          read(dictionaryWords({words_.begin(), words_.end() - 1}, languages_, false), filter_, 0);
-      complete = begun.isComplete();
-      if (complete) typed = std::move(begun);
-    }
+    const bool complete = typed.isComplete();
     if (complete) keep(typed);
     if (complete && !isName(typed.matches)) addNamesInOtherLanguages();
-    // With its words split or joined, the query may be a whole text: "thumbsup".
-    if (complete && !typed.matches.best.whole) addWholeRespellings();
+    // With its words split or joined, the query may be a whole text: "thumbsup". But a last letter is the
+    // beginning of a word: "not e" is not "note".
+    if (complete && !typed.matches.best.whole && words_.back().size() > 1) addWholeRespellings();
     if (complete || !persistently) return std::move(found_);
     Reading best = readWidely(std::move(typed));
     const bool found = !best.matches.all.empty() && best.matches.best.whole && best.matches.best.asTyped;
@@ -59,16 +53,17 @@ class WordSearch {
     bool afterJoining = false;  // whether the previous word is a stop word: in "with a", "a" is no letter
     for (const std::string& text : words) {
       const bool isLast = &text == &words.back();
-      QueryWord& word = result.emplace_back(
-          QueryWord{text, {}, saysLittle(languages, text) && (text.size() > 1 || afterJoining), 0});
-      afterJoining = word.isStopWord;
+      const bool isOnly = words.size() == 1;
+      const bool isStopWord = !isOnly && saysLittle(languages, text) && (text.size() > 1 || afterJoining);
+      QueryWord& word = result.emplace_back(QueryWord{text, {}, isStopWord, 0});
+      afterJoining = isStopWord;
       // A single letter is a prefix of a tenth of all words. For the supplement, two letters are too few as
       // well: enough words of the catalog begin with them. A word that is not the last one counts as
       // incomplete only if it is not in the dictionary.
       const bool mayBeBegun = isLast
-                                  ? text.size() > mostTooShort
+                                  ? !isOnly || text.size() > mostTooShort
                                   : text.size() >= shortestInnerPrefix && index_.words.exactly(text).empty();
-      addDictionaryWords(index_, word, languages, prefixes && mayBeBegun && !word.isStopWord);
+      addDictionaryWords(index_, word, languages, prefixes && mayBeBegun && !isStopWord);
     }
     return result;
   }
