@@ -2,6 +2,7 @@
 #include "glyphorium/search/mistyped_words.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include "glyphorium/data/search_facts.h"
@@ -88,12 +89,54 @@ class MistypedWords {
   std::string_view text_;
 };
 
-constexpr std::size_t leastLetters = 4;  // in bytes
+constexpr std::size_t leastLetters = 4;        // in bytes
+constexpr std::size_t leastLettersForTwo = 8;  // shorter words with two mistakes are too unlike
+constexpr std::size_t mostMistakes = 2;
+constexpr std::size_t longestCompared = 32;
+
+// Returns the number of edits (a byte inserted, removed or replaced, or two neighbours swapped) between two
+// texts, or a larger number than mostMistakes if it is larger. Both have at most longestCompared bytes.
+std::size_t mistakes(std::string_view a, std::string_view b) {
+  std::array<std::array<std::size_t, longestCompared + 1>, 3> rows{};  // of the last three bytes of `a`
+  for (std::size_t j = 0; j <= b.size(); ++j) rows[0][j] = j;
+  for (std::size_t i = 1; i <= a.size(); ++i) {
+    auto& row = rows[i % 3];
+    const auto& above = rows[(i + 2) % 3];
+    std::size_t least = row[0] = i;
+    for (std::size_t j = 1; j <= b.size(); ++j) {
+      row[j] = std::min({above[j] + 1, row[j - 1] + 1, above[j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1)});
+      if (i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1])
+        row[j] = std::min(row[j], rows[(i + 1) % 3][j - 2] + 1);
+      least = std::min(least, row[j]);
+    }
+    if (least > mostMistakes) return least;
+  }
+  return rows[a.size() % 3][b.size()];
+}
+
+// Compares the word with those words of the dictionary that begin with the same letter and are about as long.
+// People seldom mistype the first letter.
+void addWordsWithTwoMistakes(const Index& index, QueryWord& word) {
+  const std::string_view text = word.text;
+  const TextRange range = index.words.withPrefix(text.substr(0, 1));
+  for (std::uint32_t place = range.first; place < range.last; ++place) {
+    const std::string_view known = index.words[place];
+    if (known.size() > longestCompared || known.size() + mostMistakes < text.size() ||
+        text.size() + mostMistakes < known.size())
+      continue;
+    if (mistakes(text, known) <= mostMistakes)
+      word.alternatives.push_back({{place, place + 1}, WordMatch::typo});
+  }
+}
 
 }  // namespace
 
 void addMistypedWords(const Index& index, QueryWord& word) {
-  if (word.text.size() >= leastLetters) MistypedWords(index, word).find();
+  const std::size_t size = word.text.size();
+  if (size < leastLetters) return;
+  MistypedWords(index, word).find();
+  if (word.alternatives.empty() && size >= leastLettersForTwo && size <= longestCompared)
+    addWordsWithTwoMistakes(index, word);
 }
 
 }  // namespace glyph::search

@@ -46,5 +46,21 @@ TEST(MistypedWords, AreAllWordsThatDifferByOneEdit) {
   }
 }
 
+// A long word may have two mistakes, but only if no word is closer.
+TEST(MistypedWords, LongWordsMayHaveTwoMistakes) {
+  const Index index = openIndex(catalogIndexImage());
+  const std::pair<const char*, const char*> cases[] = {
+      {"cocholate", "chocolate"}, {"guillemais", "guillemets"}, {"cocholat", ""}, {"circel", "circle"}};
+  for (const auto& [typed, meant] : cases) {
+    QueryWord word{typed, {}, false};
+    addMistypedWords(index, word);
+    std::set<std::string_view> found;
+    for (const Alternative& alternative : word.alternatives) {
+      if (alternative.match == WordMatch::typo) found.insert(index.words[alternative.words.first]);
+    }
+    EXPECT_EQ(found.contains(meant), *meant != '\0') << typed;
+  }
+}
+
 }  // namespace
 }  // namespace glyph::search
