@@ -61,7 +61,7 @@ std::string CodeFormats::getHex(std::int64_t from) const {
 
 std::string CodeFormats::getHtmlHex(std::string_view from) const {
   std::size_t zeros = std::min(from.find_first_not_of('0'), from.size());
-  // The last zero may combine with the next code point: a zero with an accent is a different character.
+  // Keep the last leading zero if a combining mark follows it: the zero and the mark are one character.
   if (zeros > 0 && graphemeClusters(from.substr(zeros - 1)).front() != "0") --zeros;
   return "&#x" + lowercased(from.substr(zeros)) + ";";
 }

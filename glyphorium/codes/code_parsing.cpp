@@ -37,8 +37,7 @@ class CodeReader {
     }
     if (take("0x") || take("0X")) return ended(number(16, 1, 8));
     if (take("uni")) return ended(number(16, 4, 4));  // a glyph name in a font
-    // Without "+", at least four digits are required, as in the usual notation of code points. A shorter form
-    // may be a word.
+    // "U2192" without the "+" needs at least four digits, because a shorter text such as "ube" may be a word.
     if (take("u") || take("U")) return ended(number(16, 4, 8));
     return std::nullopt;
   }

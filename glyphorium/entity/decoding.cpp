@@ -18,7 +18,7 @@ namespace dom = simdjson::dom;
 
 static_assert(textPadding >= simdjson::SIMDJSON_PADDING);
 
-// Describes the error in a row. It is thrown and caught in this file only.
+// The exception for an error in a row. It is thrown and caught in this file only.
 struct RowError {
   std::string message;
 };
@@ -84,7 +84,7 @@ struct Field {
   T Record::*member;
 };
 template <class Record, class T>
-Field(std::string_view, T Record::*) -> Field<Record, T>;  // Clang before version 17 needs this guide
+Field(std::string_view, T Record::*) -> Field<Record, T>;  // Clang before version 17 does not deduce T
 
 template <class Record>
 constexpr auto fieldsOf();

@@ -10,14 +10,15 @@
 namespace glyph {
 namespace {
 
-// Returns the languages in which a note is looked for, in this order. Empty if the user has no languages.
+// Returns the languages of usage notes that the user can read, in the order in which they are tried. Empty if
+// the list of preferred languages is empty.
 std::vector<std::string> languagesOfNotes() {
   const std::vector<std::string> languages = preferredLanguages();
   if (languages.empty()) return {};
   return {lowercased(languages.front()), "en"};
 }
 
-// Returns the note of the enrichment in the language, or nullptr.
+// Returns the enrichment's usage note in this language, or nullptr if there is none.
 const RecordText* noteIn(const AdditionalData& data, std::string_view language) {
   const auto note =
       std::find_if(data.advice.begin(), data.advice.end(), [&](auto& one) { return one.lang == language; });

@@ -17,7 +17,8 @@ ComputedEntity computedEntity(const PreparedRow& row) {
     at += size + 1;
     return RecordText::ofConstant(text);
   };
-  // Braces evaluate their elements from left to right, in the order of the texts.
+  // The elements between braces are evaluated from left to right, which is the order in which the texts are
+  // stored.
   return {next(row.hexSize),
           row.codePoint,
           next(row.htmlHexSize),
@@ -89,7 +90,7 @@ std::string preparedName(std::size_t place) {
   if (place >= preparedRowCount()) return {};
   const PreparedRow row = preparedRow(place);
   if (row.enrichment != 0) return preparedEntity(place)->name();
-  // The name follows four other texts, each with a zero byte.
+  // Four texts are stored before the name. A zero byte ends each of them.
   const std::size_t before = row.hexSize + row.htmlHexSize + row.htmlDecimalSize + row.symbolSize + 4u;
   return std::string(preparedTexts.substr(row.texts + before, row.nameSize));
 }

@@ -50,8 +50,8 @@ std::string_view scriptOfModifier(std::string_view modifier) {
 // Returns the language of a locale name "language[_Script][_REGION][.codeset][@modifier]", with its script if
 // the name has one. Empty if the name is malformed or does not name a language, such as "C".
 std::string languageOf(std::string_view locale) {
-  // ICU accepts a language of up to eight letters, but language codes have two or three letters. On some
-  // systems a longer word, such as "german", is an alias for a locale.
+  // Ignore words of more than three letters. ICU would accept up to eight letters, but language codes have
+  // two or three. On some systems a longer word, such as "german", is an alias for a locale.
   const std::string name(locale.substr(0, locale.find_first_of(".@")));
   UErrorCode status = U_ZERO_ERROR;
   char tag[ULOC_FULLNAME_CAPACITY];

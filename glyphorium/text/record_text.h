@@ -141,8 +141,8 @@ class RecordText {
     return view().find_last_not_of(arguments...);
   }
 
-  // The other operand is of any type that converts to std::string_view. Templates avoid ambiguous
-  // conversions of that operand.
+  // The other operand may be of any type that converts to std::string_view. It is a template parameter,
+  // because otherwise its conversion could be ambiguous.
   template <std::convertible_to<std::string_view> T>
   friend bool operator==(const RecordText& a, const T& b) noexcept {
     return a.view() == std::string_view(b);

@@ -96,7 +96,8 @@ std::string escapedForUrl(char32_t point) {
   return isUnreserved ? std::string(1, static_cast<char>(point)) : numbered(utf8Bytes(point), "%", 2);
 }
 
-// Snippets need the original spelling of the symbol's name, which only the Unicode name table has.
+// Returns a line of source code that shows an SF Symbol, or nullopt for other characters. The line needs the
+// name in its original spelling, which only the Unicode name table has.
 Text snippet(const Entity& entity, std::string (CodeFormats::*format)(std::string_view) const) {
   const auto entry = findName(entity.computed.hex);
   if (!entry || !entry->isSFSymbol) return std::nullopt;
