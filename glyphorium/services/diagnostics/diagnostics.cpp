@@ -37,7 +37,7 @@ void print(std::string_view line, std::FILE* withoutSink) noexcept {
     std::string text(line);
     text += '\n';
     std::fwrite(text.data(), 1, text.size(), withoutSink);
-  } catch (...) {  // an operation must not fail because its diagnostic could not be printed
+  } catch (...) {  // a failure to print a diagnostic must not make the operation itself fail
   }
 }
 

@@ -26,11 +26,10 @@ SpawnResult failure(const char* what, int error) {
   return {SpawnEnd::failed, std::string(what) + ": " + std::generic_category().message(error)};
 }
 
-// Creates a file in memory for the input or the output of the child. Only this process and the child can
-// open the file. Unlike a pipe, such a file never blocks and never raises SIGPIPE. The number of the
-// descriptor is greater than those of the standard streams. If the host has closed a standard stream, the
-// file could otherwise get the number of that stream and be replaced when the streams of the child are set
-// up. Returns -1 on failure.
+// Creates a file in memory for the input or the output of the child. Only this process and the child can open
+// the file. Unlike a pipe, such a file never blocks and never raises SIGPIPE. The descriptor is never 0, 1 or
+// 2, even if the host has closed a standard stream. With such a number, it would be overwritten when the
+// standard streams of the child are set up. Returns -1 on failure.
 int memoryFile() {
   const FileDescriptor file(memfd_create("clipboard", MFD_CLOEXEC));
   return file.isOpen() ? fcntl(file.get(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1) : -1;

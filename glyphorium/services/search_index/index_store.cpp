@@ -31,7 +31,7 @@ constexpr const char* itemTable =
 
 constexpr std::int64_t indexVersion = 1;
 
-// A transaction of at least this many items is large enough to fill the disk.
+// From this number of items on, a transaction may be so large that it fills the disk.
 constexpr std::size_t manyItems = 500;
 
 void prepareDirectory(const std::filesystem::path& file) {
@@ -137,13 +137,13 @@ void IndexStore::open(const DirectoryLock&) {
   }
   database_ = openIndexFile(file_, SQLITE_OPEN_READWRITE);
   sqlite3_busy_handler(database_->handle(), LockWait::whileBusy, &wait_);
-  const bool isNew = !isIndex(*database_);  // throws if it belongs to another program
+  const bool isNew = !isIndex(*database_);  // throws if another program owns the file
   for (;;) {
     try {
       database_->execute("PRAGMA journal_mode=WAL");
       break;
     } catch (const SqliteError& error) {
-      // SQLite does not call the busy handler while it switches the journal mode.
+      // While SQLite switches the journal mode, it does not call the busy handler. So wait here.
       if (error.code() != SQLITE_BUSY || !wait_.pause()) throw;
     }
   }
@@ -235,7 +235,8 @@ void IndexStore::remove(const std::vector<std::string>& identifiers) {
     count.step();
     everyItem = std::cmp_equal(count.integer(0), rows.size());
   }
-  // Hosts often replace all their items. Clearing is then faster than deleting, except for a few items.
+  // Hosts often delete all their items at once. To clear the tables is then faster than to delete the rows
+  // one by one, unless there are only a few.
   if (everyItem && rows.size() >= manyItems) return clear();
   Statement removeTokens(*database_, "DELETE FROM token WHERE rowid = ?1");
   Statement removeItem(*database_, "DELETE FROM item WHERE id = ?1");

@@ -47,9 +47,9 @@ Database openIndexFile(const std::filesystem::path& file, int flags);
 /// for an index that a later version of this library has written. Throws SqliteError with the code
 /// SQLITE_NOTADB for the database of another program.
 bool isIndex(const Database& database);
-/// Whether the file's first page is that of an index. Unlike isIndex(), this also works if the disk is full
-/// or the rest of the file is damaged. Calling this function releases all locks that the process has on the
-/// file.
+/// Whether the first page of the file says that the file is an index. Unlike isIndex(), this also works if
+/// the disk is full or the rest of the file is damaged. Calling this function releases all locks that the
+/// process has on the file.
 bool beginsAsIndex(const std::filesystem::path& file);
 
 /// The index file, open for writing. Its constructors and operations throw SqliteError.
@@ -58,7 +58,7 @@ class IndexStore {
   /// Opens the file. Creates the file and its directory if they are missing; only the user can read them.
   /// `wait` must outlive this object.
   IndexStore(std::filesystem::path file, LockWait& wait);
-  /// The same for a caller that has already locked the directory. The directory must exist.
+  /// Opens the file for a caller that has already locked its directory. The directory must exist.
   IndexStore(std::filesystem::path file, LockWait& wait, const DirectoryLock& lock);
   /// Rolls back a transaction that was not committed.
   ~IndexStore();
@@ -73,8 +73,7 @@ class IndexStore {
   void remove(const std::vector<std::string>& identifiers);
   void clear();
 
-  /// Whether the open file is still the one at the path. Another process may have deleted or renamed the
-  /// file.
+  /// Whether the path still leads to the open file. If not, another process has deleted or renamed the file.
   bool inPlace() const { return regularFile(file_) == identity_; }
 
  private:

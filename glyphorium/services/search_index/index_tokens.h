@@ -16,9 +16,9 @@ inline constexpr const char* tokenTable =
     "CREATE VIRTUAL TABLE token USING fts5(tok, detail=none, prefix='1 2 3',"
     " tokenize=\"unicode61 remove_diacritics 0 categories 'L* M* N* P* S* Co Cf Cn'\")";
 
-/// Returns the tokens by which an item is found, in lower case and separated by spaces. The item's texts are
-/// split at white space. Each piece is a token, whether it is a word or a symbol. If a piece contains ASCII
-/// punctuation, the parts between the punctuation are tokens too: "&amp;" gives "&amp;" and "amp".
+/// Returns the tokens by which users find the item, in lower case and separated by spaces. The item's texts
+/// are split at white space, and each piece is a token, whether it is a word or a symbol. If a piece contains
+/// ASCII punctuation, the parts between the punctuation are tokens too: "&amp;" gives "&amp;" and "amp".
 std::string indexTokens(const SearchableItem& item);
 
 /// A query in the forms that the index needs. indexQuery() creates it from the text that the user has

@@ -28,7 +28,8 @@ struct DrainAtExit {
       last = current().index;
     }
     if (!last) return;
-    // During the wait, this index stays the current one, because completions may make further requests.
+    // The index stays the current one while the program waits, because completions may send it further
+    // requests.
     last->waitUntilIdle(std::chrono::seconds(5));
     const std::lock_guard lock(current().mutex);
     if (current().index == last) current().index.reset();

@@ -69,8 +69,8 @@ class GLYPHORIUM_EXPORT SearchableIndex {
 };
 
 /// Returns the current index. This is a SqliteSearchableIndex in the application's data directory, unless the
-/// host has set another index. Never null. When the program ends, it waits at most a few seconds until the
-/// current index has carried out its requests.
+/// host has set another index. Never null. At its end, the program waits until the current index has carried
+/// out its requests, but at most a few seconds.
 GLYPHORIUM_EXPORT std::shared_ptr<SearchableIndex> searchableIndex();
 
 /// Replaces the current index with the host's own index. Null restores the default. May be called from any

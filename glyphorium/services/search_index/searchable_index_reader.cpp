@@ -15,7 +15,7 @@ class SearchableIndexReader::File {
  public:
   explicit File(std::optional<std::filesystem::path> path) : path_(std::move(path)) {}
 
-  // Calls `question` with the open database and returns its result. Returns an empty result if the file is
+  // Calls `question` with the open database and returns the answer. Returns an empty result if the file is
   // missing or cannot be read.
   template <class Answer, class Question>
   Answer ask(Question question) noexcept {
@@ -57,7 +57,7 @@ class SearchableIndexReader::File {
     sqlite3_busy_timeout(database_->handle(), 500);
     sqlite3_db_config(database_->handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     if (isIndex(*database_)) return true;
-    database_.reset();  // a writer has just created the file and not yet its tables
+    database_.reset();  // another process has created the file, but not its tables yet
     return false;
   }
 

@@ -39,13 +39,13 @@ class GLYPHORIUM_EXPORT SearchableIndexReader {
   /// Returns the item with this identifier, or nullopt if there is no such item.
   std::optional<SearchableItem> item(std::string_view uniqueIdentifier);
 
-  /// Returns at most `limit` items that match all words of the query. The query is split into words at
-  /// white space. A query word matches if it is a prefix of a word of the item, or of the part of such a
-  /// word after ASCII punctuation. Case is ignored. A query has no operators. With the keyword "qv:", users
-  /// find only items of this application. At the beginning of a query, no space is needed after "qv:".
+  /// Returns at most `limit` items that match all words of the query. The query is split into words at white
+  /// space. A query word matches if it is a prefix of a word of the item, or of the part of such a word after
+  /// ASCII punctuation. Case is ignored. A query has no operators. The word "qv:" in a desktop's search finds
+  /// only items of this application. At the beginning of a query, no space is needed after "qv:".
   ///
-  /// The order is: items whose symbol equals the query, then those whose identifier does, then those whose
-  /// name does, then all others. Within each of these groups, items are ordered by the length of the name,
+  /// The order is: items whose symbol equals the query, items whose identifier equals it, items whose name
+  /// equals it, then all others. Within each of these groups, items are ordered by the length of the name,
   /// then by the length of the identifier, then by the identifier. An empty query has no results.
   std::vector<SearchableItem> search(std::string_view query, int limit);
 

@@ -72,9 +72,9 @@ void complete(const SearchableIndex::Completion& completion, Error error) noexce
   }
 }
 
-// Blocks signals in the calling thread while the worker thread is started. The worker thread inherits this,
-// so the host's signal handlers run only on the host's own threads, as the host expects. Signals that are
-// raised by a fault of the worker thread are not blocked.
+// Blocks signals in the calling thread while the worker thread is started. The worker thread inherits the
+// blocked signals, so the host's signal handlers run only on the host's own threads, as the host expects.
+// Signals that are raised by a fault of the worker thread are not blocked.
 class BlockSignals {
  public:
   BlockSignals() {
@@ -186,8 +186,8 @@ class SqliteSearchableIndex::Worker : public std::enable_shared_from_this<Worker
     Error all = perform(batch.begin(), batch.end(), code);
     const bool forAll = code == SQLITE_BUSY || code == SQLITE_FULL;
     if (forAll) {
-      // If a lock is not free in time or the disk is full, all waiting requests fail. Otherwise the next
-      // batch would wait just as long again, or use up the last space on the disk.
+      // If a lock is not free in time or the disk is full, all waiting requests fail, not only this batch.
+      // The next batch would only wait just as long again, or use up the last space on the disk.
       const std::lock_guard lock(mutex_);
       batch.splice(batch.end(), queue_);
     }

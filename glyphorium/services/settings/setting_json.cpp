@@ -37,7 +37,8 @@ bool holdsNul(std::string_view text) {
   return text.find('\0') != std::string_view::npos;
 }
 
-// Keeps a value if SettingValue has a type for it. Stops the parser at every other value.
+// Receives the values that the parser reads. Keeps a value if SettingValue has a type for it, and stops the
+// parser at any other value.
 class Reader : public nlohmann::json_sax<json> {
  public:
   std::optional<SettingValue> value;

@@ -19,7 +19,7 @@
 namespace glyph {
 namespace {
 
-// After a wait for a lock has timed out, operations do not wait for locks during this time. Otherwise the
+// For this long after a wait for a lock has timed out, operations do not wait for locks. Otherwise the
 // waiting times of several operations in a row would add up.
 constexpr auto noWaitAfterTimeout = std::chrono::seconds(30);
 
@@ -163,7 +163,7 @@ Outcome SettingsDatabase::create() {
 Outcome SettingsDatabase::open(bool createMissing) {
   if (connection_) {
     if (process_ != getpid()) return fail("the process was forked while they were in use");
-    // During a transaction, continue to use the same file.
+    // During a transaction, keep the file open even if it was renamed.
     if (sqlite3_get_autocommit(connection_->handle()) == 0) return Outcome::done;
     // SQLite does not try to write to a file that it has opened only for reading. Close such a file and open
     // it again.

@@ -19,7 +19,7 @@ using Outcome = SettingsDatabase::Outcome;
 struct GLYPHORIUM_LOCAL SqliteSettingsStore::Impl {
   explicit Impl(std::filesystem::path file) : database(std::move(file)) {}
 
-  // A value that is not on the disk yet.
+  // A new value of a setting that is not on the disk yet.
   struct Unsaved {
     std::string json;
     // True if set() made this value: it replaces every stored value. False if update() made this value: it

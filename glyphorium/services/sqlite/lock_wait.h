@@ -17,9 +17,9 @@ namespace glyph {
 /// own mutexes during the call, so the policy may print or count, but must not call the library.
 using LockWaitPolicy = std::function<bool(std::chrono::milliseconds waited)>;
 
-/// Replaces the policy. This is useful for a program that must end within a certain time, or that informs its
-/// user why it waits. The default policy stops waiting after five seconds; an empty function restores it. May
-/// be called from any thread.
+/// Replaces the policy. A program needs its own policy if it must end within a certain time, or if it tells
+/// its user why it waits. The default policy stops waiting after five seconds; an empty function restores it.
+/// May be called from any thread.
 GLYPHORIUM_EXPORT void setLockWaitPolicy(LockWaitPolicy policy);
 
 }  // namespace glyph
