@@ -52,18 +52,17 @@ std::vector<std::string> Glyphorium::customAddedEntityUnicodes() const {
   return storedCustomCodes();
 }
 
-// The effects have a fixed order, which observers can see: the old entities leave the index before the list
-// is saved, and the new entities enter the index before the displayed list is published. The settings are
-// locked only while `change` computes the list, because all other steps call code of the host. `change`
-// returns true if it has changed the list. Otherwise the list is not saved, and this function returns
-// false.
+// Observers can see the order of the effects, so it is fixed: the old entities leave the index before the
+// list is saved, and the new entities enter the index before the displayed list is published. The settings
+// are locked only while `change` computes the list, because all other steps call code of the host. `change`
+// returns true if it has changed the list. Otherwise the list is not saved, and this function returns false.
 bool Glyphorium::changeCustomAddedEntityUnicodes(
     const std::function<bool(std::vector<std::string>&)>& change) {
   if (EntityUserData::useSpotlightExtension()) toolKit().removeFromSpotlight(allCustomEntities);
   Requested requested;
   const bool changed = changeUserDefaults(key, Codes(), [&](Codes& codes) {
-    // The index may contain the items of the stored codes even after the deletion above, because another
-    // process may have added them again. So these codes count as indexed.
+    // Treat the items of the stored codes as still in the index: another process may have added them again
+    // after the deletion above.
     for (const std::string& code : codes) requested[code] = true;
     return change(codes);
   });

@@ -55,7 +55,7 @@ Glyphorium& Glyphorium::operator=(const Glyphorium& other) {
 }
 
 void Glyphorium::configure() {
-  preparedEntities();  // creates the list now, because memory may run out before anything has changed
+  preparedEntities();  // creates the list first: if memory runs out here, nothing has changed yet
   isConfigured_ = true;
   printChange("allBuildInEntities", buildInEntities().size());
   allCustomEntities = getCustomEntities();

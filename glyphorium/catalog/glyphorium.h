@@ -129,8 +129,8 @@ struct GLYPHORIUM_EXPORT Glyphorium {
   /// decoding. If the text cannot be decoded, returns nullopt and prints one diagnostic line with the reason.
   std::optional<std::vector<ComputedEntity>> getComputedEntitiesFrom(std::string_view json) const;
 
-  /// Decodes an enrichment table: returns the rows of the JSON array. Handles errors as
-  /// getComputedEntitiesFrom() does.
+  /// Decodes an enrichment table: returns the rows of the JSON array. If the text cannot be decoded, returns
+  /// nullopt and prints one diagnostic line with the reason.
   std::optional<std::vector<AdditionalData>> getAdditionalDataFrom(std::string_view json) const;
 
   /// Returns one entity for each record, in the same order. Each entity gets the first enrichment record with

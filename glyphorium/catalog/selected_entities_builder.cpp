@@ -39,7 +39,7 @@ class Ranks {
 struct Candidate {
   const Entity* entity;
   Rank rank;
-  std::uint32_t codePoint;  // valid only for the entity of a table
+  std::uint32_t codePoint;  // valid only if the entity comes from a table
 };
 
 bool before(const Candidate& a, const Candidate& b) {
@@ -52,8 +52,8 @@ std::unordered_set<std::string> forbiddenCodes(const std::vector<std::string>& f
   return codes;
 }
 
-// Returns the hidden code points in ascending order. A text that is not the hex code of a code point hides no
-// entity of the tables.
+// Returns the code points that are never shown, in ascending order. A text that is not the hex code of a code
+// point is left out, because no entity of the tables has such a hex code.
 std::vector<std::uint32_t> hiddenCodePoints(const std::unordered_set<std::string>& forbidden) {
   std::vector<std::uint32_t> hidden;
   const auto hide = [&](std::string_view hex) {
@@ -134,10 +134,11 @@ void addCustomCandidates(const std::vector<Entity>& entities, const Ranks& ranks
       candidates[place].rank = rank;
     }
   }
-  // A stable sort keeps different spellings of the same number ("0041", "00041") in the order of the
-  // catalog.
+  // Entities with different spellings of the same number ("0041", "00041") keep the order of the catalog,
+  // because the sort is stable.
   const auto middle = candidates.begin() + static_cast<std::ptrdiff_t>(ofTables);
-  // A custom entity that replaces the entity of a table may have a different number.
+  // The entities of the tables are sorted already, unless a custom entity with another number has replaced
+  // one of them.
   if (!std::is_sorted(candidates.begin(), middle, before))
     std::stable_sort(candidates.begin(), middle, before);
   std::stable_sort(middle, candidates.end(), before);

@@ -7,7 +7,8 @@
 
 namespace glyph {
 
-/// The key of this setting in settingsStore(). The value is true or false.
+/// The key in settingsStore() for the choice whether the desktop's search covers the whole catalog. The value
+/// is true or false.
 inline constexpr std::string_view desktopSearchesCatalogKey = "desktopSearchesCatalog";
 
 /// Returns true if the desktop's search shows characters of the whole catalog. Returns false if it shows only

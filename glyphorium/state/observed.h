@@ -18,8 +18,8 @@ class Observed {
  public:
   using DidSet = void (*)(const T&);
 
-  /// Creates a field with the default value. `didSet` is called after each change, with the new value. It
-  /// must not be null.
+  /// Creates a field with the default value of T. After each change, the field calls `didSet` with the new
+  /// value. `didSet` must not be null.
   explicit Observed(DidSet didSet) : didSet_(didSet) {}
   Observed(const Observed&) = delete;
   ~Observed() = default;
@@ -34,7 +34,8 @@ class Observed {
     return *this;
   }
 
-  /// Calls `change(T&)`, which changes the value in place, and then calls the observing function once.
+  /// Calls `change` with a reference to the value, so that it can change the value in place. Then calls the
+  /// observing function once.
   template <class Change>
   void modify(Change change) {
     change(value_);
@@ -46,7 +47,7 @@ class Observed {
   void assignSilently(T value) noexcept { value_ = std::move(value); }
 
   const T& get() const noexcept { return value_; }
-  operator const T&() const noexcept { return value_; }  // implicit, so that it can be read as a T
+  operator const T&() const noexcept { return value_; }  // implicit, so that a field can be read as a T
   const T* operator->() const noexcept { return &value_; }
   const T& operator*() const noexcept { return value_; }
 

@@ -42,7 +42,7 @@ std::string keepUnderAnotherKey(SettingsStore& store, std::string_view key, cons
   for (int number = 2; store.object(name); ++number) {
     name = std::string(key) + ".damaged" + std::to_string(number);
   }
-  // A store rejects RawJson that is not valid JSON, so such a text is stored as a string.
+  // A store rejects a RawJson whose text is not valid JSON. Such a text is stored as a string instead.
   const auto* const raw = std::get_if<RawJson>(&value);
   store.set(name, raw && !settingToJson(value) ? SettingValue(raw->text) : value);
   return name;

@@ -10,7 +10,7 @@
 
 namespace glyph {
 
-/// A skin tone of emoji, by the Fitzpatrick scale. `none` means the yellow of emoji without a tone.
+/// A skin tone of emoji, by the Fitzpatrick scale. With `none`, an emoji has its default yellow colour.
 enum class SkinTone : std::uint8_t { none, light, mediumLight, medium, mediumDark, dark };
 
 inline constexpr std::array allSkinTones{SkinTone::none,   SkinTone::light,      SkinTone::mediumLight,
@@ -22,11 +22,11 @@ GLYPHORIUM_EXPORT std::string_view skinToneName(SkinTone tone) noexcept;
 /// Returns the tone with exactly this name, or nullopt if there is none.
 GLYPHORIUM_EXPORT std::optional<SkinTone> skinToneNamed(std::string_view name) noexcept;
 
-/// The key of this setting in settingsStore(). The value is a result of skinToneName().
+/// The key in settingsStore() for the preferred skin tone. The value is a text that skinToneName() returns.
 inline constexpr std::string_view preferredSkinToneKey = "preferredSkinTone";
 
-/// Returns the skin tone for emoji of people and hands, which is used unless the user chooses another tone.
-/// The default is `none`. Every call reads settingsStore().
+/// Returns the skin tone in which emoji of people and hands are shown and copied, unless the user chooses
+/// another tone for one emoji. The default is `none`. Every call reads settingsStore().
 GLYPHORIUM_EXPORT SkinTone preferredSkinTone();
 
 /// Stores the choice. Returns false if the choice could not be stored.

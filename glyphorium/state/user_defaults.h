@@ -19,7 +19,7 @@ std::optional<SettingValue> loadFromUserDefaults(std::string_view key, bool verb
 /// saved value.
 void saveToUserDefaults(const SettingValue& value, std::string_view key, bool verbose);
 
-/// Returns the stored value as T. Returns the default if `stored` is empty or has another type.
+/// Returns `stored` as a T. Returns the default value if `stored` is empty or has another type.
 template <class T>
 T valueOr(const std::optional<SettingValue>& stored, T defaultValue) {
   const T* const value = stored ? std::get_if<T>(&*stored) : nullptr;
@@ -30,7 +30,7 @@ T valueOr(const std::optional<SettingValue>& stored, T defaultValue) {
 /// and so on. Returns that key.
 std::string keepUnderAnotherKey(SettingsStore& store, std::string_view key, const SettingValue& value);
 
-/// Prints one diagnostic line about a value that keepUnderAnotherKey() has stored under another key.
+/// Prints one diagnostic line: the value of `key` was copied to the key `keptAs` by keepUnderAnotherKey().
 void printKeptValue(std::string_view key, const std::string& keptAs);
 
 /// Changes the stored value of the key by one call of SettingsStore::update(). `change(T&)` receives the
