@@ -19,7 +19,8 @@ void append(std::vector<std::string>& list, std::string_view texts) {
   }
 }
 
-// Returns what the skin tone in the text appends to the name of an emoji in the language: ": dark skin tone".
+// Returns the part of an emoji's name that describes the skin tone in `text`, in this language: ": dark skin
+// tone".
 std::string nameOfTone(std::string_view text, std::string_view language) {
   for (const char32_t point : codePoints(text)) {
     if (!isSkinToneModifier(point)) continue;

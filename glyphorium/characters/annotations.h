@@ -19,7 +19,7 @@ struct CharacterAnnotation {
 /// Returns the name and the keywords that CLDR has for a character or an emoji. U+FE0F may be missing in the
 /// text. An emoji with skin tones has the keywords of the same emoji without tones. `language` is "en", "de",
 /// "fr", "it" or "es". The name and the keywords are empty for other languages and for characters that CLDR
-/// does not describe. Any thread may call it.
+/// does not describe. Any thread may call this function.
 GLYPHORIUM_EXPORT CharacterAnnotation annotationOf(std::string_view text, std::string_view language);
 
 }  // namespace glyph

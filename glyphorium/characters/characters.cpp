@@ -21,7 +21,7 @@ enum PropertyColumn : std::size_t {
   classColumn
 };
 
-// Returns the line of the range that contains the code point. Empty if there is none.
+// Returns the line of the range that contains the code point. Empty if no range contains it.
 std::string_view lineOfRange(const CodePointTexts& ranges, char32_t codePoint) noexcept {
   const auto position = ranges.positionUpTo(codePoint);
   if (!position) return {};
@@ -29,9 +29,9 @@ std::string_view lineOfRange(const CodePointTexts& ranges, char32_t codePoint) n
   return codePoint <= ascii::number(column(line, 0), 16) ? line : std::string_view();
 }
 
-// Returns the canonical decomposition of a Hangul syllable. If the syllable has a final consonant, it
-// consists of the syllable without this consonant, and the consonant. Otherwise it consists of the initial
-// consonant and the vowel.
+// Returns the canonical decomposition of a Hangul syllable: two code points. A syllable with a final
+// consonant gives the syllable without this consonant, then the consonant. Any other syllable gives its
+// initial consonant, then its vowel.
 std::u32string hangulDecomposition(char32_t syllable) {
   const char32_t number = syllable - 0xAC00;
   if (number % 28 != 0) return {syllable - number % 28, 0x11A7 + number % 28};
@@ -76,7 +76,7 @@ void readHan(CharacterFacts& facts) {
   facts.korean = column(line, 4);
 }
 
-// Returns only the letters and digits of the text, in lower case.
+// Returns the letters and digits of the text in lower case, without all its other characters.
 std::string loose(std::string_view text) {
   std::string result;
   for (const char c : text) {

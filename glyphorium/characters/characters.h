@@ -9,8 +9,8 @@
 
 #include "glyphorium/export.h"
 
-/// The facts of the Unicode Character Database 17.0 about every code point, also those outside the catalog.
-/// The data is in the library's read-only image, so nothing is built on first use.
+/// Facts from the Unicode Character Database 17.0 about all code points, also those that are not in the
+/// catalog. The data is in the library's read-only image, so nothing is built on first use.
 namespace glyph {
 
 enum class CharacterStatus : std::uint8_t {
@@ -32,7 +32,7 @@ struct CharacterFacts {
   CharacterStatus status = CharacterStatus::none;
   std::string name;                     ///< see characterName()
   std::string label;                    ///< see characterNameOrLabel()
-  std::string_view version;             ///< the version of Unicode that assigned it: "1.1", "17.0"
+  std::string_view version;             ///< the version of Unicode that added it: "1.1", "17.0"
   std::string_view category;            ///< general category, "Lu"; "Cn" if unassigned
   std::string_view block;               ///< "Latin-1 Supplement"; empty outside all blocks
   std::string_view script;              ///< "Latin", "Common"
@@ -41,7 +41,7 @@ struct CharacterFacts {
   std::optional<int> combiningClass;    ///< nullopt if unassigned, and for some marks of Unicode 17.0
   std::string_view decompositionKind;   ///< "canonical", "compat", "fraction" ...
   std::u32string decomposition;         ///< the decomposition mapping, not applied recursively
-  std::u32string upperCase;             ///< full mapping, independent of language; empty if unchanged
+  std::u32string upperCase;             ///< full mapping, the same for all languages; empty if unchanged
   std::u32string lowerCase;
   std::u32string titleCase;
   std::string_view numericValue;           ///< "1/2", "1000"
@@ -71,10 +71,11 @@ struct CodePointRange {
 /// The properties that charactersWith() can search for.
 enum class CharacterProperty : std::uint8_t { block, script, category, version };
 
-/// Returns the assigned code points whose property has this value, as ranges in ascending order. Letter case,
-/// spaces, hyphens and underscores do not count: "arrows", "Latin-1 supplement". A category is a short value,
-/// where "L" means all categories that begin with "L", or a name that categoryName() returns. A version is
-/// "15.1", or "15", which means 15.0. Empty if no code point has the value. Any thread may call it.
+/// Returns the assigned code points whose property has this value, as ranges in ascending order. The
+/// comparison ignores letter case, spaces, hyphens and underscores: "arrows", "Latin-1 supplement". A
+/// category is given by its short value ("Lu"), by the first letter of several ("L"), or by a name that
+/// categoryName() returns. A version is "15.1", or "15", which means 15.0. Empty if no code point has the
+/// value. Any thread may call it.
 GLYPHORIUM_EXPORT std::vector<CodePointRange> charactersWith(CharacterProperty property,
                                                              std::string_view value);
 

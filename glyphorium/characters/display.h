@@ -6,11 +6,12 @@
 
 #include "glyphorium/export.h"
 
-/// Functions that show characters correctly even if the installed ICU is too old to know them. Such an ICU
-/// treats newer characters as unassigned. Any thread may call these functions.
+/// Functions that show characters correctly even if they are newer than the installed ICU, which treats such
+/// characters as unassigned. Any thread may call these functions.
 namespace glyph {
 
-/// Like visibleSymbol(), but keeps symbols that are merely newer than ICU.
+/// Like visibleSymbol(), but leaves characters unchanged that only seem invisible because they are newer than
+/// ICU.
 GLYPHORIUM_EXPORT std::string shownSymbol(std::string_view symbol);
 
 /// Like displayWidth(), but counts two columns for every emoji of several code points and for wide characters

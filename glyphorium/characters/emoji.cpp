@@ -46,7 +46,8 @@ std::optional<std::size_t> position(std::string_view text) {
   return std::nullopt;
 }
 
-// Returns the line of the emoji at this place. Empty if there is none.
+// Returns the line of the emoji with this index in the order of Unicode's lists. Empty if the index is too
+// large.
 std::string_view lineAt(std::size_t place) noexcept {
   return place < emojiOrder.size() ? emojiTable.line(*ascii::number(emojiOrder.line(place), 10))
                                    : std::string_view();
@@ -78,7 +79,7 @@ std::size_t emojiBase(std::size_t place) noexcept {
 std::vector<std::size_t> emojiVariants(std::size_t place) {
   const std::size_t base = emojiBase(place);
   std::vector<std::size_t> variants;
-  // The variants directly follow their base.
+  // The variants with skin tones directly follow the emoji without a tone.
   for (std::size_t next = base + 1; next < emojiCount() && emojiBase(next) == base; ++next)
     variants.push_back(next);
   return variants;

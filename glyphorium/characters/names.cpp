@@ -45,7 +45,8 @@ bool isSame(std::string_view a, std::string_view b) {
                     [](char x, char y) { return ascii::lowered(x) == ascii::lowered(y); });
 }
 
-// Returns the code point of a computed name.
+// Returns the code point that has this name, if the name is computed from the code point: "CJK UNIFIED
+// IDEOGRAPH-6F22". Otherwise returns nullopt.
 std::optional<char32_t> computedCodePoint(std::string_view name) {
   if (isSame(name.substr(0, hangulPrefix.size()), hangulPrefix)) {
     for (char32_t syllable = firstHangulSyllable; syllable <= lastHangulSyllable; ++syllable) {

@@ -20,7 +20,7 @@ GLYPHORIUM_EXPORT std::string characterName(char32_t codePoint);
 GLYPHORIUM_EXPORT std::string characterNameOrLabel(char32_t codePoint);
 
 /// Returns the code point that has this name or this formal alias ("NO-BREAK SPACE", "NBSP", "CJK UNIFIED
-/// IDEOGRAPH-6F22"). Letter case does not count. Returns nullopt if there is no such code point. This
+/// IDEOGRAPH-6F22"). Letter case is ignored. Returns nullopt if there is no such code point. The function
 /// compares `name` with all names one by one, which takes about a millisecond. Any thread may call it.
 GLYPHORIUM_EXPORT std::optional<char32_t> characterNamed(std::string_view name);
 

@@ -5,8 +5,8 @@
 
 #include "glyphorium/export.h"
 
-/// The English names that the Unicode Standard has for the short property values of CharacterFacts. Each
-/// function returns an empty text for a value that it does not know. Any thread may call them.
+/// The English names of the short property values in CharacterFacts, from the Unicode Standard. Each function
+/// returns an empty text for an unknown value. Any thread may call them.
 namespace glyph {
 
 GLYPHORIUM_EXPORT std::string_view categoryName(std::string_view category) noexcept;  ///< "uppercase letter"

@@ -35,14 +35,15 @@ struct RelatedCharacters {
 /// A mapping to several characters ("SS" for "ß") is left out. Any thread may call it.
 GLYPHORIUM_EXPORT std::vector<RelatedCharacters> relatedCharacters(char32_t codePoint);
 
-/// What a character can be mistaken for, according to Unicode's list of confusable characters.
+/// The characters and the text that a character can be mistaken for, according to Unicode's list of
+/// confusable characters.
 struct LookAlikes {
   std::u32string characters;  ///< in the order of code points, without the character itself
-  std::string text;           ///< a sequence of characters that looks like it: "rn" for "m"; may be empty
+  std::string text;           ///< several characters that look like it together: "rn" for "m"; may be empty
 };
 
-/// Returns the look-alikes of a character: "-", "‐", "−" and others for "–". Empty if it has none. Any thread
-/// may call it.
+/// Returns the characters that look like this one: "-", "‐", "−" and others for "–". Both members are empty
+/// if there are none. Any thread may call this function.
 GLYPHORIUM_EXPORT LookAlikes lookAlikes(char32_t codePoint);
 
 }  // namespace glyph

@@ -21,8 +21,9 @@
 namespace glyph {
 namespace {
 
-// Changes the first letter of each word to upper case. Names of emoji are in lower case, except proper names,
-// and may contain other letters than ASCII. An elided article ("d’Ivoire") stays unchanged.
+// Changes the first letter of each word to upper case. Except for proper names, the words of an emoji's name
+// are in lower case. They may contain letters that are not ASCII. An elided article ("d’Ivoire") stays
+// unchanged.
 std::string capitalizedEmojiName(std::string_view name) {
   std::string result(name);
   bool atBegin = true;
@@ -42,7 +43,8 @@ std::string hexListOf(std::string_view text) {
 std::string nameOfCodePoint(char32_t codePoint) {
   if (const std::string name = characterName(codePoint); !name.empty()) {
     std::string shown = capitalizedName(name);
-    // The code point at the end of a computed name stays in upper case.
+    // In a name that ends with the code point ("CJK UNIFIED IDEOGRAPH-6F22"), the digits of the code point
+    // stay in upper case.
     const std::size_t code = name.rfind('-') + 1;
     if (code > 0 && ascii::number(std::string_view(name).substr(code), 16) == codePoint)
       shown.replace(code, std::string::npos, name, code);
@@ -72,7 +74,7 @@ Entity supplementEntity(std::string_view text) {
   const std::string hexList = hexListOf(text);
   Entity entity = Unicode(hexList).computedEntity().generateEntity();
   entity.computed.fallbackName = shownCharacterName(text);
-  // The class Unicode computes the code forms only for a single code point.
+  // Unicode::computedEntity() computes the code forms for a single code point only.
   if (const std::u32string points = codePoints(text); points.size() > 1) {
     const CodeFormats formats;
     entity.computed.decimal = points.front();

@@ -13,28 +13,29 @@
 namespace glyph {
 
 /// Returns the name under which hosts show a character or an emoji, in the spelling of the catalog: "Melting
-/// Face", "Flag: Germany", "Cjk Unified Ideograph-6F22". For a control character it is the first alias
-/// ("Character Tabulation"), for any other code point without a name the label ("<private-use-E000>"). Empty
-/// if the text is neither a single character nor an emoji. Any thread may call it.
+/// Face", "Flag: Germany", "Cjk Unified Ideograph-6F22". A control character is shown under its first alias
+/// ("Character Tabulation"). Any other code point without a name is shown under its label
+/// ("<private-use-E000>"). Empty if the text is neither a single character nor an emoji. Any thread may call
+/// it.
 GLYPHORIUM_EXPORT std::string shownCharacterName(std::string_view text);
 
-/// Returns an entity of a character or an emoji with all code forms. Its hex code is a hex list if there are
-/// several code points. Its name is shownCharacterName(), which is empty for any other text. Any thread may
-/// call it.
+/// Returns an entity for a character or an emoji, with all code forms. An emoji of several code points has a
+/// hex list as its hex code. The name is the result of shownCharacterName(), so it is empty for any other
+/// text. Any thread may call it.
 GLYPHORIUM_EXPORT Entity supplementEntity(std::string_view text);
 
-/// Returns the same for a code point. It may be a surrogate, whose entity has no symbol.
+/// Returns such an entity for a single code point. The entity of a surrogate has an empty symbol.
 GLYPHORIUM_EXPORT Entity supplementEntity(char32_t codePoint);
 
-/// Returns the entity. If it has no name, it gets the name of the supplement. This is for characters that the
-/// user added and that have no name in the catalog.
+/// Returns the entity, with the result of shownCharacterName() as its name if it had no name. Use this
+/// function for characters that the user added and that have no name in the catalog.
 GLYPHORIUM_EXPORT Entity withSupplementName(Entity entity);
 
 /// Returns the UTF-8 texts of all characters and emoji of the supplement: first the emoji in the order of
 /// Unicode's lists, then the characters with a name that is not computed, then the ideographs with a meaning.
-/// Characters and ideographs are in the order of code points. annotationOf() has names and keywords for them,
-/// characterFacts() their aliases and meanings. The list has some 50,000 elements; building it takes
-/// milliseconds. Any thread may call it.
+/// Characters and ideographs are in the order of code points. annotationOf() returns the names and keywords
+/// of an element, characterFacts() its aliases and its meaning. The list has some 50,000 elements; building
+/// it takes milliseconds. Any thread may call it.
 GLYPHORIUM_EXPORT std::vector<std::string> supplementTexts();
 
 }  // namespace glyph

@@ -15,7 +15,7 @@ struct WayToType {
   /// space bar;
   /// - "latex": a LaTeX command; "digraph": the two characters after Ctrl+K in an editor that follows RFC
   /// 1345;
-  /// - "shortcode": with its colons, as chat programs and source code hosts accept it;
+  /// - "shortcode": a word between colons, as chat programs and source code hosts accept it;
   /// - "alt-code": the digits to type on the key pad of Windows while Alt is held;
   /// - "ctrl-shift-u": the digits to type after Ctrl+Shift+U in GTK and IBus;
   /// - "keysym": the name in xmodmap, xdotool and keyboard layouts.
@@ -26,8 +26,8 @@ struct WayToType {
 };
 
 /// Returns the ways to type a character or an emoji. If there are several ways with the same method, the most
-/// usual one comes first. Every code point except surrogates has at least one way. Empty for other texts. Any
-/// thread may call it.
+/// usual one comes first. Every code point except surrogates has at least one way. The list is empty for any
+/// other text. Any thread may call it.
 GLYPHORIUM_EXPORT std::vector<WayToType> waysToType(std::string_view text);
 
 }  // namespace glyph
