@@ -8,9 +8,9 @@
 
 namespace glyph {
 
-/// The offsets at which the texts of code points begin in a longer text. The index consists of pairs of
-/// little-endian 24-bit integers, a code point and an offset, in ascending order of code points. This is a
-/// view of the library's read-only image.
+/// An index of a longer text that consists of the texts of many code points: the offset at which the text of
+/// each code point begins. It is a sequence of pairs of little-endian 24-bit integers, a code point and an
+/// offset, in ascending order of code points. This is a view of the library's read-only image.
 class CodePointIndex {
  public:
   struct Entry {
@@ -38,7 +38,7 @@ class CodePointIndex {
   }
 
   /// Returns the position of the last entry whose code point is not greater than `codePoint`. Returns nullopt
-  /// if there is none.
+  /// if there is no such entry.
   std::optional<std::size_t> findUpTo(std::uint32_t codePoint) const noexcept {
     std::size_t begin = 0;
     for (std::size_t end = size(); begin < end;) {

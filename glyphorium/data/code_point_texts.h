@@ -25,14 +25,14 @@ struct CodePointTexts {
     return rest.substr(0, rest.find('\n'));
   }
 
-  /// Returns the line of the code point. Returns nullopt if it has none.
+  /// Returns the line of the code point. Returns nullopt if the code point has no line.
   std::optional<std::string_view> find(char32_t codePoint) const noexcept {
     const auto position = index.find(codePoint);
     return position ? std::optional(line(*position)) : std::nullopt;
   }
 
   /// Returns the position of the last entry whose code point is not greater than `codePoint`. Returns nullopt
-  /// if there is none.
+  /// if there is no such entry.
   std::optional<std::size_t> positionUpTo(char32_t codePoint) const noexcept {
     return index.findUpTo(codePoint);
   }

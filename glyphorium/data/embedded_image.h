@@ -18,11 +18,11 @@ extern const std::string_view structuredUnicodeJsonText;
 extern const EmbeddedText embeddedTextList[];
 extern const std::size_t embeddedTextCount;
 
-/// For some code points, the offset in structuredUnicodeJSON() of the line with the code point's first entry.
-/// The lines of the other code points follow the line of the nearest lower code point in the index.
+/// Maps some code points to the offset in structuredUnicodeJSON() of their first entry. The line of any other
+/// code point is found by reading on from the line of the nearest lower code point in the index.
 extern const CodePointIndex nameIndex;
 
-/// For each code point that has enrichment, the offset in preparedEnrichment of its row.
+/// Maps each code point that has enrichment to the offset of its row in preparedEnrichment.
 extern const CodePointIndex enrichmentIndex;
 extern const std::string_view preparedEnrichment;
 

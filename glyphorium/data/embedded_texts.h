@@ -24,7 +24,7 @@ struct EmbeddedText {
 /// the order of the catalog.
 GLYPHORIUM_EXPORT std::span<const EmbeddedText> embeddedTexts() noexcept;
 
-/// Returns the text constant with this name. Letter case counts. Returns nullptr if there is no such
+/// Returns the text constant with exactly this name (case-sensitive). Returns nullptr if there is no such
 /// constant.
 GLYPHORIUM_EXPORT const EmbeddedText* embeddedText(std::string_view constant) noexcept;
 

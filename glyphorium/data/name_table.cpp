@@ -11,8 +11,8 @@
 namespace glyph {
 namespace {
 
-// Returns the code point of a hex code. Returns nullopt if the code does not have the form of the codes in
-// the table.
+// Returns the code point of a hex code. Returns nullopt if the code has fewer than four digits or a needless
+// leading zero, because no code in the table has such a form.
 std::optional<std::uint32_t> canonicalCodePoint(std::string_view hex) noexcept {
   if (hex.size() < 4 || (hex.size() > 4 && hex.front() == '0')) return std::nullopt;
   return ascii::number(hex, 16);
@@ -25,7 +25,7 @@ std::string_view structuredUnicodeJSON() noexcept {
 }
 
 std::optional<NameTableLine> nameTableLine(std::size_t offset) noexcept {
-  // {"hex":"0041","name":"LATIN CAPITAL LETTER A","isSFSymbol":false},
+  // A line of the table: {"hex":"0041","name":"LATIN CAPITAL LETTER A","isSFSymbol":false},
   constexpr std::string_view beforeHex = "{\"hex\":\"";
   constexpr std::string_view beforeName = "\",\"name\":\"";
   if (offset >= structuredUnicodeJsonText.size()) return std::nullopt;

@@ -21,13 +21,13 @@ struct NameTableEntry {
 
 /// Returns the first entry of the table for a hex code. Returns nullopt if there is no such entry. The code
 /// must have at least four digits, and leading zeros only to reach four digits ("0041", not "41" or "00041").
-/// Letter case does not count. This is a binary search without decoding or memory allocation. Any thread may
-/// call it.
+/// Letter case is ignored. The function does a binary search, without decoding or memory allocation. Any
+/// thread may call it.
 GLYPHORIUM_EXPORT std::optional<NameTableEntry> findName(std::string_view hex) noexcept;
 
-/// Returns the lowest code point with this name. Returns nullopt if no code point has this name. ASCII letter
-/// case does not count. This compares `name` with the names of the table one by one, without decoding or
-/// memory allocation. Any thread may call it.
+/// Returns the lowest code point with this name. Returns nullopt if no code point has this name. The case of
+/// ASCII letters is ignored. The function compares `name` with the names of the table one by one, without
+/// decoding or memory allocation. Any thread may call it.
 GLYPHORIUM_EXPORT std::optional<char32_t> findCodePoint(std::string_view name) noexcept;
 
 }  // namespace glyph

@@ -16,7 +16,7 @@ struct NameTableLine {
   std::size_t next;  ///< the offset of the next line
 };
 
-/// The offset of the first line. It follows the bracket of the array.
+/// The offset of the first line. It directly follows the opening bracket of the array.
 inline constexpr std::size_t firstNameTableLine = 1;
 
 /// Reads the line that begins at this offset. Returns nullopt at the end of the table.

@@ -16,7 +16,7 @@ namespace glyph {
 struct PackedTexts {
   static constexpr std::size_t longestPiece = 11;
   static constexpr unsigned char endOfLine = 0;
-  static constexpr unsigned char literal = 255;  ///< the next byte stands for itself
+  static constexpr unsigned char literal = 255;  ///< says that the next byte is a byte of the text itself
 
   CodePointIndex index;  ///< the offset in `lines` at which the line of a code point begins
   /// The pieces that the bytes 1 to 254 stand for. Each piece has one byte for its size and longestPiece
@@ -42,7 +42,7 @@ struct PackedTexts {
     }
   }
 
-  /// Returns the line of the code point. Empty if it has none.
+  /// Returns the line of the code point. Empty if the code point has no line.
   std::string find(char32_t codePoint) const {
     const auto position = index.find(codePoint);
     return position ? line(*position) : std::string();

@@ -37,7 +37,7 @@ inline std::size_t preparedRowCount() noexcept {
   return preparedRowBytes.size() / sizeof(PreparedRow);
 }
 
-/// Returns the row at this place in the sequence of all configured tables. The place must be smaller than
+/// Returns the row with this index in the sequence of all configured tables. The index must be smaller than
 /// preparedRowCount().
 inline PreparedRow preparedRow(std::size_t place) noexcept {
   PreparedRow row;
@@ -45,8 +45,8 @@ inline PreparedRow preparedRow(std::size_t place) noexcept {
   return row;
 }
 
-/// Returns the place of the row at this position when the rows are sorted by code point, and rows with the
-/// same code point by place.
+/// Returns the index, for preparedRow(), of the row at this position in a list that is sorted by code point.
+/// Rows with the same code point are sorted by their indexes.
 inline std::size_t placeInCodePointOrder(std::size_t position) noexcept {
   std::uint16_t place;
   std::memcpy(&place, preparedOrderBytes.data() + position * sizeof place, sizeof place);
@@ -54,7 +54,7 @@ inline std::size_t placeInCodePointOrder(std::size_t position) noexcept {
 }
 
 /// The number of code points with an enrichment row. If a code point has several rows, only the first one is
-/// prepared, because entities are joined only with the first one.
+/// prepared, because an entity gets the enrichment of the first row only.
 std::size_t preparedEnrichmentCount() noexcept;
 
 /// Returns the number of the enrichment row of the code point. Returns nullopt if there is no such row.

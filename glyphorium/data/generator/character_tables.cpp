@@ -50,7 +50,7 @@ std::string utf8Of(const SourceLine& line, std::size_t column) {
   return text.empty() ? text : utf8Of(codePointsOf(line, text));
 }
 
-// Joins the columns from number `first` on with tabs.
+// Joins the columns with tabs, from column number `first` to the last one.
 std::string joinedColumns(const SourceLine& line, std::size_t first) {
   std::string text;
   for (std::size_t i = first; i < line.columns.size(); ++i) text += (i > first ? "\t" : "") + line.columns[i];
@@ -102,7 +102,7 @@ Table readLaterNames(const Path& file, const NameTable& names) {
   return table;
 }
 
-// Returns the inverse of the decompositions, in the form of the table `composites`.
+// Returns the decompositions in reverse, in the form of the table `composites`.
 Table compositesOf(const Table& decompositions) {
   std::map<char32_t, std::pair<std::string, std::string>> composites;
   for (const auto& [codePoint, line] : decompositions) {
@@ -167,10 +167,10 @@ class EmojiNumbers {
           points.size() > 1 && std::any_of(points.begin(), points.end(), isSkinToneModifier);
       std::erase(points, char32_t{0xFE0F});
       const char32_t own = numbers_.at(points);
-      // In Unicode's lists, the variants with skin tones follow their base, which has no skin tone.
+      // In Unicode's lists, the variants with skin tones follow the emoji without a tone (their base).
       if (!isVariant) base = own;
       bases_[own] = base;
-      // A variant has the groups of its base.
+      // An emoji with a skin tone has the groups of the emoji without it, so its own columns stay empty.
       const std::string groups = base == own ? lines[i].columns[3] + "\t" + lines[i].columns[4] : "\t";
       table[own] = emoji + "\t" + lines[i].columns[1] + "\t" + lines[i].columns[2] + "\t" + groups + "\t" +
                    std::to_string(i) + "\t" + std::to_string(base - firstEmojiNumber);
@@ -192,8 +192,8 @@ class EmojiNumbers {
     return found == numbers_.end() ? 0 : found->second;
   }
 
-  // Returns the key of the base, and the skin tone. Returns nullopt unless `key` is an emoji with exactly one
-  // skin tone.
+  // If `key` is an emoji with exactly one skin tone, returns the key of the same emoji without the tone, and
+  // the tone. Otherwise returns nullopt.
   std::optional<std::pair<char32_t, char32_t>> baseAndTone(char32_t key, const std::u32string& points) const {
     char32_t tone = 0;
     for (const char32_t point : points) {
@@ -211,7 +211,7 @@ class EmojiNumbers {
 
  private:
   std::map<char32_t, char32_t> bases_;
-  // Sorted by code points, which gives the same order as sorting by the bytes of UTF-8.
+  // In the order of code points, which is also the order of the bytes of UTF-8.
   std::map<std::u32string, char32_t> numbers_;
 };
 
@@ -220,7 +220,7 @@ void addAnnotations(const Path& folder, const std::vector<Language>& languages, 
   for (const Language& language : languages) {
     const Path file = folder / ("annotations." + language.code + ".tsv");
     if (!std::filesystem::exists(file)) continue;
-    std::map<char32_t, std::string> names;  // also those in search/
+    std::map<char32_t, std::string> names;  // also contains the names from search/
     if (const Path older = folder / ".." / "search" / file.filename(); std::filesystem::exists(older)) {
       for (const SourceLine& line : readTable(older, 2, 64)) {
         if (const char32_t key = emoji.keyOf(line, 0)) names[key] = line.columns[1];
@@ -232,7 +232,7 @@ void addAnnotations(const Path& folder, const std::vector<Language>& languages, 
     }
     Table table;
     for (const SourceLine& line : lines) {
-      // CLDR also annotates sequences that are not for general interchange.
+      // Skip sequences that are not recommended for general interchange. CLDR has annotations for them too.
       const char32_t key = emoji.keyOf(line, 0);
       if (key == 0) continue;
       const auto base = emoji.baseAndTone(key, codePointsOf(line, line.columns[0]));
@@ -250,8 +250,8 @@ void addAnnotations(const Path& folder, const std::vector<Language>& languages, 
   }
 }
 
-// Reads the second column of each line: how the character is typed. Leaves out sequences of code points that
-// are not emoji.
+// Reads a table whose second column says how the character in the first column is typed. Leaves out a line
+// whose first column has several code points that are not an emoji.
 Table readInput(const Path& file, std::size_t columns, const EmojiNumbers& emoji) {
   Table table;
   for (const SourceLine& line : readTable(file, columns, columns)) {

@@ -30,7 +30,7 @@ class EmbeddedImage {
   using Index = std::vector<std::pair<char32_t, std::uint32_t>>;
   void addNameIndex(const Index& index);
 
-  /// Adds the rows of prepared_rows.h.
+  /// Adds the data that the functions of data/prepared_rows.h read.
   void addPreparedRows(const PreparedRows& rows);
   void addPreparedEnrichment(std::string_view rows, const Index& index);
 
@@ -41,18 +41,18 @@ class EmbeddedImage {
   /// Adds a SearchLanguage for the language with this BCP 47 tag.
   void addSearchLanguage(const std::string& code, std::string_view synonyms, const SearchGrammar& grammar);
   void addStopWords(std::string_view lines);
-  /// Adds the supplementary usage notes of a language. `language` is a BCP 47 tag.
+  /// Adds the supplementary usage notes in one language, by code point. `language` is a BCP 47 tag.
   void addNotes(std::string language, const std::map<char32_t, std::string>& notes);
-  /// Adds `searchMarks`.
+  /// Adds the constant `searchMarks` with these lines.
   void addMarks(std::string_view lines);
-  /// Adds the kind of a group. `kind` has the spelling of groups.tsv.
+  /// Adds the kind of a group. `kind` is a text from groups.tsv.
   void addGroupKind(const std::string& group, const std::string& kind) { groupKinds_.emplace(group, kind); }
 
   /// Maps a code point to its line of text, without a line feed.
   using CharacterTable = std::map<char32_t, std::string>;
   /// Adds a constant of character_tables.h.
   void addCharacterTable(const std::string& constant, const CharacterTable& table);
-  /// Adds a constant of character_tables.h whose texts are packed.
+  /// Adds a constant of character_tables.h that has the type PackedTexts.
   void addPackedTable(const std::string& constant, const CharacterTable& table);
   /// Adds lines to the CharacterAnnotations of the language with this BCP 47 tag. A line replaces an earlier
   /// line with the same key.
@@ -103,7 +103,7 @@ class EmbeddedImage {
   std::string blob_;
   std::vector<Text> texts_;
   std::size_t lastOffset_ = 0;
-  std::string pieces_;  // the C++ definitions of single pieces
+  std::string pieces_;  // the C++ definitions of the names for parts of the block
   std::vector<SearchFacts> searchFacts_;
   std::string searchLanguages_;  // the C++ initialisers of the languages
   std::vector<Notes> notes_;

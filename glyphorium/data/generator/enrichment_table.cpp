@@ -208,7 +208,7 @@ EnrichmentTable makeEnrichmentTable(const std::filesystem::path& sources,
                                     const std::set<char32_t>& configured, Figures& figures) {
   const std::filesystem::path folder = sources / "enrichment";
   RowsByHex rows;
-  // Must be first, because the search terms decide how many rows a code point has.
+  // Read the search terms first, because they decide how many rows a code point has.
   readSearchTerms(folder / "search-terms.tsv", rows);
   readReferences(folder / "html-references.tsv", rows, figures);
   readAttributes(folder / "attributes.tsv", rows);

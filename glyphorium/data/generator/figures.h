@@ -18,8 +18,8 @@ class Figures {
   /// Records the value of a number that was counted in the generated texts.
   void reached(const std::string& figure, std::size_t value) { reached_[figure] = value; }
 
-  /// Throws SourceError if a recorded value differs from the value in the file, if a figure of the file was
-  /// not recorded, or if a recorded figure is not in the file. The message lists all such figures.
+  /// Compares the recorded values with those in figures.tsv. Throws SourceError if a value differs, or if a
+  /// number is only in the file or was only recorded. The message lists all such numbers.
   void check() const;
 
  private:

@@ -68,8 +68,8 @@ std::vector<char32_t> readBlock(const SourceLine& line, const NameTable& names) 
   return members;
 }
 
-// Does not escape the symbol, not even for U+0022 and U+005C. Readers of the table repair these two rows
-// before they parse the table. The repair would damage an escaped symbol.
+// The symbol is not escaped, not even U+0022 and U+005C, so these two rows are not valid JSON. Readers of the
+// table repair them before parsing. The repair would damage a symbol that is already escaped.
 std::string rowJson(char32_t codePoint, const RowTexts& texts, const GroupTable& table) {
   return "{\"symbol\":\"" + texts.symbol + "\",\"hex\":\"" + texts.hex + "\"," +
          (table.isSFSymbols ? "\"isSFSymbol\":true," : "") + "\"htmlHex\":\"" + texts.htmlHex +

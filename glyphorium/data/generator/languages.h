@@ -13,17 +13,17 @@ namespace glyph::generator {
 struct Language {
   std::string code;             ///< BCP 47
   std::size_t annotationTexts;  ///< the number of texts that the language's annotations must have
-  bool notesAreCounted;         ///< whether the figures of the enrichment table include the language's notes
-  /// Characters that a line break must not separate from the neighbouring text. Notes must not have an
-  /// ordinary space before a character of unbreakableBefore or after a character of unbreakableBehind. A
-  /// no-break space is allowed, and no space at all is allowed, too.
+  bool notesAreCounted;         ///< whether figures.tsv has a number for the language's notes
+  /// Characters that a line break must not separate from the text before them (unbreakableBefore) or after
+  /// them (unbreakableBehind). Between such a character and that text, notes may have a no-break space or no
+  /// space, but not an ordinary space.
   std::u32string unbreakableBefore, unbreakableBehind;
   Place place;
 };
 
 /// Returns the languages in the order of languages.tsv. All files of a language are optional. Throws
-/// SourceError if the sources contain a file of a language that is not in languages.tsv. Such a file would be
-/// ignored.
+/// SourceError if the sources contain a file of a language that is not in languages.tsv, because the
+/// generator would never read that file.
 std::vector<Language> readLanguages(const std::filesystem::path& sources);
 
 /// Returns the path of a language's file in search/. `kind` is the first part of the file name ("synonyms").

@@ -1,6 +1,6 @@
-// SPDX-License-Identifier: MIT
-// A program that converts the sources of the embedded texts to constants of the library. The build runs it.
-// The program fails, and so stops the build, if a source breaks a rule or if Figures::check() fails.
+// SPDX-License-Identifier: MIT A program that converts the sources of the embedded texts to constants of the
+// library. The build runs it. If a source breaks a rule or Figures::check() throws an exception, the program
+// fails and the build stops.
 #include <cstdio>
 #include <exception>
 #include <set>
@@ -41,8 +41,8 @@ void addGroupTables(const std::vector<GroupTable>& tables, EmbeddedImage& image,
   figures.reached("configured rows", configuredRows);
 }
 
-// Returns an index with only a part of the code points: every sixteenth one, and each one whose line does not
-// follow the line of the previous code point.
+// Returns an index with only some of the code points: every sixteenth one, and each one whose line does not
+// directly follow the line of the next lower code point.
 EmbeddedImage::Index sparse(const NameTable::Text& text) {
   constexpr int mostLines = 16;
   EmbeddedImage::Index index;

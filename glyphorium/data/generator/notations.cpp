@@ -40,8 +40,8 @@ Notations readLatex(const std::filesystem::path& file) {
   return notations;
 }
 
-// Reads the lines that stand for a single code point. If several lines have the same notation, the first one
-// is the likeliest.
+// Reads a table of pairs: a character, a notation. Leaves out lines with several code points. If several lines
+// have the same notation, the first one is the likeliest.
 Notations readPairs(const std::filesystem::path& file, std::size_t columns, bool withoutBlanks) {
   Notations notations;
   for (const SourceLine& line : readTable(file, columns, columns)) {

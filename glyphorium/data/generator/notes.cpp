@@ -17,8 +17,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Fails if the line has a straight quotation mark or a reverse solidus, unless the text is about the sign and
-// its code follows.
+// Fails if the line contains a straight quotation mark or a reverse solidus. One is allowed if its code
+// follows in parentheses, because then the text is about that character.
 void requireAllowedCharacters(const Place& place, const std::string& line) {
   for (std::size_t i = 0; i < line.size(); ++i) {
     const char c = line[i];
@@ -34,8 +34,8 @@ bool isSpace(char32_t c) {
   return c == U' ' || c == U'\u00A0' || c == U'\u202F';
 }
 
-// Fails if a sign surrounded by spaces is followed by the code of another sign: "« (00bb)". ASCII letters are
-// not checked: such a letter may be a word, and the number a year.
+// Fails if a single character is followed by the code of another character: "« (00bb)". Does not check ASCII
+// letters, because the letter may be a word and the number a year.
 void requireMatchingCodes(const Place& place, const std::string& line) {
   const std::u32string text = codePoints(line);
   for (std::size_t i = text.find(U" ("); i != std::u32string::npos; i = text.find(U" (", i + 1)) {

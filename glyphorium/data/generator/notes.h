@@ -10,8 +10,8 @@
 #include "glyphorium/data/generator/languages.h"
 #include "glyphorium/data/generator/name_table.h"
 
-/// The usage notes of the characters: those of the enrichment table, and the supplementary notes for
-/// characters that have none in the table.
+/// The usage notes of characters. The enrichment table contains most of them. The supplementary notes are for
+/// characters that have no note in that table.
 namespace glyph::generator {
 
 /// The notes of one language, by code point. One line feed begins a line of a list, two begin a paragraph.

@@ -10,14 +10,15 @@
 
 namespace glyph::generator {
 
-/// The rows of the configured tables in the form of data/prepared_rows.h, which the library need not decode.
+/// The rows of the configured tables as data/prepared_rows.h describes them, so that the library need not
+/// decode JSON.
 struct PreparedRows {
   std::string rows;   ///< PreparedRow structures, in the order of the tables
   std::string texts;  ///< the texts of each code point
   std::string order;  ///< 16-bit positions in `rows`, in ascending order of code points
 };
 
-/// Throws SourceError if the rows do not fit into the form.
+/// Converts the tables. Throws SourceError if a size or number does not fit into the fields of PreparedRow.
 PreparedRows prepareRows(const std::vector<GroupTable>& tables, const NameTable& names,
                          const EnrichmentTable& enrichment);
 

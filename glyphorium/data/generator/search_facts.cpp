@@ -18,8 +18,8 @@ using Facts = std::map<char32_t, std::vector<std::string>>;
 
 constexpr std::size_t manyColumns = 64;
 
-// Returns the code point of a line and stores it in `previous`. Fails if it has no name or is smaller than
-// the old value of `previous`.
+// Returns the code point of a line and stores it in `previous`. Fails if the code point has no name or is
+// smaller than the one in the previous line.
 char32_t orderedCodePoint(const SourceLine& line, const NameTable& names, char32_t& previous) {
   const char32_t codePoint = line.codePoint(0, false);
   if (codePoint < previous) line.fail("is out of order");
@@ -63,7 +63,8 @@ Facts readHtmlNames(const std::filesystem::path& file) {
   return facts;
 }
 
-// The text of each code point is its position in the file, as a decimal number that starts at 0.
+// Reads the list of most wanted characters. The text of each code point is its position in the list, as a
+// decimal number that starts at 0.
 Facts readMostWanted(const std::filesystem::path& file, const NameTable& names) {
   Facts facts;
   std::size_t place = 0;
@@ -120,8 +121,8 @@ std::size_t count(const Facts& facts) {
 void addSearchFacts(const std::filesystem::path& sources, const std::vector<Language>& languages,
                     const NameTable& names, EmbeddedImage& image, Figures& figures) {
   const std::filesystem::path folder = sources / "search";
-  // Only the numbers of texts in imported lists are checked, so that no text gets lost. This project's own
-  // lists grow.
+  // The number of texts is checked for lists from other sources only, to notice lost texts. The project's own
+  // lists may grow.
   const Facts htmlNames = readHtmlNames(sources / "enrichment" / "html-references.tsv");
   image.addSearchFacts("htmlName", "", htmlNames);
   figures.reached("html names", count(htmlNames));

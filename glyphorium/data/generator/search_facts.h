@@ -11,8 +11,8 @@
 
 namespace glyph::generator {
 
-/// Adds the search data that is not in the tables to the image: the data of all files in search/, and all
-/// HTML names. Throws SourceError if a source breaks a rule.
+/// Adds the data of the search that the group tables and the enrichment table lack to the image: the data of
+/// all files in search/, and all HTML names. Throws SourceError if a source breaks a rule.
 void addSearchFacts(const std::filesystem::path& sources, const std::vector<Language>& languages,
                     const NameTable& names, EmbeddedImage& image, Figures& figures);
 

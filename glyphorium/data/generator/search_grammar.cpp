@@ -13,8 +13,8 @@ bool isWordLetter(char c) {
   return ascii::isAlphanumeric(c) && c == ascii::lowered(c);
 }
 
-// Returns the columns of a rule without its first column, the kind. Fails if there are fewer than `least` or
-// more than `most` such columns.
+// Returns the columns of a rule except the first one, which is the kind of the rule. Fails if they are fewer
+// than `least` or more than `most`.
 std::vector<std::string> operands(const SourceLine& line, std::size_t least, std::size_t most) {
   std::vector<std::string> texts(line.columns.begin() + 1, line.columns.end());
   if (texts.size() < least || texts.size() > most) line.fail("has too few or too many columns for its kind");

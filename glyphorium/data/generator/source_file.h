@@ -30,8 +30,8 @@ struct SourceLine {
   std::vector<std::string> columns;
 
   [[noreturn]] void fail(const std::string& message) const { place.fail(message); }
-  /// Returns the code point in a column. The column must have hexadecimal digits of the given letter case. It
-  /// must have at least four digits, and leading zeros only to reach four digits. Fails otherwise.
+  /// Returns the code point in a column. Fails unless the column consists of hexadecimal digits of the given
+  /// letter case, at least four, with leading zeros only where they are needed for four digits.
   char32_t codePoint(std::size_t column, bool upperCase) const;
   /// Returns the decimal number in a column. Fails if the column is not an unsigned number of at most 32
   /// bits.

@@ -16,8 +16,9 @@ constexpr std::size_t sampleSize = 200'000;  // in bytes; a larger sample hardly
 
 }  // namespace
 
-// Each round splits the lines into the current pieces. Of these pieces and of the pairs of adjacent pieces,
-// it keeps those that cover the most bytes. So pieces grow from single bytes to frequent words.
+// Each round splits the lines into the current pieces. The pieces for the next round are chosen from these
+// pieces and from all pairs of adjacent pieces: those that cover the most bytes. So the pieces grow from
+// single bytes to frequent words.
 TextPacker::TextPacker(const std::vector<std::string>& lines) {
   std::size_t size = 0;
   for (const std::string& line : lines) size += line.size();

@@ -14,7 +14,7 @@ class TextPacker {
   /// Chooses the pieces of text with which these lines become shortest.
   explicit TextPacker(const std::vector<std::string>& lines);
 
-  /// Returns PackedTexts::pieces.
+  /// Returns the pieces in the form of PackedTexts::pieces.
   std::string pieces() const;
   /// Returns the packed line, including PackedTexts::endOfLine. The line need not be one of the constructor's
   /// lines.
@@ -22,12 +22,12 @@ class TextPacker {
 
  private:
   void choose(std::vector<std::string> pieces);
-  /// Returns the number of the longest piece at the beginning of the text, or pieces_.size() if there is
-  /// none.
+  /// Returns the index in pieces_ of the longest piece with which the text begins, or pieces_.size() if it
+  /// begins with no piece.
   std::size_t longestAt(std::string_view text) const;
 
   std::vector<std::string> pieces_;
-  std::array<std::vector<std::size_t>, 256> byFirst_;  // numbers of pieces by first byte, longest piece first
+  std::array<std::vector<std::size_t>, 256> byFirst_;  // indexes in pieces_, by first byte, longest first
 };
 
 }  // namespace glyph::generator
