@@ -15,7 +15,8 @@
 namespace browser {
 namespace {
 
-// Returns the characters that a text names. If it names none, returns the characters that it consists of.
+// Returns the characters that a text names. If the text names no character, returns the characters of the
+// text itself.
 std::vector<glyph::Entity> charactersOf(const std::string& text) {
   if (glyph::emojiPlace(text)) return {glyph::supplementEntity(text)};
   std::vector<glyph::Entity> entities;
@@ -26,7 +27,7 @@ std::vector<glyph::Entity> charactersOf(const std::string& text) {
   }
   if (!entities.empty()) return entities;
   for (const char32_t codePoint : glyph::codePoints(text)) {
-    // ASCII letters are more likely a misspelt name than characters to add.
+    // A text with ASCII letters or digits is probably a misspelt name, so its characters are not meant.
     if (codePoint < 0x80 && glyph::isAlphanumeric(codePoint)) return {};
     if (codePoint != ' ') entities.push_back(glyph::supplementEntity(glyph::utf8(codePoint)));
   }

@@ -14,13 +14,13 @@ namespace browser {
 class Catalog;
 class LargeGlyph;
 
-/// The characters that a text in the dialog names.
+/// The characters that the user has entered in the dialog.
 struct NamedCharacters {
   std::vector<std::string> hexes;  ///< empty if the text names nothing that can be added
-  QString message;                 ///< the name of the character, or why there is none
+  QString message;                 ///< the name of the character, or why nothing can be added
 };
 
-/// Reads codes, a name, an HTML reference or characters.
+/// Reads a text that the user has entered: codes, a name, an HTML reference or the characters themselves.
 NamedCharacters namedCharacters(const Catalog& catalog, const QString& text);
 
 /// Asks the user for characters to add, and shows a preview of them.

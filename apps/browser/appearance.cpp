@@ -17,8 +17,8 @@ namespace browser {
 namespace {
 
 constexpr std::string_view themeKey = "browserTheme";
-// The desktop's preference at the last start, so that the first window need not wait for the desktop's
-// answer.
+// The settings key for the desktop's preference (light or dark) at the last start of the program. With it,
+// the first window need not wait for the desktop's answer.
 constexpr std::string_view desktopIsDarkKey = "browserDesktopIsDark";
 
 constexpr std::string_view themeNames[] = {"system", "light", "dark"};
@@ -29,9 +29,9 @@ const QString portalSettings = QStringLiteral("org.freedesktop.portal.Settings")
 const QString appearanceSpace = QStringLiteral("org.freedesktop.appearance");
 const QString colourScheme = QStringLiteral("color-scheme");
 
-// Texts need a contrast ratio of at least 4.5:1 to their background, icons and borders at least 3:1. The
-// texts and their backgrounds are: `text` and `faint` on `window` and `base`, white on `button`,
-// `highlightedText` on `accent`, `link` on `window`.
+// The colours of a theme. Texts need a contrast ratio of at least 4.5:1 to their background, icons and
+// borders at least 3:1. The texts and their backgrounds are: `text` and `faint` on `window` and `base`, white
+// on `button`, `highlightedText` on `accent`, `link` on `window`.
 struct Colours {
   QColor window, base, text, faint, accent, highlightedText, button, link;
 };

@@ -24,7 +24,7 @@ class Appearance : public QObject {
   static Theme chosen();
   static void choose(Theme theme);
 
-  /// Make one object, before the first window.
+  /// Create exactly one object of this class, before the first window.
   explicit Appearance(Theme theme);
 
   void setTheme(Theme theme);

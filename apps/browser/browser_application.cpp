@@ -16,7 +16,8 @@ namespace {
 
 constexpr int lingeringMilliseconds = 10 * 60 * 1'000;
 
-// The text is typed after this time, so that the desktop can give the focus back to the other window first.
+// After the picker has closed, the program waits this long before it types the text, so that the desktop can
+// first give the focus back to the user's window.
 constexpr int focusMilliseconds = 180;
 
 }  // namespace
@@ -50,7 +51,7 @@ void BrowserApplication::showWindow(const QString& words) {
   if (!window_) {
     window_ = std::make_unique<MainWindow>(catalog_, appearance_);
     connect(window_.get(), &MainWindow::closed, this, [this] {
-      // The window must not be deleted before it has finished its event.
+      // Delete the window later, because it is still handling an event.
       window_.release()->deleteLater();
       if (!lingering_.isActive()) quitUnlessNeeded();
     });
@@ -82,8 +83,8 @@ void BrowserApplication::finishPick(const QString& text) {
   });
 }
 
-// Explains once that the user must paste the text. Shows a desktop notification, because the picker is
-// closed.
+// Tells the user once that the text must be pasted, because the program cannot type on this desktop. Uses a
+// desktop notification, because the picker is closed already.
 void BrowserApplication::explainTyping() {
   if (preferences::wasTypingExplained()) return;
   preferences::setTypingExplained();

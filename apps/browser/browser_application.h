@@ -15,9 +15,9 @@ namespace browser {
 class MainWindow;
 class Picker;
 
-/// Owns the windows of the program, and decides when it ends. It ends when the main window is closed. If it
-/// was started for the picker, it ends some minutes later, so that the next pick is quick. If it was started
-/// in the background, it runs until the session ends.
+/// Owns the windows of the program, and decides when it ends. It ends when the main window is closed. If the
+/// program was started to open the picker, it stays ready for some minutes, so that the picker opens quickly
+/// the next time. If it was started in the background, it runs until the session ends.
 class BrowserApplication : public QObject {
   Q_OBJECT
 

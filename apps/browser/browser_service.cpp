@@ -26,8 +26,8 @@ QString objectPath() {
 }  // namespace
 
 bool sendToRunning(const Request& request) {
-  // This needs a separate connection. The connection of sessionBus() would not work any more after the
-  // current QCoreApplication ends.
+  // Use a separate connection: that of QDBusConnection::sessionBus() would stop working when the current
+  // QCoreApplication ends.
   const QString connectionName = QStringLiteral("messenger");
   const QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName);
   const auto disconnect = qScopeGuard([&] { QDBusConnection::disconnectFromBus(connectionName); });
@@ -38,7 +38,7 @@ bool sendToRunning(const Request& request) {
   call.setAutoStartService(false);
   if (!isPick) call << request.words;
   call << request.activationToken;
-  // If the program already runs, a start in the background has nothing to do.
+  // A start in the background only makes the program run, and it is already running.
   if (request.kind == Request::Kind::background)
     return bus.interface()->isServiceRegistered(serviceName()).value();
   return bus.call(call, QDBus::Block, 3'000).type() == QDBusMessage::ReplyMessage;

@@ -7,7 +7,7 @@
 
 namespace browser {
 
-/// What the program was started for.
+/// The action that a start of the program asks for.
 struct Request {
   enum class Kind { window, pick, background };
   Kind kind = Kind::window;
@@ -15,11 +15,12 @@ struct Request {
   QString activationToken{};  ///< lets a window come to the front; may be empty
 };
 
-/// Makes the running program serve the request. Returns false if none is running. Needs a QCoreApplication.
+/// Sends the request to a running instance of the program. Returns false if no instance is running. Needs a
+/// QCoreApplication.
 bool sendToRunning(const Request& request);
 
-/// The service on the session bus through which a second start finds the running program. Its name is the
-/// application identifier with ".Browser" appended.
+/// The service on the session bus through which a second instance of the program finds the first. Its name is
+/// the application identifier with ".Browser" appended.
 class BrowserService : public QObject {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.glyphorium.Browser")

@@ -99,7 +99,7 @@ void Catalog::setDisplayed(const std::string& group, bool displayed) {
   displayedGroups_ = catalog.selectedGroups();
   checkStored();
   Q_EMIT groupsChanged();
-  // Several changes rebuild the list only once.
+  // Rebuild the list when control returns to the event loop, so that several changes rebuild it only once.
   QTimer::singleShot(0, this, [] {
     glyph::Glyphorium& changed = glyph::glyphorium();
     if (!changed.selectedGroupsHadChanged.get()) return;
@@ -127,7 +127,8 @@ void Catalog::remove(const std::vector<std::string>& hexes) {
 
 void Catalog::changeAdded(const std::vector<std::string>& hexes, bool add) {
   glyph::Glyphorium& catalog = glyph::glyphorium();
-  // The lists of this object are set first, because the library notifies its observers before it returns.
+  // Change the lists of this object before calling the library: the library notifies observers, which read
+  // these lists, before it returns.
   for (const std::string& hex : hexes) {
     std::erase(added_, hex);
     if (add) added_.push_back(hex);
@@ -201,7 +202,7 @@ void Catalog::copyWithTone(const Entity& emoji, glyph::SkinTone tone) {
 void Catalog::applySkinTone(std::vector<Entity>& characters) const {
   if (skinTone_ == glyph::SkinTone::none) return;
   for (Entity& entity : characters) {
-    // Characters that the user added keep the tone that the user chose.
+    // An emoji that the user added keeps its own skin tone, because the user chose it.
     const bool isEmoji = entity.computed.group.view() == "emoji" || entity.computed.group.empty();
     if (!isEmoji) continue;
     const std::string text = glyph::withSkinTone(entity.computed.symbol, skinTone_);
@@ -216,8 +217,8 @@ void Catalog::readSettings() {
   const auto store = glyph::settingsStore();
   using Key = glyph::UserInfluencedEntityKey;
   for (const Key key : Key::allCases()) {
-    // If a list cannot be read now, the window keeps the list that it shows. An unreadable list is not an
-    // empty list.
+    // If the list cannot be read now, keep the present one. An unreadable list must not look like an empty
+    // list.
     if (const auto failure = store->readFailure(key.rawValue())) {
       Q_EMIT settingsFailed(QString::fromStdString(*failure));
       return;

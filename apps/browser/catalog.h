@@ -11,8 +11,8 @@
 
 namespace browser {
 
-/// The windows' interface to the library: its lists, its notifications as signals, and the user's commands.
-/// There is one object. Only the GUI thread may use it.
+/// The interface through which the windows use the library: its lists, its notifications as signals, and the
+/// user's commands. All windows share one object. Only the GUI thread may use it.
 class Catalog : public QObject {
   Q_OBJECT
 
@@ -35,8 +35,8 @@ class Catalog : public QObject {
   const std::vector<std::string>& favourites() const { return favourites_; }
   const std::vector<std::string>& recentlyCopied() const { return recentlyCopied_; }
 
-  /// Displays the group, or stops displaying it. The displayed list is rebuilt a moment later, only once for
-  /// several changes.
+  /// Adds the group to the displayed groups, or removes it. The displayed list is rebuilt a moment later, and
+  /// only once if several groups change.
   void setDisplayed(const std::string& group, bool displayed);
 
   /// Adds characters to the group "custom" or removes them. The user can undo this.
@@ -49,15 +49,15 @@ class Catalog : public QObject {
 
   /// Copies the character in this form. Does nothing if the character does not have the form.
   void copy(const glyph::Entity& entity, const glyph::CopyForm& form);
-  /// Returns the form that the user copies with Alt+Enter. If the character does not have it, returns a form
-  /// that every character has.
+  /// Returns the form that the user copies with Alt+Enter. If the character does not have this form, returns
+  /// a form that every character has.
   const glyph::CopyForm& otherForm(const glyph::Entity& entity) const;
   /// Copies a text that was composed from these characters.
   void copyText(const QString& text, const std::vector<std::string>& hexes);
 
   void forgetRecentlyCopied();
 
-  /// The skin tone of emoji of people and hands in lists of emoji and in search results.
+  /// Returns the skin tone in which lists of emoji and search results show people and hands.
   glyph::SkinTone skinTone() const { return skinTone_; }
   /// Makes `tone` the preferred skin tone, and copies the emoji with it.
   void copyWithTone(const glyph::Entity& emoji, glyph::SkinTone tone);

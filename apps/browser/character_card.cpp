@@ -303,7 +303,7 @@ void CharacterCard::setCharacter(const glyph::Entity* entity) {
   const QString unicodeName = fromUtf8(entity->computed.fallbackName);
   unicodeName_->setText(tr("Unicode name: %1").arg(unicodeName));
   unicodeName_->setVisible(!unicodeName.isEmpty() && unicodeName != name_->text());
-  // A space keeps the height of the line until the font is known.
+  // Show a space until the font is known, so that the line already has its height.
   font_->setText(QStringLiteral(" "));
   font_->setVisible(!isShownAsBox(*entity));
   glyph_->setCharacter(*entity);
@@ -356,7 +356,7 @@ void CharacterCard::showForms() {
 void CharacterCard::showNote() {
   const auto advice = entity_->additional ? entity_->additional->localizedAdvice() : std::nullopt;
   const QString note = advice ? fromUtf8(*advice) : QString();
-  // Codes in parentheses become links to their characters.
+  // Make each code in parentheses a link to its character.
   QString html = note.toHtmlEscaped();
   html.replace(codeInNote(), QStringLiteral("(<a href=\"\\1\">\\1</a>)"));
   html.replace(QLatin1Char('\n'), QLatin1String("<br>"));
@@ -382,7 +382,8 @@ CharacterCard::CharacterRow CharacterCard::addCharacterRow(const QString& title)
   return {addSection(title, content), flow};
 }
 
-// Reuses the buttons of earlier characters, because making buttons takes most of the time that a card needs.
+// Shows these characters in the row. Reuses existing buttons, because creating buttons would take most of the
+// time that the card needs.
 void CharacterCard::fill(const CharacterRow& row, const std::vector<std::string>& texts) {
   const int count = static_cast<int>(std::min(texts.size(), mostRelated));
   for (int i = 0; i < std::max(count, row.flow->count()); ++i) {
@@ -440,7 +441,7 @@ QGridLayout* CharacterCard::newTable() {
   return grid;
 }
 
-// Reuses the labels of earlier rows.
+// Fills the table with these rows of a label and a value. Reuses existing QLabel objects.
 void CharacterCard::fill(QGridLayout* table, const std::vector<std::pair<QString, QString>>& rows) {
   for (int row = 0; row < std::max(table->rowCount(), static_cast<int>(rows.size())); ++row) {
     const bool isUsed = row < static_cast<int>(rows.size());
@@ -465,7 +466,7 @@ void CharacterCard::fill(QGridLayout* table, const std::vector<std::pair<QString
   }
 }
 
-// Shows one way to type the character for each method: the most usual way.
+// Shows how to type the character. For each method, shows only the most usual way.
 void CharacterCard::showTyping() {
   std::vector<std::pair<QString, QString>> rows;
   std::string_view last;

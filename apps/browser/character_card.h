@@ -26,13 +26,14 @@ class LargeGlyph : public QWidget {
  public:
   explicit LargeGlyph(QWidget* parent = nullptr);
   void setCharacter(const glyph::Entity& entity);
-  /// Shows no character.
+  /// Removes the character, so that the widget is empty.
   void clear();
   QSize sizeHint() const override { return {200, 168}; }
   QSize minimumSizeHint() const override { return {96, 96}; }
 
  Q_SIGNALS:
-  /// The font that draws the character is known now. `family` is empty if no installed font draws it.
+  /// Emitted when it is known which font draws the character. `family` is empty if no installed font has the
+  /// character.
   void fontKnown(const QString& family);
 
  protected:
@@ -45,7 +46,7 @@ class LargeGlyph : public QWidget {
   QPoint pressed_;
 };
 
-/// Everything that is known about one character, with buttons to copy each form.
+/// Shows all that is known about one character, with a button to copy each of its forms.
 class CharacterCard : public QScrollArea {
   Q_OBJECT
 
@@ -64,7 +65,7 @@ class CharacterCard : public QScrollArea {
   void favouriteRequested();
   void addOrRemoveRequested();
   void collectRequested();
-  /// The user chose another character, or a group, on the card.
+  /// The following signals are emitted when the user clicks another character or a group on the card.
   void characterChosen(const QString& hex);
   void groupChosen(const QString& group);
 
@@ -80,7 +81,7 @@ class CharacterCard : public QScrollArea {
     QWidget* content;
   };
 
-  // Buttons with characters under a heading.
+  // A heading and, below it, buttons that show characters.
   struct CharacterRow {
     Section section;
     FlowLayout* flow;

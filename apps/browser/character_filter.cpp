@@ -23,10 +23,10 @@ constexpr KindName kindNames[] = {{Kind::all, "all"},
                                   {Kind::favourites, "favourites"},
                                   {Kind::recentlyCopied, "recently-copied"}};
 
-// The prefixes in the stored form of scopes that have a name.
+// A scope that has a name is stored as one of these prefixes and the name.
 constexpr KindName prefixes[] = {{Kind::group, "group:"}, {Kind::emoji, "emoji:"}, {Kind::block, "block:"}};
 
-// More characters than the catalog contains.
+// A limit for the number of results that is never reached, because the catalog has fewer characters.
 constexpr std::size_t everything = 100'000;
 
 // Returns each character of the catalog once, with a section for each group. The characters that the user
@@ -113,7 +113,7 @@ QString Scope::title() const {
     case Kind::emoji:
       return emojiGroupTitle(group);
     case Kind::block:
-      // Most blocks have the same name as a group, so the titles of groups are used.
+      // Use the translated titles of groups, because most blocks have the same name as a group.
       return QCoreApplication::translate("GroupTitle", group.c_str());
     case Kind::text:
       return CharacterFilter::tr("Characters of “%1”").arg(fromUtf8(group).simplified().left(40));
@@ -354,8 +354,8 @@ void CharacterFilter::search() {
   list_ = std::move(matching);
 }
 
-// Returns characters and emoji outside the catalog that the query names exactly. The user can look at them
-// and add them.
+// Returns the characters and emoji that the query names exactly, also those outside the catalog. The user can
+// look at them and add them.
 std::vector<Entity> CharacterFilter::beyondCatalog() const {
   const std::string text = query_.trimmed().toStdString();
   if (glyph::emojiPlace(text)) return {catalog_.characterOf(text)};

@@ -19,29 +19,30 @@ class Catalog;
 /// The set of characters that a window shows.
 struct Scope {
   enum class Kind { all, displayed, favourites, recentlyCopied, group, emoji, block, text, picker };
-  /// Kind::text: the characters of a text. Kind::picker: the characters that the user is likely to want,
-  /// which are favourites, recently copied characters and those of the displayed groups. With this kind, a
-  /// query searches everything.
+  /// Two kinds need an explanation. Kind::text contains the characters of a text. Kind::picker contains the
+  /// characters that the user is likely to want: favourites, recently copied characters and the characters of
+  /// the displayed groups. A query with Kind::picker searches all characters.
   Kind kind = Kind::all;
-  std::string group{};  ///< the name of the group, emoji group or block; for Kind::text the text
+  std::string group{};  ///< the name of the group, emoji group or block; for Kind::text, the text
 
   bool operator==(const Scope&) const = default;
 
-  /// Convert a scope to the text with which it is stored, and back. Any other text gives Kind::all.
+  /// Convert a scope to a text that can be stored, and back. A text of any other form gives Kind::all.
   std::string text() const;
   static Scope fromText(std::string_view text);
   /// The name of the scope in the user's language.
   QString title() const;
 };
 
-/// Determines the characters that a window shows: those of a scope that match the text that the user typed.
+/// Determines the characters that a window shows: the characters of a scope that match the query that the
+/// user typed.
 class CharacterFilter : public QObject {
   Q_OBJECT
 
  public:
   /// Stores the list of characters in `list`. `list` is nullopt while the window shows
-  /// glyph::selectedEntities() unchanged. The main window passes glyph::filteredEntities(), where other parts
-  /// of the application find its list.
+  /// glyph::selectedEntities() unchanged. The main window passes glyph::filteredEntities(), so that other
+  /// parts of the application can read the list there.
   CharacterFilter(Catalog& catalog, std::optional<std::vector<glyph::Entity>>& list);
 
   const Scope& scope() const { return scope_; }
@@ -54,7 +55,7 @@ class CharacterFilter : public QObject {
   const std::vector<GridSection>& sections() const { return sections_; }
   /// The number of characters outside the scope that match the query.
   std::size_t elsewhere() const { return elsewhere_; }
-  /// Whether nothing matches the query as typed, so that the search corrected it.
+  /// Whether the characters match a corrected query, because nothing matches the query as typed.
   bool isApproximate() const { return approximate_; }
 
  Q_SIGNALS:

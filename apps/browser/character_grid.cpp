@@ -25,8 +25,8 @@ QColor withAlpha(QColor colour, double alpha) {
   return colour;
 }
 
-// Returns true for characters that are newer than Unicode 15.0, the version of isInvisible(), which takes
-// such characters for unassigned.
+// Returns true for visible characters that were added after Unicode 15.0. isInvisible() uses the data of
+// Unicode 15.0 and takes these characters for unassigned.
 bool isLaterCharacter(char32_t point) {
   const std::string_view category = glyph::characterCategory(point);
   if (category.starts_with('C') || category.starts_with('Z')) return false;
@@ -51,9 +51,9 @@ GlyphRequest cellRequest(const glyph::Entity& entity, int cellSize, double ratio
   const std::u32string points = glyph::codePoints(entity.computed.symbol.view());
   const bool isMark = !points.empty() && glyph::isCombining(points.front()) &&
                       glyph::characterCategory(points.front()) != "Me";
-  // A combining mark is drawn on a dotted circle, except an enclosing mark, which few fonts centre on the
-  // circle. All other characters are drawn unchanged. This includes private use, for which the user may have
-  // a font.
+  // Draw a combining mark on a dotted circle. An enclosing mark is drawn alone, because few fonts centre it
+  // on the circle. Draw all other characters unchanged, also private-use characters, because the user may
+  // have a font for them.
   request.text = isMark ? shownText(entity) : fromUtf8(entity.computed.symbol);
   const bool isEmoji = entity.computed.group.empty() && glyph::emojiPlace(entity.computed.symbol).has_value();
   if (isEmoji || entity.computed.group.view() == "emoji") {
@@ -102,7 +102,7 @@ CharacterGrid::CharacterGrid(QWidget* parent) : QAbstractScrollArea(parent) {
 
 void CharacterGrid::setCharacters(const std::vector<glyph::Entity>& characters,
                                   std::vector<GridSection> sections, bool keepCurrent) {
-  // The old list may no longer exist, so the current character is looked up only in the new list.
+  // Look for the current character in the new list only, because the old list may no longer exist.
   int wanted = characters.empty() ? -1 : 0;
   if (keepCurrent && current_ >= 0) {
     const auto same = std::find_if(characters.begin(), characters.end(), [&](const glyph::Entity& entity) {
@@ -198,14 +198,14 @@ void CharacterGrid::ensureVisible(int index) {
   QScrollBar* const bar = verticalScrollBar();
   const bool isFirstLine = layout_.firstOfLine(index) == 0;
   if (isFirstLine) return bar->setValue(0);
-  const int margin = headingHeight();  // the heading above stays readable
+  const int margin = headingHeight();  // so that the heading above the cell is visible too
   if (cell.top() - margin < bar->value()) bar->setValue(cell.top() - margin);
   if (cell.bottom() + 8 > bar->value() + viewport()->height())
     bar->setValue(cell.bottom() + 8 - viewport()->height());
 }
 
 void CharacterGrid::resizeEvent(QResizeEvent*) {
-  // Keep the character at the top in its place.
+  // Keep the same character at the top of the grid.
   const int top = layout_.indexAt({rulerWidth() + 1, verticalScrollBar()->value() + cellSize_});
   layOut();
   if (top > 0) verticalScrollBar()->setValue(layout_.cellRect(top).top() - cellSize_ + 1);
@@ -280,7 +280,7 @@ void CharacterGrid::paintEvent(QPaintEvent* event) {
   }
 }
 
-// Paints a large symbol with the text below it, centred together.
+// Paints what an empty grid shows: a large icon with a text below it, in the middle.
 void CharacterGrid::paintEmpty(QPainter& painter) {
   constexpr int side = 56, gap = 14;
   const int width = std::min(viewport()->width() - 48, 420);

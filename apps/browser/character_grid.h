@@ -32,13 +32,13 @@ class CharacterGrid : public QAbstractScrollArea {
   int count() const { return layout_.count(); }
   const glyph::Entity& character(int index) const { return (*characters_)[static_cast<std::size_t>(index)]; }
 
-  /// -1 if the grid is empty.
+  /// Returns the index of the current cell, or -1 if the grid is empty.
   int current() const { return current_; }
   void setCurrent(int index);
   const glyph::Entity* currentCharacter() const { return current_ < 0 ? nullptr : &character(current_); }
 
   int cellSize() const { return cellSize_; }
-  /// The size is clamped to the range above.
+  /// Sets the size of the cells. A size outside the allowed range is set to the nearest limit.
   void setCellSize(int size);
   void setRulerShown(bool shown);
 
@@ -117,14 +117,15 @@ class CharacterGrid : public QAbstractScrollArea {
 /// Returns the request to the renderer for the character in a cell of this size.
 GlyphRequest cellRequest(const glyph::Entity& entity, int cellSize, double ratio);
 
-/// Whether the character is shown as a box because characters of its kind have no glyph.
+/// Whether the character is shown as a box because fonts have no glyph for it: an invisible character, for
+/// example.
 bool isShownAsBox(const glyph::Entity& entity);
 
 /// Whether the code point is for private use, so that only special fonts have a glyph for it.
 bool isPrivateUse(char32_t point);
 
-/// Paints the character into the area: its picture, a box if it has none, or nothing while the picture is
-/// being drawn.
+/// Paints the character into the area: its picture, or a box if the character has no glyph, or nothing while
+/// the picture is still being drawn on the other thread.
 void paintCharacter(QPainter& painter, const QRect& area, const glyph::Entity& entity,
                     const GlyphRequest& request, const QColor& colour);
 

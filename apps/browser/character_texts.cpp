@@ -95,7 +95,7 @@ QString formTitle(const glyph::CopyForm& form) {
       {"swift", QT_TRANSLATE_NOOP("CopyForm", "Swift")},
       {"swiftui", QT_TRANSLATE_NOOP("CopyForm", "SwiftUI")},
       {"uikit", QT_TRANSLATE_NOOP("CopyForm", "UIKit")},
-      // Names of languages and encodings, the same everywhere.
+      // Names of programming languages and encodings are not translated.
       {"utf-8", "UTF-8"},
       {"utf-16", "UTF-16"},
       {"utf-32", "UTF-32"},

@@ -20,13 +20,14 @@ inline QString fromUtf8(std::string_view text) {
 /// The code points, separated by spaces: "U+2192".
 QString codeText(const glyph::Entity& entity);
 
-/// The name, or a text that says that the character has none.
+/// The name of the character, or a text that says that the character has no name.
 QString nameText(const glyph::Entity& entity);
 
 /// Whether the character has a name, rather than only a label such as "<reserved-0378>".
 bool hasName(const glyph::Entity& entity);
 
-/// What people of the user's language call the character. Empty if this is not known or equal to nameText().
+/// The name of the character in the user's language. Empty if no such name is known, or if it equals
+/// nameText().
 QString localNameText(const glyph::Entity& entity);
 
 /// The character, or a visible substitute if it is invisible.

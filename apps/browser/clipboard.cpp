@@ -16,7 +16,7 @@ class QtPasteboard final : public glyph::Pasteboard {
  public:
   bool setPlainText(std::string_view text) override {
     const auto set = [copy = fromUtf8(text)] { QGuiApplication::clipboard()->setText(copy); };
-    // Only the GUI thread may use the clipboard.
+    // Only the GUI thread may use Qt's clipboard, so another thread must wait for it.
     const bool isHere = QThread::currentThread() == qApp->thread();
     QMetaObject::invokeMethod(qApp, set, isHere ? Qt::DirectConnection : Qt::QueuedConnection);
     return true;

@@ -11,8 +11,8 @@ namespace browser {
 
 /// Why a character is shown as a box.
 enum class BoxKind {
-  invisible,  ///< characters of its kind have no glyph: dashed outline
-  missing,    ///< no installed font draws it: plain outline
+  invisible,  ///< fonts have no glyph for such characters: dashed outline
+  missing,    ///< no installed font has the character: plain outline
 };
 
 /// Paints a box with a short text, such as the hexadecimal code of a character, in place of its glyph. A text

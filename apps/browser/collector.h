@@ -9,8 +9,8 @@ class QLineEdit;
 
 namespace browser {
 
-/// A strip with an editable text that collects characters to copy them together. It is hidden while it is
-/// empty.
+/// A strip with a text field in which the user collects characters, to copy them together. It is hidden while
+/// it is empty.
 class Collector : public QWidget {
   Q_OBJECT
 

@@ -28,7 +28,8 @@ void FlowLayout::setGeometry(const QRect& area) {
   place(area, true);
 }
 
-// Returns the height of all lines. Moves the widgets if `move` is true.
+// Computes the lines for this area and returns their total height. Moves the widgets to their places if
+// `move` is true.
 int FlowLayout::place(const QRect& area, bool move) const {
   int x = area.x(), y = area.y(), lineHeight = 0;
   const Qt::LayoutDirection direction = parentWidget() ? parentWidget()->layoutDirection() : Qt::LeftToRight;

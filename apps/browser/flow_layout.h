@@ -6,7 +6,8 @@
 
 namespace browser {
 
-/// Places widgets in lines, like the words of a text.
+/// A layout that places widgets side by side and begins a new line when a line is full, like the words of a
+/// text.
 class FlowLayout : public QLayout {
  public:
   explicit FlowLayout(int gap) : gap_(gap) {}

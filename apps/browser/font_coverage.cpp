@@ -49,7 +49,7 @@ const FontCoverage::Fonts& FontCoverage::fonts(FontClass fontClass) const {
   FcConfigSubstitute(nullptr, pattern, FcMatchPattern);
   FcDefaultSubstitute(pattern);
   FcResult result = FcResultMatch;
-  // FcTrue leaves out fonts without code points that the fonts before them lack.
+  // FcTrue leaves out a font if the fonts before it already have all its code points.
   made = std::make_unique<Fonts>(FcFontSort(nullptr, pattern, FcTrue, nullptr, &result));
   FcPatternDestroy(pattern);
   return *made;
@@ -77,7 +77,8 @@ QStringList FontCoverage::families(const std::u32string& codePoints, FontClass f
     QStringList& list = isColoured ? coloured : fitting;
     if (!list.contains(family)) list.append(family);
   }
-  // Emoji should be coloured. Digits and letters should not, although emoji fonts have glyphs for them, too.
+  // Prefer coloured fonts for emoji only. Emoji fonts also have glyphs for digits, which should not be
+  // coloured.
   const QStringList all = fontClass == FontClass::emoji ? coloured + fitting : fitting + coloured;
   return all.mid(0, limit);
 }

@@ -8,11 +8,12 @@
 
 namespace browser {
 
-/// The class of fonts that suits a character.
+/// The kind of font in which a character is shown.
 enum class FontClass { sans, serif, emoji };
 
-/// Finds installed fonts that draw a text, by the coverage tables of fontconfig. Qt would open one font after
-/// another until one draws the text, which takes seconds where many fonts are installed. Not thread-safe.
+/// Finds the installed fonts that have glyphs for a text, with the help of fontconfig's tables. Without it,
+/// Qt would open one font after another until a font has the glyphs. This takes seconds if many fonts are
+/// installed. Not thread-safe.
 class FontCoverage {
  public:
   /// `preferred` is the family that is tried before all others; it may be empty. `languages` are BCP 47 tags.
@@ -35,8 +36,8 @@ class FontCoverage {
   mutable std::unique_ptr<Fonts> classes_[3];  // made on first use
 };
 
-/// Returns the Debian package whose fonts draw the code point, or an empty text for private-use code points,
-/// which have no common font.
+/// Returns the name of the Debian package whose fonts have a glyph for the code point. Empty for a
+/// private-use code point, because there is no common font for it.
 QString fontPackage(char32_t codePoint);
 
 }  // namespace browser

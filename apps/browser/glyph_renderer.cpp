@@ -17,13 +17,14 @@
 namespace browser {
 namespace {
 
-// Enough for the pictures of about 4,000 cells of common size.
+// The limit for the memory of all kept pictures. It is enough for about 4,000 cells of common size.
 constexpr qsizetype keptBytesLimit = 16 << 20;
 
-// If more requests wait, the oldest are dropped, because the user has scrolled on.
+// The maximum number of waiting requests. If there are more, the oldest are dropped, because the user has
+// already scrolled past their characters.
 constexpr std::size_t mostWaiting = 3'000;
 
-// The number of pictures that the thread passes to the GUI thread at once.
+// The thread passes this many finished pictures to the GUI thread together.
 constexpr std::size_t batch = 40;
 
 // Fonts that a thread opens with Qt stay open until the thread ends. Drawing all characters would open
@@ -42,7 +43,7 @@ void layOut(Line& line, const QString& text, const QString& family, double pixel
   QFont font;
   font.setFamilies({family});
   font.setPixelSize(std::max(1, static_cast<int>(std::lround(pixels))));
-  // Without merging, Qt does not search other fonts for a glyph.
+  // With NoFontMerging, Qt uses the glyphs of this font only.
   font.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::NoFontMerging | QFont::PreferAntialias));
   font.setHintingPreference(QFont::PreferNoHinting);
   line.layout.setFont(font);
@@ -75,7 +76,8 @@ GlyphPicture draw(const GlyphRequest& request, const QString& family, const QCol
     pixels *= box / widest;
     layOut(line, request.text, family, pixels);
   }
-  // The ink of the glyph is centred horizontally. Glyphs have a common baseline where they fit.
+  // Centre the visible part of the glyph horizontally. Vertically, put it on a common baseline if it then
+  // fits into the box.
   const QRectF ink = line.ink;
   const double baseline = line.layout.lineAt(0).ascent();
   const double wanted = box / 2 + 0.36 * pixels - baseline;
@@ -94,7 +96,7 @@ GlyphPicture draw(const GlyphRequest& request, const QString& family, const QCol
   line.layout.draw(&painter, QPointF(shiftX, shiftY) - area.topLeft());
   painter.end();
   GlyphPicture picture;
-  picture.image = canvas.copy();  // the painted image keeps its paint engine, over a kilobyte
+  picture.image = canvas.copy();  // the copy lacks the paint engine, which needs over a kilobyte
   picture.image.setDevicePixelRatio(request.ratio);
   picture.corner = QPointF(area.topLeft()) / request.ratio;
   picture.family = family;
@@ -126,7 +128,7 @@ GlyphRenderer::GlyphRenderer() : pictures_(keptBytesLimit) {
 }
 
 void GlyphRenderer::startThread() {
-  if (thread_) thread_->wait();  // the old thread has already left work()
+  if (thread_) thread_->wait();  // the old thread is ending, so this does not take long
   thread_.reset(QThread::create([this] { work(); }));
   thread_->setObjectName("glyphs");
   connect(thread_.get(), &QThread::finished, this, [this, ended = thread_.get()] {
@@ -195,7 +197,7 @@ void GlyphRenderer::startAnew() {
     waiting_.clear();
     known_.clear();
   }
-  Q_EMIT picturesReady();  // the views ask again
+  Q_EMIT picturesReady();  // the views then call picture() again
 }
 
 void GlyphRenderer::work() {

@@ -23,7 +23,7 @@ class QThread;
 
 namespace browser {
 
-/// A text to draw and how to draw it.
+/// A request for a picture: the text to draw, its font and its size.
 struct GlyphRequest {
   QString text;
   FontClass fontClass = FontClass::sans;
@@ -45,8 +45,8 @@ struct GlyphPicture {
   QString family;  ///< family of the font that was used
 };
 
-/// Draws glyphs on a separate thread, because opening a font and shaping may take longer than a frame. Keeps
-/// the pictures.
+/// Draws glyphs, and keeps the pictures. Uses a separate thread, because opening a font and shaping a text
+/// may take longer than the window has for one frame.
 class GlyphRenderer : public QObject {
   Q_OBJECT
 
@@ -57,9 +57,9 @@ class GlyphRenderer : public QObject {
   GlyphRenderer();
   ~GlyphRenderer() override;
 
-  /// Returns the picture. If it is not drawn yet, returns null, draws it in the background and then emits
-  /// picturesReady(). The newest request is served first. The pointer is valid until control returns to the
-  /// event loop.
+  /// Returns the picture for a request. If there is no picture yet, returns null, draws the picture in the
+  /// background and then emits picturesReady(). The newest request is drawn first. The pointer is valid until
+  /// control returns to the event loop.
   const GlyphPicture* picture(const GlyphRequest& request);
 
   /// Returns the size of the pictures that are kept, in bytes.
@@ -95,7 +95,8 @@ class GlyphRenderer : public QObject {
   std::set<GlyphRequest> known_;  // the requests that wait or are being drawn
   QColor wantedColour_;
   QString wantedFamily_;
-  int generation_ = 0;  // counts the changes of colour and family, so that older pictures are dropped
+  // The number of changes of colour or family. A picture from before the last change is dropped.
+  int generation_ = 0;
   bool stopping_ = false;
   bool isWorking_ = false;  // whether the thread will look for requests once more
   // The following members belong to the thread while it works.

@@ -105,11 +105,11 @@ class Grid : public QAccessibleWidget {
 
  private:
   CharacterGrid* grid_;
-  mutable std::map<int, QAccessible::Id> cells_;  // only the cells that were asked for
+  mutable std::map<int, QAccessible::Id> cells_;  // only for cells that a screen reader has asked for
 };
 
-// Screen readers announce a window if it has the window role. Qt gives this role only to windows of its own
-// classes.
+// Gives the program's windows the role of a window, so that screen readers announce them. Qt gives this role
+// only to windows of Qt's own classes.
 QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
   if (CharacterGrid* const grid = gridOf(object)) return new Grid(grid);
   if (className == QLatin1String("browser::MainWindow"))

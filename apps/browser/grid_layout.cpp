@@ -50,7 +50,7 @@ QRect GridLayout::cellRect(int index) const {
   if (index < 0 || place >= lines_.size()) return {};
   const Line& line = lines_[place];
   const int column = index - line.first;
-  // The remaining pixels are spread over the columns, so that the cells fill the width.
+  // The columns share the remaining pixels, so that the cells fill the whole width.
   const auto left = [&](int of) { return ruler_ + (width_ - ruler_) * of / columns_; };
   return {left(column), line.y, left(column + 1) - left(column), line.height};
 }
@@ -70,7 +70,7 @@ int GridLayout::moved(int index, int lines) const {
   const int step = lines < 0 ? -1 : 1;
   std::size_t best = place;
   for (int left = std::abs(lines); left > 0;) {
-    place += static_cast<std::size_t>(step);  // below 0 it wraps around to a large number
+    place += static_cast<std::size_t>(step);  // a result below 0 becomes a large number, out of range too
     if (place >= lines_.size()) break;
     if (lines_[place].count == 0) continue;
     best = place;

@@ -10,7 +10,7 @@ namespace browser {
 /// A run of cells under one heading.
 struct GridSection {
   QString title;  ///< empty for a section without a heading
-  int first = 0;  ///< index of its first cell
+  int first = 0;  ///< index of the first cell of the section
   int count = 0;
 };
 
@@ -23,10 +23,10 @@ class GridLayout {
     int height;
     int section;
     int first;
-    int count;  ///< 0 in the line of a heading
+    int count;  ///< number of cells in the line; 0 if the line is a heading
   };
 
-  /// The sections must be in order and without gaps.
+  /// Sets the sections. Each section must begin where the previous one ends.
   void setSections(std::vector<GridSection> sections);
   const std::vector<GridSection>& sections() const { return sections_; }
 

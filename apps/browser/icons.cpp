@@ -100,7 +100,7 @@ QToolButton* newIconButton(Symbol symbol, const QString& name) {
 void addSearchIcon(QLineEdit& field, const QString& searchName, const QString& clearName) {
   field.setClearButtonEnabled(true);
   field.addAction(symbolIcon(Symbol::search), QLineEdit::LeadingPosition)->setText(searchName);
-  // The button that Qt puts into the field has no name of its own.
+  // Qt's button for clearing the field has no name for assistive technology. Give it one.
   for (QAction* const action : field.findChildren<QAction*>()) {
     if (action->text().isEmpty()) action->setText(clearName);
   }

@@ -9,7 +9,7 @@ class QToolButton;
 namespace browser {
 
 /// The symbols of buttons and menus. They are drawn in the text colour of the palette, so they suit light and
-/// dark windows, and do not depend on an icon theme.
+/// dark windows. No icon theme is needed.
 enum class Symbol {
   add,
   back,
@@ -29,7 +29,8 @@ enum class Symbol {
 
 QIcon symbolIcon(Symbol symbol);
 
-/// Returns a new flat button with this symbol. The name is its tooltip and its name for assistive technology.
+/// Returns a new flat button with this symbol. `name` is the tooltip of the button and its name for assistive
+/// technology.
 QToolButton* newIconButton(Symbol symbol, const QString& name);
 
 /// Adds a magnifying glass and a button that clears the text to a search field. The names are for assistive

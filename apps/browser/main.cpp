@@ -47,8 +47,8 @@ Options readOptions() {
           parser.value(theme)};
 }
 
-// Qt prints a line for each font that has a character but lacks the OpenType rules of its script. These lines
-// are dropped, because the program then tries the next font.
+// Drops one kind of Qt's messages: that a font has a character but lacks the OpenType rules for the
+// character's script. The program then tries the next font, so the user need not know.
 QtMessageHandler standardHandler = nullptr;
 void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
   if (!message.startsWith(QLatin1String("  OpenType support missing")))
@@ -69,8 +69,8 @@ int main(int argc, char** argv) {
   standardHandler = qInstallMessageHandler(handleMessage);
   Options options;
   {
-    // To find a running program, no connection to the display is made, because that takes most of the start
-    // time.
+    // Look for a running instance of the program before connecting to the display, because the connection
+    // takes most of the start time.
     const QCoreApplication messenger(argc, argv);
     nameApplication();
     browser::Translations translations;

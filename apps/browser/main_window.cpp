@@ -35,7 +35,8 @@
 namespace browser {
 namespace {
 
-// In logical pixels. In a narrower window, the card and the groups are not beside the characters.
+// In a window that is narrower than this (in logical pixels), the card and the groups are not shown beside
+// the characters.
 constexpr int narrowWidth = 860;
 
 }  // namespace
@@ -52,7 +53,8 @@ MainWindow::MainWindow(Catalog& catalog, Appearance& appearance)
   setAcceptDrops(true);
   auto* const whole = new QHBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);
-  whole->setSizeConstraint(QLayout::SetNoConstraint);  // the arrangement of a narrow window needs less width
+  // Let the window become narrower than its present contents. They are then arranged differently.
+  whole->setSizeConstraint(QLayout::SetNoConstraint);
   setMinimumSize(400, 360);
   whole->addWidget(columns_);
   for (QSplitter* const splitter : {columns_, characterAndCard_}) {
@@ -118,7 +120,7 @@ QWidget* MainWindow::makeHitBar() {
   hits_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   elsewhere_ = new QPushButton;
   elsewhere_->setFlat(true);
-  // The height of the bar does not depend on whether it has buttons.
+  // Keep the height of the bar the same with and without the button.
   hitBar_->setMinimumHeight(elsewhere_->sizeHint().height() + 6);
   row->addWidget(hits_, 1);
   row->addWidget(elsewhere_);
@@ -143,7 +145,7 @@ QWidget* MainWindow::makeMiddle() {
   column->addWidget(collector_);
   grid_->setFavouriteTest(
       [this](const glyph::Entity& entity) { return catalog_.isFavourite(entity.computed.hex); });
-  // The card is updated only when the user pauses, so that its texts do not slow down typing and moving.
+  // Update the card only when the user pauses: filling it would slow down typing and moving the selection.
   cardTimer_.setSingleShot(true);
   cardTimer_.setInterval(30);
   connect(&cardTimer_, &QTimer::timeout, this, [this] { card_->setCharacter(grid_->currentCharacter()); });
@@ -328,7 +330,8 @@ void MainWindow::chooseScope(const Scope& scope) {
   }
 }
 
-// Remembers the current place before the user follows a link on the card.
+// Remembers the scope, the query and the character, so that the user can go back after following a link on
+// the card.
 void MainWindow::rememberPlace() {
   const glyph::Entity* const entity = grid_->currentCharacter();
   if (!entity) return;
@@ -496,7 +499,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
       if (grid_->current() >= 0) {
         copyCharacter(grid_->current(), key->modifiers());
       } else if (filter_.elsewhere() > 0) {
-        chooseScope({Scope::Kind::all});  // pressing Enter again copies the first character there
+        chooseScope({Scope::Kind::all});  // pressing Enter again then copies the first result
       }
       return true;
     default:
@@ -612,7 +615,7 @@ void MainWindow::showShortcuts() {
   for (const Row& row : rows) {
     table += QStringLiteral("<tr><td><b>%1</b>&nbsp;&nbsp;</td><td>%2</td></tr>").arg(row.keys, row.effect);
   }
-  // A message box would be too narrow and too high on small screens.
+  // Use a dialog of our own: a QMessageBox would be too narrow, and too high for small screens.
   QDialog dialog(this);
   dialog.setWindowTitle(tr("Keys and mouse"));
   auto* const column = new QVBoxLayout(&dialog);

@@ -88,7 +88,7 @@ class MainWindow : public QWidget {
   void restore();
   void save() const;
 
-  // The place where the user was before following a link.
+  // What the window showed before the user followed a link.
   struct Place {
     Scope scope;
     QString words;

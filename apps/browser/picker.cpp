@@ -30,7 +30,7 @@ constexpr int leavingMilliseconds = 250;
 
 }  // namespace
 
-// The size is fixed, because tiling window managers do not tile windows of fixed size.
+// The window has a fixed size, so that tiling window managers let it float instead of tiling it.
 Picker::Picker(Catalog& catalog)
     : QWidget(nullptr, Qt::Dialog | Qt::WindowStaysOnTopHint | Qt::FramelessWindowHint),
       catalog_(catalog),

@@ -28,7 +28,7 @@ class Picker : public QWidget {
   void open();
 
  Q_SIGNALS:
-  /// The window has closed. `text` is the copied text; it is null if the user picked nothing.
+  /// Emitted when the window has closed. `text` is the copied text, or null if the user picked nothing.
   void closed(const QString& text);
 
  protected:

@@ -74,8 +74,9 @@ bool startsWithDesktop() {
 bool setStartsWithDesktop(bool starts) {
   const QString file = autostartFile();
   if (!starts) return !QFile::exists(file) || QFile::remove(file);
-  // In a quoted argument of a desktop entry, these characters need a backslash. Each backslash must be
-  // escaped again, because the argument is part of a string. A percent sign must be doubled.
+  // Write the path as a quoted argument of a desktop entry. The characters in this list need a backslash, and
+  // each backslash must be doubled, because the argument is part of a string value. A percent sign must be
+  // doubled too.
   QString program = QCoreApplication::applicationFilePath();
   program.replace('\\', "\\\\\\\\")
       .replace('"', "\\\\\"")

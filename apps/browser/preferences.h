@@ -7,11 +7,12 @@
 /// The user's choices about the windows, kept in glyph::settingsStore().
 namespace browser::preferences {
 
-/// The form that Alt+Enter copies: an identifier of glyph::copyForms(), at first "html".
+/// The form that Alt+Enter copies: an identifier of glyph::copyForms(). The default is "html".
 std::string otherForm();
 void setOtherForm(const std::string& identifier);
 
-/// The font family that is tried first for glyphs. If it is empty, the program chooses.
+/// The font family in which characters are shown if it has glyphs for them. If the text is empty, the program
+/// chooses the family.
 QString glyphFamily();
 void setGlyphFamily(const QString& family);
 
@@ -19,14 +20,14 @@ void setGlyphFamily(const QString& family);
 bool pickerTypes();
 void setPickerTypes(bool types);
 
-/// Whether the user was told that the picker cannot type on this desktop.
+/// Whether the program has already told the user that the picker cannot type on this desktop.
 bool wasTypingExplained();
 void setTypingExplained();
 
 /// Whether the program starts with the desktop, in the background. Stored as an entry in the user's autostart
 /// folder.
 bool startsWithDesktop();
-/// Returns false if the entry could not be written.
+/// Creates or removes the autostart entry. Returns false if this fails.
 bool setStartsWithDesktop(bool starts);
 
 }  // namespace browser::preferences

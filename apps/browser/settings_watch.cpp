@@ -19,8 +19,9 @@ SettingsWatch::SettingsWatch() : directory_(glyph::applicationConfigDirectory().
   watch();
 }
 
-// Watches the directory for new files, and the files for new content. SQLite writes to the file with the
-// suffix "-wal" first. If the directory does not exist yet, watches its nearest existing parent.
+// Watches the directory for new files, and the files for new content. One of the files has the suffix "-wal":
+// SQLite writes a change to it before it changes the database. If the directory does not exist yet, watches
+// its nearest existing parent.
 void SettingsWatch::watch() {
   if (directory_.empty()) return;
   QStringList paths;

@@ -17,7 +17,7 @@ class SettingsWatch : public QObject {
   SettingsWatch();
 
  Q_SIGNALS:
-  /// Emitted once for several changes, a moment after the last one.
+  /// Emitted a moment after the last of several changes, and only once for all of them.
   void changed();
 
  private:

@@ -19,7 +19,7 @@ using Kind = Scope::Kind;
 
 constexpr int checkSize = 16;
 
-// Paints the rows. A click on a check mark changes it.
+// Paints the rows of the list. Reacts to a click on a check mark.
 class ScopeDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -110,7 +110,7 @@ class ScopeDelegate : public QStyledItemDelegate {
     painter.setFont(option.font);
     painter.setPen(text);
     const QRect place = row.adjusted(0, 0, -countWidth - 8, 0);
-    // Many titles differ only in their last word.
+    // Shorten a long title in the middle, because many titles differ only in their last word.
     const QString title =
         QFontMetrics(option.font).elidedText(index.data().toString(), Qt::ElideMiddle, place.width());
     painter.drawText(mirrored(place), static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading), title);
@@ -188,7 +188,8 @@ qlonglong ScopeModel::characterCount(const Scope& scope) const {
   return glyph::glyphorium().allEntityGroupNamesWithCount[scope.group];
 }
 
-// Counting takes a moment, so only visible rows are counted, and each only once.
+// Returns the number of characters of a scope outside the catalog. Counting takes time, so the number is
+// computed when the row becomes visible, and then kept.
 qlonglong ScopeModel::countOutsideCatalog(const Scope& scope) const {
   const auto [known, isNew] = counts_.try_emplace(scope.text());
   if (!isNew) return known->second;

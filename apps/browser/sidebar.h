@@ -13,8 +13,9 @@ namespace browser {
 
 class Catalog;
 
-/// The scopes as rows. The parts of the catalog come first, then a heading and the groups. Each group has a
-/// check mark, which says whether it is displayed, and the number of its characters.
+/// The rows of the sidebar, one for each scope that the user can choose. The parts of the catalog come first,
+/// then a heading and the groups. Each group has a check mark, which says whether it is displayed, and the
+/// number of its characters.
 class ScopeModel : public QAbstractListModel {
   Q_OBJECT
 

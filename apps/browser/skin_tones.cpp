@@ -13,7 +13,8 @@ bool addSkinTones(QMenu& menu, const glyph::Entity& entity,
   if (!place || glyph::emojiVariants(*place).empty()) return false;
   const std::vector<std::string> languages = glyph::preferredLanguages();
   const std::string language = languages.empty() ? "en" : languages.front();
-  // CLDR names the tones in all languages: "medium skin tone".
+  // The title of an entry is the CLDR name of the tone's own character in the user's language: "medium skin
+  // tone".
   constexpr std::string_view modifiers[] = {"", "🏻", "🏼", "🏽", "🏾", "🏿"};
   const std::string plain(glyph::emojiAt(glyph::emojiBase(*place)).text);
   for (const glyph::SkinTone tone : glyph::allSkinTones) {

@@ -44,7 +44,8 @@ void Toast::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  // The colours of the windows, inverted: the message stands out in light and dark windows.
+  // Exchange the window's colours for text and background, so that the message stands out in light and dark
+  // windows.
   QColor ground = palette().color(QPalette::Text);
   ground.setAlphaF(0.93F);
   painter.setBrush(ground);

@@ -15,11 +15,12 @@
 namespace browser {
 namespace {
 
-// The time that a tool may take beyond the typing itself. A tool that takes longer is ended.
+// The time that a tool may take in addition to the time for the keys. A tool that takes longer is killed.
 constexpr int longestMilliseconds = 5'000;
 
-// For a character that is on no key, the tool maps a spare key to it for a moment. On a busy machine,
-// programs notice this late. With a shorter delay, some characters are lost.
+// The delay between two keys. For a character that no key has, the tool maps a spare key to the character for
+// a moment. On a busy machine, programs learn of the new mapping late. With a shorter delay, some characters
+// would be lost.
 constexpr int keyMilliseconds = 150;
 
 #ifdef BROWSER_HAS_XCB

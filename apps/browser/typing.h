@@ -13,8 +13,8 @@ struct TypingTool {
   QStringList arguments;  ///< arguments that precede the text
 };
 
-/// Returns the tool for this desktop, or one with an empty program if none is installed: xdotool on X11,
-/// wtype on Wayland.
+/// Returns the tool for this desktop: xdotool on X11, wtype on Wayland. If the tool is not installed, the
+/// result has an empty `program`.
 TypingTool typingTool();
 
 /// Returns the window that has the focus on X11, as the number that xdotool expects. Empty on other

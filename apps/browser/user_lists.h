@@ -17,10 +17,10 @@ class UserList {
   /// Returns the codes. Every call reads the settings.
   std::vector<std::string> codes() const;
 
-  /// Puts the code first in the list, and removes it from its former place.
+  /// Moves the code to the beginning of the list, or inserts it there.
   void putFirst(const std::string& code) const;
 
-  /// Removes the code if it is in the list, otherwise puts it first.
+  /// Removes the code if it is in the list, otherwise inserts it at the beginning.
   void toggle(const std::string& code) const;
 
   void clear() const;

@@ -6,7 +6,7 @@
 
 namespace browser {
 
-/// The state of the main window when the user closed it. Stored in glyph::settingsStore().
+/// The state of the main window when it was last closed. Stored in glyph::settingsStore().
 struct WindowSettings {
   QByteArray geometry;  ///< from QWidget::saveGeometry(); empty if not known
   QByteArray columns;   ///< from QSplitter::saveState(); empty if not known
