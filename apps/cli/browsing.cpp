@@ -45,7 +45,7 @@ int listEntities(Output& output, const ListRequest& request, const Listing& list
   using Key = glyph::UserInfluencedEntityKey;
   std::vector<const Entity*> entities;
   int exitCode = found;
-  if (request.all && !isReadable(Key::customAddedEntities)) exitCode = notRead;  // still lists the catalog
+  if (request.all && !isReadable(Key::customAddedEntities)) exitCode = notRead;  // the list is still printed
   if (request.groups.empty() && !request.all) {
     if (!isReadable(Key::displayedGroups) || !isReadable(Key::customAddedEntities)) return notRead;
     for (const Entity& entity : glyph::selectedEntities().get()) entities.push_back(&entity);
@@ -108,7 +108,8 @@ int showCharacters(Output& output, const std::vector<std::string>& arguments, co
       complain(unknownCharacter(argument));
       exitCode = nothingFound;
     }
-    // An argument may contain a character several times, as joined emoji do. Show such a character once.
+    // Show each character of an argument once, even if the argument contains it several times, like the
+    // joiners in an emoji.
     for (auto one = resolved.begin(); one != resolved.end(); ++one) {
       const bool isShown = std::any_of(
           resolved.begin(), one, [&](const Character& earlier) { return earlier.front() == one->front(); });

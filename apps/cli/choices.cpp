@@ -25,7 +25,8 @@ using Key = glyph::UserInfluencedEntityKey;
 // Returns whether the choice is stored. If not, prints the reason.
 bool isSaved() {
   const bool saved = glyph::settingsStore()->synchronize();
-  // There may be lines to print even after a success, for example that a damaged file was quarantined.
+  // Print the kept lines even after a success. One may say, for example, that a damaged settings file was
+  // renamed.
   complainOfFailure(saved ? "" : "the choice could not be saved");
   return saved;
 }
@@ -44,8 +45,8 @@ void printDisplayed(Output& output, bool json) {
   json ? printJsonArray(output, objects) : output.printTable(rows);
 }
 
-// Returns the characters that the user added, oldest first. Characters that the catalog's list leaves out,
-// because the name table does not have them, get the names of the supplement.
+// Returns the characters that the user added, oldest first. The catalog's own list leaves out characters that
+// the name table does not have. Here they are included, with the names of the supplement.
 std::vector<glyph::Entity> addedEntities() {
   std::vector<glyph::Entity> entities;
   const std::vector<glyph::Entity>& known = glyph::glyphorium().allCustomEntities;
@@ -173,7 +174,7 @@ int removeCharacters(Output& output, const Names& arguments) {
   const Names added = catalog.customAddedEntityUnicodes();
   const std::unordered_set<std::string> known(added.begin(), added.end());
   for (const std::string& argument : arguments) {
-    // The user can remove any stored code by its stored spelling, even a code that is not valid.
+    // A text that is stored exactly like this can be removed, even if it is not a valid code.
     const bool asStored = known.contains(glyph::lowercased(argument));
     const auto parsed = storedCode(argument);
     const std::string code = asStored || !parsed ? argument : *parsed;

@@ -19,7 +19,7 @@ struct ListRequest {
       groups;  // groups, and sets as in charactersOfSet(); empty means the displayed groups
   bool all = false;
   std::string regex;  // only characters whose names contain a match; empty means all
-  std::string tone;   // skin tone of emoji, see skinToneNamed(); empty changes no emoji
+  std::string tone;   // the skin tone in which emoji are shown, see skinToneNamed(); empty means unchanged
 };
 int listEntities(Output& output, const ListRequest& request, const Listing& listing);
 int showCharacters(Output& output, const std::vector<std::string>& arguments, const Listing& listing);
@@ -36,7 +36,7 @@ struct SearchRequest {
 };
 int searchCatalog(Output& output, const SearchRequest& request, const Listing& listing);
 struct PickRequest {
-  std::vector<std::string> words;  // the text to begin with
+  std::vector<std::string> words;  // the text in the search field at the start
   bool multi = false;
   bool copy = false;  // copy instead of print
   std::string form = "character";
@@ -52,7 +52,8 @@ int removeCharacters(Output& output, const std::vector<std::string>& codes);
 int listAdded(Output& output, const Listing& listing);
 int skinTone(Output& output, const std::string& name);  // an empty name prints the current tone
 /// Returns whether the catalog could read the list that is stored under the key. If not, prints the reason.
-/// Otherwise, the user would take the default list for the stored one. Call this function after configure().
+/// Without the message, the user would think that the default list is the stored one. Call this function
+/// after configure().
 bool isReadable(glyph::UserInfluencedEntityKey key);
 
 // The clipboard. `form` is an identifier from glyph::copyForms().

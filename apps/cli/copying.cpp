@@ -12,7 +12,7 @@ namespace {
 
 using glyph::Entity;
 
-// Returns the reason why a character lacks the form.
+// Returns the end of an error message: why a character does not have this form.
 std::string whyMissing(std::string_view form) {
   if (form == "html") return "it has no HTML name; '--as html-hex' always works";
   if (form == "swiftui") return "only SF Symbols have a SwiftUI snippet";

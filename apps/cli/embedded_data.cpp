@@ -18,8 +18,8 @@ namespace cli {
 
 namespace {
 
-// Returns entries for the characters that an argument means. The entries have Unicode's names, or labels for
-// characters without a name.
+// Returns an entry for each character that the argument stands for. Its name is the Unicode name or, if the
+// character has no name, its label.
 std::vector<glyph::RawUnicodeEntity> entriesOf(const std::string& argument) {
   std::vector<glyph::Entity> entities;
   if (auto set = charactersOfSet(argument)) {

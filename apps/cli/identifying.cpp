@@ -21,13 +21,16 @@ namespace {
 
 using glyph::Entity;
 
-// The table is printed in portions of this many rows. On a terminal, columns are aligned within a portion.
+// The table is printed in portions of this many rows. On a terminal, the columns of each portion are aligned
+// separately.
 constexpr std::size_t rowsAtOnce = 2000;
 
-// In bytes: the size of one read. Output is also written when this many bytes have been collected.
+// The number of bytes that are read at once. Output is written whenever at least this many bytes of it have
+// been collected.
 constexpr std::size_t bytesAtOnce = 1 << 16;
 
-// In bytes. No real grapheme cluster is longer than this. A longer sequence is shown in several parts.
+// The maximum size of a grapheme cluster in bytes. Real clusters are shorter. A longer cluster is shown in
+// several parts.
 constexpr std::size_t longestCluster = 4096;
 
 std::string nameOf(char32_t codePoint) {
@@ -77,7 +80,7 @@ class Identification {
  private:
   bool identify(std::string_view text, bool isEnd) {
     std::vector<std::string_view> clusters = glyph::graphemeClusters(text);
-    // The next piece may continue the last grapheme cluster.
+    // Keep the last grapheme cluster until more text has arrived, because the next piece may continue it.
     const bool keepsLast = !isEnd && !clusters.empty() && clusters.back().size() < longestCluster;
     if (keepsLast) clusters.pop_back();
     std::size_t size = 0;
@@ -117,7 +120,8 @@ class Identification {
       return;
     }
     const std::u32string points = glyph::codePoints(cluster);
-    // A character of several code points has its own row. Indented rows with its code points follow.
+    // A character of several code points gets a row, and below it an indented row for each of its code
+    // points.
     const bool several = points.size() > 1 && cluster != "\r\n";
     if (!json_ && !listing_.isTable()) {
       const Entity entity = glyph::emojiPlace(cluster) ? glyph::supplementEntity(cluster) : Entity();
@@ -159,7 +163,7 @@ class Identification {
   const Listing listing_;
   bool any_ = false;
   bool hasBadBytes_ = false;
-  std::string pending_;  // text at the end that the next piece may continue
+  std::string pending_;  // the end of the text so far, which the next piece may continue
   std::vector<std::vector<std::string>> rows_;
   std::unordered_map<char32_t, std::string> names_;  // names of the code points seen so far
 };

@@ -21,7 +21,8 @@ namespace {
 
 using glyph::Entity;
 
-// Keeps the first error that its completions receive. The completions run on the index's own thread.
+// Provides completions for index requests, and keeps the first error that one of them receives. The
+// completions run on the index's own thread.
 class Errors {
  public:
   glyph::SearchableIndex::Completion completion() {
@@ -40,7 +41,8 @@ class Errors {
   std::string first_;
 };
 
-// A progress bar on standard error. It is shown only on a terminal and for more than 500 elements.
+// A progress bar on standard error. It is shown only if standard error is a terminal and there are more than
+// 500 elements.
 class ProgressBar {
  public:
   explicit ProgressBar(std::size_t total) : total_(total), shown_(isatty(STDERR_FILENO) && total > 500) {}
@@ -64,8 +66,8 @@ class ProgressBar {
   bool shown_;
 };
 
-// Calls `request` with portions of the elements, so that the progress bar moves, and waits until the index
-// has finished. Returns the exit code.
+// Sends the elements to the index with several calls of `request`, each with a portion of the elements, so
+// that the progress bar moves. Waits until the index has finished. Returns the exit code.
 template <class Element, class Request>
 int carryOut(const std::vector<Element>& elements, Request request) {
   constexpr std::size_t portion = 1000;
@@ -175,7 +177,7 @@ int removeFromIndex(Output& output, const std::vector<std::string>& arguments, b
     });
   }
   if (exitCode != found) return exitCode;
-  const std::size_t after = std::min(before, reader.count());  // another program may have added some
+  const std::size_t after = std::min(before, reader.count());  // another program may have added items
   output.printLine("Removed " + std::to_string(before - after) + " characters from the index");
   return found;
 }

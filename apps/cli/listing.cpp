@@ -126,7 +126,7 @@ void printListing(Output& output, const std::vector<const Entity*>& entities, co
     std::vector<std::string> values;
     for (const std::string_view field : tsvFields) {
       std::string value = valueOf(field, *entity);
-      // A tab or a line feed in the column of the character would break the table.
+      // Replace a control character such as a tab or a line feed, because it would break the table.
       if (field == "char" && value.size() == 1 && static_cast<unsigned char>(value.front()) < 0x20)
         value = shownSymbol(value);
       values.push_back(std::move(value));

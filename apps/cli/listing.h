@@ -11,8 +11,8 @@
 
 namespace cli {
 
-/// How a command prints a list of characters. At most one member is set. If none is set, the command prints
-/// its table.
+/// How a command prints a list of characters. At most one member is set. If no member is set, the command
+/// prints a table.
 struct Listing {
   bool json = false;
   bool tsv = false;
@@ -21,16 +21,18 @@ struct Listing {
   bool isTable() const { return !json && !tsv && format.empty(); }
 };
 
-/// Returns the template with its fields replaced by those of the entity. A field is "%(name)". "%(name l:8)"
-/// and "%(name r:8)" pad it to eight columns, with the text on the left or on the right. "%%" is a percent
-/// sign; "\t" and "\n" are a tab and a line feed. The fields are char, name, group, block, script, category,
-/// version, numeric and the forms of copyForms(). A field is empty if the character does not have it.
+/// Returns the template `format` with each field replaced by a text of the entity. A field is "%(name)".
+/// "%(name l:8)" and "%(name r:8)" pad it to eight columns, with the text on the left or on the right. "%%"
+/// is a percent sign; "\t" and "\n" are a tab and a line feed. The fields are char, name, group, block,
+/// script, category, version, numeric and the forms of copyForms(). A field becomes empty if the character
+/// has no such text.
 std::string formatted(std::string_view format, const glyph::Entity& entity);
 
-/// Returns an error message for the first fault of a template. Returns nullopt if it has none.
+/// Returns an error message for the first fault in a template, or nullopt if the template is valid.
 std::optional<std::string> faultOfFormat(std::string_view format);
 
-/// Prints the characters as the listing says. The listing must not be a table.
+/// Prints the characters in the form that `listing` selects. A member of `listing` must be set, because this
+/// function prints no table.
 void printListing(Output& output, const std::vector<const glyph::Entity*>& entities, const Listing& listing);
 
 }  // namespace cli

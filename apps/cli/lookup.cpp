@@ -30,14 +30,15 @@ Character emojiCharacter(std::size_t place) {
   return {glyph::supplementEntity(glyph::emojiAt(place).text)};
 }
 
-// Returns the place of an emoji that is not a single character.
+// If the text is an emoji of more than one code point, returns its index (see emojiPlace()). Otherwise
+// returns nullopt.
 std::optional<std::size_t> placeOfSequence(std::string_view text) {
   const auto place = glyph::emojiPlace(text);
   return place && glyph::emojiAt(*place).kind != "single" ? place : std::nullopt;
 }
 
-// Returns the place of the emoji with this shortcode, or with this name in English or in a language of the
-// user.
+// Returns the index (see emojiPlace()) of the emoji with this shortcode, or with this name in English or in
+// one of the user's languages.
 std::optional<std::size_t> emojiNamed(std::string_view text) {
   const std::string wanted = glyph::lowercased(text);
   if (wanted.empty()) return std::nullopt;
@@ -62,7 +63,8 @@ Character characterOfCodePoint(char32_t codePoint) {
   return {entityOfCodePoint(codePoint)};
 }
 
-// Returns the code point of a code such as "U+D800", "d800", "0o20622" or "0b10000110010010".
+// Returns the code point that a code stands for. Also reads codes that glyph::resolve() does not accept:
+// "U+D800", "d800", "0o20622", "0b10000110010010".
 std::optional<char32_t> anyCode(std::string_view text) {
   for (const auto& [prefix, base] : {std::pair<std::string_view, int>{"0o", 8}, {"0b", 2}}) {
     std::uint32_t number = 0;
@@ -152,7 +154,8 @@ Entity entityOfCodePoint(char32_t codePoint) {
 
 ResolvedText resolve(std::string_view argument) {
   if (const auto place = placeOfSequence(argument)) return {{emojiCharacter(*place)}, false};
-  // The variation selector only asks for the coloured form of the emoji. It is not resolved as a character.
+  // Do not list the variation selector at the end of an emoji as a character: it only selects the coloured
+  // form of the emoji.
   if (glyph::emojiPlace(argument) && argument.ends_with(variationSelector))
     argument.remove_suffix(variationSelector.size());
   ResolvedText resolved = glyph::resolve(argument);

@@ -8,8 +8,8 @@
 #include "glyphorium/search/resolving.h"
 #include "glyphorium/text/nearest_texts.h"
 
-/// Functions that convert arguments to characters and groups, and error messages for arguments that are
-/// neither.
+/// Functions that convert command-line arguments to characters and groups, and error messages for arguments
+/// that are neither.
 namespace cli {
 
 using glyph::Character;
@@ -34,21 +34,23 @@ ResolvedText resolve(std::string_view argument);
 /// - "block:arrows", "script:Greek", "category:Sc", "age:15": see glyph::charactersWith();
 /// - "emoji": all emoji, without their variants with skin tones;
 /// - "emoji:food": the same emoji, but only of groups and subgroups with this word in their names.
-/// Returns nullopt if the argument has none of these forms. The list is empty if the set is. The catalog need
-/// not be configured.
+/// Returns nullopt if the argument has none of these forms. The list is empty if the set contains no
+/// characters. The catalog need not be configured.
 std::optional<std::vector<glyph::Entity>> charactersOfSet(std::string_view argument);
 
-/// Returns a message that a set is unknown or empty. The message suggests the values that are most similar.
+/// Returns an error message for a set that is unknown or empty. The message suggests the most similar values.
 std::string unknownSet(const std::string& argument);
 
-/// Returns a message that the argument is not a character. If a search for the argument finds characters, the
-/// message suggests the first of them.
+/// Returns an error message that the argument is not a character. If a search for the argument finds
+/// characters, the message suggests the first of them.
 std::string unknownCharacter(const std::string& argument);
 
-/// Returns a message that there is no such group. The message suggests the group names that are most similar.
+/// Returns an error message that there is no group with this name. The message suggests the most similar
+/// names.
 std::string unknownGroup(std::string_view name);
 
-/// Returns the entity of a code point: that of the catalog if there is one, otherwise that of the supplement.
+/// Returns the entity of a code point from the catalog. If the catalog does not contain the code point,
+/// returns the entity from the supplement.
 glyph::Entity entityOfCodePoint(char32_t codePoint);
 
 }  // namespace cli

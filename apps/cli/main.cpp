@@ -282,8 +282,8 @@ void addEmbeddedData(CLI::App& app, Options& options, Run& run) {
   });
 }
 
-// Returns the message for a parse error. For a misspelt command, CLI11 says only that a command is missing,
-// so the message is made here.
+// Returns the message for a parse error. CLI11's message for a misspelt command says only that a command is
+// missing, so this function makes a better one.
 std::string explanation(const CLI::App& app, const CLI::ParseError& error) {
   const std::vector<std::string> rest = app.remaining();
   if (error.get_name() != "RequiredError" || !app.get_subcommands().empty() || rest.empty())
@@ -297,11 +297,11 @@ std::string explanation(const CLI::App& app, const CLI::ParseError& error) {
          (names.empty() ? "" : "; did you mean '" + names.front() + "'?");
 }
 
-// Precedes an argument that begins with a hyphen but is not an option, such as "->". So the parser does not
-// take it for one.
+// Is put before an argument that begins with a hyphen but is not an option, such as "->", so that the parser
+// does not take the argument for an option.
 constexpr char noOption = '\x1f';
 
-// Returns the arguments in reverse order, as the parser wants them.
+// Returns the arguments in reverse order, which the parser of CLI11 expects.
 std::vector<std::string> argumentsOf(int argc, char** argv) {
   std::vector<std::string> arguments;
   for (int i = argc - 1; i > 0; --i) {
@@ -332,8 +332,8 @@ int written(cli::Output& output, int exitCode) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // Without this, a write beyond the file size limit would kill the program. With it, the write fails with an
-  // error message.
+  // Ignore SIGXFSZ: a write beyond the file size limit then fails with an error message, instead of killing
+  // the program.
   std::signal(SIGXFSZ, SIG_IGN);
   for (int i = 1; i < argc; ++i) {
     if (glyph::isWellFormedUtf8(argv[i])) continue;

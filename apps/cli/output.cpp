@@ -26,7 +26,7 @@ bool noColor() {
   return value && *value;
 }
 
-// Returns a random text, so that no text to be printed can contain it.
+// Returns a random text, which no printed text can contain except by an extreme coincidence.
 std::string newMark() {
   std::random_device random;
   return "\x1b" + std::to_string(random()) + "," + std::to_string(random()) + ",";
@@ -34,8 +34,8 @@ std::string newMark() {
 
 // Returns the text with each control character and direction control replaced by `replaced(control)`. A
 // terminal would execute control characters as commands, and direction controls would reorder the text that
-// follows. Line breaks and tabs are kept. If `mark` is not empty, each mark becomes the beginning of an
-// escape sequence.
+// follows. Line breaks and tabs are kept. If `mark` is not empty, each occurrence of it is replaced with the
+// two characters that begin an escape sequence.
 template <class Replaced>
 std::string withoutControls(std::string_view text, std::string_view mark, Replaced replaced) {
   std::string result;
@@ -155,7 +155,7 @@ std::string escapedJson(std::string_view json) {
 
 namespace {
 
-std::mutex keptMutex;  // the index's thread also adds lines
+std::mutex keptMutex;  // the thread of the search index also adds lines
 std::vector<std::string> keptLines;
 
 // Returns true if the line only reports that a value has changed.

@@ -48,11 +48,12 @@ class Output {
   /// Whether the reader has closed the pipe. Everything printed afterwards is lost.
   bool closed() const { return closed_; }
 
-  /// The number of columns for wrapped text: terminalWidth(), if setWidth() was not called.
+  /// The number of columns for wrapped text: the value of setWidth() if it was called, otherwise
+  /// terminalWidth().
   int width() const { return width_ > 0 ? width_ : terminalWidth(); }
   void setWidth(int columns) { width_ = columns; }
 
-  /// Returns what was printed since the last flush as flush() would write it, and forgets it.
+  /// Returns the bytes that flush() would write now, and discards them.
   std::string take();
 
   std::size_t size() const { return text_.size(); }  ///< number of bytes printed since the last flush()
@@ -68,19 +69,19 @@ class Output {
   std::string mark_;
   bool closed_ = false;
   std::string text_;   // printed since the last flush
-  std::string ready_;  // bytes that a failed flush has not written
+  std::string ready_;  // bytes that a failed flush() could not write
 };
 
 /// Prints an error message on standard error, with control characters in their visible form.
 void complain(std::string_view message);
 
 /// Replaces the library's diagnostics sink. If `verbose` is true, prints all diagnostic lines on standard
-/// error. Otherwise prints only the urgent lines, and keeps those that report failures for
-/// complainOfFailure().
+/// error. Otherwise prints only lines that the user should read at once, and keeps the lines that report
+/// failures for complainOfFailure().
 void keepDiagnostics(bool verbose);
 
-/// Prints the kept diagnostic lines, which report failures, on standard error. If there are no such lines,
-/// prints `otherwise`, unless it is empty.
+/// Prints the lines that keepDiagnostics() has kept on standard error. If there are no such lines, prints
+/// `otherwise`, unless `otherwise` is empty.
 void complainOfFailure(std::string_view otherwise);
 
 /// Returns the JSON text with control characters and direction controls escaped, so that a terminal shows the

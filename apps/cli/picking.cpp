@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT
-// The finder: a list in the terminal that shows the search results for the text while the user types it.
+// SPDX-License-Identifier: MIT The finder: a search field in the terminal, with a list of results that is
+// updated while the user types.
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/ioctl.h>
@@ -27,8 +27,9 @@ using glyph::Entity;
 
 volatile std::sig_atomic_t resized = 0;
 
-// The user's terminal, even if standard input and output are redirected. It delivers each key at once and
-// shows the alternate screen. The destructor restores its mode and its screen.
+// The user's terminal, even if standard input and output are redirected. The constructor makes the terminal
+// deliver each key at once, and shows the alternate screen. The destructor restores the mode and the screen
+// of the terminal.
 class Terminal {
  public:
   Terminal() : file_(open("/dev/tty", O_RDWR | O_CLOEXEC)) {
@@ -126,8 +127,8 @@ class Finder {
       pending_ += bytes;
       resized = 0;
       while (!pending_.empty() && !isDone_) {
-        // If no bytes follow the escape character soon, the user pressed the Escape key. The other keys that
-        // begin with this character send all their bytes at once.
+        // If no further bytes follow an escape character soon, the user has pressed the Escape key. Other
+        // keys whose sequences begin with an escape character send all bytes at once.
         if (pending_ == "\x1b") {
           if (!terminal_.read(bytes, 30)) return false;
           if (bytes.empty()) return false;
@@ -140,8 +141,8 @@ class Finder {
     return false;
   }
 
-  // Returns the marked characters in the order of marking. If there are none, returns the one under the
-  // cursor.
+  // Returns the characters that the user has marked, in the order of marking. If there are no marked
+  // characters, returns the character under the cursor.
   std::vector<Entity> chosen() const {
     if (!marked_.empty()) return marked_;
     return cursor_ < found_.size() ? std::vector{search_.entity(found_[cursor_])} : std::vector<Entity>();
@@ -191,7 +192,7 @@ class Finder {
     }
   }
 
-  // Removes the escape sequence of a key without a function.
+  // Removes the escape sequence of a key that has no function in the finder.
   void skipUnknownKey() {
     std::size_t size = 2;
     if (pending_.size() > 1 && (pending_[1] == '[' || pending_[1] == 'O')) {
@@ -207,7 +208,7 @@ class Finder {
     const auto end =
         static_cast<std::size_t>(std::find_if(pending_.begin(), pending_.end(), isKey) - pending_.begin());
     std::string text = pending_.substr(0, end);
-    // The last character may not have arrived completely.
+    // Leave the bytes of an incomplete last character for the next read.
     std::size_t whole = text.size();
     for (std::size_t cutOff = 0; cutOff < 4 && !glyph::isWellFormedUtf8(text.substr(0, whole)) && whole > 0;
          ++cutOff)

@@ -6,9 +6,9 @@
 
 namespace cli {
 
-/// A regular expression of ICU that ignores letter case. Such expressions support the properties of
-/// characters (\p{Greek}). ICU has a separate library for them, which few runs of the program need. So the
-/// library is loaded only when the first expression is made.
+/// A regular expression of ICU that ignores letter case. It may contain properties of characters, such as
+/// \p{Greek}. Regular expressions are in a separate library of ICU. Few runs of the program need that
+/// library, so it is loaded only when the first expression is created.
 class RegularExpression {
  public:
   /// `pattern` is UTF-8.
@@ -17,7 +17,7 @@ class RegularExpression {
   RegularExpression(const RegularExpression&) = delete;
   RegularExpression& operator=(const RegularExpression&) = delete;
 
-  /// Why the pattern cannot be used. Empty if it can.
+  /// The reason why the pattern cannot be used. Empty if the pattern is valid.
   const std::string& fault() const { return fault_; }
 
   /// Returns whether the expression matches a part of the UTF-8 text.

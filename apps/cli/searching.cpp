@@ -14,7 +14,7 @@ using glyph::Entity;
 
 constexpr std::size_t noLimit = 1'000'000;
 
-// Returns the name with the parts highlighted that match the query.
+// Returns the name, with the parts that match the query highlighted.
 std::string highlighted(const Output& output, const std::string& name, const glyph::SearchResult& result) {
   std::string text;
   std::size_t at = 0;
@@ -26,20 +26,20 @@ std::string highlighted(const Output& output, const std::string& name, const gly
   return text + name.substr(at);
 }
 
-// Returns the group, or for a character outside all groups the meaning that it has as a Han character.
+// Returns the group of the character. For a Han character without a group, returns its English meaning.
 std::string placeOf(const Entity& entity) {
   if (!entity.computed.group.empty()) return std::string(entity.computed.group);
   return glyph::characterFacts(static_cast<char32_t>(entity.computed.decimal)).hanDefinition;
 }
 
-// Returns the JSON object. If `approximate` is true, it gets the member "approximate".
+// Returns the JSON object, with the member "approximate" added if `approximate` is true.
 std::string marked(std::string object, bool approximate) {
   if (approximate) object.insert(object.rfind('}'), ",\"approximate\":true");
   return object;
 }
 
-// If the query is a character outside all groups, returns a text for the end of an error message. Empty for
-// other queries.
+// If the query is a character that belongs to no group, returns a text that says so, for the end of an error
+// message. Empty for other queries.
 std::string beyondTheCatalog(const std::string& query) {
   const std::vector<Character> characters = resolve(query).characters;
   if (characters.empty()) return {};

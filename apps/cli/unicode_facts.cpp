@@ -41,7 +41,7 @@ std::string copyFormOf(const Entity& entity, std::string_view form) {
   return glyph::copyForm(form)->text(entity).value_or("");
 }
 
-// Returns the characters, separated by spaces. If there are few, adds their codes.
+// Returns the characters, separated by spaces. If there are only a few, each is followed by its code.
 std::string listed(const std::u32string& characters) {
   std::vector<std::string> texts;
   const bool areFew = characters.size() <= 4;

@@ -10,7 +10,7 @@ namespace cli {
 
 void limitLockWaits() {
   glyph::setLockWaitPolicy([](std::chrono::milliseconds waited) {
-    static std::atomic<std::int64_t> total = 0;     // of all waits so far, in milliseconds
+    static std::atomic<std::int64_t> total = 0;     // the total of all waits so far, in milliseconds
     thread_local std::chrono::milliseconds before;  // value of `waited` in the previous call
     const auto longer = waited >= before ? waited - before : waited;
     before = waited;

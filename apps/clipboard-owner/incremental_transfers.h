@@ -11,16 +11,17 @@
 
 namespace clipboard {
 
-/// Sends texts that are too large for one property, piece by piece, with the INCR protocol of X11. Each
-/// piece is sent after the reader has deleted the previous piece, so the server stores only one piece of
-/// each transfer. Not thread-safe.
+/// Sends a text that is too large for one property in several pieces, with the INCR protocol of X11. Each
+/// piece is sent after the reader has deleted the previous piece, so the server stores only one piece of each
+/// transfer. Not thread-safe.
 class IncrementalTransfers {
  public:
   using Clock = std::chrono::steady_clock;
 
   explicit IncrementalTransfers(Display& display);
 
-  /// The largest size in bytes that is sent in one property, without a transfer in pieces.
+  /// The size in bytes of the largest text that fits into one property, so that it need not be sent in
+  /// pieces.
   std::size_t pieceSize() const { return pieceSize_; }
   bool empty() const { return transfers_.empty(); }
 

@@ -95,7 +95,7 @@ void SelectionOwner::serve(int signals) {
     pollfd inputs[] = {{xcb_get_file_descriptor(display_.connection()), POLLIN, 0}, {signals, POLLIN, 0}};
     poll(inputs, 2, static_cast<int>(wait));
     if (inputs[1].revents) {
-      // A signalfd_siginfo has 128 bytes.
+      // The size of a signalfd_siginfo is 128 bytes.
       char information[128];
       // If `end_` is already set, this is the second signal: stop without waiting for the clipboard
       // manager.
@@ -137,7 +137,8 @@ void SelectionOwner::handle(const xcb_generic_event_t& event) {
       break;
     case XCB_SELECTION_NOTIFY:
     case XCB_SELECTION_NOTIFY | 0x80:
-      // The clipboard manager has read all forms of the text, or there is no clipboard manager any more.
+      // This event means that the clipboard manager has read all forms of the text, or that no clipboard
+      // manager exists any more.
       released_ |= end_ && reinterpret_cast<const xcb_selection_notify_event_t&>(event).selection ==
                                atoms_.clipboardManager;
       break;
@@ -175,7 +176,8 @@ bool SelectionOwner::convert(xcb_window_t reader, xcb_atom_t property, xcb_atom_
   } else if (target == atoms_.timestamp) {
     display_.setValues(reader, property, XCB_ATOM_INTEGER, {ownedSince_});
   } else if (target == atoms_.saveTargets) {
-    // This target has no content. Its success only shows that this owner supports clipboard managers.
+    // The target SAVE_TARGETS has no content. A successful answer only shows that this owner supports
+    // clipboard managers.
     display_.setValues(reader, property, atoms_.null, {});
   } else if (const auto form = text_.form(target)) {
     if (form->bytes.size() > transfers_.pieceSize()) return transfers_.begin(reader, property, *form);

@@ -44,9 +44,9 @@ class SelectionOwner {
   const Atoms& atoms_;
   const TextForms text_;
   IncrementalTransfers transfers_;
-  xcb_timestamp_t copiedAt_ = 0;    // the server's time at which the copy was requested
-  xcb_timestamp_t ownedSince_ = 0;  // the server's time with which the selection was acquired
-  bool released_ = false;           // no new requests are expected; only finish the transfers that have begun
+  xcb_timestamp_t copiedAt_ = 0;          // the server's time at which the copy was requested
+  xcb_timestamp_t ownedSince_ = 0;        // the server's time with which the selection was acquired
+  bool released_ = false;                 // true if only the transfers that have begun must still be finished
   std::optional<Clock::time_point> end_;  // deadline for the hand-over; set by the first signal
 };
 

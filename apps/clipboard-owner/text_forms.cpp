@@ -37,8 +37,8 @@ TextForms::TextForms(std::string text, const Atoms& atoms)
 std::optional<Form> TextForms::form(xcb_atom_t target) const {
   if (std::find(targets_.begin(), targets_.end(), target) == targets_.end()) return std::nullopt;
   if (target == XCB_ATOM_STRING) return Form{XCB_ATOM_STRING, *latin1_};
-  // A program that requests the target TEXT accepts every encoding. The type of the answer tells the
-  // program which encoding was used.
+  // A program that requests the target TEXT accepts any encoding. The type of the answer says which encoding
+  // it has.
   return Form{target == text_ ? utf8String_ : target, utf8_};
 }
 

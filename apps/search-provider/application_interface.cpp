@@ -36,8 +36,8 @@ void ApplicationInterface::open(sd_bus_message*) {
   throw CallError{SD_BUS_ERROR_NOT_SUPPORTED, "Glyphorium cannot open files"};
 }
 
-// The only action is "search". Its parameter is the text to search for. Without a text, the action shows
-// the whole catalog.
+// The only action is "search". Its parameter is the text to search for. If the parameter is missing, the
+// action shows the whole catalog.
 void ApplicationInterface::activateAction(sd_bus_message* call) {
   service_.noteCall();
   const std::string action = readText(call);

@@ -53,8 +53,8 @@ void send(const Message& reply);
 /// Stores the exception that is being handled in `error`. Call it only in a catch block.
 int reportFailure(sd_bus_error* error) noexcept;
 
-/// Adapts a C++ method of `Object` to a handler of a D-Bus method. The C++ method sends the reply itself. If
-/// it throws, the caller gets an error.
+/// A handler for sd-bus that answers a call of a D-Bus method with a C++ method of `Object`. The C++ method
+/// sends the reply itself. If it throws an exception, the caller gets an error reply.
 template <class Object, void (Object::*method)(sd_bus_message*)>
 int handle(sd_bus_message* call, void* object, sd_bus_error* error) noexcept try {
   (static_cast<Object*>(object)->*method)(call);

@@ -30,12 +30,12 @@ constexpr std::string_view scope = "qv:";
 // would delay the answers to other callers.
 constexpr std::size_t longestQuery = 1000;
 
-// If the user has excluded the catalog from the search, the catalog still finds characters, but only those
-// that are also in an index are shown. This is the maximum number of characters that are looked up in the
+// If the user has excluded the catalog from the search, characters that the catalog finds are shown only if
+// they are also in a host's index. This is the maximum number of characters that are looked up in the
 // indexes.
 constexpr std::size_t mostLookUps = 200;
 
-// A query with fewer letters is ignored, because it is a prefix of too many words.
+// The minimum number of letters in a query. Fewer letters are the beginning of too many words.
 constexpr std::size_t fewestLetters = 3;
 
 // Maximum number of results for an everyday word. Only the best characters are shown, because the user may
@@ -47,8 +47,8 @@ std::string_view withoutScope(std::string_view query) {
   return isScoped(wanted) ? glyph::trimmed(wanted.substr(scope.size())) : wanted;
 }
 
-// Whether the text can only be a code, such as "U+2192", "&rarr;" or "\u2192", and not also a number, a
-// word or a file name.
+// Whether the text is certainly a code, such as "U+2192", "&rarr;" or "\u2192". A text that could also be a
+// number, a word or a file name does not count.
 bool isFullCode(std::string_view text) {
   const std::u32string points = glyph::codePoints(text);
   const bool marked = !points.empty() && !glyph::isAlphanumeric(points.front());
@@ -77,7 +77,7 @@ bool isWords(std::string_view text) {
          static_cast<std::size_t>(letters + joints) == points.size();
 }
 
-// A query without its prefix "qv:", and values computed from it.
+// A query without its prefix "qv:", and values that are computed from the query.
 struct Wanted {
   explicit Wanted(std::string_view query)
       : text(withoutScope(query)), lowered(glyph::lowercased(text)), fullCode(isFullCode(text)) {}
@@ -125,9 +125,9 @@ std::string settingsState() {
   return state;
 }
 
-// Returns whether a character beyond the catalog is an emoji, or the query is its name. There are so many
-// others that those that only have words of the query would be in the way, and so would ideographs that mean
-// it.
+// Decides whether to show a character that is not in the catalog. Emoji are shown, and characters whose whole
+// name or term is the query. Others would only be in the way, because there are so many of them. This
+// includes Han characters whose English meaning is the query.
 bool isNamed(const Entity& entity, const SearchResult& result) {
   const auto codePoint = static_cast<char32_t>(entity.computed.decimal);
   const bool isMeaning =

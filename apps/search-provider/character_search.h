@@ -34,8 +34,8 @@ struct Found {
 class CharacterSearch {
  public:
   /// Returns the best characters, at most `limit`. Characters that match the whole query come first, then all
-  /// others (Exactness::part). Within each of these two parts, the characters found by glyph::CatalogSearch
-  /// come first, in its order, then those that only an index contains.
+  /// others (Exactness::part). Within each of these two parts, the results of glyph::CatalogSearch come
+  /// first, in their order. Characters that only an index contains follow.
   std::vector<Found> find(std::string_view query, std::size_t limit);
 
   /// Like find(), but returns only characters that the query clearly asks for. It is for desktops that send

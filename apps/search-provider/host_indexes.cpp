@@ -62,8 +62,8 @@ void HostIndexes::lookForFiles() {
 }
 
 // Calls `question` for one index after the other until it returns true. If another program has locked an
-// index, the reader waits up to half a second. Desktops send a query for every key press, and each of these
-// queries would wait as long. Therefore, an index that caused a wait is left out for the next second.
+// index, reading it takes up to half a second. Desktops send a query for every key press, and each query
+// would take this long. Therefore, an index that caused a wait is skipped for one second.
 void HostIndexes::ask(const std::function<bool(glyph::SearchableIndexReader&)>& question) {
   lookForFiles();
   for (const std::filesystem::path& file : files_) {

@@ -19,12 +19,12 @@ namespace provider {
 /// be read counts as empty. The methods throw only if memory runs out.
 class HostIndexes {
  public:
-  /// Returns the item with this identifier from the first index that has one, or nullopt if no index has
-  /// one.
+  /// Returns the item with this identifier from the first index that contains it, or nullopt if no index
+  /// contains it.
   std::optional<glyph::SearchableItem> item(std::string_view identifier);
 
-  /// Returns the items that the indexes find: at most `limit` items of the first index, then those of the
-  /// next.
+  /// Returns the items that match the query: first those of the first index, then those of the second, and so
+  /// on. At most `limit` items of each index.
   std::vector<glyph::SearchableItem> search(std::string_view query, int limit);
 
  private:

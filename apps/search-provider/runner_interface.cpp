@@ -81,7 +81,7 @@ void RunnerInterface::match(sd_bus_message* call) {
   double relevance = 1;
   for (const Found& one : found) {
     appendMatch(reply.get(), one, relevance, isScoped(query));
-    relevance -= 0.5 / matchLimit;  // makes the desktop keep this order
+    relevance -= 0.5 / matchLimit;  // lower for each match, so that the desktop keeps this order
   }
   check(sd_bus_message_close_container(reply.get()));
   send(reply);

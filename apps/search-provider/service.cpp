@@ -18,9 +18,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// How long this program stays connected to the bus after it has released its names. Until clients learn
-// that a name has no owner any more, they send calls to the connection that owned it. These calls would be
-// lost if the connection were closed at once.
+// How long this program stays connected to the bus after it has released its names. For a moment, clients do
+// not know about the release and still send calls to this connection. If it were closed at once, these calls
+// would be lost.
 constexpr std::chrono::microseconds timeForLastCalls = 1s;
 
 // Blocks SIGTERM, SIGINT and SIGHUP. The event loop handles them, so that they do not interrupt a call.
@@ -58,7 +58,8 @@ void Service::run() {
   sd_event_source* quiet = nullptr;
   check(sd_event_add_time_relative(loop, &quiet, CLOCK_MONOTONIC, 0, 1000, &Service::onQuiet, this));
   quiet_.reset(quiet);
-  // The timer has a lower priority than all messages that are waiting on the bus.
+  // Give the timer a lower priority than messages from the bus, so that waiting messages are handled before
+  // the program exits.
   check(sd_event_source_set_priority(quiet, SD_EVENT_PRIORITY_IDLE));
   check(sd_event_source_set_enabled(quiet, SD_EVENT_OFF));
 

@@ -13,8 +13,8 @@
 
 namespace provider {
 
-/// These functions return the bus name and the object path of the application's search provider. Both are
-/// derived from the application identifier.
+/// Return the bus name and the object path of the search provider. Both are derived from the application
+/// identifier.
 std::string busName();
 std::string objectPath();
 
@@ -56,7 +56,8 @@ class Service {
   EventLoop loop_;
   Bus bus_;
   EventSource quiet_;  // fires if there has been no call for `quietLimit_`
-  // If the names are not released yet, zero means no limit. After their release, zero means to exit at once.
+  // The program exits if there has been no call for this time. Zero means never to exit, or to exit at once
+  // if the names are already released.
   std::chrono::microseconds quietLimit_{};
   bool leaving_ = false;  // true after the names are released
 };

@@ -12,8 +12,8 @@ namespace {
 // The maximum number of results. GNOME Shell itself shows only five.
 constexpr std::size_t resultLimit = 20;
 
-// The maximum numbers of identifiers and terms that are read from one call. The desktop sends fewer.
-// Additional ones are ignored, because they would delay the answers to other callers.
+// The maximum numbers of identifiers and terms that are read from one call. The desktop sends fewer. More
+// than these are ignored, because they would delay the answers to other callers.
 constexpr std::size_t mostIdentifiers = 200;
 constexpr std::size_t mostTerms = 100;
 

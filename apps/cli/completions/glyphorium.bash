@@ -1,5 +1,5 @@
-# bash completion for glyphorium                                  -*- shell-script -*-
-# Names with blanks are offered with the blanks escaped.
+# bash completion for glyphorium                                  -*- shell-script -*- Blanks in the offered
+# names are escaped.
 
 _glyphorium_names() {  # the first column of a listing, as candidates
   local IFS=$'\n' name
@@ -8,9 +8,9 @@ _glyphorium_names() {  # the first column of a listing, as candidates
   done
 }
 
-_glyphorium_sets() {  # sets of characters: the values of a property once its name is there
+_glyphorium_sets() {  # sets of characters: names of properties, and after a name its values
   local property='' wanted=$current prefix='' value IFS=$'\n'
-  # Bash takes the colon for a word of its own, unless COMP_WORDBREAKS was changed.
+  # Unless COMP_WORDBREAKS was changed, bash passes the colon in "block:arrows" as a separate word.
   if [[ $current == : ]]; then
     property=$previous wanted=''
   elif [[ $previous == : ]]; then
@@ -34,7 +34,7 @@ _glyphorium() {
   COMPREPLY=()
   for ((i = 1; i < COMP_CWORD; i++)); do
     case ${COMP_WORDS[i]} in
-      --color) ((++i)) ;;  # and its value
+      --color) ((++i)) ;;  # skip the value of the option too
       -*) ;;
       *) if [[ -z $command ]]; then command=${COMP_WORDS[i]}; elif [[ -z $part ]]; then part=${COMP_WORDS[i]}; fi ;;
     esac
