@@ -7,7 +7,8 @@
 
 #include "tests/support/display_server.h"
 
-// Tests the program with real key events on an X server, with another program that pastes, and with a crash.
+// Tests the program on an X server: with real key events, with another program that pastes the copied text,
+// and with a crash.
 namespace browser {
 namespace {
 
@@ -56,7 +57,7 @@ struct BrowserProgramTest : testing::Test {
   }
 };
 
-TEST_F(BrowserProgramTest, CopiesForOtherProgramsAndKeepsChoicesThroughACrash) {
+TEST_F(BrowserProgramTest, CopiesForOtherProgramsAndKeepsChoicesAfterACrash) {
   const int first = start("--search 'leftwards double arrow'");
   keys("key Return");
   EXPECT_TRUE(eventually([] { return pasted() == "⇐"; }));

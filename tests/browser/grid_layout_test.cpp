@@ -20,7 +20,7 @@ struct GridLayoutTest : testing::Test {
   GridLayout layout;
 };
 
-TEST_F(GridLayoutTest, EveryCellIsWhereItIsFound) {
+TEST_F(GridLayoutTest, EveryCellIsFoundAtItsPosition) {
   EXPECT_EQ(layout.columns(), 4);
   EXPECT_EQ(layout.height(), 2 * heading + 3 * cell);
   for (int i = 0; i < layout.count(); ++i) {

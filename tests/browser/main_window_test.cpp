@@ -56,7 +56,7 @@ struct MainWindowTest : BrowserTest {
   Sidebar& sidebar = *window.findChild<Sidebar*>();
 };
 
-TEST_F(MainWindowTest, FindsWalksAndCopies) {
+TEST_F(MainWindowTest, FindsMovesThroughResultsAndCopies) {
   QTest::keyClick(&grid, 'a');  // typing in the grid searches, too
   QTest::keyClicks(&field, "rrow");
   EXPECT_EQ(field.text(), "arrow");
@@ -79,7 +79,7 @@ TEST_F(MainWindowTest, FindsWalksAndCopies) {
   EXPECT_EQ(grid.count(), 2);
 }
 
-TEST_F(MainWindowTest, SearchStaysInItsScopeAndOffersTheRest) {
+TEST_F(MainWindowTest, SearchStaysInItsScopeAndOffersResultsOutsideIt) {
   choose({Scope::Kind::group, "math operators"});
   type("arrow");
   for (int i = 0; i < grid.count(); ++i) EXPECT_EQ(grid.character(i).computed.group, "math operators");
@@ -130,7 +130,7 @@ TEST_F(MainWindowTest, OwnCharactersAndFavouritesCanBeUndone) {
   EXPECT_TRUE(storedList("favouriteCharacters").empty());
 }
 
-TEST_F(MainWindowTest, FollowsTheCommandLine) {
+TEST_F(MainWindowTest, ShowsChangesThatTheCommandLineMakes) {
   SettingsWatch watch;
   QObject::connect(&watch, &SettingsWatch::changed, &catalog, &Catalog::readSettings);
   choose({Scope::Kind::displayed});
@@ -142,7 +142,7 @@ TEST_F(MainWindowTest, FollowsTheCommandLine) {
   EXPECT_TRUE(catalog.isAdded("1d6a5"));
 }
 
-TEST_F(MainWindowTest, IsReadableForAssistiveTechnology) {
+TEST_F(MainWindowTest, CanBeReadByAssistiveTechnology) {
   type("leftwards double arrow");
   QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(&grid);
   ASSERT_EQ(list->childCount(), grid.count());
@@ -155,7 +155,7 @@ TEST_F(MainWindowTest, IsReadableForAssistiveTechnology) {
   cell->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   EXPECT_EQ(clipboardText(), "⇐");
   for (const QWidget* const widget : window.findChildren<QWidget*>()) {
-    const bool isButton = qobject_cast<const QToolButton*>(widget);  // also those inside of fields
+    const bool isButton = qobject_cast<const QToolButton*>(widget);  // also in text fields
     const bool isControl = (isButton || widget->focusPolicy() & Qt::TabFocus) && widget->isVisible();
     const QAccessibleInterface* const interface =
         QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
@@ -165,7 +165,7 @@ TEST_F(MainWindowTest, IsReadableForAssistiveTechnology) {
   }
 }
 
-TEST_F(MainWindowTest, RemembersHowItWasLeft) {
+TEST_F(MainWindowTest, RestoresTheStateInWhichItWasClosed) {
   choose({Scope::Kind::group, "arrows"});
   grid.setCellSize(80);
   window.close();
@@ -194,7 +194,7 @@ TEST_F(MainWindowTest, DrawsEachCharacterOrABoxForIt) {
   EXPECT_EQ(cellRequest(catalog.entity("20dd"), 64, 1).text, QString::fromUtf8("\u20DD"));
 }
 
-TEST_F(MainWindowTest, ALongPressChoosesTheSkinToneForGood) {
+TEST_F(MainWindowTest, ALongPressSetsThePreferredSkinTone) {
   type("thumbs up");
   ASSERT_EQ(current(), "1f44d");
   QTimer menu;
@@ -202,7 +202,7 @@ TEST_F(MainWindowTest, ALongPressChoosesTheSkinToneForGood) {
     auto* const popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     if (!popup) return;
     menu.stop();
-    QTest::keyClick(popup, Qt::Key_Up);  // the last one
+    QTest::keyClick(popup, Qt::Key_Up);  // selects the last entry of the menu
     QTest::keyClick(popup, Qt::Key_Return);
   });
   menu.start(20);
@@ -228,7 +228,7 @@ TEST_F(MainWindowTest, GoesBackFromALinkOnTheCard) {
 }
 
 TEST_F(MainWindowTest, PickerCopiesAndCloses) {
-  window.hide();  // so that its shortcuts do not react
+  window.hide();  // so that the shortcuts of this window do not react
   catalog.toggleFavourite("21d0");
   Picker picker(catalog);
   QString picked;
@@ -251,7 +251,7 @@ TEST_F(MainWindowTest, PickerCopiesAndCloses) {
   EXPECT_THAT(storedList("recentlyCopiedCharacters"), ElementsAre("2192", "21d0", "20ac"));
 }
 
-// The contrast of WCAG 2: at least 4.5 to 1 for texts.
+// WCAG 2 requires a contrast ratio of at least 4.5:1 for texts.
 TEST_F(BrowserTest, TextsAreLegibleInBothThemes) {
   const auto luminance = [](const QColor& colour) {
     const auto linear = [](float part) {
@@ -276,8 +276,8 @@ TEST_F(BrowserTest, TextsAreLegibleInBothThemes) {
   }
 }
 
-// In each language all texts are there, and the window still fits on a narrow screen.
-TEST_F(BrowserTest, SpeaksFiveLanguages) {
+// In each of the five languages, all texts are translated and the window still fits on a narrow screen.
+TEST_F(BrowserTest, IsTranslatedIntoFiveLanguages) {
   for (const char* const language : {"en", "de", "fr", "it", "es"}) {
     QTranslator translator;
     const bool isSource = std::string_view(language) == "en";

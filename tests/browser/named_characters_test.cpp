@@ -10,7 +10,7 @@ namespace {
 using Hexes = std::vector<std::string>;
 using NamedCharactersTest = BrowserTest;
 
-TEST_F(NamedCharactersTest, SaysWhatATextNamesOrWhyItNamesNothing) {
+TEST_F(NamedCharactersTest, ReturnsTheCharactersOfATextOrAReason) {
   Catalog catalog;
   catalog.add({"21d1"});
   struct Case {
@@ -40,13 +40,13 @@ TEST_F(NamedCharactersTest, SaysWhatATextNamesOrWhyItNamesNothing) {
   }
 }
 
-TEST(CodesInNote, AreThoseInParentheses) {
+TEST(CodesInNote, AreTheCodesInParentheses) {
   EXPECT_EQ(codesInNote("’ (2019), not ' (0027) or 2014; ’ (2019) again, 𝄞 (1d11e), (face it), (2019"),
             (Hexes{"2019", "0027", "1d11e"}));
 }
 
-// Machines have different fonts, but each machine has a font for letters, and none for these private-use code
-// points.
+// The installed fonts differ from machine to machine. But every machine has a font for letters, and no
+// machine has a font for the private-use code points in this test.
 TEST(FontCoverageTest, FindsTheFontsThatHaveAllCodePoints) {
   const FontCoverage coverage({}, {"en"});
   EXPECT_FALSE(coverage.families(U"a", FontClass::sans).isEmpty());

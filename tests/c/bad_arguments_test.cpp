@@ -15,7 +15,7 @@
 namespace glyph {
 namespace {
 
-// Good and bad arguments of each type. Handles are created once.
+// Good and bad arguments of each parameter type. Each handle is created only once.
 struct Arguments {
   Arguments() {
     const char* const codes[] = {"2192", "0041"};
@@ -41,7 +41,7 @@ struct Arguments {
     if constexpr (std::is_same_v<T, const char*>) {
       return std::array<const char*, 5>{nullptr, "", "\xC3\x28\xFF", "arrows", "2192,030a"};
     } else if constexpr (std::is_same_v<T, const char* const*>) {
-      // A function that wrongly reads too many elements gets NULL.
+      // NULL follows the elements. A function that reads beyond the end gets it and crashes.
       static const char* const list[] = {"arrows", "\xED\xA0\x80", nullptr};
       return std::array<const char* const*, 2>{nullptr, list};
     } else if constexpr (std::is_same_v<T, std::size_t>) {
@@ -149,7 +149,7 @@ struct Arguments {
   int calls = 0;
 };
 
-TEST(CBadArguments, DoNoHarm) {
+TEST(CBadArguments, NeverCauseACrash) {
   const TemporaryDirectory home;
   const ScopedVariable config("XDG_CONFIG_HOME", home.path().string());
   const ScopedVariable data("XDG_DATA_HOME", home.path().string());

@@ -71,7 +71,7 @@ class CHost : public testing::Test {
               for (std::size_t i = 0; i < glyphorium_items_count(items); ++i) {
                 self(user).indexed.emplace_back(view(glyphorium_items_title(items, i)));
               }
-              // Ends the request on another thread, as the index of a host may do.
+              // Report the end of the request on another thread, which the index of a host may do.
               std::thread([=] { glyphorium_request_done(request, nullptr); }).join();
             },
         .remove =

@@ -46,13 +46,13 @@ TEST(CatalogTables, EveryRowAgreesWithItsCodePoint) {
       ASSERT_EQ(record.group, table.group);
       ASSERT_EQ(record.isSFSymbol, table.constant == "sfSymbolsJson" ? std::optional(true) : std::nullopt);
       named.push_back(rebuilt);
-      // Rows with the same code point in different tables differ only in the group.
+      // If several tables have a row for the same code point, these rows differ only in the group.
       const auto [other, isNew] = first.try_emplace(record.hex, record);
       if (isNew) continue;
       ASSERT_EQ(record.fallbackName, other->second.fallbackName);
       ASSERT_NE(record.group, other->second.group) << record.hex << " occurs twice in " << table.constant;
     }
-    // addNames() gives each row the name that it has in the table.
+    // addNames() must give each rebuilt record the name that is in the row of the table.
     named = toolKit().addNames(named);
     ASSERT_EQ(named.size(), records->size()) << table.constant;
     for (std::size_t i = 0; i < named.size(); ++i) {
@@ -143,7 +143,7 @@ TEST(NameTable, FindsTheFirstEntryOfEachCodeAndDecodesCompletely) {
   }
 }
 
-TEST(NameCompletion, NamesAndFilters) {
+TEST(NameCompletion, AddsNamesAndRemovesRecords) {
   const struct {
     std::string hex, result, name = "", group = "custom";
   } cases[] = {{"0000", "Null Character (Control)"},
@@ -153,7 +153,7 @@ TEST(NameCompletion, NamesAndFilters) {
                {"100000", "<Plane 16 Private Use, First>"},
                {"zzzz", "Mine", "Mine"},
                {"0041", "Latin Capital Letter A", "", "private use area"},
-               // These records are removed.
+               // addNames() must remove the following records.
                {"0041", "", "", "Private Use Area"},
                {"zzzz", "", "<CONTROL>"},
                {"4e01", ""},

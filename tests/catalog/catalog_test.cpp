@@ -63,7 +63,7 @@ TEST(Catalog, DerivesTextsFromStoredRows) {
   EXPECT_EQ(entity.name(), "Fallback");
 }
 
-TEST(Catalog, GivesAdviceInTheFirstPreferredLanguageElseInEnglish) {
+TEST(Catalog, ReturnsTheNoteInTheFirstPreferredLanguageElseInEnglish) {
   AdditionalData both;
   both.advice = {{"en", "English"}, {"de", "Deutsch"}, {"fr", ""}, {"DE", "never"}};
   AdditionalData german;

@@ -51,7 +51,7 @@ TEST_F(CustomAddedEntities, AddingAndRemovingHaveTheirEffectsInOrder) {
   EXPECT_EQ(stored("displayedGroups"), SettingValue(Names({"custom", "arrows"})));
 }
 
-TEST_F(CustomAddedEntities, StoredCodesAreComparedAsStored) {
+TEST_F(CustomAddedEntities, CodesAreComparedWithTheirStoredSpelling) {
   Glyphorium catalog;
   catalog.setCustomAddedEntityUnicodes({"00E9", "00e9", "00e9"});
   EXPECT_EQ(hexCodes(catalog.allCustomEntities), Names({"00E9", "00e9", "00e9"}));
@@ -134,7 +134,8 @@ TEST_F(CustomAddedEntities, CallbacksCanWaitForAThreadThatReadsSettings) {
   class Waiting {
    public:
     void read() {
-      // Does not use std::async, because the destructor of its future would wait for the thread.
+      // Use a promise instead of std::async(): the destructor of the future of std::async() would wait for
+      // the thread.
       const auto done = std::make_shared<std::promise<void>>();
       std::thread([done] {
         settingsStore()->object("displayedGroups");

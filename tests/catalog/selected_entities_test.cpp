@@ -81,9 +81,9 @@ TEST(Globals, AreCreatedOnceWhenSeveralThreadsUseThemFirst) {
 
 TEST_F(SelectedEntitiesTest, KeepsTheEntityOfTheEarliestGroupInCodePointOrder) {
   Glyphorium catalog;
-  // Each text is the hex code and the group of an entity. The last five entities have code points of the two
-  // lists of hidden code points. Forbidden code points are dropped in upper and lower case; code points that
-  // cannot be displayed are dropped only in lower case.
+  // Each text is the hex code and the group of an entity. The hex codes of the last five entities are in the
+  // two lists of code points that are never shown. Forbidden code points are dropped whether their digits are
+  // in upper or lower case, code points that cannot be displayed only if they are in lower case.
   std::vector<Entity> entities;
   for (const std::string text :
        {"2190 custom", "00e9 Latin", "00E9 latin", "0041 latin", "2190 arrows", "0041 LATIN", "2192 arrows",

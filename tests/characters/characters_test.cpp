@@ -34,7 +34,8 @@ std::vector<std::string> linesOf(std::istream& text) {
   return lines;
 }
 
-// A few of ten thousand code points may differ, because later versions of Unicode have corrected properties.
+// Python's database is older. A few of the ten thousand code points may differ, because later versions of
+// Unicode have corrected some properties.
 TEST(Characters, AgreeWithPythonsCopyOfTheDatabase) {
   const unsigned seed = std::random_device()();
   SCOPED_TRACE("seed " + std::to_string(seed));
@@ -53,7 +54,7 @@ TEST(Characters, AgreeWithPythonsCopyOfTheDatabase) {
       EXPECT_EQ(column(line, 2), "Cn") << line;
       continue;
     }
-    // Python has no names for Tangut ideographs.
+    // Python's database has no names for Tangut ideographs, so do not compare them.
     if (facts.script != "Tangut") {
       EXPECT_EQ(facts.name, column(line, 1));
     }
@@ -70,7 +71,7 @@ TEST(Characters, AgreeWithPythonsCopyOfTheDatabase) {
   }
 }
 
-TEST(Characters, LaterNamesAreThoseOfTheirTable) {
+TEST(Characters, NamesOfLaterCharactersEqualTheirSource) {
   std::ifstream file(CHARACTER_SOURCES "/names.tsv");
   const std::vector<std::string> lines = linesOf(file);
   ASSERT_GT(lines.size(), 2600U);
@@ -87,7 +88,7 @@ TEST(Characters, LaterNamesAreThoseOfTheirTable) {
 TEST(Characters, EveryCodePointHasAStatus) {
   std::map<CharacterStatus, int> counts;
   for (char32_t codePoint = 0; codePoint <= 0x110000; ++codePoint) ++counts[characterStatus(codePoint)];
-  // The figures that Unicode publishes for version 17.0.
+  // Unicode publishes these numbers for version 17.0.
   EXPECT_EQ(counts[CharacterStatus::assigned], 159801);
   EXPECT_EQ(counts[CharacterStatus::control], 65);
   EXPECT_EQ(counts[CharacterStatus::privateUse], 137468);

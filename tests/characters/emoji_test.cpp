@@ -18,7 +18,7 @@ namespace {
 using testing::Contains;
 using testing::IsEmpty;
 
-TEST(Emoji, AllAreNamedFoundAndOneCluster) {
+TEST(Emoji, EachHasANameIsFoundAndIsOneCluster) {
   std::map<std::string_view, int> kinds;
   std::set<std::string> names;
   for (std::size_t place = 0; place < emojiCount(); ++place) {
@@ -28,8 +28,8 @@ TEST(Emoji, AllAreNamedFoundAndOneCluster) {
     EXPECT_EQ(graphemeClusters(text).size(), 1U) << text;
     EXPECT_EQ(shownSymbol(text), text);
     EXPECT_EQ(shownWidth(text), 2) << text;
-    // Only sequences must have unique names. A single code point has its Unicode name, which a sequence may
-    // have too: "man in tuxedo".
+    // Only the names of sequences must be unique. A single code point has its Unicode name, and a sequence
+    // may have the same name: "man in tuxedo".
     if (emojiAt(place).kind != "single") {
       EXPECT_TRUE(names.insert(shownCharacterName(text)).second) << text;
     }
@@ -113,7 +113,7 @@ TEST_F(SkinTonePreference, IsStored) {
   }
 }
 
-TEST(Supplement, HasWhatTheCatalogDoesNot) {
+TEST(Supplement, ContainsWhatTheCatalogLacks) {
   const std::vector<std::string> texts = supplementTexts();
   const std::set<std::string> all(texts.begin(), texts.end());
   EXPECT_EQ(all.size(), texts.size());

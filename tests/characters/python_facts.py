@@ -13,7 +13,7 @@ for code_point in random.sample(range(0x110000), count // 2) + random.sample(nam
     c = chr(code_point)
     mapping = [code for code in unicodedata.decomposition(c).lower().split() if '<' not in code]
     letters = unicodedata.normalize('NFD', c)
-    if 'HANGUL SYLLABLE' in unicodedata.name(c, ''):  # which Python decomposes only when it normalises
+    if 'HANGUL SYLLABLE' in unicodedata.name(c, ''):  # only normalize() decomposes these
         parts = [unicodedata.normalize('NFC', letters[:2]), letters[2]] if len(letters) == 3 else letters
         mapping = [f'{ord(part):04x}' for part in parts]
     decomposition = ','.join(mapping)

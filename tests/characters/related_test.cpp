@@ -26,7 +26,7 @@ std::map<Relation, std::u32string> relationsOf(char32_t codePoint) {
   return relations;
 }
 
-TEST(RelatedCharacters, AreThoseOfUnicode) {
+TEST(RelatedCharacters, AgreeWithUnicode) {
   EXPECT_EQ(relationsOf(U'é')[Relation::upperCase], U"É");
   EXPECT_EQ(relationsOf(U'é')[Relation::base], U"e");
   EXPECT_THAT(relationsOf(U'e')[Relation::withMark], IsSupersetOf({U'è', U'é', U'ẽ'}));
@@ -40,7 +40,7 @@ TEST(RelatedCharacters, AreThoseOfUnicode) {
   EXPECT_THAT(relationsOf(0x110000), IsEmpty());
 }
 
-TEST(LookAlikes, AreTheOthersOfTheClass) {
+TEST(LookAlikes, AreTheOtherCharactersOfTheClass) {
   EXPECT_THAT(lookAlikes(U'–').characters, IsSupersetOf({U'‐', U'−', U'‑'}));
   EXPECT_THAT(lookAlikes(U'–').characters, Not(Contains(U'–')));
   EXPECT_THAT(lookAlikes(U'a').characters, IsSupersetOf({U'а', U'α'}));
@@ -50,7 +50,7 @@ TEST(LookAlikes, AreTheOthersOfTheClass) {
   EXPECT_THAT(lookAlikes(0x110000).characters, IsEmpty());
 }
 
-TEST(WaysToType, OfEveryMethod) {
+TEST(WaysToType, IncludeEveryMethod) {
   const struct {
     std::string_view character, method, text;
   } cases[] = {

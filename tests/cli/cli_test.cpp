@@ -49,7 +49,7 @@ TEST(CommandLine, ReturnsExitCodesAndHelpfulMessages) {
       {"show 200b", 0, "⬚"},
       {"show 0301", 0, "◌\u0301"},
       {"show U+4E01", 0, "Cjk Unified Ideograph-4E01"},
-      {"show 'U+2192 &foo;'", 1, "no character is 'U+2192 &foo;'"},  // fails, because one part is unknown
+      {"show 'U+2192 &foo;'", 1, "no character is 'U+2192 &foo;'"},  // one of the two codes is unknown
       {"show U+D800", 0, "<surrogate-D800>"},
       {"show U+0378 U+FFFF", 0, "<noncharacter-FFFF>"},
       {"show nbsp", 0, "U+00A0"},
@@ -147,7 +147,7 @@ TEST(CommandLine, ReturnsExitCodesAndHelpfulMessages) {
   EXPECT_THAT(run("--color always show 2192").output, HasSubstr("\x1b["));
   EXPECT_THAT(run("--color always show 2192", "NO_COLOR=1").output, testing::Not(HasSubstr("\x1b")));
   EXPECT_EQ(run("names 2>&1 | head -1").output,
-            "0000\tNull character (Control)\n");  // a closed pipe is not an error
+            "0000\tNull character (Control)\n");  // a closed pipe is no error
 }
 
 TEST(CommandLine, IdentifiesTextOfAnyLengthInPiecesOfAnySize) {
@@ -163,7 +163,8 @@ TEST(CommandLine, IdentifiesTextOfAnyLengthInPiecesOfAnySize) {
                                   std::to_string(at + 1) + " " + file + ") | " PROGRAM " identify -";
     EXPECT_EQ(runProgram(piecewise).output, whole) << cut;
   }
-  // The program must not keep the whole text in memory: the limit of its address space is too small for that.
+  // The address space of the program is limited, so that the test fails if the program keeps the whole text
+  // in memory.
   EXPECT_EQ(runProgram("(" MEMORY_LIMIT " yes '" + std::string("a → e\u0301") +
                        "' | head -c 4000000 | " PROGRAM " identify - | tail -n 1)")
                 .output,
@@ -200,7 +201,7 @@ TEST(CommandLine, WaitsForAFullPipeAndReportsAFullFile) {
   EXPECT_THAT(limited.output, HasSubstr("could not be written"));
 }
 
-TEST(CommandLine, SendsNoForeignControlCharactersToATerminal) {
+TEST(CommandLine, SendsNoControlCharactersOfTextsToATerminal) {
   const TemporaryDirectory home;
   SqliteSettingsStore(home / ".config/org.glyphorium.Glyphorium/settings.sqlite")
       .set("displayedGroups", std::vector<std::string>{"\x1b]0;x\a\u009B", "\x1b[2mfaint"});
@@ -266,7 +267,7 @@ TEST(CommandLine, KeepsTheUsersChoices) {
   const struct {
     std::string arguments;
     int exitCode;
-    std::string output;  // the whole standard output; if the command fails, only a part of the output
+    std::string output;  // the whole standard output; if the command fails, this is only a part of the output
   } steps[] = {
       {"list", 1, "display add GROUP"},
       {"added", 1, ""},
@@ -328,7 +329,7 @@ TEST(CommandLine, KeepsTheUsersChoices) {
     EXPECT_THAT(unread.output, HasSubstr("damaged")) << command;
   }
   EXPECT_EQ(run("list arrows", own).exitCode, 0);
-  // The program reports a choice that cannot be saved, here because /dev/null is not a directory.
+  // This choice cannot be saved, because /dev/null is not a directory. The program must report the failure.
   const ProgramResult unsaved = run("2>&1 display add emoji", own + " XDG_CONFIG_HOME=/dev/null");
   EXPECT_EQ(unsaved.exitCode, 3);
   EXPECT_THAT(unsaved.output, HasSubstr("cannot be saved"));

@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT
-// Checks the user's choices after programs that change them were killed or ran at the same time.
+// SPDX-License-Identifier: MIT Starts programs that change the user's choices, kills them or runs several at
+// once, and then checks the choices.
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <signal.h>
@@ -48,7 +48,7 @@ State stored(const TemporaryDirectory& config) {
   return {list("displayedGroups"), list("customAddedEntities")};
 }
 
-TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
+TEST(KilledProgram, LeavesEitherTheOldOrTheNewChoices) {
   const TemporaryDirectory config;
   const TemporaryDirectory data;
   const ScopedVariable configHome("XDG_CONFIG_HOME", config.path().string());
@@ -88,8 +88,8 @@ TEST(KilledProgram, LeavesTheOldChoicesOrTheNewOnes) {
     before = now;
   }
   RecordProperty("changed", static_cast<int>(changed));
-  EXPECT_GT(changed, 0u);                                // some were killed after their change
-  EXPECT_LT(changed, static_cast<std::size_t>(rounds));  // and some before
+  EXPECT_GT(changed, 0u);                                // some programs were killed after their change
+  EXPECT_LT(changed, static_cast<std::size_t>(rounds));  // and some before it
 }
 
 TEST(SeveralPrograms, KeepAllTheirChanges) {

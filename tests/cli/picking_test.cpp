@@ -20,7 +20,7 @@ namespace {
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-// The finder in a pseudo terminal. What it prints at the end goes into a file.
+// Runs the finder in a pseudo terminal. The finder's standard output is a file.
 class Finder {
  public:
   Finder(const std::string& arguments, unsigned short columns, unsigned short rows) {
@@ -42,7 +42,7 @@ class Finder {
   Finder(const Finder&) = delete;
   Finder& operator=(const Finder&) = delete;
 
-  // Returns what appears on the terminal until the text is there, or everything after five seconds.
+  // Reads from the terminal until `text` has appeared, for at most five seconds. Returns all that was read.
   std::string screenWith(const std::string& text) {
     std::string screen;
     pollfd ready{terminal_, POLLIN, 0};
@@ -64,7 +64,8 @@ class Finder {
     ioctl(terminal_, TIOCSWINSZ, &size);
   }
 
-  // Reads what is left, because the program waits while the terminal is full.
+  // Waits for the end of the program and returns its exit code. Reads the remaining output meanwhile, because
+  // the program waits while the terminal is full.
   int exitCode() {
     screenWith("text that does not come");
     int status = -1;
@@ -93,8 +94,8 @@ TEST(Picking, FindsWhileTypingAndPrintsTheChoice) {
       {"--as code-point", "é\r", "U+00E9\n"},
       {"", "rightwards arrow\x1b[B\x1b[A\x1b[6~\x1b[5~\x1b[21~\r", "→\n"},  // arrows, pages, F10
       {"--multi", "magic wand\t\x15rightwards arrow\t\r", "🪄→\n"},
-      {"--multi", "magic wand\t\x15rightwards arrow\r", "🪄\n"},  // marked ones only
-      {"", "\x1b[200~🇩🇪\x1b[201~\r", "🇩🇪\n"},                       // pasted
+      {"--multi", "magic wand\t\x15rightwards arrow\r", "🪄\n"},  // prints only the marked characters
+      {"", "\x1b[200~🇩🇪\x1b[201~\r", "🇩🇪\n"},                       // a pasted text
   };
   for (const auto& [arguments, keys, chosen] : cases) {
     Finder finder(arguments, 80, 24);
@@ -116,7 +117,8 @@ TEST(Picking, LeavesWithoutAChoiceAndRestoresTheTerminal) {
   }
 }
 
-// No line may be wider than the terminal, and the card must be there.
+// In a narrow terminal, no line may be wider than the terminal, and the card of the current character must be
+// visible.
 TEST(Picking, WorksInFortyColumnsAndFollowsItsSize) {
   Finder finder("rightwards arrow", 40, 24);
   std::string screen = finder.screenWith("\x1b[?25h");
@@ -134,7 +136,7 @@ TEST(Picking, WorksInFortyColumnsAndFollowsItsSize) {
     }
     EXPECT_LE(shownWidth(shown), 40) << line;
   }
-  finder.resize(100, 8);  // too low for the card
+  finder.resize(100, 8);  // not high enough for the card
   EXPECT_THAT(finder.screenWith("\x1b[?25h"), Not(HasSubstr("&rarr;")));
 }
 

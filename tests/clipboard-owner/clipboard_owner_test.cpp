@@ -25,7 +25,7 @@ using testing::Optional;
 using Atoms = std::vector<std::uint32_t>;
 using Clock = std::chrono::steady_clock;
 
-// Properties and targets that have no special meaning for the owner.
+// Atoms for properties and targets that have no special meaning for the owner.
 constexpr xcb_atom_t here = XCB_ATOM_CUT_BUFFER0, there = XCB_ATOM_CUT_BUFFER1, image = XCB_ATOM_BITMAP;
 
 struct Value {
@@ -200,7 +200,7 @@ TEST_F(ClipboardOwner, SurvivesReadersThatExitStopReadingOrSendInvalidRequests) 
   copy(large);
   const Client stopped, old, modern;
   const auto& a = old.atoms();
-  EXPECT_THAT(stopped.begin(a.utf8String), Optional(FieldsAre(a.incr, _)));  // reads nothing after this
+  EXPECT_THAT(stopped.begin(a.utf8String), Optional(FieldsAre(a.incr, _)));  // this client then stops reading
   for (int i = 0; i < 100; ++i) {
     const Client vanishing;
     if (i % 2) {
@@ -237,7 +237,7 @@ TEST_F(ClipboardOwner, OffersTheTextOfTheLatestCopy) {
 
   asked = Clock::now();
   std::this_thread::sleep_for(100ms);
-  client.own(client.atoms().clipboard);  // as clipboard managers do after an owner has ended
+  client.own(client.atoms().clipboard);  // clipboard managers do this after an owner has ended
   EXPECT_EQ(ended(), 0);
   copy("latest", asked);
   EXPECT_THAT(Client().text(), isText("latest"));

@@ -42,7 +42,8 @@ TEST(CodeFormats, References) {
   EXPECT_EQ(formats.getHtmlHex("00A9"), "&#xa9;");
   EXPECT_EQ(formats.getHtmlHex("0000"), "&#x;");
   EXPECT_EQ(formats.getHtmlHex("zz"), "&#xzz;");
-  // A zero with an accent is a different character. A zero before an ill-formed byte is still a zero.
+  // Leading zeros are removed. A zero with a combining accent is another character and stays. A zero before
+  // an ill-formed byte is an ordinary zero.
   EXPECT_EQ(formats.getHtmlHex("000\u03010A"), "&#x0\u03010a;");
   EXPECT_EQ(formats.getHtmlHex("00\xCC"), "&#x\xCC;");
   EXPECT_EQ(formats.getAdvancedHtmlHex("0041,0\u0301,"), "&#x41;&#x0\u0301;&#x;");

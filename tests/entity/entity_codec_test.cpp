@@ -26,7 +26,7 @@ TEST(EntityCodec, OneFaultyRowFailsTheWholeTableAndIsReportedOnce) {
       table(),
       table("[", " [ ") + " ",
       table("\"hex\"", R"("extra":{"a":[1]},"hex")"),
-      table("\"hex\"", R"("\u0068ex")"),  // escapes in a key do not matter
+      table("\"hex\"", R"("\u0068ex")"),  // a key may be written with escapes
       table("\"group\":\"g\"", R"("isSFSymbol":null,"group":"g")"),
       // The value of an unknown key has numbers outside the range of every number type.
       table("\"hex\"", R"("a\"1e400":["\\",-1e400,{"b":123456789012345678901234567890}],"hex")"),

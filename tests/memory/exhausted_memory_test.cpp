@@ -35,8 +35,8 @@ class ExhaustedMemory : public testing::Test {
   }
   ~ExhaustedMemory() override { setDiagnosticsSink(nullptr); }
 
-  // Runs the operation while calls `first` to `last` of operator new fail. Returns whether the operation
-  // succeeded nevertheless.
+  // Runs the operation. Meanwhile, the calls of operator new with the numbers `first` to `last` fail. Returns
+  // whether the operation succeeded nevertheless.
   static bool run(std::size_t first, std::size_t last, const std::function<void()>& operation) {
     failingNew = {first, last};
     bool succeeded = true;

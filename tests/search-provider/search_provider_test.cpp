@@ -49,7 +49,7 @@ TEST_F(SearchProvider, AnswersTheShell) {
       {"GetResultMetas \"['0301']\"", HasSubstr("'name': <'◌\u0301 Combining Acute Accent'>")},
       {"GetResultMetas \"['05d0']\"", HasSubstr("'name': <'\\u200eא Hebrew Letter Alef'>")},
       {"GetResultMetas \"['2028']\"", HasSubstr("'name': <'⬚ Line Separator'>")},
-      // A text that sd-bus would reject does not affect the other results.
+      // The text of U+FFFF would be rejected by sd-bus. The other result must still be returned.
       {"GetResultMetas \"['ffff', '2192']\"",
        testing::AllOf(HasSubstr("{'id': <'ffff'>"), HasSubstr("{'id': <'2192'>"))},
       {"ActivateResult 2192 \"['arrow']\" 0", "()\n"},
@@ -62,7 +62,7 @@ TEST_F(SearchProvider, AnswersTheShell) {
 
 // GNOME Shell sends a query after every letter, together with the results of the previous query. The search
 // must not be limited to these results, because the longer query may find other characters.
-TEST_F(SearchProvider, FindsTheSameLetterByLetterAsAtOnce) {
+TEST_F(SearchProvider, FindsTheSameTypedLetterByLetterOrAtOnce) {
   Session session;
   for (const std::string query : {"U+2192", "\\\\u2192", "arow", "pfeil", "&rarr;"}) {
     const std::string atOnce = session.shell("GetInitialResultSet \"['" + query + "']\"");
@@ -183,7 +183,7 @@ TEST_F(SearchProvider, AnswersTheRunner) {
   const std::string actions = "'actions': <['character', 'html', 'code-point']>}";
   const std::string noMatch = "(@a(sssida{sv}) [],)\n", icon = "', 'org.glyphorium.Glyphorium', ";
   const struct {
-    std::string call, answer;  // a prefix of the answer, up to the category relevance of the first match
+    std::string call, answer;  // the answer begins with this text
   } cases[] = {
       {"Match →", "([('2192', '→ Rightwards Arrow" + icon +
                       "100, 1.0, {'category': <'Characters'>, 'subtext': <'arrows · U+2192'>, " + actions +
@@ -201,7 +201,8 @@ TEST_F(SearchProvider, AnswersTheRunner) {
       {"Teardown", "()\n"},
   };
   for (const auto& [call, answer] : cases) EXPECT_THAT(session.runner(call), StartsWith(answer)) << call;
-  // KRunner sends everything that users type. These queries must not give results.
+  // KRunner sends all that users type. The following queries must have no results, because they are probably
+  // not meant as characters.
   for (const std::string other : {"l", "5", "5+5", "2192", "0x2192", "konsole", "https://example.org/arrow",
                                   "arrow.txt", "/home", "rarr", "int", "less-than sig", "a <", "?", "arow"}) {
     EXPECT_EQ(session.runner("Match '" + other + "'"), noMatch) << other;
@@ -270,8 +271,8 @@ TEST_F(SearchProvider, AnswersManyCallersWhileOthersAreKilled) {
 TEST_F(SearchProvider, ExitsWhenIdleWithoutLosingACall) {
   Session session("0.02");
   session.index();
-  // The pauses are about as long as the idle time, so that many calls arrive when the program is about to
-  // exit.
+  // The pauses between calls are about as long as the idle time, so that many calls arrive just when the
+  // program is about to exit.
   const std::string result = runProgram("for client in 1 2; do for pause in $(seq 10 35); do " +
                                         session.shellCommand("GetInitialResultSet \"['→']\"") +
                                         " 2>&1; sleep 0.0$pause; done & done; wait")

@@ -23,7 +23,7 @@ class Session {
   explicit Session(const std::string& idleSeconds = "30") {
     std::filesystem::create_directories(directory_ / "share/dbus-1/services");
     std::filesystem::create_directories(directory_ / "bin");
-    // Records each start of the program, and the exit code at each end, so that tests can check them.
+    // This script runs the program. It records each start and each exit code, so that tests can check them.
     writeProgram(directory_ / "program", "echo started >>" + path("starts") +
                                              "\n" SEARCH_PROVIDER " --idle-seconds=" + idleSeconds +
                                              "\necho $? >>" + path("ends") + "\n");
@@ -38,7 +38,7 @@ class Session {
       writeFile(directory_ / "share" / file, service);
     }
 
-    // The bus ends when this process closes its end of the pipe.
+    // The bus runs until this process closes the pipe.
     bus_ = popen(("exec dbus-run-session -- sh -c 'echo $DBUS_SESSION_BUS_ADDRESS >" + path("new") + "; mv " +
                   path("new") + " " + path("address") + "; exec cat' >" + path("log") + " 2>&1")
                      .c_str(),
@@ -105,8 +105,8 @@ class Session {
   }
 
  private:
-  // Returns the start of a command that calls a method in the same way as a desktop: the bus name and the
-  // object path are the values of two keys in `file`, which consists of "key=value" lines.
+  // Returns the beginning of a shell command that calls a D-Bus method. Like a desktop, reads the bus name
+  // and the object path from `file`, which consists of "key=value" lines.
   static std::string call(const std::string& file, const std::string& busName, const std::string& objectPath,
                           const std::string& interface) {
     const std::string content = fileContent(INSTALLED_SHARE "/" + file);

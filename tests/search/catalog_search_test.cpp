@@ -13,7 +13,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
-// The supplement has tests of its own.
+// Leave out the supplement, which has its own tests.
 const SearchOptions english{20, {{"en"}}, {}, false};
 
 std::vector<std::string> hexes(const CatalogSearch& search, const std::string& query,

@@ -60,7 +60,7 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"&rarr;&larr;", {"2192", "2190"}, SearchField::htmlName},
       {"&#8594;", {"2192"}, SearchField::code},
       {"&#x2192", {"2192"}, SearchField::code},
-      {"&rArr;", {"21d2"}, SearchField::htmlName},  // HTML names are case-sensitive
+      {"&rArr;", {"21d2"}, SearchField::htmlName},  // upper and lower case differ in HTML names
       {"&Rarr;", {"21a0"}, SearchField::htmlName},
       {"rightarrow", {"2192"}, SearchField::htmlName},
       {"RightArrow", {"2192"}, SearchField::htmlName},
@@ -78,7 +78,8 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"👨\u200D👩\u200D👧", {"1f468", "1f469", "1f467"}, SearchField::character},
       {"\u200D", {"200d"}, SearchField::character},
       {"жук", {"0436", "0443", "043a"}, SearchField::character},
-      // ASCII signs that people type in place of a character; the signs themselves come after this character
+      // ASCII signs that people type instead of a character, such as "->"; the results for the signs
+      // themselves come later
       {"->", {"2192", "002d", "003e"}, SearchField::notation},
       {"(C)", {"00a9"}, SearchField::notation},
       {"1/2", {"00bd"}, SearchField::notation},
@@ -86,7 +87,7 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"...", {"2026"}, SearchField::notation},
       // notations for characters in other programs, such as LaTeX and Alt codes
       {"\\neq", {"2260"}, SearchField::notation},
-      {"\\cdot", {"22c5", "00b7"}, SearchField::notation},  // more sources have the first
+      {"\\cdot", {"22c5", "00b7"}, SearchField::notation},  // the first is in more sources
       {"\\AA", {"00c5"}, SearchField::notation},            // not the escape of U+00AA
       {"$\\Rightarrow$", {"21d2"}, SearchField::notation},
       {"\\'e", {"00e9"}, SearchField::notation},
@@ -102,7 +103,7 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"| - >", {"21a6", "007c", "002d"}, SearchField::notation},
       {"alt 0176", {"00b0"}, SearchField::notation},
       {"Alt+3", {"2665"}, SearchField::notation},
-      {"alt-228", {"03a3", "00f5"}, SearchField::notation},  // differs between two code pages
+      {"alt-228", {"03a3", "00f5"}, SearchField::notation},  // a character in each of two code pages
       {"Compose < 3", {"2665"}, SearchField::notation},
       {"^K a:", {"00e4"}, SearchField::notation},
       {"U 2014", {"2014"}, SearchField::code},
@@ -130,7 +131,7 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
   }
 }
 
-// The characters of the code itself, such as "&", "#" and "+", must not be results.
+// The characters with which a code is written, such as "&", "#" and "+", must not be results.
 TEST(SearchQueryForms, CodeFindsOnlyItsCharacter) {
   for (const char* const code : {"U+2192", "\\u2192", "\\u{2192}", "&#8594;", "&#x2192;"})
     EXPECT_EQ(CatalogSearch::instance().hexes(code), std::vector<std::string>{"2192"}) << code;

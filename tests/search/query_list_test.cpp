@@ -50,7 +50,7 @@ std::size_t placeOf(const ListedQuery& query, const std::vector<std::string>& fo
 
 // The queries whose first result is not a wanted character, with the position of the first wanted character,
 // or 0 if none is found. If a change makes a query find a wanted character first, remove the query from this
-// list. Add a query only if the change that spoils it has a greater benefit.
+// list. Add a query only if the change that makes it worse improves more than it spoils.
 const std::map<std::string, std::size_t> knownMisses{
     {"aproximately equal", 2},
     {"checkers king", 5},
@@ -77,8 +77,8 @@ const std::map<std::string, std::size_t> knownMisses{
     {"étoiles", 2},
 };
 
-// Returns the hex codes that a host shows: those of a search of everything. An emoji with a skin tone counts
-// as the one without.
+// Returns the hex codes of the results of a search in the catalog and the supplement. For an emoji with a
+// skin tone, returns the hex code of the emoji without the tone.
 std::vector<std::string> hexesOfEverything(const ListedQuery& query) {
   static const glyph::CatalogSearch search{std::vector<std::string>()};
   std::vector<std::string> hexes;

@@ -72,7 +72,7 @@ TEST(SearchRanking, WordsAreLeftOutIfNoCharacterMatchesAllOfThem) {
   }
 }
 
-TEST(SearchRanking, EachPartOfTheScoreDecidesAmongResults) {
+TEST(SearchRanking, EachPartOfTheScoreDecidesTheOrderOfSomeResults) {
   const struct {
     const char* query;
     const char* language;
@@ -86,9 +86,9 @@ TEST(SearchRanking, EachPartOfTheScoreDecidesAmongResults) {
       {"è maiuscola", "it", "00c8"},                         // the accent matters
       {"í con tilde mayúscula", "es", "00cd"},
       {"u mit zwei Punkten", "de", "00fc"},  // a description of the shape
-      {"power set", "en", "1d4ab"},          // not the character whose note mentions this one
-      {"estreya", "es", "2605"},             // a spelling that sounds alike
-      {"co", "en", "00a9"},                  // not a character with the syllable "Co" in its name
+      {"power set", "en", "1d4ab"},          // and not a character whose usage note mentions this one
+      {"estreya", "es", "2605"},             // a misspelling of "estrella" that sounds the same
+      {"co", "en", "00a9"},                  // and not a character with the syllable "Co" in its name
       {"giove", "it", "2643"},
   };
   for (const auto& test : cases) {
@@ -99,7 +99,7 @@ TEST(SearchRanking, EachPartOfTheScoreDecidesAmongResults) {
 
 TEST(SearchRanking, CharactersThatMatchMuchLessThanTheBestAreLeftOut) {
   const auto& search = CatalogSearch::instance().search;
-  EXPECT_LT(search.query("circle slash", english).total, 30u);  // hundreds match only one of the words
+  EXPECT_LT(search.query("circle slash", english).total, 30u);  // hundreds of characters match one word
   const SearchResults incomplete = search.query("snowman invoice", english);
   EXPECT_TRUE(incomplete.lacksWords && incomplete.approximate);
   const SearchResults corrected = search.query("snoman", english);

@@ -61,8 +61,9 @@ TEST(SupplementSearch, FindsCharactersBeyondTheCatalog) {
   }
 }
 
-// The query list is for the catalog. No character of the supplement may come before what it wants.
-TEST(SupplementSearch, LeavesTheAnswersOfTheCatalogFirst) {
+// The query list was made for the catalog. No character of the supplement may come before the wanted
+// character.
+TEST(SupplementSearch, ResultsOfTheCatalogComeFirst) {
   const auto water = hexes("water", "en", 10'000);
   const auto isHan = [](const std::string& hex) {
     const auto code = std::stoul(hex, nullptr, 16);
@@ -83,7 +84,7 @@ TEST(SupplementSearch, LeavesTheAnswersOfTheCatalogFirst) {
             std::vector(ofCatalog.begin(), ofCatalog.begin() + 3));
 }
 
-// Where an emoji shares its name with one of the signs that people want most, the sign comes first.
+// The only exception: if one of the most wanted signs has the same name as an emoji, the sign comes first.
 TEST(SupplementSearch, FindsEveryEmojiFirstByItsEnglishName) {
   const std::set<std::string> namesOfSigns{
       "star",       "bookmark",   "dagger",     "hook",         "up arrow",    "right arrow",
@@ -112,7 +113,7 @@ TEST(SupplementSearch, ShowsVariantsOfAnEmojiAsOneResult) {
   EXPECT_EQ(all.results.size(), all.total);
 }
 
-TEST(SupplementSearch, TakesThePreferredToneExceptForAnEmojiInTheQuery) {
+TEST(SupplementSearch, UsesThePreferredToneUnlessTheQueryIsAnEmoji) {
   ASSERT_TRUE(everything().isCurrent());
   ASSERT_TRUE(setPreferredSkinTone(SkinTone::medium));
   const CatalogSearch search{std::vector<std::string>()};
@@ -127,7 +128,7 @@ TEST(SupplementSearch, TakesThePreferredToneExceptForAnEmojiInTheQuery) {
   setPreferredSkinTone(SkinTone::none);
 }
 
-TEST(SupplementSearch, CanBeLeftOut) {
+TEST(SupplementSearch, CanBeSwitchedOff) {
   const SearchOptions catalogOnly{1000, {{"en"}}, {}, false};
   for (const char* const query : {"magic wand", "flag germany", "water", "漢", "🇩🇪"}) {
     for (const SearchResult& result : everything().query(query, catalogOnly).results)

@@ -25,7 +25,7 @@ TEST(SearchWords, AreSeparatedAndLatinLettersAreFolded) {
   for (const auto& test : cases) EXPECT_EQ(wordsOf(test.text), test.words) << test.text;
 }
 
-TEST(SearchWords, HavePositionsInTheText) {
+TEST(SearchWords, KnowTheirPositionsInTheText) {
   constexpr std::string_view text = " Flèche\u0301 ↑";
   WordReader reader(text);
   ASSERT_TRUE(reader.next());

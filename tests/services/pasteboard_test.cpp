@@ -131,7 +131,7 @@ TEST(DesktopPasteboard, BackgroundProcessInheritsNothingFromTheHost) {
   const ScopedVariable variables[] = {
       {"PATH", directory / ""}, {"DIR", directory / ""}, {"DISPLAY", "x"}, {"WAYLAND_DISPLAY", {}}};
   int ends[2];
-  ASSERT_EQ(pipe(ends), 0);  // without O_CLOEXEC, which is common in hosts
+  ASSERT_EQ(pipe(ends), 0);  // many hosts open descriptors without O_CLOEXEC
   const auto before = signal(SIGCHLD, SIG_IGN);
   // SIGCHLD is ignored, so there are no exit codes. /bin/false does not print "copied", so it counts as
   // failed, and the next program is started.

@@ -303,7 +303,7 @@ TEST(SearchableIndex, PassesDiskErrorsToTheCompletion) {
   SearchableIndexReader reader(directory / "index");
   EXPECT_EQ(reader.count(), 0u);
   EXPECT_EQ(indexAndWait(index, {glyphItem("1", "→", "Arrow")}), "");
-  EXPECT_EQ(reader.count(), 1u);  // keeps the log open from here on
+  EXPECT_EQ(reader.count(), 1u);  // from here on, the reader keeps the log open
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
   const rlimit small{200'000, before.rlim_max};
@@ -378,7 +378,7 @@ TEST(SearchableIndex, CarriesOutAllRequestsBeforeTheProgramEnds) {
 }
 
 TEST(SearchableIndex, ACompletionMayUseAndDestroyTheIndex) {
-  std::thread([] {}).join();  // with the first thread, a sanitizer starts its own permanent thread
+  std::thread([] {}).join();  // a sanitizer starts its own permanent thread together with the first thread
   const auto threads = [] {
     return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
   };

@@ -53,8 +53,8 @@ TEST(SettingsProcesses, DoNotOverwriteChangesOfEachOther) {
   EXPECT_EQ(list, expected) << "the entries of each process must be in the order of its writes";
 }
 
-// Returns a list that identifies the state with this number. The lengths vary, so that the database adds and
-// frees pages.
+// Returns a list from which the test can tell the number again. The lists have different lengths, so that the
+// database adds and frees pages.
 List state(std::size_t number) {
   return List(number * 37 % 500 + 1, std::to_string(number));
 }
@@ -72,8 +72,8 @@ TEST(SettingsProcesses, KeepAllAcknowledgedWritesWhenKilled) {
         if (!store.synchronize() || write(acknowledgements, "", 1) != 1) return;
       }
     };
-    // In every second round, the writer is killed at any time after its start, in the other rounds after its
-    // first write.
+    // In every second round, kill the writer at any time after its first write, in the other rounds at any
+    // time after its start.
     const std::size_t acknowledged = kept + writesUntilKilled(round % 2 == 1, 20ms, writeForEver,
                                                               [] { std::this_thread::sleep_for(100us); });
     const List found = listIn(SqliteSettingsStore(file).object("state"));

@@ -106,7 +106,7 @@ TEST_F(SettingsStoreTest, DoesNotChangeValuesOfOtherPrograms) {
       {"{\"a\":1,\"a\":2}", RawJson{"{\"a\":1,\"a\":2}"}},
       {"not json", RawJson{"not json"}},
       {"1e999", RawJson{"1e999"}},
-      {"true' || char(0) || 'x", RawJson{std::string("true\0x", 6)}},  // SQL that makes a text with a NUL
+      {"true' || char(0) || 'x", RawJson{std::string("true\0x", 6)}},  // this SQL produces a text with a NUL
       {" [\"a\"] ", List{"a"}},
       {deep, RawJson{deep}}};
   for (const auto& [text, value] : foreign) {
@@ -240,7 +240,7 @@ TEST_F(SettingsStoreTest, SurvivesTruncatedFilesAndChangedBytes) {
   for (std::size_t i = 0; i < good.size(); i += i < 100 ? 9 : 1021) {
     std::string flipped = good;
     flipped[i] = static_cast<char>(flipped[i] ^ 0x55);
-    // The bytes at 18 and 47 contain version numbers of the file format. Changed, they mean a newer format,
+    // The bytes at 18 and 47 contain version numbers of the file format. A changed byte means a newer format,
     // and SQLite does not write to such a file.
     const bool newer = i == 18 || i == 47;
     for (const auto& [bytes, writable] : {std::pair(good.substr(0, i), true), std::pair(flipped, !newer)}) {
@@ -287,7 +287,7 @@ TEST_F(SettingsStoreTest, DropsResultsComputedFromAnOutdatedValue) {
   };
   enum class How { set, update };
   const struct {
-    const char* lock;  // with an exclusive lock, other programs cannot even read
+    const char* lock;  // an exclusive lock also prevents other programs from reading
     How how;
     bool otherStores;
     bool storable;
@@ -308,7 +308,7 @@ TEST_F(SettingsStoreTest, DropsResultsComputedFromAnOutdatedValue) {
         Database other(file, SQLITE_OPEN_READWRITE);
         other.execute(lock);
         how == How::set ? store->set("key", List{"old", "new"}) : store->update("key", append);
-        // After a wait that timed out, the next operation does not wait.
+        // The wait has timed out, so the next operation must not wait.
         const int before = asked;
         EXPECT_GT(before, 0);
         EXPECT_FALSE(store->synchronize());
@@ -454,7 +454,7 @@ TEST_F(SettingsStoreTest, KeepsUnsavedValuesUntilTheyCanBeSaved) {
     EXPECT_EQ(stored("other"), SettingValue(false));
     fs::remove_all(own);
 
-    // There is no home directory, so the store has no file.
+    // Without a home directory, the store has no file.
     unsetenv("HOME");
     unsetenv("XDG_CONFIG_HOME");
     SqliteSettingsStore homeless;

@@ -65,7 +65,7 @@ TEST(BoxedOptional, BehavesLikeAnOptional) {
   EXPECT_FALSE(box.has_value());
   EXPECT_THROW(box.edit(), std::bad_optional_access);
 
-  // Copies share a constant. Only a copy that is changed with edit() gets its own value.
+  // Copies share a constant. A copy gets its own value only when edit() is called for it.
   const std::string constant = "constant";
   box = glyph::BoxedOptional<std::string>::ofConstant(constant);
   other = box;

@@ -78,7 +78,8 @@ struct WaylandServer {
     chmod(directory.path().c_str(), 0755);
     mkdir(runtime.c_str(), 0700);
     writeFile(directory / "config", "xwayland disable\n");
-    // Sway refuses to run as root, but it accepts connections from programs of root.
+    // Run sway as the user nobody if this user is root: sway refuses to run as root, but it accepts
+    // connections from root's programs.
     std::string asNobody;
     if (getuid() == 0) {
       EXPECT_EQ(chown(runtime.c_str(), 65534, 65534), 0);

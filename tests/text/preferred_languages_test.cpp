@@ -15,7 +15,7 @@ TEST(PreferredLanguages, FollowTheRulesOfGettextWithoutRegions) {
     Languages languages;
     std::optional<std::string> lang = {}, language = {}, messages = {}, all = {};
   } cases[] = {{{"en"}},
-               // The first variable that is set determines the locale.
+               // The first variable that is not empty determines the locale.
                {{"de"}, "de_AT.UTF-8"},
                {{"fr"}, "de_DE", {}, "fr_FR"},
                {{"it"}, "de_DE", {}, "fr_FR", "it_IT"},

@@ -35,7 +35,7 @@ TEST(RecordText, RefersToConstantsAndOwnsEverythingElse) {
     copy = other;
     copy = *&copy;
     EXPECT_EQ(copy, other);
-    copy = copy.c_str() + 6;  // assigns a part of itself
+    copy = copy.c_str() + 6;  // assigns a part of the text to the text itself
     EXPECT_EQ(copy, "Capital Letter A");
     copy += copy.view().substr(7);
     copy += '.';
@@ -47,14 +47,14 @@ TEST(RecordText, RefersToConstantsAndOwnsEverythingElse) {
     EXPECT_EQ(text, constant) << "copies are independent";
   }
   std::vector<RecordText> list{view, owned};
-  for (int i = 0; i < 5; ++i) list.insert(list.begin(), list.back());  // moves the elements
+  for (int i = 0; i < 5; ++i) list.insert(list.begin(), list.back());  // moves the other elements
   EXPECT_THAT(list, testing::Each(constant));
   EXPECT_EQ(RecordText("\0a"sv).size(), 2u);
   EXPECT_EQ(RecordText(std::string_view()), "");
 }
 
 // Statements that a host may use with fields of type std::string must also compile for RecordText.
-TEST(RecordText, ReadsLikeAString) {
+TEST(RecordText, CanBeUsedLikeAString) {
   const RecordText text = "0041";
   std::string copy = text;
   const std::string& reference = text;
