@@ -1,4 +1,5 @@
-# The commands of this project. Each installs missing packages and builds what has changed. None asks a question.
+# The commands for working on this project. Each command first installs missing packages and builds what has
+# changed. No command asks a question.
 
 JOBS ?= $(shell nproc)
 ARGS ?=
@@ -10,7 +11,7 @@ run: build/release/.configured-run
 	  || { cat build/release/build.log; exit 1; }
 	@scripts/show
 
-# The window. ARGS="--search arrow" searches at once.
+# Starts the browser. ARGS="--search arrow" makes it search for "arrow" at once.
 browser:
 	@scripts/bootstrap browser
 	@echo 'Building the window (some minutes the first time) ...' >&2
@@ -25,14 +26,14 @@ test:
 	cmake --build --preset test -j $(JOBS)
 	ctest --preset test -j $(JOBS)
 
-# The whole test suite under a sanitizer.
+# Run the whole test suite with the address or the thread sanitizer.
 asan tsan:
 	@scripts/bootstrap test
 	cmake --preset $@
 	cmake --build --preset $@ -j $(JOBS)
 	ctest --preset $@ -j $(JOBS)
 
-# The tests of the C interface under valgrind: no error, and nothing that is lost.
+# Runs the tests of the C interface under valgrind. Fails if valgrind finds an error or lost memory.
 valgrind:
 	@scripts/bootstrap valgrind
 	cmake --preset test
@@ -40,7 +41,7 @@ valgrind:
 	valgrind --error-exitcode=1 --leak-check=full --show-leak-kinds=definite,indirect \
 	  --errors-for-leak-kinds=definite,indirect build/test/tests/glyphorium_tests --gtest_filter='CHost*:CBadArguments*'
 
-# Runs each fuzzer for so many seconds.
+# Runs each fuzzer for FUZZ_SECONDS seconds.
 FUZZ_SECONDS ?= 5
 fuzz:
 	@scripts/bootstrap fuzz
@@ -62,12 +63,13 @@ bench:
 	cmake --build --preset bench -j $(JOBS)
 	@scripts/measure $(ARGS) build/bench
 
-# Whether the working tree is slower than a commit: ARGS=main compares it with main.
+# Measures whether the working tree is slower than a commit. ARGS=main compares it with the branch main.
 compare:
 	@scripts/bootstrap bench
 	@scripts/compare-speed $(ARGS)
 
-# Runs clang-tidy on all sources; ARGS="glyphorium/text apps/cli" on those in some folders. Takes about half an hour.
+# Runs clang-tidy on all sources, which takes about half an hour. With ARGS="glyphorium/text apps/cli", only
+# on the sources in these folders.
 tidy:
 	@scripts/bootstrap tidy
 	cmake --preset tidy

@@ -1,6 +1,7 @@
-# Installs the library and the files by which find_package(Glyphorium) and pkg-config find it. The component "runtime"
-# contains what programs need to run, and "development" what is needed to build them. A project that contains this one
-# installs by default only what its programs need.
+# Installs the library and the files by which find_package(Glyphorium) and pkg-config find it. The component
+# "runtime" contains the files that programs need to run, the component "development" the files that are
+# needed to build programs. If another project contains this one, it installs only the first component by
+# default.
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/LICENSES DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
 if(GLYPHORIUM_INSTALL STREQUAL RUNTIME)
@@ -34,8 +35,8 @@ write_basic_package_version_file(
 install(FILES ${PROJECT_BINARY_DIR}/GlyphoriumConfig.cmake ${PROJECT_BINARY_DIR}/GlyphoriumConfigVersion.cmake
         DESTINATION ${package_directory} COMPONENT development)
 
-# The prefix is relative to the file. So the prefix can be chosen during installation, and the installed folder can be
-# moved later.
+# The file for pkg-config gives the prefix relative to itself. So users can choose the prefix during the
+# installation, and move the installed folder later.
 set(pkgconfig_directory ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH pkgconfig_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 set(pkgconfig_libraries " -lsimdjson -licuuc -lsqlite3 -lstdc++ -lpthread")

@@ -1,5 +1,6 @@
-# Installs a program of this project, so that it finds the library wherever both are moved together. In a folder that
-# the loader searches anyway, such as that of a distribution's package, the program needs no run path.
+# Installs a program of this project. The program gets a run path relative to itself, so that it finds the
+# library even if both are moved together. It needs no run path if the library is in a folder that the loader
+# searches anyway, such as that of a distribution's package.
 function(install_program target folder)
   set(loader_folders /lib /lib64 /usr/lib /usr/lib64 ${CMAKE_CXX_IMPLICIT_LINK_DIRECTORIES})
   list(REMOVE_ITEM loader_folders /usr/local/lib /usr/local/lib64)  # some distributions' loaders do not search these

@@ -1,5 +1,5 @@
-# Removes the files that were installed from the build folder in which this runs, and the folders that are then empty and
-# belong to this project only.
+# Removes the files that were installed from the current build folder. Then removes the folders that belong to
+# this project only and have become empty.
 file(GLOB manifests ${CMAKE_CURRENT_SOURCE_DIR}/install_manifest*.txt)
 if(NOT manifests)
   message(FATAL_ERROR "Nothing was installed from this build folder")
