@@ -30,8 +30,8 @@ double processorMilliseconds() {
   return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
 }
 
-// The longest step so far, in wall-clock time and in CPU time of this thread. The difference is the time that
-// the thread waited for the other thread, or for other programs on a busy machine.
+// The longest step so far, in wall-clock time and in CPU time of this thread. In the rest of the wall-clock
+// time, the thread waited for another thread or, on a busy machine, for other programs.
 struct Longest {
   double wall = 0, processor = 0;
   QString what;
@@ -62,7 +62,7 @@ struct Window {
   Window() {
     window.resize(1'200, 800);
     window.show();
-    // The first card is part of the start.
+    // Do not measure the first card, which is a part of the start.
     const auto begin = Clock::now();
     while (Clock::now() - begin < std::chrono::milliseconds(300)) QApplication::processEvents();
   }

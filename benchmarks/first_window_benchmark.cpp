@@ -1,9 +1,8 @@
-// SPDX-License-Identifier: MIT
-// Measures how long the first window takes from the start of its process until it shows something, beside
-// the character maps of the desktops that are installed. Xvfb is the display, and all programs share it and
-// one session bus. "MB" is the resident memory some time later, "private_MB" the part that is not shared with
-// other processes. The picker is measured as a key would open it: a second start that finds the running
-// program.
+// SPDX-License-Identifier: MIT Measures the time from the start of the program until its first window shows
+// something. For comparison, also measures the character maps of desktops that are installed. All programs
+// share one display (Xvfb) and one session bus. "MB" is the resident memory some time later, "private_MB" the
+// part that is not shared with other processes. The picker is measured in the way in which a keyboard
+// shortcut opens it: a second start of the program, which finds the first one running.
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <signal.h>
@@ -44,7 +43,7 @@ std::optional<pid_t> spawned(std::vector<std::string> command) {
   return failure == 0 ? std::optional(process) : std::nullopt;
 }
 
-// A process that ends with the object.
+// A process that the destructor ends.
 class Process {
  public:
   explicit Process(std::vector<std::string> command) : process_(spawned(std::move(command))) {}
@@ -57,7 +56,7 @@ class Process {
   }
   bool isRunning() const { return process_ && kill(*process_, 0) == 0; }
 
-  // In megabytes: the sum of the lines of this name in smaps_rollup.
+  // Returns the sum of all lines with this name in the file smaps_rollup of the process, in megabytes.
   double memory(const std::string& name) const {
     std::ifstream rollup("/proc/" + std::to_string(process_.value_or(0)) + "/smaps_rollup");
     double kilobytes = 0;
@@ -76,7 +75,7 @@ std::unique_ptr<Reply, decltype(&std::free)> owned(Reply* reply) {
   return {reply, &std::free};
 }
 
-// A display without screen, a session bus, and a home without settings.
+// A virtual display, a session bus, and a home directory without settings.
 class Desktop {
  public:
   Desktop() {
@@ -121,8 +120,8 @@ class Desktop {
     return found;
   }
 
-  // Whether a window that is not among `known` is mapped, is large enough for a window of a program, and has
-  // painted more than its ground.
+  // Whether there is a visible window that is not among `known`, has at least the size of a program's main
+  // window, and shows more than its background.
   bool showsNewWindow(const std::set<xcb_window_t>& known) const {
     for (const xcb_window_t window : windows()) {
       if (!known.contains(window) && hasContent(window)) return true;
@@ -157,7 +156,7 @@ class Desktop {
         owned(xcb_get_geometry_reply(connection_, xcb_get_geometry(connection_, window), nullptr));
     if (!attributes || !geometry || attributes->map_state != XCB_MAP_STATE_VIEWABLE) return false;
     if (geometry->width < 200 || geometry->height < 200) return false;
-    // A strip across the upper part, where all these programs have something to show.
+    // Look at a strip across the upper part of the window, where each of these programs shows something.
     const auto strip = owned(xcb_get_image_reply(
         connection_,
         xcb_get_image(connection_, XCB_IMAGE_FORMAT_Z_PIXMAP, window, 0, 0, geometry->width, 150, ~0U),
@@ -170,7 +169,7 @@ class Desktop {
       std::memcpy(&colour, bytes + i, sizeof colour);
       colours.insert(colour & 0xFFFFFF);
     }
-    return colours.size() >= 12;  // smoothed letters have many
+    return colours.size() >= 12;  // smoothed letters have many colours
   }
 
   std::filesystem::path home_;
@@ -199,7 +198,7 @@ void firstWindow(benchmark::State& state, const std::vector<std::string>& comman
   const std::set<xcb_window_t> known = desktop.windows();
   double resident = 0, own = 0;
   {
-    // The first start of a program reads its files from the disk and writes its caches.
+    // Start the program once without measuring: the first start reads files from the disk and writes caches.
     const Process warming(command);
     if (!waitForWindow(desktop, known)) return state.SkipWithError("no window, or not installed");
   }

@@ -12,8 +12,8 @@
 #include <map>
 #include <string>
 
-/// Measures an action in a process that has done nothing else before. The first use of memory takes time in
-/// such a process, which repetitions in the same process would not show.
+/// Measures an action in a new process. There, the first use of each memory page takes additional time.
+/// Repetitions in the same process would not show this time.
 namespace glyph {
 
 using Actions = std::map<std::string, std::function<void()>>;
@@ -34,8 +34,8 @@ inline bool runAction(int argc, char** argv, const Actions& actions) {
   return true;
 }
 
-/// A benchmark that runs the action in a new process. Its time is that of the action alone. Its counter is
-/// the private memory of the process after the action.
+/// A benchmark that runs the action in a new process. Its time is the time of the action alone, without the
+/// start of the process. Its counter is the private memory of the process after the action.
 inline void inFreshProcess(benchmark::State& state, const char* action) {
   const std::string program = std::filesystem::read_symlink("/proc/self/exe");
   double kilobytes = 0;

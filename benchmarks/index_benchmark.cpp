@@ -60,7 +60,7 @@ void indexAll(benchmark::State& state) {
       state.ResumeTiming();
       index.indexItems(std::move(items), {});
       index.waitUntilIdle(patience);
-      state.PauseTiming();  // does not measure closing the file, like plainTable()
+      state.PauseTiming();  // closing the file is not measured, as in plainTable()
     }
     state.ResumeTiming();
   }

@@ -133,7 +133,7 @@ void oneWord(benchmark::State& state) {
 }
 BENCHMARK(oneWord)->Unit(benchmark::kMicrosecond);
 
-// The argument is the number of words of the query.
+// Measures queries of several words. The argument of the benchmark is the number of words.
 void severalWords(benchmark::State& state) {
   constexpr std::string_view words = "rightwards white arrow with corner ";
   std::size_t end = 0;

@@ -35,7 +35,8 @@ void displayAllGroups(Glyphorium& catalog) {
   catalog.setSelectedGroups(allBuildInEntityGroups());
 }
 
-// The argument is the number of displayed groups. Compare the time for all groups with plainSortAndCopy.
+// Measures building the displayed list. The argument is the number of displayed groups. Compare the time for
+// all groups with plainSortAndCopy.
 void buildGroups(benchmark::State& state) {
   Glyphorium& catalog = configuredCatalog();
   std::vector<std::string> groups = allBuildInEntityGroups();

@@ -32,7 +32,7 @@ static void copy(GtkListBox *list, GtkListBoxRow *row, gpointer user) {
   glyphorium_copy(symbol, GLYPHORIUM_TERMINATED, NULL);
 }
 
-/* The library calls this function to copy a text, because activate() sets it as the pasteboard. */
+/* Copies a text for the library. activate() makes this function a part of the pasteboard. */
 static bool setText(void *user, const char *text, size_t size) {
   (void)size;
   gdk_clipboard_set_text(gtk_widget_get_clipboard(GTK_WIDGET(user)), text);

@@ -405,7 +405,7 @@ class Observation:
 
     def __init__(self, handle: Any, callback: Any) -> None:
         self._handle = handle
-        self._callback = callback  # must live as long as the library may call it
+        self._callback = callback  # must exist as long as the library may call it
 
     def end(self) -> None:
         """Ends the registration."""

@@ -15,7 +15,7 @@ use std::ptr::{null, NonNull};
 
 pub use glyphorium_sys as sys;
 
-/// Takes over an owned text of the library. `None` if there is none.
+/// Copies an owned text of the library, and frees it. `None` if the pointer is null.
 unsafe fn take(text: *mut c_char, size: usize) -> Option<String> {
     if text.is_null() {
         return None;
@@ -25,7 +25,7 @@ unsafe fn take(text: *mut c_char, size: usize) -> Option<String> {
     String::from_utf8(bytes).ok()
 }
 
-/// Reads a borrowed text, which lives as long as what `_owner` borrows.
+/// Reads a borrowed text, which is valid as long as the object `_owner`.
 fn borrow<T: ?Sized>(_owner: &T, text: sys::glyphorium_text) -> Option<&str> {
     if text.data.is_null() {
         return None;
@@ -47,7 +47,7 @@ impl Character {
         borrow(self, unsafe { sys::glyphorium_entity_symbol(self.0.as_ptr()) }).unwrap_or_default()
     }
 
-    /// The name to show: "Rightwards Arrow". Empty if the character has none.
+    /// The name to show: "Rightwards Arrow". Empty if the character has no name.
     pub fn name(&self) -> &str {
         borrow(self, unsafe { sys::glyphorium_entity_name(self.0.as_ptr()) }).unwrap_or_default()
     }
@@ -62,8 +62,8 @@ impl Character {
         borrow(self, unsafe { sys::glyphorium_entity_hex(self.0.as_ptr()) }).unwrap_or_default()
     }
 
-    /// One of the forms in which it can be copied: "html" gives "&rarr;". `None` if it does not have this form, or if
-    /// there is no such form. [`forms`] lists them.
+    /// The character in one of the forms in which it can be copied: "html" gives "&rarr;". `None` if the
+    /// character does not have this form, or if there is no such form. [`forms`] lists all forms.
     pub fn form(&self, form: &str) -> Option<String> {
         let form = CString::new(form).ok()?;
         let mut size = 0;
@@ -115,7 +115,7 @@ pub fn forms() -> Vec<String> {
         .collect()
 }
 
-/// A search over the whole catalog and the characters that the user had added when it was made.
+/// A search over the whole catalog and the characters that the user had added when the search was created.
 pub struct Search(NonNull<sys::glyphorium_search>);
 
 // A search never changes; any number of threads may query it at once.
