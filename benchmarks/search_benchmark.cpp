@@ -133,7 +133,7 @@ void oneWord(benchmark::State& state) {
 }
 BENCHMARK(oneWord)->Unit(benchmark::kMicrosecond);
 
-// Measures queries of several words. The argument of the benchmark is the number of words.
+// Measures queries of several words. The argument of the benchmark says how many words a query has.
 void severalWords(benchmark::State& state) {
   constexpr std::string_view words = "rightwards white arrow with corner ";
   std::size_t end = 0;

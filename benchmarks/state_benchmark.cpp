@@ -47,7 +47,7 @@ void buildGroups(benchmark::State& state) {
 }
 BENCHMARK(buildGroups)->Arg(1)->Arg(10)->Arg(112)->Unit(benchmark::kMicrosecond);
 
-// A lower limit for the time of building: only sorts and copies the same entities.
+// A lower limit for the time of building the displayed list: only sorts and copies the same entities.
 void plainSortAndCopy(benchmark::State& state) {
   displayAllGroups(configuredCatalog());
   configuredCatalog().setSelectedEntities();

@@ -12,7 +12,8 @@ if(PROJECT_IS_TOP_LEVEL)
     $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow>)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  # Off, because GCC 12 gives false warnings about overlapping copies in std::string (GCC bug 105651).
+  # -Wrestrict is off, because GCC 12 gives false warnings about overlapping copies in std::string (GCC bug
+  # 105651).
   target_compile_options(glyphorium_warnings INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)
 endif()
 

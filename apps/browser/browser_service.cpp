@@ -38,7 +38,7 @@ bool sendToRunning(const Request& request) {
   call.setAutoStartService(false);
   if (!isPick) call << request.words;
   call << request.activationToken;
-  // A start in the background only makes the program run, and it is already running.
+  // A request to run in the background needs no action, because the program is already running.
   if (request.kind == Request::Kind::background)
     return bus.interface()->isServiceRegistered(serviceName()).value();
   return bus.call(call, QDBus::Block, 3'000).type() == QDBusMessage::ReplyMessage;

@@ -62,23 +62,24 @@ class Catalog : public QObject {
   /// Makes `tone` the preferred skin tone, and copies the emoji with it.
   void copyWithTone(const glyph::Entity& emoji, glyph::SkinTone tone);
   void setSkinTone(glyph::SkinTone tone);
-  /// Gives the emoji among these characters the tone that the user prefers.
+  /// Replaces each emoji in the list with its variant in the preferred skin tone.
   void applySkinTone(std::vector<glyph::Entity>& characters) const;
 
   /// Reads the settings again, because another program may have changed them.
   void readSettings();
 
  Q_SIGNALS:
-  /// The displayed or the added characters have changed.
+  /// Emitted when the displayed characters or the added characters have changed.
   void contentChanged();
-  /// The displayed groups have changed.
+  /// Emitted when the list of displayed groups has changed.
   void groupsChanged();
   void favouritesChanged();
   void recentlyCopiedChanged();
   void skinToneChanged();
-  /// A text was copied. `text` is the text to show to the user.
+  /// Emitted when a text was copied. `text` is what to show to the user, which may differ from the copied
+  /// text.
   void copied(const QString& text);
-  /// The settings could not be stored or read. `reason` is the library's error message.
+  /// Emitted when the settings could not be stored or read. `reason` is the library's error message.
   void settingsFailed(const QString& reason);
 
  private:

@@ -53,11 +53,12 @@ class CharacterCard : public QScrollArea {
  public:
   explicit CharacterCard(Catalog& catalog, QWidget* parent = nullptr);
 
-  /// A null pointer empties the card.
+  /// Shows this character. A null pointer empties the card.
   void setCharacter(const glyph::Entity* entity);
-  /// If `compact` is true, the card is wide and low, with the glyph beside its name.
+  /// Chooses between two layouts. The compact one is wide and low, with the glyph beside the name of the
+  /// character.
   void setCompact(bool compact);
-  /// Updates the favourite mark and the groups.
+  /// Updates what can change: whether the character is a favourite, and which groups contain it.
   void refresh();
 
  Q_SIGNALS:

@@ -26,11 +26,11 @@ constexpr KindName kindNames[] = {{Kind::all, "all"},
 // A scope that has a name is stored as one of these prefixes and the name.
 constexpr KindName prefixes[] = {{Kind::group, "group:"}, {Kind::emoji, "emoji:"}, {Kind::block, "block:"}};
 
-// A limit for the number of results that is never reached, because the catalog has fewer characters.
+// A limit for the number of search results that is never reached, because it is larger than the catalog.
 constexpr std::size_t everything = 100'000;
 
-// Returns each character of the catalog once, with a section for each group. The characters that the user
-// added come first.
+// Returns the characters that the user added, then all characters of the catalog, each character once. Stores
+// one section for each group in `sections`.
 std::vector<Entity> allCharacters(std::vector<GridSection>& sections) {
   std::vector<Entity> all;
   std::unordered_set<std::string_view> seen;

@@ -40,9 +40,9 @@ class CharacterFilter : public QObject {
   Q_OBJECT
 
  public:
-  /// Stores the list of characters in `list`. `list` is nullopt while the window shows
-  /// glyph::selectedEntities() unchanged. The main window passes glyph::filteredEntities(), so that other
-  /// parts of the application can read the list there.
+  /// The filter writes the characters to show into `list`. While these are glyph::selectedEntities()
+  /// unchanged, `list` is nullopt. The main window passes glyph::filteredEntities(), so that other parts of
+  /// the application can read the list there.
   CharacterFilter(Catalog& catalog, std::optional<std::vector<glyph::Entity>>& list);
 
   const Scope& scope() const { return scope_; }
@@ -59,7 +59,8 @@ class CharacterFilter : public QObject {
   bool isApproximate() const { return approximate_; }
 
  Q_SIGNALS:
-  /// `isSameView` is true if the scope and the query have not changed.
+  /// Emitted when characters() has changed. `isSameView` is true if the scope and the query are still the
+  /// same.
   void changed(bool isSameView);
 
  private:

@@ -57,15 +57,16 @@ class CharacterGrid : public QAbstractScrollArea {
 
  Q_SIGNALS:
   void currentChanged(int index);
-  /// The user pressed Enter or double-clicked the cell.
+  /// Emitted when the user has pressed Enter or double-clicked the cell.
   void activated(int index, Qt::KeyboardModifiers modifiers);
   void clicked(int index);
-  /// The mouse button was held down on a cell.
+  /// Emitted when the user has held the mouse button down on a cell.
   void held(int index, QPoint globalPosition);
   void collected(int index);
   void menuRequested(int index, QPoint globalPosition);
   void cellSizeChanged(int size);
-  /// The user typed this text in the grid. It should go to the search field.
+  /// Emitted when the user has typed a text while the grid has the focus. The text should go to the search
+  /// field.
   void typed(const QString& text);
   void backspacePressed();
 

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-/// The texts with which the windows present characters.
+/// Functions that return the texts that windows show for a character.
 namespace browser {
 
 class Catalog;

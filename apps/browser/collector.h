@@ -23,7 +23,7 @@ class Collector : public QWidget {
 
  Q_SIGNALS:
   void copyRequested(const QString& text);
-  /// The user has left the strip: by Escape, or by deleting its text.
+  /// Emitted when the user has left the strip, with Escape or by deleting the text.
   void left();
 
  protected:

@@ -8,8 +8,8 @@
 namespace browser {
 namespace {
 
-// Joiners and variation selectors. A font needs no glyphs for them, because they only change or join other
-// glyphs.
+// Returns true for joiners and variation selectors. A font needs no glyphs for them, because they only change
+// or join other glyphs.
 bool isModifier(char32_t codePoint) {
   return codePoint == 0x200D || codePoint == 0x200C || (codePoint >= 0xFE00 && codePoint <= 0xFE0F) ||
          (codePoint >= 0xE0000 && codePoint <= 0xE01EF);

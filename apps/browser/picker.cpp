@@ -125,7 +125,7 @@ void Picker::showCurrent() {
 
 void Picker::pick(int index, Qt::KeyboardModifiers modifiers) {
   if (modifiers & Qt::ControlModifier) return collect(index);
-  // Enter copies the collected characters, if there are any.
+  // If the user has collected characters, Enter copies these instead.
   if (!collector_->text().isEmpty() && !(modifiers & Qt::AltModifier)) {
     Q_EMIT collector_->copyRequested(collector_->text());
     return;

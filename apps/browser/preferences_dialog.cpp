@@ -30,7 +30,7 @@ QLabel* newText(const QString& text) {
   return label;
 }
 
-// Returns instructions for each desktop to start the picker with a key.
+// Returns a text that explains, for each desktop, how to start the picker with a key.
 QString keyBindings() {
   struct Desktop {
     QString name, how;

@@ -13,7 +13,7 @@ bool addSkinTones(QMenu& menu, const glyph::Entity& entity,
   if (!place || glyph::emojiVariants(*place).empty()) return false;
   const std::vector<std::string> languages = glyph::preferredLanguages();
   const std::string language = languages.empty() ? "en" : languages.front();
-  // The title of an entry is the CLDR name of the tone's own character in the user's language: "medium skin
+  // The titles of the entries are the names of these characters in CLDR, in the user's language: "medium skin
   // tone".
   constexpr std::string_view modifiers[] = {"", "🏻", "🏼", "🏽", "🏾", "🏿"};
   const std::string plain(glyph::emojiAt(glyph::emojiBase(*place)).text);

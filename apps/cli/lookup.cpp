@@ -82,8 +82,8 @@ std::optional<char32_t> anyCode(std::string_view text) {
   return std::nullopt;
 }
 
-// Returns the characters of a list of hex codes, each with four digits or more: "1f1e9 1f1ea" or
-// "1F1E9,1F1EA". Empty for any other text.
+// Converts a list of hex codes, each with four digits or more, to a text: "1f1e9 1f1ea" or "1F1E9,1F1EA".
+// Empty if `list` is anything else.
 std::string textOfCodes(std::string_view list) {
   std::string text;
   while (!list.empty()) {

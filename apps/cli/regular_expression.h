@@ -20,7 +20,7 @@ class RegularExpression {
   /// The reason why the pattern cannot be used. Empty if the pattern is valid.
   const std::string& fault() const { return fault_; }
 
-  /// Returns whether the expression matches a part of the UTF-8 text.
+  /// Returns whether the expression matches a part of the UTF-8 text. False if the pattern cannot be used.
   bool matches(std::string_view text) const;
 
  private:

@@ -126,8 +126,8 @@ std::string settingsState() {
 }
 
 // Decides whether to show a character that is not in the catalog. Emoji are shown, and characters whose whole
-// name or term is the query. Others would only be in the way, because there are so many of them. This
-// includes Han characters whose English meaning is the query.
+// name or term is the query. All others are left out, also Han characters whose English meaning is the query:
+// there are so many of them that they would hide other results.
 bool isNamed(const Entity& entity, const SearchResult& result) {
   const auto codePoint = static_cast<char32_t>(entity.computed.decimal);
   const bool isMeaning =

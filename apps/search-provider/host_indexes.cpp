@@ -22,8 +22,8 @@ using namespace std::chrono_literals;
 constexpr std::size_t mostIndexes = 16;
 constexpr int mostEntries = 2000;
 
-// Whether the file is a regular file of this user. Other files are not opened: a FIFO would block until it
-// has a writer, and a symbolic link may lead anywhere.
+// Whether the file is a regular file that this user owns. Other files must not be opened: opening a FIFO
+// would block until it has a writer, and a symbolic link may lead to any file.
 bool isOwnRegularFile(const std::filesystem::path& file) {
   struct stat status {};
   return lstat(file.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == geteuid();

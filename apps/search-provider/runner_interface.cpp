@@ -111,7 +111,7 @@ void RunnerInterface::run(sd_bus_message* call) {
   send(newReply(call));
 }
 
-// The desktop calls this at the end of a search. There is nothing to clean up.
+// The desktop calls this D-Bus method at the end of a search. There is nothing to clean up.
 void RunnerInterface::teardown(sd_bus_message* call) {
   service_.noteCall();
   send(newReply(call));

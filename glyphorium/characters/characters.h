@@ -55,8 +55,8 @@ struct CharacterFacts {
   std::string korean;
 };
 
-/// Returns what is known about the code point. If the number is above 10FFFF, all texts are empty. Any thread
-/// may call it.
+/// Returns all facts about the code point. If the number is above 10FFFF, all texts are empty. Any thread may
+/// call it.
 GLYPHORIUM_EXPORT CharacterFacts characterFacts(char32_t codePoint);
 
 /// Returns the general category, without the other facts: "Lu". Any thread may call it.

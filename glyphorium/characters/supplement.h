@@ -27,8 +27,9 @@ GLYPHORIUM_EXPORT Entity supplementEntity(std::string_view text);
 /// Returns such an entity for a single code point. The entity of a surrogate has an empty symbol.
 GLYPHORIUM_EXPORT Entity supplementEntity(char32_t codePoint);
 
-/// Returns the entity, with the result of shownCharacterName() as its name if it had no name. Use this
-/// function for characters that the user added and that have no name in the catalog.
+/// If the entity has no name, returns it with the name from shownCharacterName(). Otherwise returns it
+/// unchanged. Use this function for characters that the user added, because the catalog may have no name for
+/// them.
 GLYPHORIUM_EXPORT Entity withSupplementName(Entity entity);
 
 /// Returns the UTF-8 texts of all characters and emoji of the supplement: first the emoji in the order of

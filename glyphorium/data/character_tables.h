@@ -61,7 +61,7 @@ extern const CodePointTexts emojiOrder;
 /// tone is its name without a tone, followed by the name of the tone.
 inline constexpr char32_t toneSample = 0x1F44B;
 
-/// The first and the last of the code points that give the emoji before them a skin tone.
+/// The first and the last of the skin tone modifiers. A modifier follows an emoji and gives it a skin tone.
 inline constexpr char32_t lightestModifier = 0x1F3FB;
 inline constexpr char32_t darkestModifier = 0x1F3FF;
 constexpr bool isSkinToneModifier(char32_t codePoint) {

@@ -10,8 +10,8 @@ namespace glyph {
 
 struct EmbeddedText;
 
-/// All embedded bytes, including padding. A text in the image may be parsed in place if it ends at least
-/// textPadding bytes before the end of the image.
+/// All bytes of the embedded data, including padding. A text in the image may be parsed in place if it ends
+/// at least textPadding bytes before the end of the image.
 extern const std::string_view embeddedImage;
 
 extern const std::string_view structuredUnicodeJsonText;

@@ -8,8 +8,8 @@
 
 #include "glyphorium/entity/records.h"
 
-/// The entities of the catalog, made from the rows that the build prepared. Their texts are constants of
-/// the library. Any thread may call these functions.
+/// Functions that return entities of the catalog. The entities are made from rows that the build has already
+/// decoded, and their texts are constants of the library. Any thread may call these functions.
 namespace glyph {
 
 /// Returns the entities of all configured tables, in the order of the tables, each joined with its

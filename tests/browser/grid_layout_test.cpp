@@ -8,7 +8,7 @@ namespace {
 
 constexpr int heading = 20, cell = 50;
 
-// Two sections with 7 and 3 cells, in 4 columns. The numbers are the indexes of the cells:
+// Two sections with 7 and 3 cells, in 4 columns. The indexes of the cells are:
 //   0 1 2 3
 //   4 5 6
 //   7 8 9

@@ -91,8 +91,8 @@ struct Arguments {
       return std::array<T, 3>{&empty, &noFunctions,
                               nullptr};  // NULL comes last, because it restores the default
     } else {
-      // Only NULL or 0 for callbacks, for `user` pointers, and for types of handles that this test does not
-      // create.
+      // All other parameters get only NULL or 0: callbacks, `user` pointers, and types of handles that this
+      // test does not create.
       return std::array<T, 1>{};
     }
   }

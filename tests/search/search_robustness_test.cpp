@@ -92,7 +92,7 @@ TEST(SearchRobustness, TenThousandQueriesDoNotIncreaseMemoryUse) {
     for (std::size_t i = 0; i < count; ++i) {
       const std::string name = catalog.entities[i * 7919 % catalog.entities.size()].name();
       catalog.search.query(name.substr(0, 1 + i % 12));
-      // Nothing matches this query, so the search tries other spellings.
+      // No character matches this query, so the search tries other spellings too.
       if (i % 50 == 0) catalog.search.query(name + "x");
     }
   };

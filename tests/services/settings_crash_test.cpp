@@ -53,8 +53,8 @@ TEST(SettingsProcesses, DoNotOverwriteChangesOfEachOther) {
   EXPECT_EQ(list, expected) << "the entries of each process must be in the order of its writes";
 }
 
-// Returns a list from which the test can tell the number again. The lists have different lengths, so that the
-// database adds and frees pages.
+// Returns a list that is different for each number, so that the test can recognise it. The lists have
+// different lengths, so that the database adds and frees pages.
 List state(std::size_t number) {
   return List(number * 37 % 500 + 1, std::to_string(number));
 }

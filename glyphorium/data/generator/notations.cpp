@@ -27,8 +27,8 @@ Notations readLatex(const std::filesystem::path& file) {
   for (const SourceLine& line : readTable(file, 3, 3)) {
     const char32_t codePoint = line.codePoint(0, false);
     const std::string& command = line.columns[1];
-    // The third column lists the sources that have this line. The more sources agree, the likelier it is that
-    // people mean this character.
+    // The third column lists the tables of commands from which the line was taken. The more tables contain
+    // it, the more likely people mean this character by the command.
     const auto commas = std::count(line.columns[2].begin(), line.columns[2].end(), ',');
     const std::size_t rank = 9 - static_cast<std::size_t>(commas);
     notations[command].emplace_back(rank, codePoint);

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string_view>
 
-/// Code that this generator shares with the generator of the search index.
+/// A function that this generator and the generator of the search index have in common.
 namespace glyph::generator {
 
 /// Writes the file and creates its folder. Does not touch a file that already has this content, so that the

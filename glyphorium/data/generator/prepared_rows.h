@@ -10,8 +10,8 @@
 
 namespace glyph::generator {
 
-/// The rows of the configured tables as data/prepared_rows.h describes them, so that the library need not
-/// decode JSON.
+/// The rows of the configured tables in a binary form (see data/prepared_rows.h), so that the library need
+/// not decode JSON.
 struct PreparedRows {
   std::string rows;   ///< PreparedRow structures, in the order of the tables
   std::string texts;  ///< the texts of each code point

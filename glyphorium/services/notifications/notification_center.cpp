@@ -73,8 +73,8 @@ void NotificationToken::reset() noexcept {
   try {
     registry->renew(nullptr);
   } catch (const std::exception&) {
-    // There is no memory for the new list. The observer is not called, and the next change of the list
-    // removes it.
+    // There is no memory for a list without the observer. The observer stays in the old list, but is not
+    // called any more. The next change of the list removes it.
   }
 }
 

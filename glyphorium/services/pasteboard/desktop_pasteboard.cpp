@@ -47,8 +47,8 @@ std::string installedOwnerProgram() {
   return (file.parent_path() / CLIPBOARD_OWNER).lexically_normal();
 }
 
-// Returns the command for our own X11 program. The program orders overlapping copies by the time at which
-// they were requested.
+// Returns the command that starts glyphorium-clipboard-owner. It passes the time of this copy, so that of
+// several overlapping copies the latest remains.
 Program owner(std::string path) {
   const auto now = std::chrono::steady_clock::now().time_since_epoch();
   const auto requestedAt = std::chrono::duration_cast<std::chrono::microseconds>(now).count();

@@ -46,9 +46,9 @@ struct PendingIndexWork {
 /// All functions may be called from any thread.
 class GLYPHORIUM_EXPORT SearchableIndex {
  public:
-  /// Called exactly once, on any thread, when its request is done. The argument is nullopt after a success,
-  /// otherwise a message with the reason. The function may make further requests, but must not wait for the
-  /// index. It may be empty.
+  /// A function that the index calls exactly once, on any thread, when a request is done. The argument is
+  /// nullopt after a success, otherwise a message with the reason of the failure. The function may make
+  /// further requests, but must not wait for the index. It may be empty.
   using Completion = std::function<void(std::optional<std::string> error)>;
   using Progress = std::function<void(PendingIndexWork left)>;
 

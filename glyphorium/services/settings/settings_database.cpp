@@ -190,7 +190,7 @@ Outcome SettingsDatabase::open(bool createMissing) {
   return Outcome::done;
 }
 
-// Returns true if SQLite could open the file only for reading.
+// Returns true if SQLite could open the file for reading, but not for writing.
 bool SettingsDatabase::readOnly() const {
   return sqlite3_db_readonly(connection_->handle(), "main") != 0;
 }
