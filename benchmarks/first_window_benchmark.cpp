@@ -1,8 +1,9 @@
-// SPDX-License-Identifier: MIT Measures the time from the start of the program until its first window shows
-// something. For comparison, also measures the character maps of desktops that are installed. All programs
-// share one display (Xvfb) and one session bus. "MB" is the resident memory some time later, "private_MB" the
-// part that is not shared with other processes. The picker is measured in the way in which a keyboard
-// shortcut opens it: a second start of the program, which finds the first one running.
+// SPDX-License-Identifier: MIT
+// Measures the time from the start of the program until its first window shows something. For comparison,
+// also measures the character maps of desktops that are installed. All programs share one display (Xvfb) and
+// one session bus. "MB" is the resident memory some time later, "private_MB" the part that is not shared with
+// other processes. The picker is measured in the way in which a keyboard shortcut opens it: a second start of
+// the program, which finds the first one running.
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <signal.h>

@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT The finder: a search field in the terminal, with a list of results that is
-// updated while the user types.
+// SPDX-License-Identifier: MIT
+// The finder: a search field in the terminal, with a list of results that is updated while the user types.
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/ioctl.h>

@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT Starts programs that change the user's choices, kills them or runs several at
-// once, and then checks the choices.
+// SPDX-License-Identifier: MIT
+// Starts programs that change the user's choices, kills them or runs several at once, and then checks the
+// choices.
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <signal.h>

@@ -1,6 +1,6 @@
-// SPDX-License-Identifier: MIT A program that converts the sources of the embedded texts to constants of the
-// library. The build runs it. If a source breaks a rule or Figures::check() throws an exception, the program
-// fails and the build stops.
+// SPDX-License-Identifier: MIT
+// A program that converts the sources of the embedded texts to constants of the library. The build runs it.
+// If a source breaks a rule or Figures::check() throws an exception, the program fails and the build stops.
 #include <cstdio>
 #include <exception>
 #include <set>
