@@ -29,10 +29,8 @@ class Appearance : public QObject {
 
   void setTheme(Theme theme);
 
- private Q_SLOTS:
-  void changeSetting(const QString& space, const QString& key, const QDBusVariant& value);
-
  private:
+  Q_SLOT void changeSetting(const QString& space, const QString& key, const QDBusVariant& value);
   void askDesktop();
   void setDesktopDark(bool dark);
   void apply();

@@ -30,9 +30,8 @@ class BrowserService : public QObject {
   /// False if another process has registered the name, or if there is no bus.
   bool isRegistered() const { return isRegistered_; }
 
- public Q_SLOTS:
-  Q_SCRIPTABLE void Search(const QString& words, const QString& activationToken);
-  Q_SCRIPTABLE void Pick(const QString& activationToken);
+  Q_SLOT Q_SCRIPTABLE void Search(const QString& words, const QString& activationToken);
+  Q_SLOT Q_SCRIPTABLE void Pick(const QString& activationToken);
 
  Q_SIGNALS:
   void requested(const browser::Request& request);

@@ -74,8 +74,8 @@ void paintCharacter(QPainter& painter, const QRect& area, const glyph::Entity& e
   const GlyphPicture* const picture = GlyphRenderer::shared().picture(request);
   if (!picture) return;
   if (picture->image.isNull()) return paintCodeBox(painter, area, code, BoxKind::missing, colour);
-  const QPointF corner =
-      QPointF(area.x() + (area.width() - request.box) / 2, area.y() + (area.height() - request.box) / 2);
+  const QPoint corner(area.x() + (area.width() - request.box) / 2,
+                      area.y() + (area.height() - request.box) / 2);
   painter.drawImage(corner + picture->corner, picture->image);
 }
 

@@ -30,9 +30,10 @@ struct Functions {
   bool areFound() const { return open && setText && find && close; }
 };
 
-const Functions& icu() {
+// Returns the functions, or null if ICU's library for regular expressions is not installed.
+const Functions* icu() {
   static const Functions functions;
-  return functions;
+  return functions.areFound() ? &functions : nullptr;
 }
 
 std::u16string utf16(std::string_view text) {
@@ -51,29 +52,33 @@ std::u16string utf16(std::string_view text) {
 }  // namespace
 
 RegularExpression::RegularExpression(std::string_view pattern) {
-  if (!icu().areFound()) {
+  const Functions* const functions = icu();
+  if (!functions) {
     fault_ = "ICU's library for regular expressions is not installed";
     return;
   }
   const std::u16string units = utf16(pattern);
   UParseError place{};
   UErrorCode status = U_ZERO_ERROR;
-  expression_ =
-      icu().open(units.data(), static_cast<int32_t>(units.size()), UREGEX_CASE_INSENSITIVE, &place, &status);
+  expression_ = functions->open(units.data(), static_cast<int32_t>(units.size()), UREGEX_CASE_INSENSITIVE,
+                                &place, &status);
   if (U_FAILURE(status))
     fault_ = std::string(u_errorName(status)) + " at character " + std::to_string(place.offset);
 }
 
 RegularExpression::~RegularExpression() {
-  if (expression_) icu().close(static_cast<URegularExpression*>(expression_));
+  if (const Functions* const functions = icu(); functions && expression_)
+    functions->close(static_cast<URegularExpression*>(expression_));
 }
 
 bool RegularExpression::matches(std::string_view text) const {
+  const Functions* const functions = icu();
+  if (!functions || !expression_) return false;
   const std::u16string units = utf16(text);
   auto* const expression = static_cast<URegularExpression*>(expression_);
   UErrorCode status = U_ZERO_ERROR;
-  icu().setText(expression, units.data(), static_cast<int32_t>(units.size()), &status);
-  return icu().find(expression, 0, &status) && U_SUCCESS(status);
+  functions->setText(expression, units.data(), static_cast<int32_t>(units.size()), &status);
+  return functions->find(expression, 0, &status) && U_SUCCESS(status);
 }
 
 }  // namespace cli

@@ -9,10 +9,6 @@
 namespace glyph {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using ::testing::StartsWith;
-
 // Leave out the supplement, which has its own tests.
 const SearchOptions english{20, {{"en"}}, {}, false};
 
