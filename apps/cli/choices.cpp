@@ -92,7 +92,7 @@ bool readCodes(const Names& arguments, Names& codes) {
     const auto code = storedCode(argument);
     if (!code) {
       complain("'" + argument +
-               "' is no code of a character; right would be 21d0, U+21D0 or the character itself");
+               "' is not the code of a character; write 21d0, U+21D0 or the character itself");
       return false;
     }
     const std::string symbol = glyph::toolKit().getAdvancedSymbol(*code);

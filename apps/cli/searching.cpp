@@ -47,7 +47,7 @@ std::string beyondTheCatalog(const std::string& query) {
   const auto codePoint = static_cast<char32_t>(entity.computed.decimal);
   // The catalog contains the character, but the request excludes its group.
   if (entity.name().empty() || glyph::Search::ofCatalog().indexOf(codePoint)) return {};
-  return "; no group holds " + entity.computed.hex + " (" + entity.name() + "), but 'glyphorium show " +
+  return "; no group contains " + entity.computed.hex + " (" + entity.name() + "), but 'glyphorium show " +
          entity.computed.hex + "' describes it";
 }
 

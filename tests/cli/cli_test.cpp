@@ -112,7 +112,7 @@ TEST(CommandLine, ReturnsExitCodesAndHelpfulMessages) {
        "🇩🇪 1f1e9 1f1ea Flag: Germany\n"},
       {"show chevron.right 'REPLACEMENT character' 'null CHARACTER (control)'", 0, "U+10018A"},
       {"search → --group emoji", 1, "nothing found for '→'\n"},  // the character is in another group
-      {"search U+FFFD --group arrows", 1, "no group holds fffd (Replacement Character)"},
+      {"search U+FFFD --group arrows", 1, "no group contains fffd (Replacement Character)"},
       {"search LETTER --group 'LATIN basic' --limit 1", 0, "latin basic\n"},
       {"search letter --group latn", 2, "did you mean"},
       {"search arow --limit 1", 0, "\tapproximate\n"},
@@ -278,7 +278,7 @@ TEST(CommandLine, KeepsTheUsersChoices) {
       {"display remove 'SF SYMBOLS'", 0, "custom\t0\narrows\t112\n"},
       {"display --json", 0, "[{\"name\":\"custom\",\"count\":0},\n {\"name\":\"arrows\",\"count\":112}]\n"},
       {"add 0378", 2, "is no character but <reserved-0378>"},
-      {"add 21d0 U+110000", 2, "is no code of a character"},
+      {"add 21d0 U+110000", 2, "is not the code of a character"},
       {"added", 1, ""},  // the failed commands have added no code
       {"add 21D0 é", 0,
        "⇐\t21d0\tLeftwards Double Arrow\t&lArr;\né\t00e9\tLatin Small Letter E With Acute\t&eacute;\n"},
