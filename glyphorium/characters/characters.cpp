@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "glyphorium/characters/hangul.h"
 #include "glyphorium/characters/names.h"
 #include "glyphorium/characters/property_names.h"
 #include "glyphorium/data/character_tables.h"
@@ -29,17 +30,8 @@ std::string_view lineOfRange(const CodePointTexts& ranges, char32_t codePoint) n
   return codePoint <= ascii::number(column(line, 0), 16) ? line : std::string_view();
 }
 
-// Returns the canonical decomposition of a Hangul syllable: two code points. A syllable with a final
-// consonant gives the syllable without this consonant, then the consonant. Any other syllable gives its
-// initial consonant, then its vowel.
-std::u32string hangulDecomposition(char32_t syllable) {
-  const char32_t number = syllable - 0xAC00;
-  if (number % 28 != 0) return {syllable - number % 28, 0x11A7 + number % 28};
-  return {0x1100 + number / 588, 0x1161 + number % 588 / 28};
-}
-
 void readDecomposition(CharacterFacts& facts) {
-  if (facts.codePoint >= 0xAC00 && facts.codePoint <= 0xD7A3) {
+  if (isHangulSyllable(facts.codePoint)) {
     facts.decompositionKind = "canonical";
     facts.decomposition = hangulDecomposition(facts.codePoint);
   } else if (const auto line = decompositions.find(facts.codePoint)) {

@@ -9,15 +9,6 @@
 #include "glyphorium/text/ascii.h"
 
 namespace glyph {
-namespace {
-
-std::string upperHex(char32_t codePoint) {
-  std::string hex = CodeFormats().getHex(codePoint);
-  std::transform(hex.begin(), hex.end(), hex.begin(), ascii::raised);
-  return hex;
-}
-
-}  // namespace
 
 std::vector<WayToType> waysToType(std::string_view text) {
   std::vector<WayToType> ways;
@@ -46,7 +37,7 @@ std::vector<WayToType> waysToType(std::string_view text) {
   if (*key >= firstEmojiNumber) return ways;
   ways.push_back({"ctrl-shift-u", CodeFormats().getHex(*key), {}});
   addColumns("keysym", keysyms);
-  ways.push_back({"keysym", "U" + upperHex(*key), {}});
+  ways.push_back({"keysym", "U" + ascii::uppercased(CodeFormats().getHex(*key)), {}});
   return ways;
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "glyphorium/data/name_table.h"
 
-#include <algorithm>
 #include <cstdint>
 
 #include "glyphorium/data/embedded_image.h"
@@ -57,11 +56,7 @@ std::optional<NameTableEntry> findName(std::string_view hex) noexcept {
 
 std::optional<char32_t> findCodePoint(std::string_view name) noexcept {
   for (auto line = nameTableLine(firstNameTableLine); line; line = nameTableLine(line->next)) {
-    const std::string_view stored = line->entry.name;
-    const bool isName = stored.size() == name.size() &&
-                        std::equal(name.begin(), name.end(), stored.begin(),
-                                   [&](char a, char b) { return ascii::lowered(a) == ascii::lowered(b); });
-    if (isName) return line->codePoint;
+    if (ascii::equalIgnoringCase(line->entry.name, name)) return line->codePoint;
   }
   return std::nullopt;
 }

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <system_error>
 
@@ -28,6 +30,18 @@ inline bool isHexDigit(char c) {
 }
 inline bool isAlphanumeric(char c) {
   return isLetter(c) || isDigit(c);
+}
+
+/// Returns the text with its ASCII letters in upper case.
+inline std::string uppercased(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(), raised);
+  return text;
+}
+
+/// Returns whether the texts are equal if the case of ASCII letters is ignored.
+inline bool equalIgnoringCase(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return lowered(x) == lowered(y); });
 }
 
 /// Returns the value of a text of digits in this base. Returns nullopt if the text is empty or contains

@@ -38,9 +38,7 @@ std::string decimal(char32_t point) {
 }
 
 std::string codePoint(char32_t point) {
-  std::string text = hex(point);
-  std::transform(text.begin(), text.end(), text.begin(), ascii::raised);
-  return "U+" + text;
+  return "U+" + ascii::uppercased(hex(point));
 }
 
 // Appends the number in upper-case hexadecimal digits, padded with zeros to `digits` digits.

@@ -90,9 +90,7 @@ std::string hexText(char32_t codePoint) {
 }
 
 std::string upperHexText(char32_t codePoint) {
-  std::string text = hexText(codePoint);
-  for (char& c : text) c = ascii::raised(c);
-  return text;
+  return ascii::uppercased(hexText(codePoint));
 }
 
 }  // namespace glyph::generator
