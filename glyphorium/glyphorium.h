@@ -48,7 +48,6 @@
 #include "glyphorium/text/record_text.h"
 #include "glyphorium/text/text_pieces.h"
 #include "glyphorium/text/unicode_text.h"
-#include "glyphorium/text/visible_symbol.h"
 #include "glyphorium/text/xml_unescape.h"
 #include "glyphorium/toolkit/copy_forms.h"
 #include "glyphorium/toolkit/entity_tool_kit.h"

@@ -25,14 +25,6 @@ QColor withAlpha(QColor colour, double alpha) {
   return colour;
 }
 
-// Returns true for visible characters that were added after Unicode 15.0. isInvisible() uses the data of
-// Unicode 15.0 and takes these characters for unassigned.
-bool isLaterCharacter(char32_t point) {
-  const std::string_view category = glyph::characterCategory(point);
-  if (category.starts_with('C') || category.starts_with('Z')) return false;
-  return fromUtf8(glyph::characterFacts(point).version).toDouble() > 15.0;
-}
-
 }  // namespace
 
 bool isPrivateUse(char32_t point) {
@@ -41,16 +33,15 @@ bool isPrivateUse(char32_t point) {
 
 bool isShownAsBox(const glyph::Entity& entity) {
   const std::u32string points = glyph::codePoints(entity.computed.symbol.view());
-  return std::all_of(points.begin(), points.end(), [&](char32_t point) {
-    return glyph::isInvisible(point) && !isPrivateUse(point) && !isLaterCharacter(point);
-  });
+  return std::all_of(points.begin(), points.end(),
+                     [](char32_t point) { return glyph::isInvisible(point) && !isPrivateUse(point); });
 }
 
 GlyphRequest cellRequest(const glyph::Entity& entity, int cellSize, double ratio) {
   GlyphRequest request;
   const std::u32string points = glyph::codePoints(entity.computed.symbol.view());
-  const bool isMark = !points.empty() && glyph::isCombining(points.front()) &&
-                      glyph::characterCategory(points.front()) != "Me";
+  const std::string_view category = points.empty() ? "" : glyph::characterCategory(points.front());
+  const bool isMark = category == "Mn" || category == "Mc";
   // Draw a combining mark on a dotted circle. An enclosing mark is drawn alone, because few fonts centre it
   // on the circle. Draw all other characters unchanged, also private-use characters, because the user may
   // have a font for them.

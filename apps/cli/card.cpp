@@ -56,7 +56,7 @@ void printEntities(Output& output, const std::vector<const Entity*>& entities, c
   std::vector<std::vector<std::string>> rows;
   for (const Entity* entity : entities) {
     const bool named = entity->additional && entity->additional->htmlNamed;
-    rows.push_back({output.accent(shownSymbol(entity->computed.symbol)), output.faint(entity->computed.hex),
+    rows.push_back({output.accent(visibleSymbol(entity->computed.symbol)), output.faint(entity->computed.hex),
                     entity->name(), output.faint(named ? *entity->additional->htmlNamed : "")});
   }
   output.printTable(rows);
@@ -70,7 +70,7 @@ void printCard(Output& output, const std::vector<Entity>& entities) {
   }
   const std::string name = entity.name();
   const std::string code = glyph::copyForm("code-point")->text(entity).value_or(entity.computed.hex);
-  output.printLine("  " + output.accent(shownSymbol(entity.computed.symbol)) + "  " + output.strong(name) +
+  output.printLine("  " + output.accent(visibleSymbol(entity.computed.symbol)) + "  " + output.strong(name) +
                    "  " + output.faint(code));
   if (name != entity.computed.fallbackName && !entity.computed.fallbackName.empty()) {
     output.printLine("    " + output.faint("in Unicode: " + entity.computed.fallbackName));

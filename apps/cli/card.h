@@ -11,7 +11,7 @@
 
 namespace cli {
 
-using glyph::shownSymbol;
+using glyph::visibleSymbol;
 
 /// Prints the entities as the listing says. A table has one row per entity: symbol, hex code, name and HTML
 /// name.

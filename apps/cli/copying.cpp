@@ -50,7 +50,7 @@ int copyEntities(Output& output, const std::vector<Entity>& entities, const std:
       return nothingFound;
     }
     texts.push_back(*text);
-    shown.push_back(shownSymbol(entity.computed.symbol));
+    shown.push_back(visibleSymbol(entity.computed.symbol));
     names.push_back(entity.name() + ", U+" + entity.computed.hex);
   }
   const std::string text = joined(texts, form->separator);

@@ -151,8 +151,8 @@ class Identification {
         if (!sequence.empty()) object["clusterName"] = sequence;
         array_.add(object.dump());
       } else {
-        rows_.push_back(
-            {(several ? "  " : "") + output_.accent(shownSymbol(symbol)), output_.faint(hex), known->second});
+        rows_.push_back({(several ? "  " : "") + output_.accent(visibleSymbol(symbol)), output_.faint(hex),
+                         known->second});
       }
     }
   }

@@ -193,8 +193,8 @@ int searchIndex(Output& output, const std::vector<std::string>& words, int limit
     objects.push_back(nlohmann::ordered_json{
         {"hex", item.uniqueIdentifier}, {"name", item.name()}, {"symbol", item.symbol}, {"group", item.genre}}
                           .dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
-    rows.push_back({output.accent(shownSymbol(item.symbol)), output.faint(item.uniqueIdentifier), item.name(),
-                    output.faint(item.genre)});
+    rows.push_back({output.accent(visibleSymbol(item.symbol)), output.faint(item.uniqueIdentifier),
+                    item.name(), output.faint(item.genre)});
   }
   json ? printJsonArray(output, objects) : output.printTable(rows);
   if (items.empty() && reader.count() == 0) {

@@ -97,7 +97,7 @@ std::string formatted(std::string_view format, const Entity& entity) {
         const auto field = readField(text);
         if (!field) return false;
         const std::string value = valueOf(field->name, entity);
-        const int missing = std::max(field->width - glyph::shownWidth(value), 0);
+        const int missing = std::max(field->width - glyph::displayWidth(value), 0);
         const std::string padding(static_cast<std::size_t>(missing), ' ');
         result += field->side == 'r' ? padding + value : value + padding;
         return true;
@@ -128,7 +128,7 @@ void printListing(Output& output, const std::vector<const Entity*>& entities, co
       std::string value = valueOf(field, *entity);
       // Replace a control character such as a tab or a line feed, because it would break the table.
       if (field == "char" && value.size() == 1 && static_cast<unsigned char>(value.front()) < 0x20)
-        value = shownSymbol(value);
+        value = visibleSymbol(value);
       values.push_back(std::move(value));
     }
     output.printLine(joined(values, "\t"));

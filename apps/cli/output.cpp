@@ -16,7 +16,6 @@
 #include "glyphorium/characters/display.h"
 #include "glyphorium/services/diagnostics/diagnostics.h"
 #include "glyphorium/text/unicode_text.h"
-#include "glyphorium/text/visible_symbol.h"
 
 namespace cli {
 namespace {
@@ -71,7 +70,7 @@ int visibleWidth(std::string_view text, std::string_view mark) {
   int width = 0;
   while (!text.empty()) {
     const std::size_t escape = mark.empty() ? std::string_view::npos : text.find(mark);
-    width += glyph::shownWidth(text.substr(0, escape));
+    width += glyph::displayWidth(text.substr(0, escape));
     if (escape == std::string_view::npos) break;
     text.remove_prefix(text.find('m', escape) + 1);
   }
@@ -195,7 +194,7 @@ std::vector<std::string> wrapped(std::string_view text, int width) {
   for (std::size_t i = 0; i <= text.size();) {
     const std::size_t end = std::min(text.find_first_of(" \n", i), text.size());
     const std::string_view word = text.substr(i, end - i);
-    const bool fits = glyph::shownWidth(lines.back()) + 1 + glyph::shownWidth(word) <= width;
+    const bool fits = glyph::displayWidth(lines.back()) + 1 + glyph::displayWidth(word) <= width;
     if (lines.back().empty()) {
       lines.back() = word;
     } else if (fits) {

@@ -105,7 +105,7 @@ std::string cut(std::string_view text, int columns) {
     }
     const std::string_view rest = text.substr(0, text.find('\x1b'));
     for (const std::string_view cluster : glyph::graphemeClusters(rest)) {
-      used += glyph::shownWidth(cluster);
+      used += glyph::displayWidth(cluster);
       if (used <= columns) result += cluster;
     }
     text.remove_prefix(rest.size());
@@ -298,15 +298,15 @@ class Finder {
       state += "  similar";
     if (!marked_.empty()) {
       state += "  marked: ";
-      for (const Entity& entity : marked_) state += shownSymbol(entity.computed.symbol);
+      for (const Entity& entity : marked_) state += visibleSymbol(entity.computed.symbol);
     }
     lines.print(lines.faint(state));
     add(lines.take());
     for (std::size_t i = top_; i < std::min(found_.size(), top_ + page); ++i) {
       const Entity entity = search_.entity(found_[i]);
       const bool isMarked = std::find(marked_.begin(), marked_.end(), entity) != marked_.end();
-      const std::string symbol = shownSymbol(entity.computed.symbol);
-      const int width = glyph::shownWidth(symbol);
+      const std::string symbol = visibleSymbol(entity.computed.symbol);
+      const int width = glyph::displayWidth(symbol);
       lines.print((i == cursor_ ? "\u203A" : " ") + std::string(isMarked ? "*" : " ") + lines.accent(symbol) +
                   std::string(static_cast<std::size_t>(std::max(4 - width, 1)), ' ') +
                   (i == cursor_ ? lines.strong(entity.name()) : entity.name()) + "  " +
@@ -321,7 +321,7 @@ class Finder {
       for (const std::string& line : preview(columns, cardRows - 1)) add(line);
     }
     screen +=
-        "\x1b[J\x1b[1;" + std::to_string(std::min(glyph::shownWidth(prompt) + 1, columns)) + "H\x1b[?25h";
+        "\x1b[J\x1b[1;" + std::to_string(std::min(glyph::displayWidth(prompt) + 1, columns)) + "H\x1b[?25h";
     terminal_.write(screen);
   }
 

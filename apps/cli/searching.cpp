@@ -92,7 +92,7 @@ int searchCatalog(Output& output, const SearchRequest& request, const Listing& l
       entities.push_back(entity);
       continue;
     }
-    rows.push_back({output.accent(shownSymbol(entity.computed.symbol)), output.faint(entity.computed.hex),
+    rows.push_back({output.accent(visibleSymbol(entity.computed.symbol)), output.faint(entity.computed.hex),
                     highlighted(output, entity.name(), result), output.faint(placeOf(entity))});
     if (found.approximate && !output.onTerminal()) rows.back().push_back("approximate");
   }

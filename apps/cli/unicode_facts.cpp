@@ -46,7 +46,7 @@ std::string listed(const std::u32string& characters) {
   std::vector<std::string> texts;
   const bool areFew = characters.size() <= 4;
   for (const char32_t one : characters.substr(0, mostListed)) {
-    std::string text = shownSymbol(glyph::utf8(one));
+    std::string text = visibleSymbol(glyph::utf8(one));
     if (areFew) text += " " + glyph::toolKit().getHex(one);
     texts.push_back(std::move(text));
   }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "character_text.h"
 
-#include "glyphorium/text/visible_symbol.h"
+#include "glyphorium/characters/display.h"
 #include "glyphorium/toolkit/copy_forms.h"
 
 namespace provider {

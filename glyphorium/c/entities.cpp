@@ -3,8 +3,8 @@
 
 #include "glyphorium/c/handles.h"
 #include "glyphorium/catalog/glyphorium.h"
+#include "glyphorium/characters/display.h"
 #include "glyphorium/search/resolving.h"
-#include "glyphorium/text/visible_symbol.h"
 #include "glyphorium/toolkit/copy_forms.h"
 
 using namespace glyph::c;

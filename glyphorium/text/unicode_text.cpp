@@ -147,30 +147,4 @@ std::string composed(std::string_view text) {
   return U_SUCCESS(status) ? result : std::string(text);
 }
 
-bool isInvisible(char32_t codePoint) {
-  const auto c = static_cast<UChar32>(codePoint);
-  return (U_GET_GC_MASK(c) & (U_GC_C_MASK | U_GC_Z_MASK)) != 0 ||
-         u_hasBinaryProperty(c, UCHAR_DEFAULT_IGNORABLE_CODE_POINT);
-}
-
-int displayWidth(std::string_view text) {
-  int width = 0;
-  for (const std::string_view cluster : graphemeClusters(text)) {
-    const std::u32string points = codePoints(cluster);
-    int widest = 0;
-    for (const char32_t point : points) {
-      const auto c = static_cast<UChar32>(point);
-      const auto category = U_GET_GC_MASK(c);
-      if ((category & (U_GC_MN_MASK | U_GC_ME_MASK | U_GC_CC_MASK | U_GC_CF_MASK)) != 0) continue;
-      const auto eastAsian = static_cast<UEastAsianWidth>(u_getIntPropertyValue(c, UCHAR_EAST_ASIAN_WIDTH));
-      const bool wide = eastAsian == U_EA_WIDE || eastAsian == U_EA_FULLWIDTH;
-      widest = std::max(widest, wide ? 2 : 1);
-    }
-    // U+FE0F selects the emoji presentation, which is two columns wide.
-    if (points.find(U'\uFE0F') != std::u32string::npos) widest = 2;
-    width += widest;
-  }
-  return width;
-}
-
 }  // namespace glyph

@@ -21,16 +21,6 @@ GLYPHORIUM_EXPORT std::string lowercased(std::string_view text);
 /// of `text`. CR LF is one cluster. An ill-formed byte sequence is a cluster by itself.
 GLYPHORIUM_EXPORT std::vector<std::string_view> graphemeClusters(std::string_view text);
 
-/// Returns the number of columns that the text occupies on a terminal. A grapheme cluster occupies 0 columns
-/// if it consists of marks and invisible characters only, 2 columns if it is East Asian wide or fullwidth or
-/// an emoji, otherwise 1 column.
-GLYPHORIUM_EXPORT int displayWidth(std::string_view text);
-
-/// Returns whether a terminal shows nothing for the code point when it is alone. This is true for control and
-/// format characters, white space, surrogates, unassigned and private-use code points, variation selectors
-/// and other default-ignorable code points.
-GLYPHORIUM_EXPORT bool isInvisible(char32_t codePoint);
-
 /// Returns whether the code point is a mark (general category M), which combines with the character before
 /// it.
 GLYPHORIUM_EXPORT bool isCombining(char32_t codePoint);

@@ -26,10 +26,10 @@ TEST(Emoji, EachHasANameIsFoundAndIsOneCluster) {
     ++kinds[emojiAt(place).kind];
     EXPECT_EQ(emojiPlace(text), place) << text;
     EXPECT_EQ(graphemeClusters(text).size(), 1U) << text;
-    EXPECT_EQ(shownSymbol(text), text);
-    EXPECT_EQ(shownWidth(text), 2) << text;
-    // Only the names of sequences must be unique. A single code point has its Unicode name, and a sequence
-    // may have the same name: "man in tuxedo".
+    EXPECT_EQ(visibleSymbol(text), text);
+    EXPECT_EQ(displayWidth(text), 2) << text;
+    // Only sequences must have unique names. A single code point has its Unicode name, which a sequence may
+    // have too: "man in tuxedo".
     if (emojiAt(place).kind != "single") {
       EXPECT_TRUE(names.insert(shownCharacterName(text)).second) << text;
     }

@@ -134,7 +134,7 @@ TEST(Picking, WorksInFortyColumnsAndFollowsItsSize) {
         shown += line[i];
       }
     }
-    EXPECT_LE(shownWidth(shown), 40) << line;
+    EXPECT_LE(displayWidth(shown), 40) << line;
   }
   finder.resize(100, 8);  // not high enough for the card
   EXPECT_THAT(finder.screenWith("\x1b[?25h"), Not(HasSubstr("&rarr;")));

@@ -32,16 +32,6 @@ TEST(UnicodeText, SplitsIntoUserPerceivedCharacters) {
               ElementsAre("e\u0301", "👨\u200D👩\u200D👧", "🇩🇪", "🇫🇷"));
 }
 
-TEST(UnicodeText, MeasuresTerminalColumns) {
-  const struct {
-    std::string_view text;
-    int width;
-  } cases[] = {{"", 0},     {"abc", 3}, {"→", 1},       {"e\u0301", 1},         {"\u0301", 0},
-               {"中文", 4}, {"😀", 2},   {"❤\uFE0F", 2}, {"👨\u200D👩\u200D👧", 2}, {"\u200B", 0},
-               {"ﾊ", 1}};
-  for (const auto& [text, width] : cases) EXPECT_EQ(displayWidth(text), width) << text;
-}
-
 TEST(UnicodeText, RecognisesWellFormedUtf8AndScalarValues) {
   for (const std::string_view good : {"", "a", "é→😀", "\xF4\x8F\xBF\xBF"})
     EXPECT_TRUE(isWellFormedUtf8(good));

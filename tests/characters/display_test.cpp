@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "glyphorium/text/visible_symbol.h"
+#include "glyphorium/characters/display.h"
 
 #include <gtest/gtest.h>
 
@@ -30,10 +30,25 @@ TEST(VisibleSymbol, IsVisibleAndDoesNotAffectTheTextAroundIt) {
                                                                  {"\u200B\u200C", "⬚⬚"},
                                                                  {"👨\u200D👩", "👨\u200D👩"},
                                                                  {"❤\uFE0F", "❤\uFE0F"},
-                                                                 {"A\u030A", "A\u030A"}};
+                                                                 {"A\u030A", "A\u030A"},
+                                                                 // newer than the ICU of Debian 12
+                                                                 {"🫩", "🫩"},
+                                                                 {"\u1ACF", "◌\u1ACF"},
+                                                                 {"\U00010D4E", "\U00010D4E"}};
   for (const auto& [symbol, visible] : cases) EXPECT_EQ(visibleSymbol(symbol), visible) << symbol;
   EXPECT_TRUE(runsRightToLeft("א") && runsRightToLeft("\u0627") && runsRightToLeft("-א"));
   EXPECT_FALSE(runsRightToLeft("→") || runsRightToLeft("a") || runsRightToLeft("") || runsRightToLeft("aא"));
+}
+
+TEST(DisplayWidth, CountsTerminalColumns) {
+  const struct {
+    std::string_view text;
+    int width;
+  } cases[] = {{"", 0},          {"abc", 3}, {"→", 1},       {"e\u0301", 1},         {"\u0301", 0},
+               {"中文", 4},      {"😀", 2},   {"❤\uFE0F", 2}, {"👨\u200D👩\u200D👧", 2}, {"\u200B", 0},
+               {"ﾊ", 1},         {"\t", 0},  {"🫩", 2},    {"\u1ACF", 0},          {"🇩🇪", 2},
+               {"\U0002EBF0", 2}};
+  for (const auto& [text, width] : cases) EXPECT_EQ(displayWidth(text), width) << text;
 }
 
 }  // namespace
