@@ -93,6 +93,7 @@ QString formTitle(const glyph::CopyForm& form) {
       {"html-hex", QT_TRANSLATE_NOOP("CopyForm", "HTML hexadecimal")},
       {"html-decimal", QT_TRANSLATE_NOOP("CopyForm", "HTML decimal")},
       {"swift", QT_TRANSLATE_NOOP("CopyForm", "Swift")},
+      {"octal-escape", QT_TRANSLATE_NOOP("CopyForm", "Octal escape")},
       {"swiftui", QT_TRANSLATE_NOOP("CopyForm", "SwiftUI")},
       {"uikit", QT_TRANSLATE_NOOP("CopyForm", "UIKit")},
       // Names of programming languages and encodings are not translated.

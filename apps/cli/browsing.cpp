@@ -6,10 +6,12 @@
 
 #include "card.h"
 #include "commands.h"
+#include "encoding.h"
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/characters/emoji.h"
 #include "glyphorium/characters/supplement.h"
 #include "glyphorium/state/selected_entities.h"
+#include "glyphorium/text/unicode_text.h"
 #include "lookup.h"
 #include "regular_expression.h"
 
@@ -93,13 +95,24 @@ int listEntities(Output& output, const ListRequest& request, const Listing& list
   return entities.empty() ? nothingFound : exitCode;
 }
 
-int showCharacters(Output& output, const std::vector<std::string>& arguments, const Listing& listing) {
+int showCharacters(Output& output, const std::vector<std::string>& arguments, const std::string& encoding,
+                   const Listing& listing) {
   glyph::glyphorium().configure();
   std::vector<Character> characters;
   int exitCode = found;
   for (const std::string& argument : arguments) {
     std::vector<Character> resolved;
-    if (const auto set = charactersOfSet(argument)) {
+    if (!encoding.empty()) {
+      const auto bytes = bytesOfHex(argument);
+      const auto text = bytes ? textOfBytes(encoding, *bytes) : std::nullopt;
+      if (!text) {
+        complain(bytes ? "the bytes " + hexOfBytes(*bytes) + " are no text in " + encoding
+                       : "'" + argument + "' is no list of bytes such as 80 or 'a4 a2'");
+        exitCode = bytes ? nothingFound : wrongUse;
+        continue;
+      }
+      for (const char32_t point : glyph::codePoints(*text)) resolved.push_back({entityOfCodePoint(point)});
+    } else if (const auto set = charactersOfSet(argument)) {
       for (const Entity& entity : *set) resolved.push_back({entity});
     } else {
       resolved = resolve(argument).characters;

@@ -22,9 +22,12 @@ struct ListRequest {
   std::string tone;   // the skin tone in which emoji are shown, see skinToneNamed(); empty means unchanged
 };
 int listEntities(Output& output, const ListRequest& request, const Listing& listing);
-int showCharacters(Output& output, const std::vector<std::string>& arguments, const Listing& listing);
+// If `encoding` is not empty, the arguments are bytes in this encoding, see bytesOfHex().
+int showCharacters(Output& output, const std::vector<std::string>& arguments, const std::string& encoding,
+                   const Listing& listing);
 int printAscii(Output& output, bool json);
-int listValues(Output& output, const std::string& property, bool json);  // "block", "form" and others
+int listValues(Output& output, const std::string& property,
+               bool json);  // "block", "form", "encoding" and others
 
 // Searching.
 struct SearchRequest {
@@ -42,7 +45,9 @@ struct PickRequest {
   std::string form = "character";
 };
 int pickCharacters(Output& output, const PickRequest& request);
-int identifyText(Output& output, const std::vector<std::string>& texts, const Listing& listing);
+// The texts are in the encoding, or in UTF-8 if it is empty.
+int identifyText(Output& output, const std::vector<std::string>& texts, const std::string& encoding,
+                 const Listing& listing);
 
 // The user's choices.
 enum class Choice { show, add, remove, set };

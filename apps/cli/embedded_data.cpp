@@ -3,6 +3,7 @@
 
 #include "card.h"
 #include "commands.h"
+#include "encoding.h"
 #include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/characters/characters.h"
 #include "glyphorium/characters/names.h"
@@ -80,6 +81,8 @@ int listValues(Output& output, const std::string& property, bool json) {
   std::vector<std::vector<std::string>> rows;
   if (property == "form") {
     for (const glyph::CopyForm& form : glyph::copyForms()) rows.push_back({std::string(form.identifier)});
+  } else if (property == "encoding") {
+    for (const std::string& name : encodingNames()) rows.push_back({name});
   } else {
     using glyph::CharacterProperty;
     const CharacterProperty kind = property == "block"    ? CharacterProperty::block

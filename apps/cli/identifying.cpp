@@ -3,13 +3,15 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <system_error>
 #include <unordered_map>
+#include <utility>
 
 #include "card.h"
 #include "commands.h"
+#include "encoding.h"
 #include "glyphorium/characters/emoji.h"
 #include "glyphorium/characters/supplement.h"
 #include "glyphorium/text/unicode_text.h"
@@ -57,14 +59,28 @@ std::size_t unfinishedBytes(std::string_view text) {
 // Names the characters of a text that arrives in pieces. A piece may end anywhere, even within a code point.
 class Identification {
  public:
-  Identification(Output& output, const Listing& listing)
-      : output_(output), array_(output), json_(listing.json), listing_(listing) {}
+  // The encoding is only named in messages. The text arrives in UTF-8.
+  Identification(Output& output, const Listing& listing, std::string encoding)
+      : output_(output),
+        array_(output),
+        json_(listing.json),
+        listing_(listing),
+        encoding_(std::move(encoding)) {
+    printHeading(output, listing);
+  }
 
   // Returns false if the output cannot be written.
   bool add(std::string_view piece) {
     pending_ += piece;
     const std::size_t whole = pending_.size() - unfinishedBytes(pending_);
     return identify(std::string_view(pending_).substr(0, whole), false);
+  }
+
+  // Bytes that are no text in the encoding also get a row, which shows where the text is damaged.
+  bool addBadBytes(std::string_view bytes) {
+    if (!identify(pending_, true)) return false;
+    identifyBytes(bytes);
+    return printPortion();
   }
 
   bool end() {
@@ -87,29 +103,34 @@ class Identification {
     for (const std::string_view cluster : clusters) {
       identifyCluster(cluster);
       size += cluster.size();
-      if (rows_.size() >= rowsAtOnce) {
-        output_.printTable(rows_);
-        rows_.clear();
-      }
-      if (output_.size() >= bytesAtOnce && (!output_.flush() || output_.closed())) return false;
+      if (!printPortion()) return false;
     }
     pending_.erase(0, size);
     return true;
   }
 
-  // Bytes that are not UTF-8 also get a row, which shows where the text is damaged.
-  void identifyBytes(std::string_view bytes) {
-    hasBadBytes_ = true;
-    std::string hex;
-    for (const char byte : bytes) {
-      char digits[4];
-      std::snprintf(digits, sizeof digits, "%02X", static_cast<unsigned char>(byte));
-      hex += (hex.empty() ? "" : " ") + std::string(digits);
+  // Prints what has been collected, if it is much. Returns false if the output cannot be written.
+  bool printPortion() {
+    if (rows_.size() >= rowsAtOnce) {
+      output_.printTable(rows_);
+      rows_.clear();
     }
+    return output_.size() < bytesAtOnce || (output_.flush() && !output_.closed());
+  }
+
+  void identifyBytes(std::string_view bytes) {
+    any_ = hasBadBytes_ = true;
+    const std::string hex = hexOfBytes(bytes);
     if (json_) {
-      array_.add(nlohmann::ordered_json{{"bytes", hex}, {"name", "not UTF-8"}}.dump());
+      array_.add(nlohmann::ordered_json{{"bytes", hex}, {"name", "not " + encoding_}}.dump());
+    } else if (!listing_.isTable()) {
+      Entity noCharacter;  // has a name only
+      noCharacter.computed.decimal = 0x110000;
+      noCharacter.computed.fallbackName = "(bytes " + hex + " that are not " + encoding_ + ")";
+      printRow(output_, noCharacter, listing_);
     } else {
-      rows_.push_back({output_.accent("\uFFFD"), output_.faint(hex), "(bytes that are not UTF-8)"});
+      rows_.push_back(
+          {output_.accent("\uFFFD"), output_.faint(hex), "(bytes that are not " + encoding_ + ")"});
     }
   }
 
@@ -126,12 +147,11 @@ class Identification {
     if (!json_ && !listing_.isTable()) {
       const Entity entity = glyph::emojiPlace(cluster) ? glyph::supplementEntity(cluster) : Entity();
       if (several && !entity.name().empty()) {
-        printListing(output_, {&entity}, listing_);
+        printRow(output_, entity, listing_);
         return;
       }
       for (const char32_t point : points) {
-        const Entity one = entityOfCodePoint(point);
-        printListing(output_, {&one}, listing_);
+        printRow(output_, entityOfCodePoint(point), listing_);
       }
       return;
     }
@@ -161,6 +181,7 @@ class Identification {
   JsonArray array_;
   const bool json_;
   const Listing listing_;
+  const std::string encoding_;
   bool any_ = false;
   bool hasBadBytes_ = false;
   std::string pending_;  // the end of the text so far, which the next piece may continue
@@ -168,15 +189,43 @@ class Identification {
   std::unordered_map<char32_t, std::string> names_;  // names of the code points seen so far
 };
 
+// Gives the text to the identification, converted from the encoding if it is not empty.
+class Source {
+ public:
+  Source(Identification& identification, const std::string& encoding) : identification_(identification) {
+    if (encoding.empty()) return;
+    decoder_.emplace(
+        encoding, [this](std::string_view text) { goesOn_ = goesOn_ && identification_.add(text); },
+        [this](std::string_view bytes) { goesOn_ = goesOn_ && identification_.addBadBytes(bytes); });
+  }
+
+  // Returns false if the output cannot be written.
+  bool add(std::string_view bytes) {
+    if (!decoder_) return identification_.add(bytes);
+    decoder_->add(bytes);
+    return goesOn_;
+  }
+
+  bool end() {
+    if (decoder_) decoder_->end();
+    return goesOn_ && identification_.end();
+  }
+
+ private:
+  Identification& identification_;
+  std::optional<Decoder> decoder_;
+  bool goesOn_ = true;
+};
+
 enum class Reading { done, stopped, failed };
 
-Reading readStandardInput(Identification& identification) {
+Reading readStandardInput(Source& source) {
   std::string buffer(bytesAtOnce, '\0');
   for (;;) {
     const ssize_t count = read(STDIN_FILENO, buffer.data(), buffer.size());
     if (count == 0) return Reading::done;
     if (count > 0) {
-      if (!identification.add({buffer.data(), static_cast<std::size_t>(count)})) return Reading::stopped;
+      if (!source.add({buffer.data(), static_cast<std::size_t>(count)})) return Reading::stopped;
     } else if (errno == EAGAIN) {
       pollfd ready{STDIN_FILENO, POLLIN, 0};
       poll(&ready, 1, -1);
@@ -189,22 +238,25 @@ Reading readStandardInput(Identification& identification) {
 
 }  // namespace
 
-int identifyText(Output& output, const std::vector<std::string>& texts, const Listing& listing) {
-  Identification identification(output, listing);
+int identifyText(Output& output, const std::vector<std::string>& texts, const std::string& encoding,
+                 const Listing& listing) {
+  Identification identification(output, listing, encoding.empty() ? "UTF-8" : encoding);
+  Source source(identification, encoding);
   Reading reading = Reading::done;
   for (const std::string& text : texts) {
     if (reading != Reading::done) break;
-    if (&text != &texts.front() && !identification.add(" ")) reading = Reading::stopped;
+    if (&text != &texts.front() && !source.add(" ")) reading = Reading::stopped;
     if (text == "-")
-      reading = readStandardInput(identification);
-    else if (!identification.add(text))
+      reading = readStandardInput(source);
+    else if (!source.add(text))
       reading = Reading::stopped;
   }
   if (reading == Reading::failed) return notRead;
-  if (reading == Reading::done && !identification.end()) reading = Reading::stopped;
+  if (reading == Reading::done && !source.end()) reading = Reading::stopped;
   if (reading == Reading::stopped) return output.closed() ? found : wrongUse;
   if (identification.hasBadBytes()) {
-    complain("some bytes are not UTF-8; 'iconv' converts other encodings");
+    complain(encoding.empty() ? "some bytes are not UTF-8; --from reads other encodings"
+                              : "some bytes are not " + encoding);
     return wrongUse;
   }
   return identification.foundAny() ? found : nothingFound;

@@ -3,9 +3,12 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
 
 #include "card.h"
+#include "encoding.h"
 #include "glyphorium/characters/characters.h"
+#include "glyphorium/characters/typing.h"
 #include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/copy_forms.h"
 
@@ -14,8 +17,14 @@ namespace {
 
 using glyph::Entity;
 
-constexpr std::string_view ownFields[] = {"char",   "name",     "group",   "block",
-                                          "script", "category", "version", "numeric"};
+// Fields that are neither forms of copyForms() nor ways to type.
+constexpr std::string_view ownFields[] = {"char",     "name",    "group",   "block",  "script",
+                                          "category", "version", "numeric", "octal",  "binary",
+                                          "plane",    "width",   "bidi",    "aliases"};
+// Methods of waysToType().
+constexpr std::string_view typingFields[] = {"compose",   "latex",    "digraph",     "keysym",
+                                             "shortcode", "alt-code", "ctrl-shift-u"};
+constexpr std::string_view bytesPrefix = "bytes:";
 constexpr std::string_view tsvFields[] = {"char",  "hex",      "name",   "html",   "group",
                                           "block", "category", "script", "version"};
 constexpr int widestPadding = 999;
@@ -27,8 +36,11 @@ struct Field {
 };
 
 bool isField(std::string_view name) {
-  return std::find(std::begin(ownFields), std::end(ownFields), name) != std::end(ownFields) ||
-         glyph::copyForm(name);
+  const auto contains = [&](const auto& names) {
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+  };
+  if (name.starts_with(bytesPrefix)) return isEncoding(std::string(name.substr(bytesPrefix.size())));
+  return contains(ownFields) || contains(typingFields) || glyph::copyForm(name);
 }
 
 // Reads the text between the parentheses of a field.
@@ -48,13 +60,49 @@ std::optional<Field> readField(std::string_view text) {
   return field;
 }
 
+// Returns the codes of the characters of the text in the base, separated by spaces.
+std::string codesInBase(std::u32string_view text, int base) {
+  std::vector<std::string> codes;
+  for (const char32_t point : text) {
+    char digits[32];
+    char* const end = std::to_chars(digits, std::end(digits), static_cast<std::uint32_t>(point), base).ptr;
+    codes.emplace_back(digits, end);
+  }
+  return joined(codes, " ");
+}
+
+// Returns the first way to type the text by the method. Empty if there is none.
+std::string wayToType(std::string_view method, std::string_view text) {
+  for (const glyph::WayToType& way : glyph::waysToType(text)) {
+    if (way.method == method) return way.text;
+  }
+  return {};
+}
+
 std::string valueOf(std::string_view name, const Entity& entity) {
   if (name == "char") return entity.computed.symbol;
   if (name == "name") return entity.name();
   if (name == "group") return entity.computed.group;
   if (const glyph::CopyForm* const form = glyph::copyForm(name)) return form->text(entity).value_or("");
-  if (glyph::codePoints(entity.computed.symbol).size() > 1) return {};
-  const glyph::CharacterFacts facts = glyph::characterFacts(static_cast<char32_t>(entity.computed.decimal));
+  if (name.starts_with(bytesPrefix))
+    return bytesInEncoding(std::string(name.substr(bytesPrefix.size())), entity.computed.symbol).value_or("");
+  if (std::find(std::begin(typingFields), std::end(typingFields), name) != std::end(typingFields))
+    return wayToType(name, entity.computed.symbol);
+  const std::u32string points = glyph::codePoints(entity.computed.symbol);
+  if (name == "octal") return codesInBase(points, 8);
+  if (name == "binary") return codesInBase(points, 2);
+  if (name == "width") return std::to_string(glyph::displayWidth(entity.computed.symbol));
+  if (points.size() > 1) return {};
+  const auto codePoint = static_cast<char32_t>(entity.computed.decimal);
+  const glyph::CharacterFacts facts = glyph::characterFacts(codePoint);
+  if (facts.status == glyph::CharacterStatus::none) return {};
+  if (name == "plane") return std::to_string(codePoint >> 16);
+  if (name == "bidi") return std::string(facts.bidirectionalClass);
+  if (name == "aliases") {
+    std::vector<std::string> names = facts.formalAliases;
+    names.insert(names.end(), facts.otherNames.begin(), facts.otherNames.end());
+    return joined(names, ", ");
+  }
   if (name == "block") return std::string(facts.block);
   if (name == "script") return std::string(facts.script);
   if (name == "category") return std::string(facts.category);
@@ -117,22 +165,28 @@ void printListing(Output& output, const std::vector<const Entity*>& entities, co
     array.end();
     return;
   }
+  printHeading(output, listing);
+  for (const Entity* const entity : entities) printRow(output, *entity, listing);
+}
+
+void printHeading(Output& output, const Listing& listing) {
   if (listing.tsv) output.printLine(joined(tsvFields, "\t"));
-  for (const Entity* const entity : entities) {
-    if (!listing.tsv) {
-      output.printLine(formatted(listing.format, *entity));
-      continue;
-    }
-    std::vector<std::string> values;
-    for (const std::string_view field : tsvFields) {
-      std::string value = valueOf(field, *entity);
-      // Replace a control character such as a tab or a line feed, because it would break the table.
-      if (field == "char" && value.size() == 1 && static_cast<unsigned char>(value.front()) < 0x20)
-        value = visibleSymbol(value);
-      values.push_back(std::move(value));
-    }
-    output.printLine(joined(values, "\t"));
+}
+
+void printRow(Output& output, const Entity& entity, const Listing& listing) {
+  if (!listing.tsv) {
+    output.printLine(formatted(listing.format, entity));
+    return;
   }
+  std::vector<std::string> values;
+  for (const std::string_view field : tsvFields) {
+    std::string value = valueOf(field, entity);
+    // Replace a control character such as a tab or a line feed, because it would break the table.
+    if (field == "char" && value.size() == 1 && static_cast<unsigned char>(value.front()) < 0x20)
+      value = visibleSymbol(value);
+    values.push_back(std::move(value));
+  }
+  output.printLine(joined(values, "\t"));
 }
 
 }  // namespace cli

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The grammar of the command line. commands.h declares the functions that carry out the commands.
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cctype>
 #include <cerrno>
 #include <csignal>
@@ -9,6 +10,7 @@
 #include <system_error>
 
 #include "commands.h"
+#include "encoding.h"
 #include "glyphorium/state/skin_tone.h"
 #include "glyphorium/text/unicode_text.h"
 #include "glyphorium/toolkit/copy_forms.h"
@@ -31,6 +33,7 @@ struct Options {
   cli::SearchRequest search;
   cli::PickRequest pick;
   std::string form = "character";
+  std::string encoding;  // empty means UTF-8
   int limit = 20;
 };
 
@@ -53,6 +56,16 @@ void addListing(CLI::App& command, Options& options) {
       ->excludes(tsv)
       ->check([](const std::string& format) { return cli::faultOfFormat(format).value_or(""); });
   tsv->excludes(json);
+}
+
+void addEncoding(CLI::App& command, Options& options, const char* description) {
+  command.add_option("--from", options.encoding, description)
+      ->type_name("ENCODING")
+      ->check([](const std::string& name) {
+        return cli::isEncoding(name)
+                   ? std::string()
+                   : "there is no encoding '" + name + "'; 'glyphorium values encoding' lists them";
+      });
 }
 
 std::vector<std::string> namesOfTones() {
@@ -92,9 +105,12 @@ void addBrowsing(CLI::App& app, Options& options, Run& run) {
   CLI::App* const show = app.add_subcommand("show", "Everything about characters");
   show->add_option("CHARACTER", options.words, "→, U+2192, 2192, '&rarr;', 'rightwards arrow' ...")
       ->required();
+  addEncoding(*show, options, "The arguments are bytes in this encoding: 80, 'a4 a2'");
   addListing(*show, options);
   show->callback([&] {
-    run = [&](cli::Output& output) { return cli::showCharacters(output, options.words, options.listing); };
+    run = [&](cli::Output& output) {
+      return cli::showCharacters(output, options.words, options.encoding, options.listing);
+    };
   });
 
   CLI::App* const ascii = app.add_subcommand("ascii", "The table of ASCII");
@@ -136,9 +152,12 @@ void addSearching(CLI::App& app, Options& options, Run& run) {
 
   CLI::App* const identify = app.add_subcommand("identify", "Name each character of a text");
   identify->add_option("TEXT", options.words, "The text, or - for standard input")->required();
+  addEncoding(*identify, options, "The text is in this encoding, not in UTF-8");
   addListing(*identify, options);
   identify->callback([&] {
-    run = [&](cli::Output& output) { return cli::identifyText(output, options.words, options.listing); };
+    run = [&](cli::Output& output) {
+      return cli::identifyText(output, options.words, options.encoding, options.listing);
+    };
   });
 }
 
@@ -265,10 +284,10 @@ void addEmbeddedData(CLI::App& app, Options& options, Run& run) {
   });
 
   CLI::App* const values =
-      app.add_subcommand("values", "The values of a property, or the forms of a character");
+      app.add_subcommand("values", "The values of a property, the forms of a character, or the encodings");
   values->add_option("PROPERTY", options.word, "What to list")
       ->required()
-      ->check(CLI::IsMember({"block", "script", "category", "age", "form"}));
+      ->check(CLI::IsMember({"block", "script", "category", "age", "form", "encoding"}));
   addJson(*values, options);
   values->callback([&] {
     run = [&](cli::Output& output) { return cli::listValues(output, options.word, options.json); };
@@ -335,7 +354,9 @@ int main(int argc, char** argv) {
   // Ignore SIGXFSZ: a write beyond the file size limit then fails with an error message, instead of killing
   // the program.
   std::signal(SIGXFSZ, SIG_IGN);
-  for (int i = 1; i < argc; ++i) {
+  const bool isEncoded = std::any_of(
+      argv, argv + argc, [](std::string_view argument) { return argument.starts_with("--from"); });
+  for (int i = 1; i < argc && !isEncoded; ++i) {
     if (glyph::isWellFormedUtf8(argv[i])) continue;
     cli::complain("argument " + std::to_string(i) +
                   " is not UTF-8 text; is the terminal set to another encoding?");

@@ -33,9 +33,9 @@ struct EscapeForm {
   std::string_view form;  // an identifier of copyForms()
 };
 constexpr EscapeForm escapeForms[] = {
-    {"C", "c"},           {"JavaScript", "javascript"}, {"JSON, Java", "java"},
-    {"Python", "python"}, {"Rust, Swift", "rust"},      {"CSS", "css"},
-    {"URL", "url"}};
+    {"C", "c"},           {"JavaScript", "javascript"},    {"JSON, Java", "java"},
+    {"Python", "python"}, {"Rust, Swift", "rust"},         {"CSS", "css"},
+    {"URL", "url"},       {"Octal escape", "octal-escape"}};
 
 std::string copyFormOf(const Entity& entity, std::string_view form) {
   return glyph::copyForm(form)->text(entity).value_or("");

@@ -19,7 +19,8 @@ typedef struct glyphorium_entities glyphorium_entities;
 /** Returns the number of entities. */
 GLYPHORIUM_EXPORT size_t glyphorium_entities_count(const glyphorium_entities *entities);
 /** Returns the entity at this index, borrowed from the list. */
-GLYPHORIUM_EXPORT const glyphorium_entity *glyphorium_entities_at(const glyphorium_entities *entities, size_t index);
+GLYPHORIUM_EXPORT const glyphorium_entity *glyphorium_entities_at(const glyphorium_entities *entities,
+                                                                  size_t index);
 GLYPHORIUM_EXPORT void glyphorium_entities_free(glyphorium_entities *entities);
 
 /** Decodes a group table (a JSON array of rows), joins it with an enrichment table if `enrichment` is not
@@ -27,7 +28,8 @@ GLYPHORIUM_EXPORT void glyphorium_entities_free(glyphorium_entities *entities);
  * table cannot be decoded; a diagnostic line says why. If only the enrichment table cannot be decoded, the
  * entities have no enrichment. */
 GLYPHORIUM_EXPORT glyphorium_entities *glyphorium_entities_decode(const char *table, size_t table_size,
-                                                                  const char *enrichment, size_t enrichment_size);
+                                                                  const char *enrichment,
+                                                                  size_t enrichment_size);
 
 /** Returns the character with this code point as the catalog describes it. A character that is not in the
  * catalog has an empty group; its name comes from the name table and may be empty. Returns NULL if the number
@@ -77,11 +79,13 @@ GLYPHORIUM_EXPORT glyphorium_text glyphorium_entity_image_name(const glyphorium_
 GLYPHORIUM_EXPORT glyphorium_optional_bool glyphorium_entity_needs_serifs(const glyphorium_entity *entity);
 /** Return the search terms of the enrichment. */
 GLYPHORIUM_EXPORT size_t glyphorium_entity_search_term_count(const glyphorium_entity *entity);
-GLYPHORIUM_EXPORT glyphorium_text glyphorium_entity_search_term(const glyphorium_entity *entity, size_t index);
+GLYPHORIUM_EXPORT glyphorium_text glyphorium_entity_search_term(const glyphorium_entity *entity,
+                                                                size_t index);
 /** Return the usage notes of the enrichment: the language of each ("en", "de", "fr", "it", "es") and its
  * text. */
 GLYPHORIUM_EXPORT size_t glyphorium_entity_note_count(const glyphorium_entity *entity);
-GLYPHORIUM_EXPORT glyphorium_text glyphorium_entity_note_language(const glyphorium_entity *entity, size_t index);
+GLYPHORIUM_EXPORT glyphorium_text glyphorium_entity_note_language(const glyphorium_entity *entity,
+                                                                  size_t index);
 GLYPHORIUM_EXPORT glyphorium_text glyphorium_entity_note(const glyphorium_entity *entity, size_t index);
 
 /**
@@ -94,13 +98,14 @@ GLYPHORIUM_EXPORT char *glyphorium_entity_localized_note(const glyphorium_entity
 GLYPHORIUM_EXPORT char *glyphorium_entity_search_string(const glyphorium_entity *entity, size_t *size);
 /** Returns the character in one of the forms below, for example "html-hex". Owned; NULL if the character does
  * not have this form, or if there is no form with this identifier. */
-GLYPHORIUM_EXPORT char *glyphorium_entity_form(const glyphorium_entity *entity, const char *form, size_t *size);
+GLYPHORIUM_EXPORT char *glyphorium_entity_form(const glyphorium_entity *entity, const char *form,
+                                               size_t *size);
 
 /** Return the number and the identifiers of the forms in which a character can be copied, in the order in
  * which hosts show them: "character", "hex", "decimal", "code-point", "html", "html-hex", "html-decimal",
  * "swift", "utf-8", "utf-16", "utf-32", "c", "javascript", "json", "java", "python", "rust", "css", "url",
- * "swiftui", "uikit". The identifiers never change, but later versions may have more forms. The texts live
- * until the process ends. */
+ * "octal-escape", "swiftui", "uikit". The identifiers never change, but later versions may have more forms.
+ * The texts live until the process ends. */
 GLYPHORIUM_EXPORT size_t glyphorium_form_count(void);
 GLYPHORIUM_EXPORT glyphorium_text glyphorium_form_identifier(size_t index);
 /** Returns the separator to put between the forms of several characters. */

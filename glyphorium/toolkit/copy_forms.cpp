@@ -70,12 +70,22 @@ std::string numbered(const std::vector<std::uint32_t>& numbers, std::string_view
   return text;
 }
 
+std::string octalEscape(std::uint32_t byte) {
+  char buffer[8];
+  return {buffer, static_cast<std::size_t>(std::snprintf(buffer, sizeof buffer, "\\%03o", byte & 0xFFU))};
+}
+
 // Below U+00A0, C does not allow universal character names such as "\u0041". An octal escape always ends
 // after three digits, so any character may follow it.
 std::string escapedForC(char32_t point) {
-  if (point >= 0xA0) return numbered({point}, point < 0x10000 ? "\\u" : "\\U", point < 0x10000 ? 4 : 8);
-  char buffer[8];
-  return {buffer, static_cast<std::size_t>(std::snprintf(buffer, sizeof buffer, "\\%03o", point & 0xFFU))};
+  return point < 0xA0 ? octalEscape(point)
+                      : numbered({point}, point < 0x10000 ? "\\u" : "\\U", point < 0x10000 ? 4 : 8);
+}
+
+std::string escapedInOctal(char32_t point) {
+  std::string text;
+  for (const std::uint32_t byte : utf8Bytes(point)) text += octalEscape(byte);
+  return text;
 }
 
 std::string escapedForPython(char32_t point) {
@@ -153,6 +163,7 @@ constexpr CopyForm forms[] = {
        return ofEachCodePoint(e, "", [](char32_t point) { return numbered({point}, "\\", 6); });
      }},
     {"url", "", [](const Entity& e) { return ofEachCodePoint(e, "", escapedForUrl); }},
+    {"octal-escape", "", [](const Entity& e) { return ofEachCodePoint(e, "", escapedInOctal); }},
     {"swiftui", "\n", [](const Entity& e) { return snippet(e, &CodeFormats::getSFSymbolSwiftUICode); }},
     {"uikit", "\n", [](const Entity& e) { return snippet(e, &CodeFormats::getSFSymbolUIKitCode); }},
 };

@@ -31,6 +31,7 @@ struct CopyForm {
 /// - "c": "\u2192", or an octal escape below U+00A0; "javascript": "\u2192", "\u{1F600}"; "json" and "java":
 ///   "\u2192", "\uD83D\uDE00"; "python": "\u2192", "\U0001F600"; "rust": "\u{2192}";
 /// - "css": "\002192", always six digits, so that no blank is needed after them; "url": "%E2%86%92";
+/// - "octal-escape": "\342\206\222", the bytes of UTF-8 for printf, shells and old languages;
 /// - "swiftui", "uikit": the source line that shows the symbol; only for SF Symbols.
 /// For a character of several code points (a hex list, see CodeFormats), the numeric forms contain the number
 /// of each code point in order. The list and its texts live until the program ends.

@@ -125,6 +125,24 @@ TEST(CommandLine, ReturnsExitCodesAndHelpfulMessages) {
        "é\t00e9\tLatin Small Letter E With Acute\n␣\t0020\tSpace\ne\u0301\t2 code points"},
       {"identify - </dev/null", 1, ""},
       {"identify '\U0001F44D\U0001F3FD' --json", 0, "\"cluster\":\"\U0001F44D\U0001F3FD\""},
+      {"identify \"$(printf 'a\\377b')\" --from latin1 --format '%(name l:0)|'", 0,
+       "Y With Diaeresis|\nLatin Small Letter B|"},
+      {"identify --from shift_jis \"$(printf '\\202\\240\\201 a')\"", 2,
+       "あ\t3042\tHiragana Letter A\n\uFFFD\t81\t(bytes that are not shift_jis)\n␣\t"},
+      {"identify ab --tsv | wc -l", 0, "3\n"},
+      {"identify --from utf-8 \"$(printf 'x\\377y\\342\\206')\" --format '%(char)%(hex)%(name)%(category)'",
+       2, "Ll\n(bytes FF that are not utf-8)\ny"},
+      {"identify --from nonsense a", 2, "'glyphorium values encoding' lists them"},
+      {"identify --from /etc/passwd a", 2, "there is no encoding"},
+      {"show --from cp1252 80 '0x99 0x85' --format '%(char)'", 0, "€\n™\n…\n"},
+      {"show --from euc-jp 'B4 C1' b4 --format '%(hex)'", 1, "the bytes B4 are no text in euc-jp\n6f22\n"},
+      {"show --from cp1252 euro", 2, "'euro' is no list of bytes"},
+      {"show € → 😀 --format '%(bytes:cp1252)|%(bytes:utf-16be)|%(octal)|%(octal-escape)'", 0,
+       "80|20 AC|20254|\\342\\202\\254\n|21 92|20622|\\342\\206\\222\n|D8 3D DE 00|"},
+      {"show é 漢 --format '%(binary) %(plane) %(width) %(bidi) %(compose),%(digraph),%(keysym)'", 0,
+       "11101001 0 1 L ' e,e',eacute\n110111100100010 0 2 L ,,"},
+      {"show € --format '%(bytes:nonsense)'", 2, "there is no field '%(bytes:nonsense)'"},
+      {"values encoding", 0, "\nwindows-1252\n"},
       {"frobnicate", 2, "there is no command 'frobnicate'"},
       {"", 2, "--help"},
       {"--version", 0, "glyphorium 1."},
@@ -374,6 +392,7 @@ TEST(CommandLine, HasDocumentationAndCompletionForEveryCommand) {
   EXPECT_EQ(completed("copy a --as html-h"), "html-hex\n");
   EXPECT_EQ(completed("index st"), "status\n");
   EXPECT_EQ(completed("list --tone da"), "dark\n");
+  EXPECT_EQ(completed("show --from koi8-r"), "KOI8-R\n");
 
   const auto completedByFish = [&](const std::string& line) {
     return runProgram("HOME=/nonexistent fish --no-config -c 'function glyphorium; " PROGRAM
@@ -386,6 +405,21 @@ TEST(CommandLine, HasDocumentationAndCompletionForEveryCommand) {
   EXPECT_EQ(completedByFish("list block:arro"), "block:Arrows\n");
   EXPECT_EQ(completedByFish("--color never tone medium-"), "medium-dark\nmedium-light\n");
   EXPECT_EQ(completedByFish("pick --as html-h"), "html-hex\n");
+  EXPECT_EQ(completedByFish("identify --from koi8-r"), "KOI8-R\n");
+
+  const auto completedByZsh = [&](const std::string& line) {
+    return runProgram("PATH=" + std::string(PROGRAM).substr(0, std::string(PROGRAM).rfind('/')) +
+                      ":$PATH zsh -f " CLI_TESTS "/complete.zsh " + folder + "/completions 'glyphorium " +
+                      line + "'")
+        .output;
+  };
+  EXPECT_EQ(completedByZsh("pi"), "pick\n");
+  EXPECT_EQ(completedByZsh("list ARR"), "arrows\n");
+  EXPECT_EQ(completedByZsh("list block:arro"), "Arrows\n");
+  EXPECT_EQ(completedByZsh("--color never tone me"), "medium\nmedium-dark\nmedium-light\n");
+  EXPECT_EQ(completedByZsh("pick --as html-h"), "html-hex\n");
+  EXPECT_EQ(completedByZsh("show --from koi8"), "KOI8-R\nKOI8-U\n");
+  EXPECT_EQ(completedByZsh("display add emo"), "emoji\n");
 }
 
 TEST(CommandLine, CopiesEveryCharacterOfItsArgument) {

@@ -43,6 +43,10 @@
             <translation>Swift</translation>
         </message>
         <message>
+            <source>Octal escape</source>
+            <translation>Escape octal</translation>
+        </message>
+        <message>
             <source>SwiftUI</source>
             <translation>SwiftUI</translation>
         </message>

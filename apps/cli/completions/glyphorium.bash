@@ -41,9 +41,8 @@ _glyphorium() {
   done
   case $previous in
     --color) COMPREPLY=($(compgen -W 'auto always never' -- "$current")); return ;;
-    --as)
-      COMPREPLY=($(compgen -W 'character hex decimal code-point html html-hex html-decimal swift utf-8 utf-16 utf-32 c javascript json java python rust css url swiftui uikit' -- "$current"))
-      return ;;
+    --as) _glyphorium_names values form; return ;;
+    --from) _glyphorium_names values encoding; return ;;
     --tone) COMPREPLY=($(compgen -W 'none light medium-light medium medium-dark dark' -- "$current")); return ;;
     --group) _glyphorium_names groups; return ;;
     --limit|--regex|--format) return ;;
@@ -53,7 +52,8 @@ _glyphorium() {
     case $command in
       '') options+=' --version' ;;
       groups|display|names|table|ascii|values) options+=' --json' ;;
-      show|added|identify) options+=' --json --tsv --format' ;;
+      added) options+=' --json --tsv --format' ;;
+      show|identify) options+=' --from --json --tsv --format' ;;
       list) options+=' --all --regex --tone --json --tsv --format' ;;
       search) options+=' --displayed --limit --group --copy --json --tsv --format' ;;
       pick) options+=' --multi --copy --as' ;;
@@ -68,7 +68,7 @@ _glyphorium() {
     list) [[ $previous$current == *:* ]] || _glyphorium_names groups; _glyphorium_sets ;;
     show|names) _glyphorium_sets ;;
     tone) COMPREPLY=($(compgen -W 'none light medium-light medium medium-dark dark' -- "$current")) ;;
-    values) COMPREPLY=($(compgen -W 'block script category age form' -- "$current")) ;;
+    values) COMPREPLY=($(compgen -W 'block script category age form encoding' -- "$current")) ;;
     help) COMPREPLY=($(compgen -W "$commands" -- "$current")) ;;
     table) [[ -n $part ]] || _glyphorium_names table ;;
     remove) _glyphorium_codes ;;

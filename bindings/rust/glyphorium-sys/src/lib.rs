@@ -301,8 +301,8 @@ extern "C" {
     /// Return the number and the identifiers of the forms in which a character can be copied, in the order in
     /// which hosts show them: "character", "hex", "decimal", "code-point", "html", "html-hex", "html-decimal",
     /// "swift", "utf-8", "utf-16", "utf-32", "c", "javascript", "json", "java", "python", "rust", "css", "url",
-    /// "swiftui", "uikit". The identifiers never change, but later versions may have more forms. The texts live
-    /// until the process ends.
+    /// "octal-escape", "swiftui", "uikit". The identifiers never change, but later versions may have more forms.
+    /// The texts live until the process ends.
     pub fn glyphorium_form_count() -> usize;
     pub fn glyphorium_form_identifier(index: usize) -> glyphorium_text;
     /// Returns the separator to put between the forms of several characters.
