@@ -3,6 +3,7 @@
 #include <deque>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <unordered_set>
 
 #include "card.h"
 #include "commands.h"
@@ -79,6 +80,14 @@ int listEntities(Output& output, const ListRequest& request, const Listing& list
     if (*group == glyph::customGroup && !isReadable(Key::customAddedEntities)) return notRead;
     append(catalog.buildInEntities(), &*group);
     append(catalog.allCustomEntities, &*group);
+    // "emoji" is also the set of all emoji. Those that are not in the group follow it.
+    if (const auto set = charactersOfSet(*group)) {
+      std::unordered_set<std::string> inGroup;
+      for (const Entity* const entity : entities) inGroup.insert(entity->computed.hex);
+      for (const Entity& entity : sets.emplace_back(*set)) {
+        if (!inGroup.contains(entity.computed.hex)) entities.push_back(&entity);
+      }
+    }
   }
   std::deque<Entity> toned;
   if (const auto tone = glyph::skinToneNamed(request.tone)) {

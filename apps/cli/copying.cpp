@@ -51,7 +51,7 @@ int copyEntities(Output& output, const std::vector<Entity>& entities, const std:
     }
     texts.push_back(*text);
     shown.push_back(visibleSymbol(entity.computed.symbol));
-    names.push_back(entity.name() + ", U+" + entity.computed.hex);
+    names.push_back(entity.name() + ", " + glyph::copyForm("code-point")->text(entity).value_or(""));
   }
   const std::string text = joined(texts, form->separator);
   if (!glyph::toolKit().writeToPasteboard(text)) {

@@ -74,6 +74,8 @@ TEST(CommandLine, ReturnsExitCodesAndHelpfulMessages) {
       {"list script:thai", 0, "Thai Digit Nine"},
       {"list block:arows", 1, "did you mean 'block:Arrows'"},
       {"list emoji:flag", 0, "Flag: Germany"},
+      {"list emoji --regex 'germany|magic wand|^grinning face$'", 0,
+       "😀\t1f600\tGrinning Face\t\n🪄\t1fa84\tMagic Wand\t\n🇩🇪\t1f1e9,1f1ea\tFlag: Germany\t\n"},
       {"list 2193..2190", 2, "there is no group"},
       {"show 'qqqq qqqq'", 1, "no character is 'qqqq qqqq'\n"},
       {"show", 2, "required"},
