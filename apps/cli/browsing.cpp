@@ -46,12 +46,24 @@ int listEntities(Output& output, const ListRequest& request, const Listing& list
   glyph::Glyphorium& catalog = glyph::glyphorium();
   catalog.configure();
   using Key = glyph::UserInfluencedEntityKey;
+  const std::vector<Entity> added = addedEntities();
   std::vector<const Entity*> entities;
   int exitCode = found;
   if (request.all && !isReadable(Key::customAddedEntities)) exitCode = notRead;  // the list is still printed
   if (request.groups.empty() && !request.all) {
     if (!isReadable(Key::displayedGroups) || !isReadable(Key::customAddedEntities)) return notRead;
-    for (const Entity& entity : glyph::selectedEntities().get()) entities.push_back(&entity);
+    std::unordered_set<std::string> shown;
+    for (const Entity& entity : glyph::selectedEntities().get()) {
+      entities.push_back(&entity);
+      shown.insert(entity.computed.hex);
+    }
+    const std::vector<std::string> groups = catalog.selectedGroups();
+    if (std::find(groups.begin(), groups.end(), glyph::customGroup) != groups.end()) {
+      // The catalog leaves out those that the name table does not have.
+      for (const Entity& entity : added) {
+        if (!shown.contains(entity.computed.hex)) entities.push_back(&entity);
+      }
+    }
     if (entities.empty()) {
       complain("the displayed groups contain no characters; 'glyphorium display add GROUP' displays more");
     }
@@ -63,7 +75,7 @@ int listEntities(Output& output, const ListRequest& request, const Listing& list
   };
   if (request.all) {
     append(catalog.buildInEntities(), nullptr);
-    append(catalog.allCustomEntities, nullptr);
+    append(added, nullptr);
   }
   std::deque<std::vector<Entity>> sets;
   for (const std::string& name : request.groups) {
@@ -79,7 +91,7 @@ int listEntities(Output& output, const ListRequest& request, const Listing& list
     }
     if (*group == glyph::customGroup && !isReadable(Key::customAddedEntities)) return notRead;
     append(catalog.buildInEntities(), &*group);
-    append(catalog.allCustomEntities, &*group);
+    append(added, &*group);
     // "emoji" is also the set of all emoji. Those that are not in the group follow it.
     if (const auto set = charactersOfSet(*group)) {
       std::unordered_set<std::string> inGroup;

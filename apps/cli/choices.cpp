@@ -45,26 +45,6 @@ void printDisplayed(Output& output, bool json) {
   json ? printJsonArray(output, objects) : output.printTable(rows);
 }
 
-// Returns the characters that the user added, oldest first. The catalog's own list leaves out characters that
-// the name table does not have. Here they are included, with the names of the supplement.
-std::vector<glyph::Entity> addedEntities() {
-  std::vector<glyph::Entity> entities;
-  const std::vector<glyph::Entity>& known = glyph::glyphorium().allCustomEntities;
-  for (const std::string& code : glyph::glyphorium().customAddedEntityUnicodes()) {
-    const auto place = std::find_if(known.begin(), known.end(),
-                                    [&](const glyph::Entity& entity) { return entity.computed.hex == code; });
-    if (place != known.end()) {
-      entities.push_back(*place);
-      continue;
-    }
-    glyph::Entity entity = glyph::supplementEntity(glyph::toolKit().getAdvancedSymbol(code));
-    if (entity.name().empty()) continue;
-    entity.computed.group = std::string(glyph::customGroup);
-    entities.push_back(std::move(entity));
-  }
-  return entities;
-}
-
 void printAdded(Output& output, const Listing& listing) {
   const std::vector<glyph::Entity> added = addedEntities();
   std::vector<const glyph::Entity*> entities;

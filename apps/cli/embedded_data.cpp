@@ -81,6 +81,10 @@ int listValues(Output& output, const std::string& property, bool json) {
   std::vector<std::vector<std::string>> rows;
   if (property == "form") {
     for (const glyph::CopyForm& form : glyph::copyForms()) rows.push_back({std::string(form.identifier)});
+  } else if (property == "property") {
+    for (const std::string& name : binaryProperties()) rows.push_back({name});
+  } else if (property == "field") {
+    for (const std::string_view name : fieldsOfFormats()) rows.push_back({std::string(name)});
   } else if (property == "encoding") {
     for (const std::string& name : encodingNames()) rows.push_back({name});
   } else {

@@ -126,7 +126,8 @@ std::optional<std::string> read(std::string_view format, OnText onText, OnField 
       if (!rest.starts_with("%(") || end == std::string_view::npos)
         return "'%' begins a field such as %(name); %% is a percent sign";
       const std::string_view field = rest.substr(2, end - 2);
-      if (!onField(field)) return "there is no field '%(" + std::string(field) + ")'";
+      if (!onField(field))
+        return "there is no field '%(" + std::string(field) + ")'; 'glyphorium values field' lists them";
       i += end;
     } else {
       onText(rest.substr(0, 1));
@@ -151,6 +152,15 @@ std::string formatted(std::string_view format, const Entity& entity) {
         return true;
       });
   return result;
+}
+
+std::vector<std::string_view> fieldsOfFormats() {
+  std::vector<std::string_view> names(std::begin(ownFields), std::end(ownFields));
+  names.insert(names.end(), std::begin(typingFields), std::end(typingFields));
+  for (const glyph::CopyForm& form : glyph::copyForms()) {
+    if (form.identifier != "character") names.push_back(form.identifier);  // the same as "char"
+  }
+  return names;
 }
 
 std::optional<std::string> faultOfFormat(std::string_view format) {

@@ -29,6 +29,9 @@ struct Listing {
 /// ("bytes:cp1252"). A field becomes empty if the character has no such text.
 std::string formatted(std::string_view format, const glyph::Entity& entity);
 
+/// Returns the names of all fields, without "bytes:".
+std::vector<std::string_view> fieldsOfFormats();
+
 /// Returns an error message for the first fault in a template, or nullopt if the template is valid.
 std::optional<std::string> faultOfFormat(std::string_view format);
 

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "lookup.h"
 
+#include <unicode/uchar.h>
+
 #include <algorithm>
 #include <charconv>
 #include <system_error>
 
+#include "glyphorium/catalog/glyphorium.h"
 #include "glyphorium/characters/annotations.h"
 #include "glyphorium/characters/characters.h"
 #include "glyphorium/characters/emoji.h"
@@ -16,6 +19,7 @@
 #include "glyphorium/text/preferred_languages.h"
 #include "glyphorium/text/text_pieces.h"
 #include "glyphorium/text/unicode_text.h"
+#include "glyphorium/toolkit/entity_tool_kit.h"
 
 namespace cli {
 namespace {
@@ -82,12 +86,12 @@ std::optional<char32_t> anyCode(std::string_view text) {
   return std::nullopt;
 }
 
-// Converts a list of hex codes, each with four digits or more, to a text: "1f1e9 1f1ea" or "1F1E9,1F1EA".
-// Empty if `list` is anything else.
+// Converts a list of hex codes, each with four digits or more, to a text: "1f1e9 1f1ea", "1F1E9,1F1EA", or
+// "1f1e9-1f1ea" as in names of files. Empty if `list` is anything else.
 std::string textOfCodes(std::string_view list) {
   std::string text;
   while (!list.empty()) {
-    const std::size_t end = std::min(list.find_first_of(" ,"), list.size());
+    const std::size_t end = std::min(list.find_first_of(" ,-"), list.size());
     const auto code = end < 4 ? std::nullopt : codePointOf("U+" + std::string(list.substr(0, end)));
     if (!code) return {};
     text += glyph::utf8(*code);
@@ -107,12 +111,15 @@ std::optional<Character> outsideTheTables(std::string_view argument) {
   return std::nullopt;
 }
 
-// Reads "2190..2193" and "U+2190..U+2193".
+// Reads "2190..2193", "U+2190..U+2193" and "U+2190-U+2193".
 std::optional<CodePointRange> rangeOf(std::string_view argument) {
-  const std::size_t dots = argument.find("..");
-  if (dots == std::string_view::npos) return std::nullopt;
-  const auto first = anyCode(argument.substr(0, dots));
-  const auto last = anyCode(argument.substr(dots + 2));
+  const std::string_view between = argument.find("..") != std::string_view::npos ? ".." : "-";
+  const std::size_t place = argument.find(between);
+  if (place == std::string_view::npos) return std::nullopt;
+  // Without "U+", codes with a hyphen between them may be the file name of an emoji: "1f1e9-1f1ea".
+  if (between == "-" && !argument.starts_with("U+") && !argument.starts_with("u+")) return std::nullopt;
+  const auto first = anyCode(argument.substr(0, place));
+  const auto last = anyCode(argument.substr(place + between.size()));
   if (!first || !last || *last < *first) return std::nullopt;
   return CodePointRange{*first, *last};
 }
@@ -121,15 +128,31 @@ struct PropertyName {
   std::string_view prefix;
   CharacterProperty property;
 };
-constexpr PropertyName properties[] = {{"block:", CharacterProperty::block},
-                                       {"script:", CharacterProperty::script},
-                                       {"category:", CharacterProperty::category},
-                                       {"age:", CharacterProperty::version}};
+constexpr PropertyName propertyNames[] = {{"block:", CharacterProperty::block},
+                                          {"script:", CharacterProperty::script},
+                                          {"category:", CharacterProperty::category},
+                                          {"age:", CharacterProperty::version}};
 
 const PropertyName* propertyOf(std::string_view argument) {
-  const auto found = std::find_if(std::begin(properties), std::end(properties),
-                                  [&](const PropertyName& one) { return argument.starts_with(one.prefix); });
-  return found == std::end(properties) ? nullptr : found;
+  const auto found = std::find_if(
+      std::begin(propertyNames), std::end(propertyNames),
+      [&](const PropertyName& one) { return glyph::lowercased(argument).starts_with(one.prefix); });
+  return found == std::end(propertyNames) ? nullptr : found;
+}
+
+constexpr std::string_view binaryPrefix = "property:";
+
+// Returns the characters that have a property which is either true or false, such as "White_Space".
+std::vector<CodePointRange> charactersWithBinary(const std::string& name) {
+  std::vector<CodePointRange> ranges;
+  const UProperty property = u_getPropertyEnum(name.c_str());
+  if (property < UCHAR_BINARY_START || property >= UCHAR_BINARY_LIMIT) return ranges;
+  for (char32_t c = 0; c <= 0x10FFFF; ++c) {
+    if (!u_hasBinaryProperty(static_cast<UChar32>(c), property)) continue;
+    if (ranges.empty() || ranges.back().last + 1 != c) ranges.push_back({c, c});
+    ranges.back().last = c;
+  }
+  return ranges;
 }
 
 std::vector<Entity> emojiOfGroup(std::string_view word) {
@@ -150,6 +173,24 @@ std::vector<Entity> emojiOfGroup(std::string_view word) {
 Entity entityOfCodePoint(char32_t codePoint) {
   if (glyph::utf8(codePoint).empty()) return glyph::supplementEntity(codePoint);
   return glyph::withSupplementName(glyph::entityOf(codePoint));
+}
+
+std::vector<Entity> addedEntities() {
+  std::vector<Entity> entities;
+  const std::vector<Entity>& known = glyph::glyphorium().allCustomEntities;
+  for (const std::string& code : glyph::glyphorium().customAddedEntityUnicodes()) {
+    const auto place = std::find_if(known.begin(), known.end(),
+                                    [&](const Entity& entity) { return entity.computed.hex == code; });
+    if (place != known.end()) {
+      entities.push_back(*place);
+      continue;
+    }
+    Entity entity = glyph::supplementEntity(glyph::toolKit().getAdvancedSymbol(code));
+    if (entity.name().empty()) continue;
+    entity.computed.group = std::string(glyph::customGroup);
+    entities.push_back(std::move(entity));
+  }
+  return entities;
 }
 
 ResolvedText resolve(std::string_view argument) {
@@ -188,9 +229,12 @@ ResolvedText resolve(std::string_view argument) {
 
 std::optional<std::vector<Entity>> charactersOfSet(std::string_view argument) {
   std::vector<CodePointRange> ranges;
-  if (argument == "emoji") return emojiOfGroup("");
-  if (argument.starts_with("emoji:")) return emojiOfGroup(glyph::lowercased(argument.substr(6)));
-  if (const PropertyName* const property = propertyOf(argument)) {
+  const std::string lower = glyph::lowercased(argument);
+  if (lower == "emoji") return emojiOfGroup("");
+  if (lower.starts_with("emoji:")) return emojiOfGroup(lower.substr(6));
+  if (lower.starts_with(binaryPrefix)) {
+    ranges = charactersWithBinary(lower.substr(binaryPrefix.size()));
+  } else if (const PropertyName* const property = propertyOf(argument)) {
     ranges = glyph::charactersWith(property->property, argument.substr(property->prefix.size()));
   } else if (const auto range = rangeOf(argument)) {
     ranges.push_back(*range);
@@ -205,12 +249,24 @@ std::optional<std::vector<Entity>> charactersOfSet(std::string_view argument) {
   return entities;
 }
 
+std::vector<std::string> binaryProperties() {
+  std::vector<std::string> names;
+  for (int one = UCHAR_BINARY_START; one < UCHAR_BINARY_LIMIT; ++one) {
+    const char* const name = u_getPropertyName(static_cast<UProperty>(one), U_LONG_PROPERTY_NAME);
+    if (name) names.emplace_back(name);
+  }
+  return names;
+}
+
 std::string unknownSet(const std::string& argument) {
   const PropertyName* const property = propertyOf(argument);
-  if (!property) return "no character is in '" + argument + "'";
-  std::vector<std::string> values;
-  for (const std::string_view value : glyph::valuesOf(property->property)) values.emplace_back(value);
-  const std::string prefix(property->prefix);
+  const bool isBinary = glyph::lowercased(argument).starts_with(binaryPrefix);
+  if (!property && !isBinary) return "no character is in '" + argument + "'";
+  std::vector<std::string> values = isBinary ? binaryProperties() : std::vector<std::string>();
+  if (property) {
+    for (const std::string_view value : glyph::valuesOf(property->property)) values.emplace_back(value);
+  }
+  const std::string prefix(isBinary ? binaryPrefix : property->prefix);
   const std::vector<std::string> near = nearestTexts(argument.substr(prefix.size()), values);
   return "no character is in '" + argument + "'" +
          (near.empty() ? "" : "; did you mean '" + prefix + glyph::joined(near, "' or '" + prefix) + "'?");

@@ -88,7 +88,8 @@ void addBrowsing(CLI::App& app, Options& options, Run& run) {
   CLI::App* const list = app.add_subcommand("list", "The characters of groups, or of the displayed groups");
   list->add_option(
       "GROUP", options.list.groups,
-      "Groups in any letter case; U+2190..2193, block:arrows, script:Greek, category:Sc, age:15, emoji");
+      "Groups in any letter case; U+2190..2193, block:arrows, script:Greek, category:Sc, age:15, "
+      "property:Dash, emoji");
   list->add_flag("--all", options.list.all, "The whole catalog");
   list->add_option("--regex", options.list.regex, "Only names that this regular expression matches");
   list->add_option("--tone", options.list.tone, "Show emoji with this skin tone")
@@ -284,10 +285,10 @@ void addEmbeddedData(CLI::App& app, Options& options, Run& run) {
   });
 
   CLI::App* const values =
-      app.add_subcommand("values", "The values of a property, the forms of a character, or the encodings");
+      app.add_subcommand("values", "The values of a property, or the forms, fields and encodings");
   values->add_option("PROPERTY", options.word, "What to list")
       ->required()
-      ->check(CLI::IsMember({"block", "script", "category", "age", "form", "encoding"}));
+      ->check(CLI::IsMember({"block", "script", "category", "age", "property", "form", "field", "encoding"}));
   addJson(*values, options);
   values->callback([&] {
     run = [&](cli::Output& output) { return cli::listValues(output, options.word, options.json); };
@@ -313,7 +314,8 @@ std::string explanation(const CLI::App& app, const CLI::ParseError& error) {
   }
   const std::vector<std::string> names = cli::nearestTexts(rest.front(), commands);
   return "there is no command '" + rest.front() + "'" +
-         (names.empty() ? "" : "; did you mean '" + names.front() + "'?");
+         (names.empty() ? "; 'glyphorium search' finds characters"
+                        : "; did you mean '" + names.front() + "'?");
 }
 
 // Is put before an argument that begins with a hyphen but is not an option, such as "->", so that the parser
@@ -392,13 +394,16 @@ int main(int argc, char** argv) {
   helpCommand->add_option("COMMAND", options.words, "A command, or a command and a part of it");
   helpCommand->callback([&] {
     const CLI::App* command = &app;
+    std::string before;  // the names of the program and of the commands above the command
     for (const std::string& word : options.words) {
       const auto parts =
           command->get_subcommands([&](const CLI::App* one) { return one->get_name() == word; });
       if (parts.empty()) throw CLI::ValidationError("help", "there is no command '" + word + "'");
+      before += command->get_name() + " ";
       command = parts.front();
     }
-    run = [text = command->help()](cli::Output& output) {
+    if (!before.empty()) before.pop_back();
+    run = [text = command->help(before)](cli::Output& output) {
       output.print(text);
       return cli::found;
     };

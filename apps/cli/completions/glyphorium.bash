@@ -18,7 +18,7 @@ _glyphorium_sets() {  # sets of characters: names of properties, and after a nam
   elif [[ $current == *:* ]]; then
     property=${current%%:*} wanted=${current#*:} prefix=$property:
   else
-    COMPREPLY+=($(compgen -W $'block:\nscript:\ncategory:\nage:\nemoji' -- "$current"))
+    COMPREPLY+=($(compgen -W $'block:\nscript:\ncategory:\nage:\nproperty:\nemoji' -- "$current"))
     return
   fi
   for value in $(glyphorium --color never values "$property" 2>/dev/null | cut -f1); do
@@ -68,7 +68,7 @@ _glyphorium() {
     list) [[ $previous$current == *:* ]] || _glyphorium_names groups; _glyphorium_sets ;;
     show|names) _glyphorium_sets ;;
     tone) COMPREPLY=($(compgen -W 'none light medium-light medium medium-dark dark' -- "$current")) ;;
-    values) COMPREPLY=($(compgen -W 'block script category age form encoding' -- "$current")) ;;
+    values) COMPREPLY=($(compgen -W 'block script category age property form field encoding' -- "$current")) ;;
     help) COMPREPLY=($(compgen -W "$commands" -- "$current")) ;;
     table) [[ -n $part ]] || _glyphorium_names table ;;
     remove) _glyphorium_codes ;;

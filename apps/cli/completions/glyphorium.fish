@@ -5,13 +5,13 @@ function __glyphorium_column
 end
 
 function __glyphorium_sets
-    set -l property (string match -r '^(block|script|category|age):' -- (commandline -ct))[2]
+    set -l property (string match -r '^(block|script|category|age|property):' -- (commandline -ct))[2]
     if test -n "$property"
         for value in (__glyphorium_column 1 values $property)
             echo "$property:$value"
         end
     else
-        printf '%s\n' block: script: category: age: emoji
+        printf '%s\n' block: script: category: age: property: emoji
     end
 end
 
@@ -64,7 +64,7 @@ complete -c glyphorium -n '__fish_seen_subcommand_from show identify' -l from -x
 complete -c glyphorium -n '__fish_seen_subcommand_from list show names' -a '(__glyphorium_sets)'
 complete -c glyphorium -n '__fish_seen_subcommand_from list' -l regex -x -d 'Only names that match'
 complete -c glyphorium -n '__glyphorium_bare tone' -a 'none light medium-light medium medium-dark dark'
-complete -c glyphorium -n '__glyphorium_bare values' -a 'block script category age form encoding'
+complete -c glyphorium -n '__glyphorium_bare values' -a 'block script category age property form field encoding'
 complete -c glyphorium -n '__glyphorium_bare help' -a "$commands"
 complete -c glyphorium -n '__fish_seen_subcommand_from list' -l all -d 'The whole catalog'
 complete -c glyphorium -n '__fish_seen_subcommand_from list' -a '(__glyphorium_column 1 groups)'
