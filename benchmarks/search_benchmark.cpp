@@ -90,6 +90,16 @@ void buildingSearch(benchmark::State& state) {
 }
 BENCHMARK(buildingSearch)->Unit(benchmark::kMillisecond);
 
+// Makes a CatalogSearch and asks it once. The argument is the number of characters that the user has added.
+void besideAdded(benchmark::State& state) {
+  std::vector<std::string> codes;
+  const std::size_t step = entities().size() / 100;
+  for (std::size_t i = 0; codes.size() < static_cast<std::size_t>(state.range(0)); i += step)
+    codes.emplace_back(entities()[i % entities().size()].computed.hex);
+  for (auto _ : state) benchmark::DoNotOptimize(CatalogSearch(codes).query("arrow", {100, {{"en"}}, {}}));
+}
+BENCHMARK(besideAdded)->Arg(0)->Arg(1)->Arg(10)->Arg(100)->Unit(benchmark::kMicrosecond);
+
 // Measures each query separately, because users notice slow queries rather than the mean. The time of a query
 // is the median of its runs, because other processes have little influence on the median.
 // If `everywhere` is true, the supplement is searched, too.

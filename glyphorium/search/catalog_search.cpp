@@ -2,7 +2,6 @@
 #include "glyphorium/search/catalog_search.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "glyphorium/catalog/custom_entities.h"
@@ -10,6 +9,8 @@
 #include "glyphorium/characters/emoji.h"
 #include "glyphorium/characters/supplement.h"
 #include "glyphorium/data/prepared_rows.h"
+#include "glyphorium/search/merging.h"
+#include "glyphorium/search/prepared_indexes.h"
 #include "glyphorium/search/query_parsing.h"
 #include "glyphorium/search/skin_tones.h"
 #include "glyphorium/search/supplement_search.h"
@@ -38,15 +39,20 @@ CatalogSearch::CatalogSearch() : CatalogSearch(glyphorium().customAddedEntityUni
 
 CatalogSearch::CatalogSearch(std::vector<std::string> addedCodes)
     : codes_(std::move(addedCodes)), tone_(preferredSkinTone()), added_(customEntities(codes_)) {
-  if (!added_.empty()) addedSearch_.emplace(added_);
+  if (added_.empty()) return;
+  addedSearch_.emplace(added_);
+  catalog_ = Search::ofCatalogBeside(*addedSearch_);
+  for (std::size_t i = 0; i < added_.size(); ++i) {
+    if (const auto place = placeOfHex(added_[i].computed.hex)) known_.emplace_back(*place, i);
+  }
+  std::sort(known_.begin(), known_.end());
 }
 
 SearchResults CatalogSearch::query(std::string_view text, const SearchOptions& options) const {
+  const bool inGroups = !options.groups.empty() || search::namesGroup(text);
   const auto search = [&](const SearchOptions& wanted) {
-    // The supplement has no groups.
-    const bool everywhere = wanted.supplement && wanted.groups.empty() && !search::namesGroup(text);
-    if (!everywhere) return Search::ofCatalog().query(text, wanted);
-    SearchResults found = search::queryEverything(text, wanted);
+    if (inGroups || !wanted.supplement) return catalog_.query(text, wanted);  // the supplement has no groups
+    SearchResults found = search::queryEverything(*catalog_.index_, text, wanted);
     if (tone_ != SkinTone::none) useTone(found);
     return found;
   };
@@ -54,60 +60,39 @@ SearchResults CatalogSearch::query(std::string_view text, const SearchOptions& o
   SearchOptions all = options;
   all.limit = added_.size();
   SearchResults added = addedSearch_->query(text, all);
-  // Up to added_.size() results of the catalog may be dropped because the user added the same characters.
+  // Up to added_.size() results may be repeated, because the user added characters that are known already.
   all.limit = options.limit + added_.size();
   SearchResults found = search(all);
-  if (added.results.empty() || found.results.empty() || added.approximate != found.approximate) {
-    const bool onlyAdded = found.results.empty() || (found.approximate && !added.results.empty());
-    if (onlyAdded)
-      found = {{}, 0, added.approximate, added.lacksWords};
-    else
-      added = {};
-  }
+  enum : char { onlyAdded, inCatalog, inSupplement, isFound };
+  std::vector<char> states(added_.size(), onlyAdded);
+  for (const auto& [place, i] : known_) states[i] = place < preparedRowCount() ? inCatalog : inSupplement;
   const bool cut = found.results.size() < found.total;
-
-  // For each added character that is also in the catalog or the supplement: (place, position in added_).
-  std::vector<std::pair<std::size_t, std::size_t>> places;
-  for (std::size_t i = 0; i < added_.size(); ++i) {
-    if (const auto place = placeOfHex(added_[i].computed.hex)) places.emplace_back(*place, i);
-  }
-  std::sort(places.begin(), places.end());
-  std::vector<char> isKnown(added_.size(), 0), seen(added_.size(), 0);
-  for (const auto& [place, i] : places) isKnown[i] = 1;
   for (SearchResult& result : found.results) {
-    const auto twin = std::lower_bound(places.begin(), places.end(), std::pair{result.index, std::size_t{0}});
-    const bool isTwin = twin != places.end() && twin->first == result.index;
-    result.index = isTwin ? twin->second : result.index + added_.size();
-    if (isTwin) seen[result.index] = 1;
+    const auto twin = addedAt(result.index);
+    result.index = twin ? *twin : result.index + added_.size();
+    if (twin && states[*twin] == inSupplement) states[*twin] = isFound;
   }
-  std::size_t total = found.total;
-  for (const SearchResult& result : added.results) {
-    // If the results of the catalog were truncated, found.total also counts the characters that were cut off.
-    // So an added character that is one of them must not be counted again.
-    if (!seen[result.index] && !(cut && isKnown[result.index])) ++total;
-  }
-
-  SearchResults merged{{}, total, found.approximate, found.lacksWords};
-  std::vector<SearchResult> both;
-  const auto isBefore = [](const SearchResult& a, const SearchResult& b) { return a.cost < b.cost; };
-  // Among results of equal cost, those of the catalog come first, because the catalog has data about which of
-  // its characters people want most.
-  std::merge(std::make_move_iterator(found.results.begin()), std::make_move_iterator(found.results.end()),
-             std::make_move_iterator(added.results.begin()), std::make_move_iterator(added.results.end()),
-             std::back_inserter(both), isBefore);
-  std::fill(seen.begin(), seen.end(), 0);
-  for (SearchResult& result : both) {
-    if (merged.results.size() == options.limit) break;
-    if (isOfUser(result) && std::exchange(seen[result.index], 1)) continue;
-    merged.results.push_back(std::move(result));
-  }
-  return merged;
+  std::erase_if(added.results, [&](const SearchResult& result) {
+    const char state = states[result.index];
+    // The catalog's index compares its characters with all others. Only the group "custom" is not in it.
+    const bool isRepeated = state == inCatalog && !inGroups;
+    // If results were cut off, the character may be among them, and is counted already.
+    if (isRepeated || (state == inSupplement && cut)) --added.total;
+    return isRepeated;
+  });
+  return search::merged(std::move(found), std::move(added), options.limit);
 }
 
-// Gives emoji the preferred skin tone, except an emoji that the query itself contains.
+// Returns the position in added_ of the character with this place, if the user added it.
+std::optional<std::size_t> CatalogSearch::addedAt(std::size_t place) const {
+  const auto found = std::lower_bound(known_.begin(), known_.end(), std::pair{place, std::size_t{0}});
+  return found != known_.end() && found->first == place ? std::optional(found->second) : std::nullopt;
+}
+
+// Gives emoji the preferred skin tone, except those that the query itself contains or that the user added.
 void CatalogSearch::useTone(SearchResults& found) const {
   for (SearchResult& result : found.results) {
-    if (search::isInQuery(result)) continue;
+    if (search::isInQuery(result) || addedAt(result.index)) continue;
     const std::string text = search::textAt(result.index);
     const std::string toned = search::skinTonesOf(text).empty() ? withSkinTone(text, tone_) : text;
     if (toned == text) continue;

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "glyphorium/entity/records.h"
@@ -67,12 +68,17 @@ class GLYPHORIUM_EXPORT CatalogSearch {
   std::size_t buildInPlace(const SearchResult& result) const { return result.index - added_.size(); }
 
  private:
+  std::optional<std::size_t> addedAt(std::size_t place) const;
   void useTone(SearchResults& found) const;
 
   std::vector<std::string> codes_;
   SkinTone tone_;
   std::vector<Entity> added_;
   std::optional<Search> addedSearch_;  // empty if the user added no characters
+  Search catalog_ = Search::ofCatalog();
+  // For each added character that is also in the catalog or the supplement, its place there (see
+  // supplement_search.h) and its position in added_. Sorted.
+  std::vector<std::pair<std::size_t, std::size_t>> known_;
 };
 
 }  // namespace glyph

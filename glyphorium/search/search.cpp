@@ -39,6 +39,21 @@ Search Search::ofCatalog() {
   return {{std::shared_ptr<void>(), &search::catalogIndex()}, 0};
 }
 
+Search Search::ofCatalogBeside(const Search& added) {
+  struct Changed {
+    std::vector<std::uint8_t> priors;
+    search::Index index;
+  };
+  const search::Index& catalog = search::catalogIndex();
+  auto own = std::make_shared<Changed>(Changed{{catalog.docPrior.begin(), catalog.docPrior.end()}, catalog});
+  for (std::uint32_t i = 0; added.index_ && i < added.index_->docCount(); ++i) {
+    const std::uint32_t doc = catalog.docOfCodePoint(added.index_->docCodePoint[i]);
+    if (doc != search::Index::noDoc) own->priors[doc] = added.index_->docPrior[i];
+  }
+  own->index.docPrior = own->priors;
+  return {{own, &own->index}, sizeof *own + own->priors.size()};
+}
+
 SearchResults Search::query(std::string_view text, const SearchOptions& options) const {
   if (!index_) return {};
   try {

@@ -145,7 +145,10 @@ class GLYPHORIUM_EXPORT Search {
   std::size_t byteCount() const noexcept;
 
  private:
+  friend class CatalogSearch;
   struct Own;
+  // Returns a search of the catalog in which the characters of `added` have the priors that they have there.
+  static Search ofCatalogBeside(const Search& added);
   Search(std::shared_ptr<const search::Index> index, std::size_t byteCount);
   std::optional<std::size_t> indexOfDoc(std::uint32_t doc) const noexcept;
 

@@ -2,8 +2,6 @@
 #include "glyphorium/search/supplement_search.h"
 
 #include <algorithm>
-#include <iterator>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -15,6 +13,7 @@
 #include "glyphorium/data/character_tables.h"
 #include "glyphorium/data/prepared_rows.h"
 #include "glyphorium/data/search_facts.h"
+#include "glyphorium/search/merging.h"
 #include "glyphorium/search/prepared_indexes.h"
 #include "glyphorium/search/query_answering.h"
 #include "glyphorium/search/skin_tones.h"
@@ -30,34 +29,6 @@ namespace {
 std::size_t placeOfKey(char32_t key) {
   const std::uint32_t doc = key < firstEmojiNumber ? catalogIndex().docOfCodePoint(key) : Index::noDoc;
   return doc == Index::noDoc ? preparedRowCount() + key : catalogIndex().docEntity[doc];
-}
-
-// If one of the answers changed the query more than the other, usually drops it; otherwise merges the
-// results. Replaces the keys in the results of the supplement by places.
-SearchResults merged(Answer ofCatalog, Answer ofSupplement, std::size_t limit) {
-  SearchResults& catalog = ofCatalog.results;
-  SearchResults& supplement = ofSupplement.results;
-  for (SearchResult& result : supplement.results)
-    result.index = placeOfKey(static_cast<char32_t>(result.index));
-  const auto change = [](const SearchResults& found) { return found.lacksWords + found.approximate; };
-  if (catalog.results.empty()) return std::move(supplement);
-  if (supplement.results.empty() || change(supplement) > change(catalog)) return std::move(catalog);
-  if (change(supplement) < change(catalog) && !ofSupplement.byMeaning) return std::move(supplement);
-  // Among results of equal cost, those of the catalog come first.
-  std::vector<SearchResult> both;
-  both.reserve(catalog.results.size() + supplement.results.size());
-  std::merge(std::make_move_iterator(catalog.results.begin()), std::make_move_iterator(catalog.results.end()),
-             std::make_move_iterator(supplement.results.begin()),
-             std::make_move_iterator(supplement.results.end()), std::back_inserter(both),
-             [](const SearchResult& a, const SearchResult& b) { return a.cost < b.cost; });
-  // An emoji of the catalog may be in both answers, if its variants have names of their own.
-  std::unordered_set<std::size_t> seen;
-  std::erase_if(both, [&](const SearchResult& result) { return !seen.insert(result.index).second; });
-  SearchResults all{std::move(both), 0, catalog.approximate, catalog.lacksWords};
-  const std::size_t repeated = catalog.results.size() + supplement.results.size() - all.results.size();
-  all.total = catalog.total + supplement.total - repeated;
-  if (all.results.size() > limit) all.results.resize(limit);
-  return all;
 }
 
 constexpr std::size_t mostExact = 12;
@@ -86,14 +57,23 @@ void putNamedEmojiFirst(SearchResults& found, const std::string& words) {
   }
 }
 
-SearchResults answerFromBoth(const ParsedQuery& query, SearchOptions options) {
+SearchResults answerFromBoth(const Index& ofCatalog, const ParsedQuery& query, SearchOptions options) {
   options.limit = std::max(options.limit, mostExact);
   Answer supplement = answer(supplementIndex(), query, options, false);
   const bool isFound = supplement.settled && supplement.whole && !supplement.byMeaning;
-  Answer catalog = answer(catalogIndex(), query, options, !isFound);
+  Answer catalog = answer(ofCatalog, query, options, !isFound);
   if (!supplement.settled && (catalog.results.results.empty() || catalog.results.lacksWords))
     supplement = answer(supplementIndex(), query, options, true);
-  SearchResults found = merged(std::move(catalog), std::move(supplement), options.limit);
+  for (SearchResult& result : supplement.results.results)
+    result.index = placeOfKey(static_cast<char32_t>(result.index));
+  // Han characters that match by their meanings do not displace the results of a changed query.
+  if (supplement.byMeaning && !catalog.results.results.empty() &&
+      change(supplement.results) < change(catalog.results)) {
+    supplement.results.approximate = catalog.results.approximate;
+    supplement.results.lacksWords = catalog.results.lacksWords;
+  }
+  // An emoji of the catalog may be in both answers, if its variants have names of their own.
+  SearchResults found = merged(std::move(catalog.results), std::move(supplement.results), options.limit);
   putNamedEmojiFirst(found, joined(query.words, " "));
   return found;
 }
@@ -121,12 +101,13 @@ std::string_view variantWith(std::size_t place, const std::vector<SkinTone>& ton
 
 // Searches for the query, from which the names of tones were removed, and returns the variants with these
 // tones of the emoji that it finds.
-SearchResults variants(ParsedQuery query, const std::vector<SkinTone>& tones, SearchOptions options) {
+SearchResults variants(const Index& catalog, ParsedQuery query, const std::vector<SkinTone>& tones,
+                       SearchOptions options) {
   const std::size_t limit = std::exchange(options.limit, preparedRowCount());
   query.bareText = joined(query.words, " ");
   query.signs.clear();
   query.otherCharacters.clear();
-  SearchResults found = answerFromBoth(query, options);
+  SearchResults found = answerFromBoth(catalog, query, options);
   std::erase_if(found.results, [&](SearchResult& result) {
     const auto place = emojiPlace(textAt(result.index));
     if (!place) return true;
@@ -190,16 +171,16 @@ std::string textAt(std::size_t place) {
   return utf8(preparedRow(place).codePoint);
 }
 
-SearchResults queryEverything(std::string_view text, const SearchOptions& options) {
+SearchResults queryEverything(const Index& catalog, std::string_view text, const SearchOptions& options) {
   const auto parsed = parseQuery(text);
   if (!parsed) return {};
   ParsedQuery reduced = *parsed;
   if (const std::vector<SkinTone> tones = takeSkinTones(reduced.words);
       !tones.empty() && !reduced.words.empty()) {
-    SearchResults found = variants(std::move(reduced), tones, options);
+    SearchResults found = variants(catalog, std::move(reduced), tones, options);
     if (!found.results.empty()) return found;
   }
-  SearchResults found = answerFromBoth(*parsed, options);
+  SearchResults found = answerFromBoth(catalog, *parsed, options);
   std::vector<SearchResult> others = withoutIndex(*parsed, !found.results.empty() && !found.approximate);
   if (!others.empty() && found.approximate) found = {};
   // If the query is an emoji of several code points, it comes before the characters that it consists of.

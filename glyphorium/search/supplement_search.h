@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "glyphorium/search/index.h"
 #include "glyphorium/search/search.h"
 
 namespace glyph::search {
@@ -13,8 +14,9 @@ namespace glyph::search {
 /// Searches the catalog and the supplement, and ranks the results together. SearchResult::index is a "place".
 /// A place below preparedRowCount() is the position of an entity of the catalog. Any other place is the sum
 /// of preparedRowCount() and a key of emoji_numbers.h. Names of skin tones in the text choose variants of
-/// emoji. `text` must not contain "group:", and `options` must have no groups.
-SearchResults queryEverything(std::string_view text, const SearchOptions& options);
+/// emoji. `catalog` is the index of the catalog, perhaps with other priors. `text` must not contain "group:",
+/// and `options` must have no groups.
+SearchResults queryEverything(const Index& catalog, std::string_view text, const SearchOptions& options);
 
 /// Returns true if the query itself contains the character or its code.
 inline bool isInQuery(const SearchResult& result) {

@@ -14,7 +14,7 @@ namespace glyph::search {
 /// memory for each of about 20,000 words, building an index takes 20 percent longer.
 class WordNumbers {
  public:
-  WordNumbers() : slots_(1u << 16, empty) { offsets_.push_back(0); }
+  WordNumbers() : slots_(1u << 10, empty) { offsets_.push_back(0); }
 
   std::uint32_t number(std::string_view word) {
     const std::uint64_t hash = hashOf(word);

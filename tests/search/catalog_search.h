@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <fstream>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,5 +46,30 @@ struct CatalogSearch {
     return catalog.buildInEntities();
   }
 };
+
+/// A line of queries.tsv.
+struct ListedQuery {
+  std::string query;
+  std::string wanted;  // hex codes separated by ","
+  std::string kind;
+  std::string language;
+};
+
+/// Returns the queries of queries.tsv.
+inline std::vector<ListedQuery> listedQueries() {
+  std::vector<ListedQuery> queries;
+  std::ifstream file(SEARCH_QUERY_LIST);
+  for (std::string line; std::getline(file, line);) {
+    if (line.starts_with("#")) continue;
+    std::istringstream columns(line);
+    ListedQuery query;
+    std::getline(columns, query.query, '\t');
+    std::getline(columns, query.wanted, '\t');
+    std::getline(columns, query.kind, '\t');
+    std::getline(columns, query.language, '\t');
+    queries.push_back(query);
+  }
+  return queries;
+}
 
 }  // namespace glyph::testing

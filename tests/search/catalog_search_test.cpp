@@ -3,6 +3,10 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <optional>
+#include <utility>
+
 #include "glyphorium/catalog/custom_entities.h"
 #include "tests/search/catalog_search.h"
 
@@ -20,15 +24,22 @@ std::vector<std::string> hexes(const CatalogSearch& search, const std::string& q
   return found;
 }
 
-// A CatalogSearch must give results in the same order as a single Search over the catalog and the added
-// characters. Building such a Search takes two hundred times as long.
+// The entities of the catalog and of added characters as one list, and a Search that is built from this list.
+// A CatalogSearch must find the same, but building it takes hundreds of times as long.
+struct WholeList {
+  explicit WholeList(const std::vector<std::string>& codes) : entities(customEntities(codes)) {
+    const std::vector<Entity>& catalog = testing::CatalogSearch::instance().entities;
+    entities.insert(entities.end(), catalog.begin(), catalog.end());
+    search.emplace(entities);
+  }
+  std::vector<Entity> entities;
+  std::optional<Search> search;
+};
+
 TEST(CatalogSearch, RanksResultsLikeASingleSearchOverBothLists) {
   const std::vector<std::string> codes{"2192", "05d0", "fffd", "0041,030a", "1f600", "2e3b"};
   const CatalogSearch search(codes);
-  std::vector<Entity> all = customEntities(codes);
-  const std::vector<Entity>& catalog = testing::CatalogSearch::instance().entities;
-  all.insert(all.end(), catalog.begin(), catalog.end());
-  const Search whole(all);
+  const WholeList whole(codes);
   for (const std::string query : {"arrow",
                                   "rightwards arrow",
                                   "→",
@@ -50,11 +61,42 @@ TEST(CatalogSearch, RanksResultsLikeASingleSearchOverBothLists) {
                                   "qqqqqq",
                                   ""}) {
     std::vector<std::string> expected;
-    const SearchResults found = whole.query(query, english);
-    for (const SearchResult& result : found.results) expected.push_back(all[result.index].computed.hex);
+    const SearchResults found = whole.search->query(query, english);
+    for (const SearchResult& result : found.results)
+      expected.push_back(whole.entities[result.index].computed.hex);
     EXPECT_EQ(hexes(search, query), expected) << query;
     EXPECT_EQ(search.query(query, english).total, found.total) << query;
     EXPECT_EQ(search.query(query, english).approximate, found.approximate) << query;
+  }
+}
+
+// The results of a query, ordered by cost and then by hex code, without those that have the last cost: of
+// these, some may have been cut off.
+template <class EntityOf>
+std::vector<std::pair<std::uint32_t, std::string>> byCost(const SearchResults& found, EntityOf entityOf) {
+  std::vector<std::pair<std::uint32_t, std::string>> results;
+  for (const SearchResult& result : found.results) {
+    if (found.results.size() == found.total || result.cost < found.results.back().cost)
+      results.emplace_back(result.cost, entityOf(result).computed.hex);
+  }
+  std::sort(results.begin(), results.end());
+  return results;
+}
+
+TEST(CatalogSearch, FindsForAllListedQueriesWhatASingleSearchFinds) {
+  const std::vector<std::string> codes{"2192", "27f6", "05d0", "1f600", "20ac",
+                                       "2764", "0041", "00bd", "21e8"};
+  const CatalogSearch search(codes);
+  const WholeList whole(codes);
+  for (const testing::ListedQuery& query : testing::listedQueries()) {
+    const SearchOptions options{60, {{query.language}}, {}, false};
+    const SearchResults found = search.query(query.query, options);
+    const SearchResults expected = whole.search->query(query.query, options);
+    EXPECT_EQ(byCost(found, [&](auto& result) { return search.entity(result); }),
+              byCost(expected, [&](auto& result) { return whole.entities[result.index]; }))
+        << query.query;
+    EXPECT_EQ(std::pair(found.total, found.approximate), std::pair(expected.total, expected.approximate))
+        << query.query;
   }
 }
 

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <map>
-#include <sstream>
 
 #include "glyphorium/characters/emoji.h"
 #include "glyphorium/codes/code_formats.h"
@@ -15,29 +13,8 @@ namespace glyph {
 namespace {
 
 using testing::CatalogSearch;
-
-struct ListedQuery {
-  std::string query;
-  std::string wanted;  // hex codes separated by ","
-  std::string kind;
-  std::string language;
-};
-
-std::vector<ListedQuery> listedQueries() {
-  std::vector<ListedQuery> queries;
-  std::ifstream file(SEARCH_QUERY_LIST);
-  for (std::string line; std::getline(file, line);) {
-    if (line.starts_with("#")) continue;
-    std::istringstream columns(line);
-    ListedQuery query;
-    std::getline(columns, query.query, '\t');
-    std::getline(columns, query.wanted, '\t');
-    std::getline(columns, query.kind, '\t');
-    std::getline(columns, query.language, '\t');
-    queries.push_back(query);
-  }
-  return queries;
-}
+using testing::listedQueries;
+using testing::ListedQuery;
 
 // Returns the position of the first wanted character in the results, starting at 1. Returns 0 if there is no
 // wanted character in the results.
