@@ -17,6 +17,7 @@
 #include "catalog.h"
 #include "character_card.h"
 #include "character_grid.h"
+#include "global_shortcut.h"
 #include "main_window.h"
 
 namespace {
@@ -55,7 +56,8 @@ struct Longest {
 struct Window {
   Catalog catalog;
   Appearance appearance{Appearance::Theme::light};
-  MainWindow window{catalog, appearance};
+  GlobalShortcut shortcut;
+  MainWindow window{catalog, appearance, shortcut};
   QLineEdit& field = *window.findChild<QLineEdit*>();
   CharacterGrid& grid = *window.findChild<CharacterGrid*>();
 

@@ -11,6 +11,7 @@
 #include "catalog.h"
 #include "character_card.h"
 #include "character_texts.h"
+#include "emoji_font.h"
 
 namespace browser {
 namespace {
@@ -83,6 +84,7 @@ AddDialog::AddDialog(Catalog& catalog, QWidget* parent)
     column->addWidget(widget);
   }
   setMinimumWidth(360);
+  keepEmojiColoured(*field_);
   connect(field_, &QLineEdit::textChanged, this, &AddDialog::preview);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -92,6 +94,7 @@ AddDialog::AddDialog(Catalog& catalog, QWidget* parent)
 void AddDialog::preview(const QString& text) {
   const NamedCharacters named = namedCharacters(catalog_, text);
   hexes_ = named.hexes;
+  message_->setFont(withEmojiFont(font(), named.message));
   message_->setText(named.message);
   add_->setEnabled(!hexes_.empty());
   hexes_.empty() ? glyph_->clear() : glyph_->setCharacter(catalog_.entity(hexes_.front()));

@@ -75,9 +75,16 @@ QScrollBar::handle:vertical { background: rgba(%1, 60); border-radius: 3px; min-
 QScrollBar::handle:vertical:hover { background: rgba(%1, 110); }
 QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
-QPushButton, QToolButton, QTabBar, QComboBox, QAbstractItemView { outline: none; }
+QPushButton, QToolButton, QTabBar, QComboBox, QCheckBox, QAbstractItemView { outline: none; }
 QLineEdit, QComboBox { border: 1px solid rgba(%1, 45); border-radius: 8px; padding: 5px 8px; background: %2; }
 QLineEdit:focus, QComboBox:focus { border: 2px solid %3; padding: 4px 7px; }
+QCheckBox { spacing: 8px; }
+QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid rgba(%1, 140); border-radius: 4px; }
+QCheckBox::indicator:checked { border-color: %3; background: %3; image: url(:/pictures/check-%7.svg); }
+QCheckBox::indicator:hover { border-color: %3; }
+QCheckBox::indicator:focus { border: 2px solid %4; width: 12px; height: 12px; }
+browser--CharacterCard { border: 2px solid transparent; }
+browser--CharacterCard:focus { border-color: %3; }
 QComboBox::drop-down { border: none; width: 26px; }
 QComboBox::down-arrow { image: url(:/pictures/down-%7.svg); width: 12px; height: 12px; }
 QComboBox QAbstractItemView { border: 1px solid rgba(%1, 50); background: %2; padding: 4px; }
@@ -87,7 +94,7 @@ QPushButton:pressed { background: rgba(%1, 52); }
 QPushButton:focus { border-color: %3; }
 QPushButton:default { background: %6; color: white; }
 QPushButton:default:hover { background: rgba(%8, 225); }
-QPushButton:default:focus { border-color: %4; }
+QPushButton:default:focus { border-color: rgb(%1); }
 QPushButton:default:disabled { background: rgba(%1, 22); color: rgba(%1, 110); }
 QPushButton:flat { background: transparent; color: %4; padding: 2px 8px; }
 QPushButton:flat:hover { background: rgba(%1, 22); }

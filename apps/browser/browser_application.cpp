@@ -29,6 +29,9 @@ BrowserApplication::BrowserApplication(Appearance::Theme theme) : appearance_(th
   connect(&lingering_, &QTimer::timeout, this, &BrowserApplication::quitUnlessNeeded);
   connect(&watch_, &SettingsWatch::changed, &catalog_, &Catalog::readSettings);
   connect(&service_, &BrowserService::requested, this, &BrowserApplication::serve);
+  connect(&shortcut_, &GlobalShortcut::activated, this,
+          [this](const QString& token) { serve({Request::Kind::pick, {}, token}); });
+  if (preferences::hasPickerKey()) shortcut_.bind();
   GlyphRenderer::shared().setFamily(preferences::glyphFamily());
 }
 
@@ -49,7 +52,7 @@ void BrowserApplication::serve(const Request& request) {
 
 void BrowserApplication::showWindow(const QString& words) {
   if (!window_) {
-    window_ = std::make_unique<MainWindow>(catalog_, appearance_);
+    window_ = std::make_unique<MainWindow>(catalog_, appearance_, shortcut_);
     connect(window_.get(), &MainWindow::closed, this, [this] {
       // Delete the window later, because it is still handling an event.
       window_.release()->deleteLater();

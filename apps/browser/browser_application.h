@@ -8,6 +8,7 @@
 #include "appearance.h"
 #include "browser_service.h"
 #include "catalog.h"
+#include "global_shortcut.h"
 #include "settings_watch.h"
 
 namespace browser {
@@ -38,6 +39,7 @@ class BrowserApplication : public QObject {
   Appearance appearance_;
   SettingsWatch watch_;
   BrowserService service_;
+  GlobalShortcut shortcut_;
   std::unique_ptr<MainWindow> window_;
   std::unique_ptr<Picker> picker_;
   QString focusedBefore_;  // the window that the picker types into

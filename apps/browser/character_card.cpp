@@ -20,6 +20,7 @@
 #include "catalog.h"
 #include "character_grid.h"
 #include "character_texts.h"
+#include "elided_label.h"
 #include "flow_layout.h"
 #include "group_titles.h"
 #include "icons.h"
@@ -42,19 +43,15 @@ QLabel* newHeading(const QString& title) {
   return heading;
 }
 
-// A label of one line. If the text is too wide, it ends with an ellipsis.
-class ElidedLabel : public QLabel {
- public:
-  using QLabel::QLabel;
-  QSize minimumSizeHint() const override { return {40, QLabel::minimumSizeHint().height()}; }
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    painter.drawText(rect(), static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading),
-                     fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+// The tables have titles of the same width, so that their values are aligned with each other.
+int titleWidth() {
+  const QFontMetrics metrics(QGuiApplication::font());
+  int width = 0;
+  for (const glyph::CopyForm& form : glyph::copyForms()) {
+    width = std::max(width, metrics.horizontalAdvance(formTitle(form)));
   }
-};
+  return width;
+}
 
 // A button that shows a character.
 class CharacterButton : public QToolButton {
@@ -157,11 +154,12 @@ CharacterCard::CharacterCard(Catalog& catalog, QWidget* parent)
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setAccessibleName(tr("Character"));
   setMinimumWidth(240);
-  layout_->setContentsMargins(16, 14, 16, 16);
+  layout_->setContentsMargins(14, 12, 14, 14);
   layout_->setSpacing(4);
   makeHead();
   note_ = newText(true);
   note_->setTextFormat(Qt::RichText);
+  note_->setTextInteractionFlags(Qt::TextBrowserInteraction);
   noteSection_ = addSection(tr("Usage"), note_);
   connect(note_, &QLabel::linkActivated, this, &CharacterCard::characterChosen);
   variants_ = addCharacterRow(tr("Skin tones"));
@@ -188,7 +186,8 @@ QLabel* CharacterCard::newText(bool isSelectable) {
   auto* const label = new QLabel;
   label->setWordWrap(true);
   label->setTextFormat(Qt::PlainText);
-  if (isSelectable) label->setTextInteractionFlags(Qt::TextBrowserInteraction);
+  // Tab does not stop at a text without links.
+  if (isSelectable) label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   return label;
 }
 
@@ -438,6 +437,7 @@ QGridLayout* CharacterCard::newTable() {
   grid->setHorizontalSpacing(10);
   grid->setVerticalSpacing(5);
   grid->setColumnStretch(1, 1);
+  grid->setColumnMinimumWidth(0, titleWidth());
   return grid;
 }
 

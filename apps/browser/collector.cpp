@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QToolButton>
 
+#include "emoji_font.h"
 #include "icons.h"
 
 namespace browser {
@@ -21,12 +22,9 @@ Collector::Collector(QWidget* parent) : QWidget(parent), field_(new QLineEdit) {
   QFont font = field_->font();
   font.setPointSizeF(font.pointSizeF() * 1.3);
   field_->setFont(font);
+  keepEmojiColoured(*field_);
   auto* const copy = new QPushButton(symbolIcon(Symbol::copy), tr("Copy all"));
-  auto* const close = new QToolButton;
-  close->setIcon(symbolIcon(Symbol::close));
-  close->setAutoRaise(true);
-  close->setToolTip(tr("Empty the collection"));
-  close->setAccessibleName(close->toolTip());
+  QToolButton* const close = newIconButton(Symbol::close, tr("Empty the collection"));
   row->addWidget(title);
   row->addWidget(field_, 1);
   row->addWidget(copy);

@@ -83,6 +83,25 @@ QStringList FontCoverage::families(const std::u32string& codePoints, FontClass f
   return all.mid(0, limit);
 }
 
+QString emojiFamily() {
+  FcPattern* const pattern = FcPatternCreate();
+  FcPatternAddString(pattern, FC_FAMILY, bytes("emoji"));
+  FcConfigSubstitute(nullptr, pattern, FcMatchPattern);
+  FcDefaultSubstitute(pattern);
+  FcResult result = FcResultMatch;
+  FcPattern* const font = FcFontMatch(nullptr, pattern, &result);
+  FcPatternDestroy(pattern);
+  FcChar8* name = nullptr;
+  FcBool isColoured = FcFalse;
+  QString family;
+  if (font && FcPatternGetBool(font, FC_COLOR, 0, &isColoured) == FcResultMatch && isColoured &&
+      FcPatternGetString(font, FC_FAMILY, 0, &name) == FcResultMatch) {
+    family = QString::fromUtf8(reinterpret_cast<const char*>(name));
+  }
+  if (font) FcPatternDestroy(font);
+  return family;
+}
+
 QString fontPackage(char32_t codePoint) {
   const auto within = [codePoint](char32_t first, char32_t last) {
     return codePoint >= first && codePoint <= last;

@@ -36,6 +36,9 @@ class FontCoverage {
   mutable std::unique_ptr<Fonts> classes_[3];  // made on first use
 };
 
+/// Returns the family that the desktop uses for coloured emoji, or an empty text if there is none.
+QString emojiFamily();
+
 /// Returns the name of the Debian package whose fonts have a glyph for the code point. Empty for a
 /// private-use code point, because there is no common font for it.
 QString fontPackage(char32_t codePoint);

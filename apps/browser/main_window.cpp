@@ -23,12 +23,14 @@
 #include "catalog.h"
 #include "character_card.h"
 #include "character_grid.h"
+#include "character_menus.h"
 #include "character_texts.h"
 #include "collector.h"
+#include "elided_label.h"
+#include "emoji_font.h"
 #include "icons.h"
 #include "preferences_dialog.h"
 #include "sidebar.h"
-#include "skin_tones.h"
 #include "toast.h"
 #include "window_settings.h"
 
@@ -41,9 +43,10 @@ constexpr int narrowWidth = 860;
 
 }  // namespace
 
-MainWindow::MainWindow(Catalog& catalog, Appearance& appearance)
+MainWindow::MainWindow(Catalog& catalog, Appearance& appearance, GlobalShortcut& shortcut)
     : catalog_(catalog),
       appearance_(appearance),
+      shortcut_(shortcut),
       filter_(catalog, glyph::filteredEntities()),
       columns_(new QSplitter),
       characterAndCard_(new QSplitter),
@@ -100,7 +103,12 @@ QWidget* MainWindow::makeHeader() {
   QWidget::addAction(openMenu);
   connect(sidebarButton_, &QToolButton::clicked, this, &MainWindow::toggleSidebar);
   connect(add, &QToolButton::clicked, this, &MainWindow::addCharacter);
-  connect(searchField_, &QLineEdit::textChanged, &filter_, &CharacterFilter::setQuery);
+  connect(searchField_, &QLineEdit::textChanged, this, [this](const QString& text) {
+    // The list of groups has no entry for the characters of a text, so a search there would find too little.
+    if (!text.isEmpty() && filter_.scope().kind == Scope::Kind::text) chooseScope({Scope::Kind::all});
+    filter_.setQuery(text);
+  });
+  keepEmojiColoured(*searchField_);
   return header;
 }
 
@@ -114,7 +122,7 @@ QWidget* MainWindow::makeHitBar() {
   back_->hide();
   row->addWidget(back_);
   connect(back_, &QPushButton::clicked, this, &MainWindow::goBack);
-  hits_ = new QLabel;
+  hits_ = new ElidedLabel;
   hits_->setForegroundRole(QPalette::PlaceholderText);
   hits_->setTextFormat(Qt::PlainText);
   hits_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -239,11 +247,12 @@ void MainWindow::makeUndoActions() {
   QAction* const redo = menu_->addAction(tr("Redo"), &stack, &QUndoStack::redo);
   undo->setShortcut(QKeySequence::Undo);
   redo->setShortcut(QKeySequence::Redo);
-  const auto refresh = [=, &stack] {
+  const auto refresh = [=, this, &stack] {
     undo->setEnabled(stack.canUndo());
     redo->setEnabled(stack.canRedo());
     undo->setText(stack.canUndo() ? tr("Undo: %1").arg(stack.undoText()) : tr("Undo"));
     redo->setText(stack.canRedo() ? tr("Redo: %1").arg(stack.redoText()) : tr("Redo"));
+    for (QAction* const action : {undo, redo}) action->setFont(withEmojiFont(menu_->font(), action->text()));
   };
   connect(&stack, &QUndoStack::indexChanged, undo, refresh);
   refresh();
@@ -304,8 +313,10 @@ void MainWindow::showHits() {
   QString empty;
   if (isSearch) {
     empty = tr("Nothing found for “%1”.").arg(filter_.query().trimmed().left(60));
+    if (filter_.elsewhere() > 0) empty += QLatin1Char('\n') + tr("Enter searches all characters.");
   } else if (filter_.scope().kind == Scope::Kind::displayed) {
-    empty = tr("No group has a check mark. Check groups at the left to see their characters together here.");
+    empty = tr("No checked group has characters. Check groups in the list of groups to see their characters "
+               "together here.");
   } else if (filter_.scope().kind == Scope::Kind::favourites) {
     empty = tr("No favourites yet. Ctrl+D makes the current character a favourite.");
   } else if (filter_.scope().kind == Scope::Kind::recentlyCopied) {
@@ -437,16 +448,9 @@ void MainWindow::showMenu(int, QPoint globalPosition) {
   QAction* const copy = menu.addAction(symbolIcon(Symbol::copy), tr("Copy"), this, &MainWindow::copyCurrent);
   copy->setShortcut(QKeySequence::Copy);
   QMenu& forms = *menu.addMenu(tr("Copy as"));
-  for (const glyph::CopyForm& form : glyph::copyForms()) {
-    const auto text = form.text(entity);
-    if (!text || form.identifier == "character") continue;
-    const QString shown = fromUtf8(*text).left(28).replace(QLatin1Char('&'), QLatin1String("&&"));
-    forms.addAction(formTitle(form) + QLatin1Char('\t') + shown, this, [this, &form] { copyAs(form); });
-  }
-  auto* const tones = new QMenu(tr("Skin tone"), &menu);
-  if (addSkinTones(*tones, entity,
-                   [this, entity](glyph::SkinTone tone) { catalog_.copyWithTone(entity, tone); }))
-    menu.addMenu(tones);
+  addForms(forms, entity, [this](const glyph::CopyForm& form) { copyAs(form); });
+  addSkinToneMenu(menu, entity,
+                  [this, entity](glyph::SkinTone tone) { catalog_.copyWithTone(entity, tone); });
   menu.addSeparator();
   menu.addAction(symbolIcon(Symbol::collect), tr("Collect"), this, &MainWindow::collectCurrent);
   const bool isFavourite = catalog_.isFavourite(entity.computed.hex);
@@ -631,7 +635,7 @@ void MainWindow::showShortcuts() {
 }
 
 void MainWindow::showPreferences() {
-  PreferencesDialog(catalog_, appearance_, this).exec();
+  PreferencesDialog(catalog_, appearance_, shortcut_, this).exec();
 }
 
 void MainWindow::showAbout() {

@@ -21,6 +21,7 @@ class Catalog;
 class CharacterCard;
 class CharacterGrid;
 class Collector;
+class GlobalShortcut;
 class Sidebar;
 class Toast;
 
@@ -30,7 +31,7 @@ class MainWindow : public QWidget {
   Q_OBJECT
 
  public:
-  MainWindow(Catalog& catalog, Appearance& appearance);
+  MainWindow(Catalog& catalog, Appearance& appearance, GlobalShortcut& shortcut);
   ~MainWindow() override;
 
   /// Searches all characters for the text. An empty text only moves the focus to the search field.
@@ -97,6 +98,7 @@ class MainWindow : public QWidget {
 
   Catalog& catalog_;
   Appearance& appearance_;
+  GlobalShortcut& shortcut_;
   CharacterFilter filter_;
   QSplitter* columns_;
   QSplitter* characterAndCard_;

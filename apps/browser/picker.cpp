@@ -15,11 +15,12 @@
 
 #include "catalog.h"
 #include "character_grid.h"
+#include "character_menus.h"
 #include "character_texts.h"
 #include "collector.h"
+#include "emoji_font.h"
 #include "icons.h"
 #include "preferences.h"
-#include "skin_tones.h"
 
 namespace browser {
 namespace {
@@ -74,12 +75,13 @@ Picker::Picker(Catalog& catalog)
   inset(name_);
   inset(keys_);
   connect(field_, &QLineEdit::textChanged, &filter_, &CharacterFilter::setQuery);
+  keepEmojiColoured(*field_);
   connect(&filter_, &CharacterFilter::changed, this, &Picker::showCharacters);
   connect(grid_, &CharacterGrid::currentChanged, this, &Picker::showCurrent);
   connect(grid_, &CharacterGrid::activated, this, &Picker::pick);
   connect(grid_, &CharacterGrid::clicked, this, [this](int index) { pick(index, Qt::NoModifier); });
   connect(grid_, &CharacterGrid::held, this, &Picker::offerSkinTones);
-  connect(grid_, &CharacterGrid::menuRequested, this, &Picker::offerSkinTones);
+  connect(grid_, &CharacterGrid::menuRequested, this, &Picker::showMenu);
   connect(grid_, &CharacterGrid::collected, this, &Picker::collect);
   connect(grid_, &CharacterGrid::typed, this, [this](const QString& text) {
     field_->setFocus();
@@ -131,22 +133,35 @@ void Picker::pick(int index, Qt::KeyboardModifiers modifiers) {
     return;
   }
   const glyph::Entity entity = grid_->character(index);
-  const glyph::CopyForm* form = glyph::copyForm("character");
-  if (modifiers & Qt::AltModifier) form = &catalog_.otherForm(entity);
-  const auto text = form->text(entity);
+  pickAs(entity, modifiers & Qt::AltModifier ? catalog_.otherForm(entity) : *glyph::copyForm("character"));
+}
+
+void Picker::pickAs(const glyph::Entity& entity, const glyph::CopyForm& form) {
+  const auto text = form.text(entity);
   if (!text) return;
-  catalog_.copy(entity, *form);
+  catalog_.copy(entity, form);
   finish(fromUtf8(*text));
+}
+
+void Picker::pickWithTone(const glyph::Entity& emoji, glyph::SkinTone tone) {
+  catalog_.copyWithTone(emoji, tone);
+  finish(QString::fromStdString(glyph::withSkinTone(emoji.computed.symbol, tone)));
 }
 
 void Picker::offerSkinTones(int index, QPoint globalPosition) {
   const glyph::Entity entity = grid_->character(index);
   QMenu menu(this);
-  const bool hasTones = addSkinTones(menu, entity, [&](glyph::SkinTone tone) {
-    catalog_.copyWithTone(entity, tone);
-    finish(QString::fromStdString(glyph::withSkinTone(entity.computed.symbol, tone)));
-  });
-  if (hasTones) menu.exec(globalPosition);
+  if (addSkinTones(menu, entity, [&](glyph::SkinTone tone) { pickWithTone(entity, tone); }))
+    menu.exec(globalPosition);
+}
+
+void Picker::showMenu(int index, QPoint globalPosition) {
+  const glyph::Entity entity = grid_->character(index);
+  QMenu menu(this);
+  addForms(menu, entity, [&](const glyph::CopyForm& form) { pickAs(entity, form); });
+  menu.addSeparator();
+  addSkinToneMenu(menu, entity, [&](glyph::SkinTone tone) { pickWithTone(entity, tone); });
+  menu.exec(globalPosition);
 }
 
 void Picker::collect(int index) {

@@ -43,6 +43,9 @@ class Picker : public QWidget {
   void showCurrent();
   void pick(int index, Qt::KeyboardModifiers modifiers);
   void collect(int index);
+  void pickAs(const glyph::Entity& entity, const glyph::CopyForm& form);
+  void pickWithTone(const glyph::Entity& emoji, glyph::SkinTone tone);
+  void showMenu(int index, QPoint globalPosition);
   void offerSkinTones(int index, QPoint globalPosition);
   void finish(const QString& text);
 

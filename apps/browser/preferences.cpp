@@ -24,6 +24,7 @@ T stored(std::string_view key, T otherwise) {
 constexpr std::string_view otherFormKey = "browserOtherForm";
 constexpr std::string_view glyphFamilyKey = "browserGlyphFamily";
 constexpr std::string_view pickerTypesKey = "browserPickerTypes";
+constexpr std::string_view pickerKeyKey = "browserPickerKey";
 constexpr std::string_view typingExplainedKey = "browserTypingExplained";
 
 QString autostartFile() {
@@ -57,6 +58,14 @@ bool pickerTypes() {
 
 void setPickerTypes(bool types) {
   glyph::settingsStore()->set(pickerTypesKey, types);
+}
+
+bool hasPickerKey() {
+  return stored(pickerKeyKey, false);
+}
+
+void setHasPickerKey(bool has) {
+  glyph::settingsStore()->set(pickerKeyKey, has);
 }
 
 bool wasTypingExplained() {

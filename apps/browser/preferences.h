@@ -20,6 +20,10 @@ void setGlyphFamily(const QString& family);
 bool pickerTypes();
 void setPickerTypes(bool types);
 
+/// Whether the desktop opens the picker with a key: see GlobalShortcut. False by default.
+bool hasPickerKey();
+void setHasPickerKey(bool has);
+
 /// Whether the program has already told the user that the picker cannot type on this desktop.
 bool wasTypingExplained();
 void setTypingExplained();

@@ -15,7 +15,9 @@
 
 #include "appearance.h"
 #include "catalog.h"
+#include "character_menus.h"
 #include "character_texts.h"
+#include "global_shortcut.h"
 #include "glyph_renderer.h"
 #include "preferences.h"
 #include "typing.h"
@@ -26,38 +28,38 @@ namespace {
 QLabel* newText(const QString& text) {
   auto* const label = new QLabel(text);
   label->setWordWrap(true);
-  label->setTextInteractionFlags(Qt::TextBrowserInteraction);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   return label;
 }
 
-// Returns a text that explains, for each desktop, how to start the picker with a key.
+// Returns a text that explains, for each desktop, how to start the picker with a key. Each command has a line
+// of its own, so that it is not wrapped.
 QString keyBindings() {
   struct Desktop {
-    QString name, how;
+    QString name, how, command;
   };
-  const QString command = QStringLiteral("<code>glyphorium-browser --pick</code>");
+  const QString command = QStringLiteral("glyphorium-browser --pick");
   const Desktop desktops[] = {
       {QStringLiteral("GNOME"),
-       PreferencesDialog::tr("Settings › Keyboard › View and Customise Shortcuts › Custom Shortcuts: "
-                             "add a shortcut with the command %1")
-           .arg(command)},
-      {QStringLiteral("KDE"),
-       PreferencesDialog::tr("System Settings › Shortcuts › Add Command: %1").arg(command)},
-      {QStringLiteral("Sway, i3"),
-       PreferencesDialog::tr("a line in the configuration: %1")
-           .arg(QStringLiteral("<code>bindsym $mod+period exec glyphorium-browser --pick</code>"))},
+       PreferencesDialog::tr("Settings › Keyboard › View and Customise Shortcuts › Custom Shortcuts, with the "
+                             "command"),
+       command},
+      {QStringLiteral("KDE"), PreferencesDialog::tr("System Settings › Shortcuts › Add Command"), command},
+      {QStringLiteral("Sway, i3"), PreferencesDialog::tr("a line in the configuration"),
+       QStringLiteral("bindsym $mod+period exec ") + command},
   };
-  QString text = QStringLiteral("<p>%1</p><ul style=\"margin-left:-24px\">")
-                     .arg(PreferencesDialog::tr("A key opens the picker over every window:"));
+  QString text;
   for (const Desktop& desktop : desktops) {
-    text += QStringLiteral("<li><b>%1</b>: %2</li>").arg(desktop.name, desktop.how);
+    text += QStringLiteral("<p><b>%1</b>: %2<br><code>%3</code></p>")
+                .arg(desktop.name, desktop.how, desktop.command);
   }
-  return text + QStringLiteral("</ul>");
+  return text;
 }
 
 }  // namespace
 
-PreferencesDialog::PreferencesDialog(Catalog& catalog, Appearance& appearance, QWidget* parent)
+PreferencesDialog::PreferencesDialog(Catalog& catalog, Appearance& appearance, GlobalShortcut& shortcut,
+                                     QWidget* parent)
     : QDialog(parent) {
   setWindowTitle(tr("Preferences"));
   auto* const column = new QVBoxLayout(this);
@@ -65,7 +67,7 @@ PreferencesDialog::PreferencesDialog(Catalog& catalog, Appearance& appearance, Q
   pages->setDocumentMode(true);
   pages->tabBar()->setDrawBase(false);
   pages->addTab(makeGeneralPage(catalog, appearance), tr("General"));
-  pages->addTab(makePickerPage(), tr("Picker"));
+  pages->addTab(makePickerPage(shortcut), tr("Picker"));
   pages->addTab(makeSearchPage(), tr("Desktop search"));
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
   column->addWidget(pages);
@@ -104,7 +106,7 @@ QWidget* PreferencesDialog::makeGeneralPage(Catalog& catalog, Appearance& appear
 
   auto* const tone = new QComboBox;
   for (const glyph::SkinTone one : glyph::allSkinTones) {
-    tone->addItem(QString::fromStdString(glyph::withSkinTone("👋", one)));
+    tone->addItem(skinToneTitle("👋", one));
   }
   tone->setCurrentIndex(static_cast<int>(catalog.skinTone()));
   connect(tone, &QComboBox::activated, this, [&catalog](int index) {
@@ -123,7 +125,7 @@ QWidget* PreferencesDialog::makeGeneralPage(Catalog& catalog, Appearance& appear
   return page;
 }
 
-QWidget* PreferencesDialog::makePickerPage() {
+QWidget* PreferencesDialog::makePickerPage(GlobalShortcut& shortcut) {
   auto* const page = new QWidget;
   auto* const column = new QVBoxLayout(page);
   column->setContentsMargins(12, 16, 12, 12);
@@ -143,8 +145,36 @@ QWidget* PreferencesDialog::makePickerPage() {
     if (!preferences::setStartsWithDesktop(on)) starts->setChecked(preferences::startsWithDesktop());
   });
   column->addWidget(starts);
-  column->addWidget(newText(keyBindings()));
+  auto* const hasKey = new QCheckBox(tr("&Let the desktop open the picker with a key"));
+  QLabel* const key = newText({});
+  QLabel* const bindings = newText(keyBindings());
+  for (QWidget* const widget : {static_cast<QWidget*>(hasKey), static_cast<QWidget*>(key),
+                                static_cast<QWidget*>(bindings)}) {
+    column->addWidget(widget);
+  }
   column->addStretch();
+  const auto refresh = [&shortcut, hasKey, key, bindings] {
+    const GlobalShortcut::State state = shortcut.state();
+    const bool isBound = state == GlobalShortcut::State::bound;
+    hasKey->setVisible(state != GlobalShortcut::State::unavailable);
+    const QSignalBlocker blocker(hasKey);
+    hasKey->setChecked(isBound || state == GlobalShortcut::State::asking);
+    bindings->setVisible(!isBound);
+    if (isBound && shortcut.keyText().isEmpty()) {
+      key->setText(tr("The desktop’s settings show the key. It works while Glyphorium runs."));
+    } else if (isBound) {
+      key->setText(tr("The key is %1. It works while Glyphorium runs.").arg(shortcut.keyText()));
+    } else if (state == GlobalShortcut::State::unavailable) {
+      key->setText(tr("This desktop does not let programs ask for a key. Its own settings can open the picker "
+                      "with a key over every window:"));
+    } else {
+      key->setText(tr("The desktop’s own settings can also open the picker with a key over every window:"));
+    }
+  };
+  connect(hasKey, &QCheckBox::toggled, this, [&shortcut](bool on) { on ? shortcut.bind() : shortcut.release(); });
+  connect(&shortcut, &GlobalShortcut::stateChanged, page, refresh);
+  refresh();
+  shortcut.findPortal();
   return page;
 }
 

@@ -9,6 +9,7 @@ namespace browser {
 
 class Appearance;
 class Catalog;
+class GlobalShortcut;
 
 /// A dialog for the user's choices about windows, the picker and the desktop's search. A choice takes effect
 /// at once.
@@ -16,11 +17,11 @@ class PreferencesDialog : public QDialog {
   Q_OBJECT
 
  public:
-  PreferencesDialog(Catalog& catalog, Appearance& appearance, QWidget* parent);
+  PreferencesDialog(Catalog& catalog, Appearance& appearance, GlobalShortcut& shortcut, QWidget* parent);
 
  private:
   QWidget* makeGeneralPage(Catalog& catalog, Appearance& appearance);
-  QWidget* makePickerPage();
+  QWidget* makePickerPage(GlobalShortcut& shortcut);
   QWidget* makeSearchPage();
 };
 

@@ -5,6 +5,8 @@
 #include <QEvent>
 #include <QPainter>
 
+#include "emoji_font.h"
+
 namespace browser {
 
 Toast::Toast(QWidget* parent) : QLabel(parent) {
@@ -19,6 +21,7 @@ Toast::Toast(QWidget* parent) : QLabel(parent) {
 }
 
 void Toast::showMessage(const QString& text, int milliseconds) {
+  setFont(withEmojiFont(parentWidget()->font(), text));
   const int widest = parentWidget()->width() - 80;
   setText(fontMetrics().elidedText(text.simplified(), Qt::ElideMiddle, widest));
   setAccessibleName(text);

@@ -14,6 +14,7 @@
 #include "appearance.h"
 #include "browser_fixture.h"
 #include "character_card.h"
+#include "global_shortcut.h"
 #include "glyph_renderer.h"
 #include "picker.h"
 #include "settings_watch.h"
@@ -50,7 +51,8 @@ struct MainWindowTest : BrowserTest {
 
   Catalog catalog;
   Appearance appearance{Appearance::Theme::light};
-  MainWindow window{catalog, appearance};
+  GlobalShortcut shortcut;
+  MainWindow window{catalog, appearance, shortcut};
   QLineEdit& field = *window.findChild<QLineEdit*>();
   CharacterGrid& grid = *window.findChild<CharacterGrid*>();
   Sidebar& sidebar = *window.findChild<Sidebar*>();
@@ -169,7 +171,7 @@ TEST_F(MainWindowTest, RestoresTheStateInWhichItWasClosed) {
   choose({Scope::Kind::group, "arrows"});
   grid.setCellSize(80);
   window.close();
-  MainWindow next(catalog, appearance);
+  MainWindow next(catalog, appearance, shortcut);
   EXPECT_EQ(next.findChild<CharacterGrid*>()->count(), 112);
   EXPECT_EQ(next.findChild<CharacterGrid*>()->cellSize(), 80);
 }
@@ -285,7 +287,8 @@ TEST_F(BrowserTest, IsTranslatedIntoFiveLanguages) {
     QApplication::installTranslator(&translator);
     Catalog catalog;
     Appearance appearance(Appearance::Theme::light);
-    MainWindow window(catalog, appearance);
+    GlobalShortcut shortcut;
+    MainWindow window(catalog, appearance, shortcut);
     window.resize(480, 700);
     window.show();
     EXPECT_EQ(window.width(), 480) << language;
