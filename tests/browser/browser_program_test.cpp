@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include <glyphorium/glyphorium.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/wait.h>
 
-#include <sstream>
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusVirtualObject>
+#include <QTest>
 
 #include "tests/support/display_server.h"
 
@@ -15,6 +21,56 @@ namespace {
 using glyph::eventually;
 using glyph::fileContent;
 using glyph::runProgram;
+
+// Answers as a desktop's portal for global shortcuts does, and presses the key.
+class ShortcutPortal : public QDBusVirtualObject {
+ public:
+  explicit ShortcutPortal(bool refuses)
+      : bus_(QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), name)),
+        refuses_(refuses) {
+    bus_.registerVirtualObject(path, this, QDBusConnection::SubPath);
+    EXPECT_TRUE(bus_.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
+  }
+  ~ShortcutPortal() override { QDBusConnection::disconnectFromBus(name); }
+
+  bool isAnswered() const { return isAnswered_; }
+  void press() {
+    QDBusMessage signal = QDBusMessage::createTargetedSignal(client_, path, portal, "Activated");
+    signal << QVariant::fromValue(QDBusObjectPath(session)) << "pick" << qulonglong{0} << QVariantMap();
+    bus_.send(signal);
+  }
+
+  QString introspect(const QString&) const override { return {}; }
+  bool handleMessage(const QDBusMessage& call, const QDBusConnection&) override {
+    if (call.interface() != portal) return false;
+    client_ = call.service();
+    const auto options = qdbus_cast<QVariantMap>(call.arguments().constLast());
+    const QString request = QString(path) + "/request/" + client_.mid(1).replace('.', '_') + '/' +
+                            options.value("handle_token").toString();
+    bus_.send(call.createReply(QVariant::fromValue(QDBusObjectPath(request))));
+    QVariantMap results{{"session_handle", session}};
+    isAnswered_ = call.member() == "BindShortcuts";
+    if (isAnswered_) {
+      EXPECT_EQ(call.signature(), "oa(sa{sv})sa{sv}");
+      results = {{"shortcuts", call.arguments().at(1)}};
+    }
+    QDBusMessage response = QDBusMessage::createTargetedSignal(
+        client_, request, "org.freedesktop.portal.Request", "Response");
+    response << (isAnswered_ && refuses_ ? 1U : 0U) << results;
+    bus_.send(response);
+    return true;
+  }
+
+ private:
+  static constexpr const char* name = "portal of the test";
+  static constexpr const char* path = "/org/freedesktop/portal/desktop";
+  static constexpr const char* portal = "org.freedesktop.portal.GlobalShortcuts";
+  static constexpr const char* session = "/org/freedesktop/portal/desktop/session/test";
+  QDBusConnection bus_;
+  QString client_;
+  bool refuses_ = false;
+  bool isAnswered_ = false;
+};
 
 struct BrowserProgramTest : testing::Test {
   glyph::XServer server;
@@ -90,6 +146,24 @@ TEST_F(BrowserProgramTest, ACopyOutlivesTheProgram) {
   keys("key ctrl+q");
   ASSERT_TRUE(ends(process));
   EXPECT_TRUE(eventually([] { return pasted() == "€"; }));
+}
+
+TEST_F(BrowserProgramTest, AKeyOfTheDesktopOpensThePicker) {
+  constexpr std::string_view wish = "browserPickerKey";
+  glyph::SqliteSettingsStore().set(wish, true);
+  for (const bool refuses : {false, true}) {
+    ShortcutPortal portal(refuses);
+    const int process = start("");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return portal.isAnswered(); }));
+    EXPECT_EQ(windows("Pick a character"), "");
+    portal.press();
+    const bool opens = QTest::qWaitFor([] { return !windows("Pick a character").empty(); }, refuses ? 500 : 5'000);
+    EXPECT_EQ(opens, !refuses);
+    const auto wanted = glyph::SqliteSettingsStore().object(wish);
+    EXPECT_EQ(wanted, glyph::SettingValue(!refuses)) << "a refusal is not asked for again at the next start";
+    kill(process, SIGTERM);
+    ASSERT_TRUE(ends(process));
+  }
 }
 
 }  // namespace
