@@ -13,6 +13,8 @@
 #include <QStyleFactory>
 #include <QToolTip>
 
+#include <cmath>
+
 namespace browser {
 namespace {
 
@@ -67,7 +69,15 @@ QPalette paletteOf(const Colours& colours) {
   return palette;
 }
 
-// The style sheet of the program's own look. %1 to %8 are placeholders for the arguments below, of which %7
+// Qt draws a rounded border in parts that overlap, so translucent borders would have dots where they meet.
+QString mixed(const QColor& ground, const QColor& ink, double share) {
+  const auto part = [share](int from, int to) { return static_cast<int>(std::lround(from + (to - from) * share)); };
+  return QColor(part(ground.red(), ink.red()), part(ground.green(), ink.green()),
+                part(ground.blue(), ink.blue()))
+      .name();
+}
+
+// The style sheet of the program's own look. %1 to %10 are placeholders for the arguments below, of which %7
 // is the name of the theme and the others are colours.
 constexpr const char* sheet = R"(
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
@@ -76,10 +86,10 @@ QScrollBar::handle:vertical:hover { background: rgba(%1, 110); }
 QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QPushButton, QToolButton, QTabBar, QComboBox, QCheckBox, QAbstractItemView { outline: none; }
-QLineEdit, QComboBox { border: 1px solid rgba(%1, 45); border-radius: 8px; padding: 5px 8px; background: %2; }
+QLineEdit, QComboBox { border: 1px solid %9; border-radius: 8px; padding: 5px 8px; background: %2; }
 QLineEdit:focus, QComboBox:focus { border: 2px solid %3; padding: 4px 7px; }
 QCheckBox { spacing: 8px; }
-QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid rgba(%1, 140); border-radius: 4px; }
+QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid %10; border-radius: 4px; }
 QCheckBox::indicator:checked { border-color: %3; background: %3; image: url(:/pictures/check-%7.svg); }
 QCheckBox::indicator:hover { border-color: %3; }
 QCheckBox::indicator:focus { border: 2px solid %4; width: 12px; height: 12px; }
@@ -104,7 +114,8 @@ QToolButton:pressed, QToolButton:checked { background: rgba(%1, 44); }
 QToolButton:focus { border-color: %3; }
 QToolButton::menu-indicator { image: none; }
 QMenu { background: %2; border: 1px solid rgba(%1, 50); padding: 5px; }
-QMenu::item { padding: 6px 28px 6px 28px; border-radius: 6px; }
+QMenu::item { padding: 6px 28px 6px 16px; border-radius: 6px; }
+QMenu::icon { padding-left: 12px; }
 QMenu::item:selected { background: rgba(%5, 50); }
 QMenu::item:disabled { color: rgba(%1, 110); }
 QMenu::separator { height: 1px; background: rgba(%1, 30); margin: 5px 8px; }
@@ -123,7 +134,9 @@ QString sheetOf(const Colours& colours, bool isDark) {
   };
   return QString::fromLatin1(sheet).arg(numbers(colours.text), colours.base.name(), colours.accent.name(),
                                         colours.link.name(), numbers(colours.accent), colours.button.name(),
-                                        QLatin1String(isDark ? "dark" : "light"), numbers(colours.button));
+                                        QLatin1String(isDark ? "dark" : "light"), numbers(colours.button),
+                                        mixed(colours.base, colours.text, 0.18),
+                                        mixed(colours.window, colours.text, 0.55));
 }
 
 bool flag(std::string_view key) {

@@ -18,6 +18,7 @@
 #include <algorithm>
 
 #include "catalog.h"
+#include "character_filter.h"
 #include "character_grid.h"
 #include "character_texts.h"
 #include "elided_label.h"
@@ -51,6 +52,27 @@ int titleWidth() {
     width = std::max(width, metrics.horizontalAdvance(formTitle(form)));
   }
   return width;
+}
+
+// A text with links. Tab moves to its first link.
+class LinkLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override {
+    QLabel::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason) focusNextPrevChild(true);
+    if (event->reason() == Qt::BacktabFocusReason) focusNextPrevChild(false);
+  }
+};
+
+QLabel* newLinks(Qt::TextInteractionFlags flags) {
+  auto* const label = new LinkLabel;
+  label->setWordWrap(true);
+  label->setTextFormat(Qt::RichText);
+  label->setTextInteractionFlags(flags);
+  return label;
 }
 
 // A button that shows a character.
@@ -157,9 +179,7 @@ CharacterCard::CharacterCard(Catalog& catalog, QWidget* parent)
   layout_->setContentsMargins(14, 12, 14, 14);
   layout_->setSpacing(4);
   makeHead();
-  note_ = newText(true);
-  note_->setTextFormat(Qt::RichText);
-  note_->setTextInteractionFlags(Qt::TextBrowserInteraction);
+  note_ = newLinks(Qt::TextBrowserInteraction);
   noteSection_ = addSection(tr("Usage"), note_);
   connect(note_, &QLabel::linkActivated, this, &CharacterCard::characterChosen);
   variants_ = addCharacterRow(tr("Skin tones"));
@@ -172,9 +192,7 @@ CharacterCard::CharacterCard(Catalog& catalog, QWidget* parent)
   termSection_ = addSection(tr("Also found by"), terms_);
   facts_ = newTable();
   factSection_ = addSection(tr("Unicode"), facts_->parentWidget());
-  groups_ = newText(false);
-  groups_->setTextFormat(Qt::RichText);
-  groups_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+  groups_ = newLinks(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
   groupSection_ = addSection(tr("Groups"), groups_);
   connect(groups_, &QLabel::linkActivated, this, &CharacterCard::groupChosen);
   layout_->addStretch();
@@ -360,6 +378,7 @@ void CharacterCard::showNote() {
   html.replace(codeInNote(), QStringLiteral("(<a href=\"\\1\">\\1</a>)"));
   html.replace(QLatin1Char('\n'), QLatin1String("<br>"));
   note_->setText(html);
+  note_->setFocusPolicy(html.contains(QLatin1String("<a ")) ? Qt::StrongFocus : Qt::ClickFocus);
   showSection(noteSection_, !note.isEmpty());
 }
 
@@ -482,8 +501,8 @@ void CharacterCard::showTyping() {
 void CharacterCard::showFacts() {
   const std::u32string points = glyph::codePoints(entity_->computed.symbol.view());
   std::vector<std::pair<QString, QString>> rows;
-  const auto add = [&](const QString& title, std::string_view value) {
-    if (!value.empty()) rows.emplace_back(title, fromUtf8(value));
+  const auto add = [&](const QString& title, const QString& value) {
+    if (!value.isEmpty()) rows.emplace_back(title, value);
   };
   if (points.size() == 1) {
     const glyph::CharacterFacts facts = glyph::characterFacts(points.front());
@@ -491,12 +510,13 @@ void CharacterCard::showFacts() {
     for (const auto* const list : {&facts.formalAliases, &facts.otherNames}) {
       for (const std::string_view alias : *list) aliases.append(aliases.empty() ? "" : ", ").append(alias);
     }
-    add(tr("Also called"), aliases);
-    add(tr("Meaning"), facts.hanDefinition);
-    add(tr("Block"), facts.block);
-    add(tr("Script"), facts.script);
-    add(tr("Category"), glyph::categoryName(facts.category));
-    add(tr("Since version"), facts.version);
+    add(tr("Also called"), fromUtf8(aliases));
+    add(tr("Meaning"), fromUtf8(facts.hanDefinition));
+    if (!facts.block.empty())
+      add(tr("Block"), Scope{Scope::Kind::block, std::string(facts.block)}.title());
+    add(tr("Script"), fromUtf8(facts.script));
+    add(tr("Category"), categoryTitle(facts.category));
+    add(tr("Since version"), fromUtf8(facts.version));
   }
   fill(facts_, rows);
   showSection(factSection_, !rows.empty());

@@ -113,8 +113,7 @@ QString Scope::title() const {
     case Kind::emoji:
       return emojiGroupTitle(group);
     case Kind::block:
-      // Use the translated titles of groups, because most blocks have the same name as a group.
-      return QCoreApplication::translate("GroupTitle", group.c_str());
+      return blockTitle(group);
     case Kind::text:
       return CharacterFilter::tr("Characters of “%1”").arg(fromUtf8(group).simplified().left(40));
     case Kind::picker:

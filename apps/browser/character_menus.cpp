@@ -21,7 +21,7 @@ void addForms(QMenu& menu, const glyph::Entity& entity,
 QString skinToneTitle(const std::string& plain, glyph::SkinTone tone) {
   const std::vector<std::string> languages = glyph::preferredLanguages();
   const std::string language = languages.empty() ? "en" : languages.front();
-  // CLDR names the tones in all languages: "medium skin tone".
+  // The titles are the names of these characters in CLDR, in the language of the user: "medium skin tone".
   constexpr std::string_view modifiers[] = {"", "🏻", "🏼", "🏽", "🏾", "🏿"};
   const bool isPlain = tone == glyph::SkinTone::none;
   const std::string named(isPlain ? plain : modifiers[static_cast<std::size_t>(tone)]);

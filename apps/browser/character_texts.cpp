@@ -45,6 +45,7 @@ QString emojiGroupTitle(std::string_view group) {
   static constexpr const char* titles[] = {
       QT_TRANSLATE_NOOP("EmojiGroup", "Smileys & Emotion"),
       QT_TRANSLATE_NOOP("EmojiGroup", "People & Body"),
+      QT_TRANSLATE_NOOP("EmojiGroup", "Component"),
       QT_TRANSLATE_NOOP("EmojiGroup", "Animals & Nature"),
       QT_TRANSLATE_NOOP("EmojiGroup", "Food & Drink"),
       QT_TRANSLATE_NOOP("EmojiGroup", "Travel & Places"),
@@ -57,6 +58,47 @@ QString emojiGroupTitle(std::string_view group) {
     if (title == group) return QCoreApplication::translate("EmojiGroup", title);
   }
   return fromUtf8(group);
+}
+
+QString categoryTitle(std::string_view category) {
+  // The names that categoryName() returns.
+  static constexpr const char* titles[] = {
+      QT_TRANSLATE_NOOP("Category", "uppercase letter"),
+      QT_TRANSLATE_NOOP("Category", "lowercase letter"),
+      QT_TRANSLATE_NOOP("Category", "titlecase letter"),
+      QT_TRANSLATE_NOOP("Category", "modifier letter"),
+      QT_TRANSLATE_NOOP("Category", "other letter"),
+      QT_TRANSLATE_NOOP("Category", "nonspacing mark"),
+      QT_TRANSLATE_NOOP("Category", "spacing mark"),
+      QT_TRANSLATE_NOOP("Category", "enclosing mark"),
+      QT_TRANSLATE_NOOP("Category", "decimal number"),
+      QT_TRANSLATE_NOOP("Category", "letter number"),
+      QT_TRANSLATE_NOOP("Category", "other number"),
+      QT_TRANSLATE_NOOP("Category", "connector punctuation"),
+      QT_TRANSLATE_NOOP("Category", "dash punctuation"),
+      QT_TRANSLATE_NOOP("Category", "open punctuation"),
+      QT_TRANSLATE_NOOP("Category", "close punctuation"),
+      QT_TRANSLATE_NOOP("Category", "initial punctuation"),
+      QT_TRANSLATE_NOOP("Category", "final punctuation"),
+      QT_TRANSLATE_NOOP("Category", "other punctuation"),
+      QT_TRANSLATE_NOOP("Category", "math symbol"),
+      QT_TRANSLATE_NOOP("Category", "currency symbol"),
+      QT_TRANSLATE_NOOP("Category", "modifier symbol"),
+      QT_TRANSLATE_NOOP("Category", "other symbol"),
+      QT_TRANSLATE_NOOP("Category", "space separator"),
+      QT_TRANSLATE_NOOP("Category", "line separator"),
+      QT_TRANSLATE_NOOP("Category", "paragraph separator"),
+      QT_TRANSLATE_NOOP("Category", "control"),
+      QT_TRANSLATE_NOOP("Category", "format"),
+      QT_TRANSLATE_NOOP("Category", "surrogate"),
+      QT_TRANSLATE_NOOP("Category", "private use"),
+      QT_TRANSLATE_NOOP("Category", "unassigned"),
+  };
+  const std::string_view name = glyph::categoryName(category);
+  for (const char* const title : titles) {
+    if (title == name) return QCoreApplication::translate("Category", title);
+  }
+  return fromUtf8(name);
 }
 
 QString typingTitle(const glyph::WayToType& way) {

@@ -39,6 +39,9 @@ QString shownTexts(const Catalog& catalog, const std::vector<std::string>& hexes
 /// The title of a group of emoji (glyph::Emoji::group) in the user's language.
 QString emojiGroupTitle(std::string_view group);
 
+/// Returns the name of a general category, such as "Lu", in the user's language.
+QString categoryTitle(std::string_view category);
+
 /// The title of a way to type a character (glyph::WayToType) in the user's language.
 QString typingTitle(const glyph::WayToType& way);
 

@@ -141,4 +141,14 @@ QString groupTitle(std::string_view group) {
   return fromUtf8(glyph::capitalizedName(group));
 }
 
+QString blockTitle(const std::string& block) {
+  // Many blocks are also groups, whose titles are translated. Most of them have no hyphens in their titles.
+  const QString name = fromUtf8(block);
+  const QString title = QCoreApplication::translate("GroupTitle", block.c_str());
+  if (title != name) return title;
+  const QByteArray spaced = name.toUtf8().replace('-', ' ');
+  const QString spacedTitle = QCoreApplication::translate("GroupTitle", spaced.constData());
+  return spacedTitle == QString::fromUtf8(spaced) ? name : spacedTitle;
+}
+
 }  // namespace browser

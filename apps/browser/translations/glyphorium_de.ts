@@ -2,6 +2,129 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Category</name>
+    <message>
+        <source>uppercase letter</source>
+        <translation>Großbuchstabe</translation>
+    </message>
+    <message>
+        <source>lowercase letter</source>
+        <translation>Kleinbuchstabe</translation>
+    </message>
+    <message>
+        <source>titlecase letter</source>
+        <translation>Buchstabe mit großem Anfang</translation>
+    </message>
+    <message>
+        <source>modifier letter</source>
+        <translation>modifizierender Buchstabe</translation>
+    </message>
+    <message>
+        <source>other letter</source>
+        <translation>anderer Buchstabe</translation>
+    </message>
+    <message>
+        <source>nonspacing mark</source>
+        <translation>kombinierendes Zeichen ohne Breite</translation>
+    </message>
+    <message>
+        <source>spacing mark</source>
+        <translation>kombinierendes Zeichen mit Breite</translation>
+    </message>
+    <message>
+        <source>enclosing mark</source>
+        <translation>umschließendes Zeichen</translation>
+    </message>
+    <message>
+        <source>decimal number</source>
+        <translation>Dezimalziffer</translation>
+    </message>
+    <message>
+        <source>letter number</source>
+        <translation>Zahlbuchstabe</translation>
+    </message>
+    <message>
+        <source>other number</source>
+        <translation>andere Zahl</translation>
+    </message>
+    <message>
+        <source>connector punctuation</source>
+        <translation>verbindendes Satzzeichen</translation>
+    </message>
+    <message>
+        <source>dash punctuation</source>
+        <translation>Strich</translation>
+    </message>
+    <message>
+        <source>open punctuation</source>
+        <translation>öffnende Klammer</translation>
+    </message>
+    <message>
+        <source>close punctuation</source>
+        <translation>schließende Klammer</translation>
+    </message>
+    <message>
+        <source>initial punctuation</source>
+        <translation>öffnendes Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>final punctuation</source>
+        <translation>schließendes Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>other punctuation</source>
+        <translation>anderes Satzzeichen</translation>
+    </message>
+    <message>
+        <source>math symbol</source>
+        <translation>mathematisches Symbol</translation>
+    </message>
+    <message>
+        <source>currency symbol</source>
+        <translation>Währungssymbol</translation>
+    </message>
+    <message>
+        <source>modifier symbol</source>
+        <translation>modifizierendes Symbol</translation>
+    </message>
+    <message>
+        <source>other symbol</source>
+        <translation>anderes Symbol</translation>
+    </message>
+    <message>
+        <source>space separator</source>
+        <translation>Leerzeichen</translation>
+    </message>
+    <message>
+        <source>line separator</source>
+        <translation>Zeilentrenner</translation>
+    </message>
+    <message>
+        <source>paragraph separator</source>
+        <translation>Absatztrenner</translation>
+    </message>
+    <message>
+        <source>control</source>
+        <translation>Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>Formatierungszeichen</translation>
+    </message>
+    <message>
+        <source>surrogate</source>
+        <translation>Surrogat</translation>
+    </message>
+    <message>
+        <source>private use</source>
+        <translation>private Verwendung</translation>
+    </message>
+    <message>
+        <source>unassigned</source>
+        <translation>nicht zugewiesen</translation>
+    </message>
+</context>
+<context>
     <name>CharacterMenu</name>
     <message>
         <source>Skin tone</source>
@@ -71,6 +194,10 @@
     <message>
         <source>People &amp; Body</source>
         <translation>Menschen und Körper</translation>
+    </message>
+    <message>
+        <source>Component</source>
+        <translation>Bestandteile</translation>
     </message>
     <message>
         <source>Animals &amp; Nature</source>

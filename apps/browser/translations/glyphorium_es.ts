@@ -2,6 +2,129 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>Category</name>
+    <message>
+        <source>uppercase letter</source>
+        <translation>letra mayúscula</translation>
+    </message>
+    <message>
+        <source>lowercase letter</source>
+        <translation>letra minúscula</translation>
+    </message>
+    <message>
+        <source>titlecase letter</source>
+        <translation>letra de título</translation>
+    </message>
+    <message>
+        <source>modifier letter</source>
+        <translation>letra modificadora</translation>
+    </message>
+    <message>
+        <source>other letter</source>
+        <translation>otra letra</translation>
+    </message>
+    <message>
+        <source>nonspacing mark</source>
+        <translation>marca sin anchura</translation>
+    </message>
+    <message>
+        <source>spacing mark</source>
+        <translation>marca con anchura</translation>
+    </message>
+    <message>
+        <source>enclosing mark</source>
+        <translation>marca envolvente</translation>
+    </message>
+    <message>
+        <source>decimal number</source>
+        <translation>número decimal</translation>
+    </message>
+    <message>
+        <source>letter number</source>
+        <translation>número en forma de letra</translation>
+    </message>
+    <message>
+        <source>other number</source>
+        <translation>otro número</translation>
+    </message>
+    <message>
+        <source>connector punctuation</source>
+        <translation>puntuación de unión</translation>
+    </message>
+    <message>
+        <source>dash punctuation</source>
+        <translation>raya o guion</translation>
+    </message>
+    <message>
+        <source>open punctuation</source>
+        <translation>puntuación de apertura</translation>
+    </message>
+    <message>
+        <source>close punctuation</source>
+        <translation>puntuación de cierre</translation>
+    </message>
+    <message>
+        <source>initial punctuation</source>
+        <translation>comillas de apertura</translation>
+    </message>
+    <message>
+        <source>final punctuation</source>
+        <translation>comillas de cierre</translation>
+    </message>
+    <message>
+        <source>other punctuation</source>
+        <translation>otra puntuación</translation>
+    </message>
+    <message>
+        <source>math symbol</source>
+        <translation>símbolo matemático</translation>
+    </message>
+    <message>
+        <source>currency symbol</source>
+        <translation>símbolo de moneda</translation>
+    </message>
+    <message>
+        <source>modifier symbol</source>
+        <translation>símbolo modificador</translation>
+    </message>
+    <message>
+        <source>other symbol</source>
+        <translation>otro símbolo</translation>
+    </message>
+    <message>
+        <source>space separator</source>
+        <translation>espacio</translation>
+    </message>
+    <message>
+        <source>line separator</source>
+        <translation>separador de líneas</translation>
+    </message>
+    <message>
+        <source>paragraph separator</source>
+        <translation>separador de párrafos</translation>
+    </message>
+    <message>
+        <source>control</source>
+        <translation>carácter de control</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>carácter de formato</translation>
+    </message>
+    <message>
+        <source>surrogate</source>
+        <translation>sustituto</translation>
+    </message>
+    <message>
+        <source>private use</source>
+        <translation>uso privado</translation>
+    </message>
+    <message>
+        <source>unassigned</source>
+        <translation>sin asignar</translation>
+    </message>
+</context>
+<context>
     <name>CharacterMenu</name>
     <message>
         <source>Skin tone</source>
@@ -71,6 +194,10 @@
     <message>
         <source>People &amp; Body</source>
         <translation>Personas y cuerpo</translation>
+    </message>
+    <message>
+        <source>Component</source>
+        <translation>Componentes</translation>
     </message>
     <message>
         <source>Animals &amp; Nature</source>

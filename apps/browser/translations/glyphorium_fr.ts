@@ -2,6 +2,129 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>Category</name>
+    <message>
+        <source>uppercase letter</source>
+        <translation>lettre majuscule</translation>
+    </message>
+    <message>
+        <source>lowercase letter</source>
+        <translation>lettre minuscule</translation>
+    </message>
+    <message>
+        <source>titlecase letter</source>
+        <translation>lettre de titre</translation>
+    </message>
+    <message>
+        <source>modifier letter</source>
+        <translation>lettre modificative</translation>
+    </message>
+    <message>
+        <source>other letter</source>
+        <translation>autre lettre</translation>
+    </message>
+    <message>
+        <source>nonspacing mark</source>
+        <translation>marque sans chasse</translation>
+    </message>
+    <message>
+        <source>spacing mark</source>
+        <translation>marque à chasse</translation>
+    </message>
+    <message>
+        <source>enclosing mark</source>
+        <translation>marque englobante</translation>
+    </message>
+    <message>
+        <source>decimal number</source>
+        <translation>chiffre décimal</translation>
+    </message>
+    <message>
+        <source>letter number</source>
+        <translation>nombre en forme de lettre</translation>
+    </message>
+    <message>
+        <source>other number</source>
+        <translation>autre nombre</translation>
+    </message>
+    <message>
+        <source>connector punctuation</source>
+        <translation>ponctuation de liaison</translation>
+    </message>
+    <message>
+        <source>dash punctuation</source>
+        <translation>tiret</translation>
+    </message>
+    <message>
+        <source>open punctuation</source>
+        <translation>ponctuation ouvrante</translation>
+    </message>
+    <message>
+        <source>close punctuation</source>
+        <translation>ponctuation fermante</translation>
+    </message>
+    <message>
+        <source>initial punctuation</source>
+        <translation>guillemet ouvrant</translation>
+    </message>
+    <message>
+        <source>final punctuation</source>
+        <translation>guillemet fermant</translation>
+    </message>
+    <message>
+        <source>other punctuation</source>
+        <translation>autre ponctuation</translation>
+    </message>
+    <message>
+        <source>math symbol</source>
+        <translation>symbole mathématique</translation>
+    </message>
+    <message>
+        <source>currency symbol</source>
+        <translation>symbole monétaire</translation>
+    </message>
+    <message>
+        <source>modifier symbol</source>
+        <translation>symbole modificatif</translation>
+    </message>
+    <message>
+        <source>other symbol</source>
+        <translation>autre symbole</translation>
+    </message>
+    <message>
+        <source>space separator</source>
+        <translation>espace</translation>
+    </message>
+    <message>
+        <source>line separator</source>
+        <translation>séparateur de lignes</translation>
+    </message>
+    <message>
+        <source>paragraph separator</source>
+        <translation>séparateur de paragraphes</translation>
+    </message>
+    <message>
+        <source>control</source>
+        <translation>caractère de commande</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>caractère de mise en forme</translation>
+    </message>
+    <message>
+        <source>surrogate</source>
+        <translation>indirection</translation>
+    </message>
+    <message>
+        <source>private use</source>
+        <translation>usage privé</translation>
+    </message>
+    <message>
+        <source>unassigned</source>
+        <translation>non attribué</translation>
+    </message>
+</context>
+<context>
     <name>CharacterMenu</name>
     <message>
         <source>Skin tone</source>
@@ -71,6 +194,10 @@
     <message>
         <source>People &amp; Body</source>
         <translation>Personnes et corps</translation>
+    </message>
+    <message>
+        <source>Component</source>
+        <translation>Composants</translation>
     </message>
     <message>
         <source>Animals &amp; Nature</source>

@@ -2,6 +2,129 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>Category</name>
+    <message>
+        <source>uppercase letter</source>
+        <translation>lettera maiuscola</translation>
+    </message>
+    <message>
+        <source>lowercase letter</source>
+        <translation>lettera minuscola</translation>
+    </message>
+    <message>
+        <source>titlecase letter</source>
+        <translation>lettera di titolo</translation>
+    </message>
+    <message>
+        <source>modifier letter</source>
+        <translation>lettera modificatrice</translation>
+    </message>
+    <message>
+        <source>other letter</source>
+        <translation>altra lettera</translation>
+    </message>
+    <message>
+        <source>nonspacing mark</source>
+        <translation>segno senza spaziatura</translation>
+    </message>
+    <message>
+        <source>spacing mark</source>
+        <translation>segno con spaziatura</translation>
+    </message>
+    <message>
+        <source>enclosing mark</source>
+        <translation>segno che racchiude</translation>
+    </message>
+    <message>
+        <source>decimal number</source>
+        <translation>cifra decimale</translation>
+    </message>
+    <message>
+        <source>letter number</source>
+        <translation>numero in forma di lettera</translation>
+    </message>
+    <message>
+        <source>other number</source>
+        <translation>altro numero</translation>
+    </message>
+    <message>
+        <source>connector punctuation</source>
+        <translation>punteggiatura di unione</translation>
+    </message>
+    <message>
+        <source>dash punctuation</source>
+        <translation>lineetta</translation>
+    </message>
+    <message>
+        <source>open punctuation</source>
+        <translation>punteggiatura di apertura</translation>
+    </message>
+    <message>
+        <source>close punctuation</source>
+        <translation>punteggiatura di chiusura</translation>
+    </message>
+    <message>
+        <source>initial punctuation</source>
+        <translation>virgolette di apertura</translation>
+    </message>
+    <message>
+        <source>final punctuation</source>
+        <translation>virgolette di chiusura</translation>
+    </message>
+    <message>
+        <source>other punctuation</source>
+        <translation>altra punteggiatura</translation>
+    </message>
+    <message>
+        <source>math symbol</source>
+        <translation>simbolo matematico</translation>
+    </message>
+    <message>
+        <source>currency symbol</source>
+        <translation>simbolo di valuta</translation>
+    </message>
+    <message>
+        <source>modifier symbol</source>
+        <translation>simbolo modificatore</translation>
+    </message>
+    <message>
+        <source>other symbol</source>
+        <translation>altro simbolo</translation>
+    </message>
+    <message>
+        <source>space separator</source>
+        <translation>spazio</translation>
+    </message>
+    <message>
+        <source>line separator</source>
+        <translation>separatore di righe</translation>
+    </message>
+    <message>
+        <source>paragraph separator</source>
+        <translation>separatore di paragrafi</translation>
+    </message>
+    <message>
+        <source>control</source>
+        <translation>carattere di controllo</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>carattere di formattazione</translation>
+    </message>
+    <message>
+        <source>surrogate</source>
+        <translation>surrogato</translation>
+    </message>
+    <message>
+        <source>private use</source>
+        <translation>uso privato</translation>
+    </message>
+    <message>
+        <source>unassigned</source>
+        <translation>non assegnato</translation>
+    </message>
+</context>
+<context>
     <name>CharacterMenu</name>
     <message>
         <source>Skin tone</source>
@@ -71,6 +194,10 @@
     <message>
         <source>People &amp; Body</source>
         <translation>Persone e corpo</translation>
+    </message>
+    <message>
+        <source>Component</source>
+        <translation>Componenti</translation>
     </message>
     <message>
         <source>Animals &amp; Nature</source>
