@@ -100,6 +100,7 @@ class CodeReader {
       while (digits < rest_.size() && ascii::isHexDigit(rest_[digits])) ++digits;
       return digits == 2 ? bytes("\\x") : code(number(16, 3, 8));
     }
+    if (const auto character = octalBytes()) return character;
     if (!take("u")) return code(number(16, 1, 6));
     const auto value = number(16, 4, 6);
     if (!value || *value < 0xD800 || *value > 0xDBFF || !take("\\u")) return code(value);
@@ -108,13 +109,24 @@ class CodeReader {
     return ParsedCode{0x10000 + ((*value - 0xD800) << 10) + (*low - 0xDC00), {}};
   }
 
-  // Reads the two digits of a byte. Then reads further bytes, each after `introducer`, until the bytes form
+  // Reads the character of several octal escapes, which are the bytes of its UTF-8. Reads nothing if there is
+  // only one: then it is an escape of a style sheet, whose digits are hexadecimal.
+  std::optional<ParsedCode> octalBytes() {
+    const std::string_view begin = rest_;
+    constexpr std::size_t digits = 3;
+    auto character = bytes("\\", digits, 8);
+    if (character && begin.size() - rest_.size() > digits) return character;
+    rest_ = begin;
+    return std::nullopt;
+  }
+
+  // Reads the digits of a byte. Then reads further bytes, each after `introducer`, until the bytes form
   // one UTF-8 sequence. If they never do, only the first byte is read, and its value is the code point.
-  std::optional<ParsedCode> bytes(std::string_view introducer) {
+  std::optional<ParsedCode> bytes(std::string_view introducer, std::size_t digits = 2, int base = 16) {
     const auto byte = [&]() -> std::optional<char> {
-      const auto value = rest_.size() < 2 ? std::nullopt : ascii::number(rest_.substr(0, 2), 16);
-      if (!value) return std::nullopt;
-      rest_.remove_prefix(2);
+      const auto value = rest_.size() < digits ? std::nullopt : ascii::number(rest_.substr(0, digits), base);
+      if (!value || *value > 0xFF) return std::nullopt;
+      rest_.remove_prefix(digits);
       return static_cast<char>(*value);
     };
     const auto first = byte();

@@ -22,7 +22,8 @@ struct ParsedCode {
 /// - "&#8594;", "&#x2192;", "&rarr;", with the semicolon or without, "#8594;";
 /// - escapes of string literals and style sheets: "\u2192", "\u{1f600}", "\U0001F600", "\uD83D\uDE00",
 ///   "\x{20ac}", "\N{U+2192}", "\2192";
-/// - bytes of UTF-8: "%E2%86%92", "\xE2\x86\x92"; if a byte does not begin a well-formed UTF-8 sequence,
+/// - bytes of UTF-8: "%E2%86%92", "\xE2\x86\x92", in octal digits "\342\206\222"; if a hexadecimal byte does
+/// not begin a well-formed UTF-8 sequence,
 ///   its value is the code point;
 /// - calls: "chr(8594)", "=UNICHAR(8594)".
 /// Hexadecimal digits may be in upper or lower case. Returns an empty list if the text contains anything

@@ -54,6 +54,8 @@ TEST(CommandLine, ReturnsExitCodesAndHelpfulMessages) {
       {"show U+0378 U+FFFF", 0, "<noncharacter-FFFF>"},
       {"show nbsp", 0, "U+00A0"},
       {"show 0o20622 0b10000110010010 --format '%(hex)'", 0, "2192\n2192\n"},
+      {"show '\\342\\206\\222\\303\\251' '\\002190' '\\342' --format '%(hex)'", 0,
+       "2192\n00e9\n2190\n0342\n"},
       {"show 0o29", 1, "no character is '0o29'"},
       {"search '->' --limit 1", 0, "→\t2192\tRightwards Arrow\tarrows\n"},
       {"search snowman --limit 0", 0, "☃\t2603\tSnowman\tmisc symbols\n"},
