@@ -5,7 +5,8 @@
 
 /// The ways to write characters in other programs, such as LaTeX commands. The data is in the library's
 /// read-only image; the generator creates it from the source files in input/. Each line has a notation, then
-/// the code points of the characters that it may stand for, the most likely first, in hexadecimal digits.
+/// the characters that it may stand for, the most likely first, as code points in hexadecimal digits. Commas
+/// separate the code points of one emoji.
 /// Tabs separate these columns. The lines are in ascending byte order, and a line feed ends each line.
 namespace glyph::notations {
 

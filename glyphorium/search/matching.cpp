@@ -115,7 +115,8 @@ class Matcher {
       if (!word.isStopWord && passed <= most) matchWord(word, place, Docs::others);
       if (count > 0) passed += word.weight;
     }
-    for (std::uint8_t place = 0; place < words_.size(); ++place) matchLetterOfWord(words_[place], place);
+    for (std::uint8_t place = 0; std::size_t{place} < words_.size(); ++place)
+      matchLetterOfWord(words_[place], place);
     for (std::uint32_t number = 0; number < scratch_.phrases.size(); ++number) offer(number);
     return result();
   }

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "glyphorium/characters/emoji_numbers.h"
 #include "glyphorium/data/notations.h"
 #include "glyphorium/search/text_parts.h"
 #include "glyphorium/text/ascii.h"
@@ -19,11 +20,13 @@ constexpr std::size_t mostBegun = 20;
 
 using CodePoints = std::vector<std::uint32_t>;
 
-void addHexNumbers(std::string_view columns, CodePoints& codePoints) {
+void addCharacters(std::string_view columns, CodePoints& found) {
   while (!columns.empty()) {
-    const auto number = ascii::number(takePart(columns, '\t'), 16);
-    if (number && std::find(codePoints.begin(), codePoints.end(), *number) == codePoints.end())
-      codePoints.push_back(*number);
+    std::string text;
+    for (std::string_view column = takePart(columns, '\t'); !column.empty();)
+      text += utf8(static_cast<char32_t>(ascii::number(takePart(column, ','), 16).value_or(0)));
+    const auto key = characterKey(text);
+    if (key && std::find(found.begin(), found.end(), *key) == found.end()) found.push_back(*key);
   }
 }
 
@@ -31,7 +34,7 @@ CodePoints exactly(std::string_view lines, std::string_view notation) {
   CodePoints codePoints;
   const std::string_view line = firstLineFrom(lines, notation);
   std::string_view columns = line.substr(0, line.find('\n'));
-  if (takePart(columns, '\t') == notation) addHexNumbers(columns, codePoints);
+  if (takePart(columns, '\t') == notation) addCharacters(columns, codePoints);
   return codePoints;
 }
 
@@ -41,7 +44,7 @@ CodePoints begunWith(std::string_view lines, std::string_view notation) {
   while (rest.starts_with(notation) && codePoints.size() < mostBegun) {
     std::string_view columns = takePart(rest, '\n');
     takePart(columns, '\t');
-    addHexNumbers(columns, codePoints);
+    addCharacters(columns, codePoints);
   }
   return codePoints;
 }
@@ -121,6 +124,25 @@ std::string withoutBlanks(std::string_view text) {
   return result;
 }
 
+// Returns the characters of a text whose UTF-8 was read as Windows-1252: "â€™" for "’".
+CodePoints misread(std::string_view text) {
+  std::string bytes;
+  for (const char32_t point : codePoints(text)) {
+    if (point < 0x80 || (point >= 0xA0 && point <= 0xFF)) {
+      bytes += static_cast<char>(point);
+      continue;
+    }
+    int byte = 0x80;
+    while (byte < 0xA0 && exactly(notations::altCodes, "0" + std::to_string(byte)) != CodePoints{point})
+      ++byte;
+    if (byte == 0xA0) return {};
+    bytes += static_cast<char>(byte);
+  }
+  if (bytes == text || !isWellFormedUtf8(bytes)) return {};
+  const std::u32string read = codePoints(bytes);
+  return {read.begin(), read.end()};
+}
+
 }  // namespace
 
 NotationsFound readNotation(std::string_view text) {
@@ -145,15 +167,19 @@ NotationsFound readNotation(std::string_view text) {
         found = {};  // a smiley such as ":-3"
     }
   } else if (const auto number = after({"alt code", "alt"}, " +-", text)) {
-    found.certain = altCode(*number);
-  } else if (const auto keys = after({"compose", "multi_key", "multi key"}, " +:,", text)) {
+    found.certain = altCode(withoutBlanks(*number));
+  } else if (const auto keys = after({"compose", "multi_key", "multi key"}, " +:", text)) {
     found.certain = exactly(notations::composeSequences, withoutBlanks(*keys));
+    // The comma may be a key or only separate the keys from the name of the Compose key.
+    if (found.certain.empty() && keys->starts_with(','))
+      found.certain = exactly(notations::composeSequences, withoutBlanks(keys->substr(1)));
   } else if (const auto pair = after(
                  {"ctrl-k", "ctrl+k", "<c-k>", "c-k", "^k", "vim digraph", "digraph", "vim"}, " ", text)) {
     found.certain = exactly(notations::digraphs, withoutBlanks(*pair));
   } else if (text.size() == 2 && !(ascii::isAlphanumeric(text[0]) && ascii::isAlphanumeric(text[1]))) {
     found.guessed = exactly(notations::digraphs, text);
   }
+  if (found.certain.empty()) found.certain = misread(text);
   found.drawn = exactly(notations::drawings, withoutBlanks(text));
   return found;
 }

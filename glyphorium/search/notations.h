@@ -7,7 +7,7 @@
 
 namespace glyph::search {
 
-/// The code points that a text stands for in other programs.
+/// The characters that a text stands for in other programs, as keys: see characterKey().
 struct NotationsFound {
   std::vector<std::uint32_t> certain;  ///< the text is a whole notation in an unmistakable form
   std::vector<std::uint32_t> begun;    ///< the text is a prefix of their notations
@@ -20,6 +20,7 @@ struct NotationsFound {
 /// - a shortcode between colons: ":tada:"; the last colon may be missing;
 /// - a Windows Alt code: "alt 0176", "alt+3";
 /// - a sequence of keys after the Compose key: "Compose < 3", "compose o c";
+/// - characters whose UTF-8 was read as Windows-1252: "â€™" for "’";
 /// - a drawing with the signs of a keyboard: "|->", "[x]", ":-)";
 /// - a digraph of editors: "^K a:", "Ctrl-K a:", "digraph a:". Without such a word, it is only a guess.
 NotationsFound readNotation(std::string_view text);

@@ -117,11 +117,21 @@ void addBareNumber(std::string_view text, ParsedQuery& query) {
   numbers.insert(likely ? numbers.end() : numbers.begin(), *ascii::number(text, 10));
 }
 
+// Returns the escape sequence in a declaration of a style sheet: "\\201C" of 'content:"\\201C";'. Returns any
+// other text unchanged.
+std::string_view withoutDeclaration(std::string_view text) {
+  const std::size_t begin = std::min(text.find("\"\\"), text.find("'\\"));
+  if (begin == std::string_view::npos) return text;
+  const std::string_view escape = text.substr(begin + 1);
+  return escape.substr(0, escape.find(text[begin]));
+}
+
 // Moves the codes that begin with "U+" or another prefix from a text with words to `query`, and returns the
 // rest of the text. Users paste such texts from the output of programs: "U+2192 RIGHTWARDS ARROW".
 std::string takeMarkedCodes(std::string_view text, ParsedQuery& query) {
   std::string words;
-  for (const std::string_view part : splitAtBlanks(text)) {
+  for (std::string_view part : splitAtBlanks(text)) {
+    part = withoutDeclaration(part);
     const bool marked = part.starts_with("U+") || part.starts_with("u+") || part.starts_with("0x") ||
                         part.starts_with('\\') || (part.starts_with('&') && part.ends_with(';'));
     const std::vector<ParsedCode> codes = marked ? parseCodes(part) : std::vector<ParsedCode>();

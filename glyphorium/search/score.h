@@ -72,7 +72,7 @@ inline std::uint32_t lossPercent(PhraseKind kind) {
 // The cost that a word adds if it matches only as a variant, if it is only the beginning of a word, and if it
 // does not match.
 inline constexpr std::uint32_t variantWordCost = 12;
-inline constexpr std::uint32_t prefixWordCost = 25;
+inline constexpr std::uint32_t prefixWordCost = 18;
 inline constexpr std::uint32_t missingWordCost = 90;
 
 // Both in percent of the weight of all words without stop words. If the words that the best character lacks
@@ -94,11 +94,11 @@ inline constexpr std::uint32_t extraWordCost = 4;     // for each word of the te
 inline constexpr std::uint32_t mostExtraWords = 8;    // further extra words cost nothing
 inline constexpr std::uint32_t spreadCost = 140;      // the words are in several texts of the character
 inline constexpr std::uint32_t unnamedCost = 6;       // the words are not in the name
-inline constexpr std::uint32_t htmlNameCost = 8;  // many HTML names are abbreviations that are words: "die"
+inline constexpr std::uint32_t htmlNameCost = 25;  // many HTML names are abbreviations that are words: "die"
 inline constexpr std::uint32_t htmlNameInNameCost = 4;  // used instead, if the word is also in the name
 // Few systems can show private-use characters. They come last, unless the query is the whole name.
 inline constexpr std::uint32_t privateUseCost = 400;
-inline constexpr std::uint32_t privateUseNameCost = 8;  // one-word names are also everyday words
+inline constexpr std::uint32_t privateUseNameCost = 50;  // one-word names are also everyday words
 
 // With this cost, Han characters come after most other matches.
 inline constexpr std::uint32_t hanMeaningCost = 300;

@@ -158,6 +158,19 @@ std::vector<SearchResult> withoutIndex(const ParsedQuery& query, bool isFound) {
   return found;
 }
 
+// Returns the text that consists of the codes of the query. Empty if the query is anything else.
+std::string textOfCodes(const ParsedQuery& query) {
+  std::string text;
+  for (const ParsedCode& code : query.codes) {
+    if (!code.htmlName.empty()) return {};
+    text += utf8(static_cast<char32_t>(code.codePoint));
+  }
+  if (query.codes.empty()) {
+    for (const std::uint32_t number : query.likelyNumbers) text += utf8(static_cast<char32_t>(number));
+  }
+  return text;
+}
+
 }  // namespace
 
 std::optional<std::size_t> placeOf(std::string_view text) {
@@ -184,7 +197,8 @@ SearchResults queryEverything(const Index& catalog, std::string_view text, const
   std::vector<SearchResult> others = withoutIndex(*parsed, !found.results.empty() && !found.approximate);
   if (!others.empty() && found.approximate) found = {};
   // If the query is an emoji of several code points, it comes before the characters that it consists of.
-  const auto key = characterKey(trimmed(text));
+  const std::string ofCodes = textOfCodes(*parsed);
+  const auto key = characterKey(ofCodes.empty() ? trimmed(text) : ofCodes);
   const bool isEmoji = key && *key >= firstEmojiNumber;
   if (isEmoji) {
     const std::size_t place = placeOfKey(*key);

@@ -103,18 +103,22 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"| - >", {"21a6", "007c", "002d"}, SearchField::notation},
       {"alt 0176", {"00b0"}, SearchField::notation},
       {"Alt+3", {"2665"}, SearchField::notation},
+      {"Alt + 0 1 5 3", {"2122"}, SearchField::notation},
+      {"Compose , c", {"00e7"}, SearchField::notation},
+      {"â€™", {"2019"}, SearchField::notation},
       {"alt-228", {"03a3", "00f5"}, SearchField::notation},  // a character in each of two code pages
       {"Compose < 3", {"2665"}, SearchField::notation},
       {"^K a:", {"00e4"}, SearchField::notation},
       {"U 2014", {"2014"}, SearchField::code},
       {"0xE2 0x80 0x94", {"2014"}, SearchField::code},
+      {"content: \"\\201C\";", {"201c"}, SearchField::code},
       // names in several spellings
       {"square.and.arrow.up", {"100202"}, SearchField::name},
       {"NO-BREAK_space", {"00a0"}, SearchField::name},
       {"arrow rightwards", {"2192"}, SearchField::name},
       {"zerowidthjoiner", {"200d"}, SearchField::name},
       {"thumbsup", {"1f44d"}, SearchField::annotation},
-      {"lambda", {"03bb"}, SearchField::htmlName},
+      {"lambda", {"03bb"}, SearchField::searchTerm},
       {"latin capital letter gha", {"01a2"}, SearchField::alias},  // the alias corrects an error in the name
       {"sqrt", {"221a"}, SearchField::searchTerm},
       // a word that is also a code

@@ -175,7 +175,7 @@ TEST(SearchRanking, EveryNameFindsItsCharacter) {
   for (const Entity& entity : catalog.entities) {
     if (!done.insert(entity.computed.hex).second) continue;
     const std::string name = entity.name();
-    const SearchResults found = catalog.search.query(name, {30, {{"en"}}, {}});
+    const SearchResults found = catalog.search.query(name, {100, {{"en"}}, {}});
     bool reached = false;
     for (const SearchResult& result : found.results) {
       const Entity& other = catalog.entities[result.index];

@@ -46,6 +46,11 @@ TEST(SupplementSearch, FindsCharactersBeyondTheCatalog) {
        "1f469,1f3fb,200d,2764,fe0f,200d,1f48b,200d,1f468,1f3ff"},
       {"keycap: 7", "en", "0037,fe0f,20e3"},
       {"🇩🇪", "en", "1f1e9,1f1ea"},
+      {":de:", "en", "1f1e9,1f1ea"},
+      {"1F1E9 1F1EA", "en", "1f1e9,1f1ea"},
+      {"&#x1F1E9;&#x1F1EA;", "en", "1f1e9,1f1ea"},
+      {"bandiera tedesca", "it", "1f1e9,1f1ea"},
+      {"Viertelpause", "de", "1d13d"},
       {"U+1FAE0", "en", "1fae0"},
       {"漢", "en", "6f22"},
       {"가", "en", "ac00"},
@@ -94,7 +99,7 @@ TEST(SupplementSearch, FindsEveryEmojiFirstByItsEnglishName) {
   for (std::size_t place = 0; place < emojiCount(); ++place) {
     const std::string_view emoji = emojiAt(place).text;
     const std::string name = annotationOf(emoji, "en").name;
-    const auto found = everything().query(name, {4, {{"en"}}, {}}).results;
+    const auto found = everything().query(name, {8, {{"en"}}, {}}).results;
     std::size_t at = 0;
     while (at < found.size() && emojiPlace(everything().entity(found[at]).computed.symbol) != place) ++at;
     behindSigns += at > 0;

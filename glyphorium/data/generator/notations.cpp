@@ -13,7 +13,7 @@ namespace {
 
 // For each notation, the characters that it stands for, each with a rank. The character with the lowest rank
 // comes first.
-using Notations = std::map<std::string, std::vector<std::pair<std::size_t, char32_t>>>;
+using Notations = std::map<std::string, std::vector<std::pair<std::size_t, std::string>>>;
 
 // Documents write a letter of a mathematical alphabet as a command with an argument: "\mathbb{R}". The tables
 // have a separate command for each letter instead: "\BbbR".
@@ -25,7 +25,7 @@ constexpr std::pair<std::string_view, std::string_view> alphabets[] = {
 Notations readLatex(const std::filesystem::path& file) {
   Notations notations;
   for (const SourceLine& line : readTable(file, 3, 3)) {
-    const char32_t codePoint = line.codePoint(0, false);
+    const std::string codePoint = hexText(line.codePoint(0, false));
     const std::string& command = line.columns[1];
     // The third column lists the tables of commands from which the line was taken. The more tables contain
     // it, the more likely people mean this character by the command.
@@ -40,16 +40,15 @@ Notations readLatex(const std::filesystem::path& file) {
   return notations;
 }
 
-// Reads a table of pairs: a character, a notation. Leaves out lines with several code points. If several lines
-// have the same notation, the first one is the likeliest.
+// Reads a table of pairs: a character or an emoji, a notation. If several lines have the same notation, the
+// first one is the likeliest.
 Notations readPairs(const std::filesystem::path& file, std::size_t columns, bool withoutBlanks) {
   Notations notations;
   for (const SourceLine& line : readTable(file, columns, columns)) {
-    if (line.columns[0].find(',') != std::string::npos) continue;
     std::string text = line.columns[1];
     if (withoutBlanks) std::erase(text, ' ');
     auto& codePoints = notations[text];
-    codePoints.emplace_back(codePoints.size(), line.codePoint(0, false));
+    codePoints.emplace_back(codePoints.size(), line.columns[0]);
   }
   return notations;
 }
@@ -61,7 +60,7 @@ Notations readAltCodes(const std::filesystem::path& file) {
   for (const SourceLine& line : readTable(file, 3, 3)) {
     const std::string& page = line.columns[0];
     const std::string number = (page == "cp1252" ? "0" : "") + std::to_string(line.number(1));
-    notations[number].emplace_back(page == "cp850" ? 1 : 0, line.codePoint(2, false));
+    notations[number].emplace_back(page == "cp850" ? 1 : 0, hexText(line.codePoint(2, false)));
   }
   return notations;
 }
@@ -71,11 +70,11 @@ std::string linesOf(Notations notations) {
   for (auto& [text, codePoints] : notations) {
     std::sort(codePoints.begin(), codePoints.end());
     lines += text;
-    std::vector<char32_t> seen;
+    std::vector<std::string> seen;
     for (const auto& [rank, codePoint] : codePoints) {
       if (std::find(seen.begin(), seen.end(), codePoint) != seen.end()) continue;
       seen.push_back(codePoint);
-      lines += "\t" + hexText(codePoint);
+      lines += "\t" + codePoint;
     }
     lines += '\n';
   }
