@@ -44,7 +44,7 @@ std::vector<std::string> readTexts(sd_bus_message* message, std::size_t most);
 void skipTexts(sd_bus_message* message);
 void append(sd_bus_message* message, const std::vector<std::string>& texts);
 
-/// Appends one entry to the open container of type a{sv}.
+/// Appends one entry to the dictionary (a{sv}) that is open in the message.
 void appendEntry(sd_bus_message* message, const char* key, const std::string& text);
 
 Message newReply(sd_bus_message* call);

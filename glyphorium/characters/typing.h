@@ -11,6 +11,7 @@ namespace glyph {
 
 /// One way to type a character.
 struct WayToType {
+  /// The method. It decides what `text` contains:
   /// - "compose": the keys to press after the Compose key of X11 and Wayland, separated by blanks; ␣ is the
   /// space bar;
   /// - "latex": a LaTeX command; "digraph": the two characters after Ctrl+K in an editor that follows RFC

@@ -107,7 +107,8 @@ struct Arguments {
   static void release(glyphorium_results* handle) { glyphorium_results_free(handle); }
   static void release(glyphorium_items* handle) { glyphorium_items_free(handle); }
   static void release(glyphorium_observation* handle) { glyphorium_observation_free(handle); }
-  // All other results are values or borrowed objects. A borrowed text must be null-terminated.
+  // Results of all other types are values or borrowed objects, which must not be freed. A borrowed text must
+  // be null-terminated.
   static void release(glyphorium_text text) {
     if (text.data) {
       EXPECT_EQ(text.data[text.size], '\0');

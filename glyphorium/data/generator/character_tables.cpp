@@ -145,7 +145,7 @@ Table readLookAlikes(const Path& file) {
   return table;
 }
 
-// The emoji, and the numbers by which the other tables refer to them.
+// The emoji and their numbers, which are their keys in the other tables.
 class EmojiNumbers {
  public:
   EmojiNumbers(const Path& file, EmbeddedImage& image) {

@@ -28,7 +28,7 @@ struct RowTexts {
   std::string fallbackName;
 };
 
-/// Returns the texts of a code point that has a name.
+/// Returns the texts of a row for this code point, which must have a name.
 RowTexts rowTexts(char32_t codePoint, const NameTable& names);
 
 /// Returns all tables in the order of groups.tsv. Throws SourceError if a source breaks a rule.
