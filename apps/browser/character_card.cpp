@@ -75,6 +75,8 @@ QLabel* newLinks(Qt::TextInteractionFlags flags) {
   return label;
 }
 
+}  // namespace
+
 // A button that shows a character.
 class CharacterButton : public QToolButton {
  public:
@@ -104,8 +106,6 @@ class CharacterButton : public QToolButton {
  private:
   glyph::Entity entity_;
 };
-
-}  // namespace
 
 std::vector<std::string> codesInNote(const QString& note) {
   std::vector<std::string> codes;
@@ -397,7 +397,14 @@ CharacterCard::CharacterRow CharacterCard::addCharacterRow(const QString& title)
   flow->setContentsMargins(0, 0, 0, 0);
   auto* const content = new QWidget;
   content->setLayout(flow);
+  flow->addWidget(newCharacterButton());  // the others follow it in the order of Tab
   return {addSection(title, content), flow};
+}
+
+CharacterButton* CharacterCard::newCharacterButton() {
+  auto* const button = new CharacterButton;
+  connect(button, &QToolButton::clicked, this, [this, button] { Q_EMIT characterChosen(button->hex()); });
+  return button;
 }
 
 // Shows these characters in the row. Reuses existing buttons, because creating buttons would take most of the
@@ -408,9 +415,10 @@ void CharacterCard::fill(const CharacterRow& row, const std::vector<std::string>
     const QLayoutItem* const item = row.flow->itemAt(i);
     auto* button = item ? static_cast<CharacterButton*>(item->widget()) : nullptr;
     if (!button) {
-      button = new CharacterButton;
-      connect(button, &QToolButton::clicked, this, [this, button] { Q_EMIT characterChosen(button->hex()); });
+      button = newCharacterButton();
       row.flow->addWidget(button);
+      // Tab must not reach the button after all widgets that were made before it.
+      setTabOrder(row.flow->itemAt(i - 1)->widget(), button);
     }
     if (i < count) button->setCharacter(catalog_.characterOf(texts[static_cast<std::size_t>(i)]));
     button->setVisible(i < count);

@@ -17,6 +17,7 @@ class QVBoxLayout;
 namespace browser {
 
 class Catalog;
+class CharacterButton;
 class FlowLayout;
 
 /// Shows one character large, with a border. The user can drag it into other programs.
@@ -100,6 +101,7 @@ class CharacterCard : public QScrollArea {
   void showNote();
   void showGroups();
   CharacterRow addCharacterRow(const QString& title);
+  CharacterButton* newCharacterButton();
   void fill(const CharacterRow& row, const std::vector<std::string>& texts);
   void showRelated();
   void showTyping();

@@ -134,6 +134,10 @@ TEST_F(BrowserProgramTest, CopiesForOtherProgramsAndKeepsChoicesAfterACrash) {
 
   const int second = start("");
   EXPECT_NE(added().find("21d0"), std::string::npos);
+  using List = std::vector<std::string>;
+  glyph::SqliteSettingsStore settings;
+  EXPECT_EQ(settings.object("favouriteCharacters"), glyph::SettingValue(List{"1d6a5"}));
+  EXPECT_EQ(settings.object("recentlyCopiedCharacters"), glyph::SettingValue(List{"1d6a5", "21d0"}));
   keys("key ctrl+q");
   EXPECT_TRUE(ends(second));
   EXPECT_EQ(fileContent(home / "log"), "") << "nothing to complain about";
