@@ -71,7 +71,9 @@ QPalette paletteOf(const Colours& colours) {
 
 // Qt draws a rounded border in parts that overlap, so translucent borders would have dots where they meet.
 QString mixed(const QColor& ground, const QColor& ink, double share) {
-  const auto part = [share](int from, int to) { return static_cast<int>(std::lround(from + (to - from) * share)); };
+  const auto part = [share](int from, int to) {
+    return static_cast<int>(std::lround(from + (to - from) * share));
+  };
   return QColor(part(ground.red(), ink.red()), part(ground.green(), ink.green()),
                 part(ground.blue(), ink.blue()))
       .name();

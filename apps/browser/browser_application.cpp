@@ -29,8 +29,9 @@ BrowserApplication::BrowserApplication(Appearance::Theme theme) : appearance_(th
   connect(&lingering_, &QTimer::timeout, this, &BrowserApplication::quitUnlessNeeded);
   connect(&watch_, &SettingsWatch::changed, &catalog_, &Catalog::readSettings);
   connect(&service_, &BrowserService::requested, this, &BrowserApplication::serve);
-  connect(&shortcut_, &GlobalShortcut::activated, this,
-          [this](const QString& token) { serve({Request::Kind::pick, {}, token}); });
+  connect(&shortcut_, &GlobalShortcut::activated, this, [this](const QString& token) {
+    serve({Request::Kind::pick, {}, token});
+  });
   if (preferences::hasPickerKey()) shortcut_.bind();
   GlyphRenderer::shared().setFamily(preferences::glyphFamily());
 }

@@ -520,8 +520,7 @@ void CharacterCard::showFacts() {
     }
     add(tr("Also called"), fromUtf8(aliases));
     add(tr("Meaning"), fromUtf8(facts.hanDefinition));
-    if (!facts.block.empty())
-      add(tr("Block"), Scope{Scope::Kind::block, std::string(facts.block)}.title());
+    if (!facts.block.empty()) add(tr("Block"), Scope{Scope::Kind::block, std::string(facts.block)}.title());
     add(tr("Script"), fromUtf8(facts.script));
     add(tr("Category"), categoryTitle(facts.category));
     add(tr("Since version"), fromUtf8(facts.version));

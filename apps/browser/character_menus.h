@@ -15,8 +15,8 @@ namespace browser {
 void addForms(QMenu& menu, const glyph::Entity& entity,
               const std::function<void(const glyph::CopyForm&)>& choose);
 
-/// Returns the emoji with this tone, and the name of the tone in the user's language. For no tone, returns the
-/// emoji and its name. `plain` is the emoji without a tone, as UTF-8.
+/// Returns the emoji with this tone, and the name of the tone in the user's language. For no tone, returns
+/// the emoji and its name. `plain` is the emoji without a tone, as UTF-8.
 QString skinToneTitle(const std::string& plain, glyph::SkinTone tone);
 
 /// Adds a menu entry for each skin tone that the emoji can have, and one for no tone. `choose` is called with

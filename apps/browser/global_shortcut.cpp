@@ -50,9 +50,8 @@ GlobalShortcut::GlobalShortcut(const QDBusConnection& bus) : bus_(bus) {
 
 void GlobalShortcut::findPortal() {
   if (state_ != State::unavailable) return;
-  QDBusMessage question =
-      QDBusMessage::createMethodCall(service, portalPath, QStringLiteral("org.freedesktop.DBus.Properties"),
-                                     QStringLiteral("Get"));
+  QDBusMessage question = QDBusMessage::createMethodCall(
+      service, portalPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
   question << portal << QStringLiteral("version");
   auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(question), this);
   connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
@@ -109,8 +108,7 @@ void GlobalShortcut::takeSession(uint code, const QVariantMap& results) {
 void GlobalShortcut::takeKey(uint code, const QVariantMap& results) {
   if (state_ != State::asking) return;
   if (code != 0) return release();
-  const auto shortcuts =
-      qdbus_cast<QList<PortalShortcut>>(results.value(QStringLiteral("shortcuts")));
+  const auto shortcuts = qdbus_cast<QList<PortalShortcut>>(results.value(QStringLiteral("shortcuts")));
   for (const PortalShortcut& shortcut : shortcuts) {
     if (shortcut.identifier == identifier)
       return setState(State::bound,
@@ -122,9 +120,8 @@ void GlobalShortcut::takeKey(uint code, const QVariantMap& results) {
 void GlobalShortcut::release() {
   preferences::setHasPickerKey(false);
   if (!session_.path().isEmpty()) {
-    bus_.send(QDBusMessage::createMethodCall(service, session_.path(),
-                                             QStringLiteral("org.freedesktop.portal.Session"),
-                                             QStringLiteral("Close")));
+    bus_.send(QDBusMessage::createMethodCall(
+        service, session_.path(), QStringLiteral("org.freedesktop.portal.Session"), QStringLiteral("Close")));
     session_ = QDBusObjectPath();
   }
   if (state_ != State::unavailable) setState(State::released);

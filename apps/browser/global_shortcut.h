@@ -10,8 +10,8 @@
 namespace browser {
 
 /// A key that opens the picker over every window, through the desktop portal
-/// org.freedesktop.portal.GlobalShortcuts. The desktop asks the user which key. It also remembers the key, but
-/// the program must ask for it again after each start, and the key works only while the program runs. All
+/// org.freedesktop.portal.GlobalShortcuts. The desktop asks the user which key. It also remembers the key,
+/// but the program must ask for it again after each start, and the key works only while the program runs. All
 /// calls return at once.
 class GlobalShortcut : public QObject {
   Q_OBJECT

@@ -315,8 +315,9 @@ void MainWindow::showHits() {
     empty = tr("Nothing found for “%1”.").arg(filter_.query().trimmed().left(60));
     if (filter_.elsewhere() > 0) empty += QLatin1Char('\n') + tr("Enter searches all characters.");
   } else if (filter_.scope().kind == Scope::Kind::displayed) {
-    empty = tr("No checked group has characters. Check groups in the list of groups to see their characters "
-               "together here.");
+    empty =
+        tr("No checked group has characters. Check groups in the list of groups to see their characters "
+           "together here.");
   } else if (filter_.scope().kind == Scope::Kind::favourites) {
     empty = tr("No favourites yet. Ctrl+D makes the current character a favourite.");
   } else if (filter_.scope().kind == Scope::Kind::recentlyCopied) {

@@ -41,8 +41,9 @@ QString keyBindings() {
   const QString command = QStringLiteral("glyphorium-browser --pick");
   const Desktop desktops[] = {
       {QStringLiteral("GNOME"),
-       PreferencesDialog::tr("Settings › Keyboard › View and Customise Shortcuts › Custom Shortcuts, with the "
-                             "command"),
+       PreferencesDialog::tr(
+           "Settings › Keyboard › View and Customise Shortcuts › Custom Shortcuts, with the "
+           "command"),
        command},
       {QStringLiteral("KDE"), PreferencesDialog::tr("System Settings › Shortcuts › Add Command"), command},
       {QStringLiteral("Sway, i3"), PreferencesDialog::tr("a line in the configuration"),
@@ -148,8 +149,8 @@ QWidget* PreferencesDialog::makePickerPage(GlobalShortcut& shortcut) {
   auto* const hasKey = new QCheckBox(tr("&Let the desktop open the picker with a key"));
   QLabel* const key = newText({});
   QLabel* const bindings = newText(keyBindings());
-  for (QWidget* const widget : {static_cast<QWidget*>(hasKey), static_cast<QWidget*>(key),
-                                static_cast<QWidget*>(bindings)}) {
+  for (QWidget* const widget :
+       {static_cast<QWidget*>(hasKey), static_cast<QWidget*>(key), static_cast<QWidget*>(bindings)}) {
     column->addWidget(widget);
   }
   column->addStretch();
@@ -165,13 +166,15 @@ QWidget* PreferencesDialog::makePickerPage(GlobalShortcut& shortcut) {
     } else if (isBound) {
       key->setText(tr("The key is %1. It works while Glyphorium runs.").arg(shortcut.keyText()));
     } else if (state == GlobalShortcut::State::unavailable) {
-      key->setText(tr("This desktop does not let programs ask for a key. Its own settings can open the picker "
-                      "with a key over every window:"));
+      key->setText(
+          tr("This desktop does not let programs ask for a key. Its own settings can open the picker "
+             "with a key over every window:"));
     } else {
       key->setText(tr("The desktop’s own settings can also open the picker with a key over every window:"));
     }
   };
-  connect(hasKey, &QCheckBox::toggled, this, [&shortcut](bool on) { on ? shortcut.bind() : shortcut.release(); });
+  connect(hasKey, &QCheckBox::toggled, this,
+          [&shortcut](bool on) { on ? shortcut.bind() : shortcut.release(); });
   connect(&shortcut, &GlobalShortcut::stateChanged, page, refresh);
   refresh();
   shortcut.findPortal();

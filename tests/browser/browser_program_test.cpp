@@ -54,8 +54,8 @@ class ShortcutPortal : public QDBusVirtualObject {
       EXPECT_EQ(call.signature(), "oa(sa{sv})sa{sv}");
       results = {{"shortcuts", call.arguments().at(1)}};
     }
-    QDBusMessage response = QDBusMessage::createTargetedSignal(
-        client_, request, "org.freedesktop.portal.Request", "Response");
+    QDBusMessage response =
+        QDBusMessage::createTargetedSignal(client_, request, "org.freedesktop.portal.Request", "Response");
     response << (isAnswered_ && refuses_ ? 1U : 0U) << results;
     bus_.send(response);
     return true;
@@ -161,7 +161,8 @@ TEST_F(BrowserProgramTest, AKeyOfTheDesktopOpensThePicker) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return portal.isAnswered(); }));
     EXPECT_EQ(windows("Pick a character"), "");
     portal.press();
-    const bool opens = QTest::qWaitFor([] { return !windows("Pick a character").empty(); }, refuses ? 500 : 5'000);
+    const bool opens =
+        QTest::qWaitFor([] { return !windows("Pick a character").empty(); }, refuses ? 500 : 5'000);
     EXPECT_EQ(opens, !refuses);
     const auto wanted = glyph::SqliteSettingsStore().object(wish);
     EXPECT_EQ(wanted, glyph::SettingValue(!refuses)) << "a refusal is not asked for again at the next start";
