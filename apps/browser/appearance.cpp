@@ -95,6 +95,7 @@ QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid %10; border-
 QCheckBox::indicator:checked { border-color: %3; background: %3; image: url(:/pictures/check-%7.svg); }
 QCheckBox::indicator:hover { border-color: %3; }
 QCheckBox::indicator:focus { border: 2px solid %4; width: 12px; height: 12px; }
+QCheckBox::indicator:checked:focus { border-color: rgb(%1); }
 browser--CharacterCard { border: 2px solid transparent; }
 browser--CharacterCard:focus { border-color: %3; }
 QComboBox::drop-down { border: none; width: 26px; }

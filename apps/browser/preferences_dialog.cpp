@@ -164,7 +164,7 @@ QWidget* PreferencesDialog::makePickerPage(GlobalShortcut& shortcut) {
     if (isBound && shortcut.keyText().isEmpty()) {
       key->setText(tr("The desktop’s settings show the key. It works while Glyphorium runs."));
     } else if (isBound) {
-      key->setText(tr("The key is %1. It works while Glyphorium runs.").arg(shortcut.keyText()));
+      key->setText(tr("The key is “%1”. It works while Glyphorium runs.").arg(shortcut.keyText()));
     } else if (state == GlobalShortcut::State::unavailable) {
       key->setText(
           tr("This desktop does not let programs ask for a key. Its own settings can open the picker "

@@ -1434,8 +1434,8 @@
         <translation>Die Einstellungen der Arbeitsumgebung zeigen die Taste. Sie wirkt, solange Glyphorium läuft.</translation>
     </message>
     <message>
-        <source>The key is %1. It works while Glyphorium runs.</source>
-        <translation>Die Taste ist %1. Sie wirkt, solange Glyphorium läuft.</translation>
+        <source>The key is “%1”. It works while Glyphorium runs.</source>
+        <translation>Die Taste ist „%1“. Sie wirkt, solange Glyphorium läuft.</translation>
     </message>
     <message>
         <source>This desktop does not let programs ask for a key. Its own settings can open the picker with a key over every window:</source>

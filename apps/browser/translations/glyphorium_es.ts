@@ -1434,8 +1434,8 @@
         <translation>La configuración del escritorio muestra la tecla. Funciona mientras Glyphorium está en marcha.</translation>
     </message>
     <message>
-        <source>The key is %1. It works while Glyphorium runs.</source>
-        <translation>La tecla es %1. Funciona mientras Glyphorium está en marcha.</translation>
+        <source>The key is “%1”. It works while Glyphorium runs.</source>
+        <translation>La tecla es «%1». Funciona mientras Glyphorium está en marcha.</translation>
     </message>
     <message>
         <source>This desktop does not let programs ask for a key. Its own settings can open the picker with a key over every window:</source>

@@ -1434,8 +1434,8 @@
         <translation>Les paramètres du bureau montrent la touche. Elle agit tant que Glyphorium est en marche.</translation>
     </message>
     <message>
-        <source>The key is %1. It works while Glyphorium runs.</source>
-        <translation>La touche est %1. Elle agit tant que Glyphorium est en marche.</translation>
+        <source>The key is “%1”. It works while Glyphorium runs.</source>
+        <translation>La touche est « %1 ». Elle agit tant que Glyphorium est en marche.</translation>
     </message>
     <message>
         <source>This desktop does not let programs ask for a key. Its own settings can open the picker with a key over every window:</source>

@@ -1434,8 +1434,8 @@
         <translation>Le impostazioni del desktop mostrano il tasto. Funziona finché Glyphorium è in esecuzione.</translation>
     </message>
     <message>
-        <source>The key is %1. It works while Glyphorium runs.</source>
-        <translation>Il tasto è %1. Funziona finché Glyphorium è in esecuzione.</translation>
+        <source>The key is “%1”. It works while Glyphorium runs.</source>
+        <translation>Il tasto è «%1». Funziona finché Glyphorium è in esecuzione.</translation>
     </message>
     <message>
         <source>This desktop does not let programs ask for a key. Its own settings can open the picker with a key over every window:</source>
