@@ -212,7 +212,7 @@ TEST(SearchableIndex, PutsDamagedFilesAsideAndKeepsReadableItems) {
     ASSERT_EQ(indexAndWait(index, arrows(500)), "");
   }
   const std::pair<const char*, std::size_t> damages[] = {
-      {"DELETE FROM token_data", 501}, {"DROP TABLE token_docsize", 501}, {"DROP TABLE item", 1}};
+      {"DROP TABLE token", 501}, {"ALTER TABLE token RENAME tok TO text", 501}, {"DROP TABLE item", 1}};
   for (const auto& [damage, kept] : damages) {
     Database(file, SQLITE_OPEN_READWRITE).execute(damage);
     RecordedDiagnostics diagnostics;
@@ -231,6 +231,33 @@ TEST(SearchableIndex, PutsDamagedFilesAsideAndKeepsReadableItems) {
   SqliteSearchableIndex index(file);
   EXPECT_THAT(indexAndWait(index, {glyphItem("8", "→", "Arrow")}), HasSubstr("absent"));
   EXPECT_EQ(identifiers(SearchableIndexReader(file).search("arrow", 10)), "new");
+}
+
+TEST(SearchableIndex, ReadsAndUpdatesAFileOfTheEarlierFormat) {
+  const TemporaryDirectory directory;
+  const auto file = directory / "index";
+  {
+    SqliteSearchableIndex index(file);
+    ASSERT_EQ(indexAndWait(index, arrows(20)), "");
+  }
+  // The earlier format had a full-text table in place of the plain one.
+  Database(file, SQLITE_OPEN_READWRITE)
+      .execute(
+          "ALTER TABLE token RENAME TO plain;"
+          "CREATE VIRTUAL TABLE token USING fts5(tok, detail=none, prefix='1 2 3');"
+          "INSERT INTO token(rowid, tok) SELECT id, tok FROM plain; DROP TABLE plain;"
+          "PRAGMA user_version=1");
+  RecordedDiagnostics diagnostics;
+  SearchableIndexReader reader(file);
+  EXPECT_EQ(reader.search("arrow", 100).size(), 20u);
+  SqliteSearchableIndex index(file);
+  EXPECT_EQ(indexAndWait(index, {glyphItem("new", "↓", "Downwards Arrow")}), "");
+  EXPECT_EQ(reader.search("arrow", 100).size(), 21u);
+  EXPECT_EQ(identifiers(reader.search("downwards", 100)), "new");
+  EXPECT_THAT(diagnostics.take(), IsEmpty());
+  Statement tables(Database(file, SQLITE_OPEN_READONLY),
+                   "SELECT group_concat(name) FROM sqlite_schema WHERE type = 'table'");
+  EXPECT_EQ((tables.step(), tables.text(0)), "item,token");
 }
 
 TEST(SearchableIndex, OnlyOneOfSeveralWritersRepairsADamagedFile) {
@@ -261,8 +288,8 @@ TEST(SearchableIndex, DoesNotChangeFilesOfOtherPrograms) {
     std::function<void()> make;
   } cases[] = {{"symbolic link", [&] { writeFile(foreign, std::string(3'000, 'd')); }},
                {"symbolic link", [&] { execute(foreign, "CREATE TABLE note(text)"); }},
-               {"later version", [&] { execute(foreign, "CREATE TABLE item(id); PRAGMA user_version=2"); }},
-               {"later version", [&] { execute(file, "CREATE TABLE item(id); PRAGMA user_version=2"); }},
+               {"later version", [&] { execute(foreign, "CREATE TABLE item(id); PRAGMA user_version=3"); }},
+               {"later version", [&] { execute(file, "CREATE TABLE item(id); PRAGMA user_version=3"); }},
                {"not a regular file", [&] { mkfifo(file.c_str(), 0600); }},
                {"not a regular file",
                 [&] {
@@ -433,7 +460,6 @@ TEST(SearchableIndex, KeepsAcknowledgedRequestsWhenItsProcessIsKilled) {
     Database database(file, SQLITE_OPEN_READWRITE);
     Statement check(database, "PRAGMA quick_check");
     ASSERT_TRUE(check.step() && check.text(0) == "ok");
-    database.execute("INSERT INTO token(token) VALUES('integrity-check')");
     Statement counts(database,
                      "SELECT (SELECT count(*) FROM item), (SELECT count(*) FROM token),"
                      " (SELECT max(CAST(uid AS INTEGER)) FROM item WHERE uid <> 'last')");

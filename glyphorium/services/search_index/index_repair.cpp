@@ -50,8 +50,8 @@ std::string damageOf(Database& database) try {
   Statement check(database, "PRAGMA integrity_check(1)");
   check.step();
   if (check.text(0) != "ok") return check.text(0);
-  database.execute("INSERT INTO token(token) VALUES('integrity-check')");
-  return {};
+  Statement lost(database, "SELECT 1 FROM item LEFT JOIN token ON token.rowid = item.id WHERE tok IS NULL");
+  return lost.step() ? "items lack their tokens" : std::string();
 } catch (const SqliteError& error) {
   if (!mayBeDamage(error)) throw;
   return error.what();

@@ -29,10 +29,22 @@ constexpr const char* itemTable =
     " content_type TEXT NOT NULL, title TEXT NOT NULL, comment TEXT, genre TEXT NOT NULL,"
     " keywords TEXT NOT NULL, symbol TEXT, name TEXT NOT NULL)";
 
-constexpr std::int64_t indexVersion = 1;
+// For each item its indexTokens().
+constexpr const char* tokenTable = "CREATE TABLE token(id INTEGER PRIMARY KEY, tok TEXT NOT NULL)";
+
+constexpr const char* setVersion = "PRAGMA user_version=2";
+constexpr std::int64_t indexVersion = 2;
+// In this format, `token` was a full-text table. Its rows read alike, so that readers need not know.
+constexpr std::int64_t fullTextVersion = 1;
 
 // From this number of items on, a transaction may be so large that it fills the disk.
 constexpr std::size_t manyItems = 500;
+
+std::int64_t formatOf(const Database& database) {
+  Statement version(database, "PRAGMA user_version");
+  version.step();
+  return version.integer(0);
+}
 
 void prepareDirectory(const std::filesystem::path& file) {
   const auto directory = file.parent_path();
@@ -101,11 +113,11 @@ bool isIndex(const Database& database) {
       " (SELECT sql FROM sqlite_schema WHERE name = 'item')");
   look.step();
   const auto version = look.integer(0);
-  if (version == indexVersion && look.text(2) == itemTable) return true;
+  if ((version == indexVersion || version == fullTextVersion) && look.text(2) == itemTable) return true;
   if (version == 0 && look.integer(1) == 0) return false;
   if (version > indexVersion && look.integer(1) > 0) {
     throw SqliteError(SQLITE_CANTOPEN, "it has format " + std::to_string(version) +
-                                           " of a later version; this version supports only format " +
+                                           " of a later version; this version supports only formats up to " +
                                            std::to_string(indexVersion));
   }
   throw SqliteError(SQLITE_NOTADB, "it is not a search index");
@@ -150,17 +162,28 @@ void IndexStore::open(const DirectoryLock&) {
   // With this setting, a power failure may undo the latest transactions, but it does not damage the file.
   // This is acceptable for an index.
   database_->execute("PRAGMA synchronous=NORMAL");
-  if (isNew) createTables();
+  if (isNew) return createTables();
+  if (formatOf(*database_) == fullTextVersion) replaceFullTextTable();
 }
 
 void IndexStore::createTables() {
   begin(0);
   database_->execute(itemTable);
   database_->execute(tokenTable);
-  database_->execute(("PRAGMA user_version=" + std::to_string(indexVersion)).c_str());
+  database_->execute(setVersion);
   commit();
   // Copies the tables from the log into the file. After that, the file is an index even without the log.
   sqlite3_wal_checkpoint_v2(database_->handle(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+}
+
+void IndexStore::replaceFullTextTable() {
+  begin(manyItems);
+  database_->execute("ALTER TABLE token RENAME TO earlier");
+  database_->execute(tokenTable);
+  database_->execute("INSERT INTO token SELECT rowid, tok FROM earlier");
+  database_->execute("DROP TABLE earlier");
+  database_->execute(setVersion);
+  commit();
 }
 
 IndexStore::~IndexStore() {
@@ -195,20 +218,20 @@ void IndexStore::commit() {
 void IndexStore::add(const std::vector<SearchableItem>& items) {
   std::unordered_map<std::string_view, const SearchableItem*> last;
   std::vector<std::string> identifiers;
+  last.reserve(items.size());
+  identifiers.reserve(items.size());
   for (const auto& item : items) {
     if (last.insert_or_assign(item.uniqueIdentifier, &item).second) {
       identifiers.push_back(item.uniqueIdentifier);
     }
   }
-  // All deletions come before all insertions, because the token table flushes its buffer to the file whenever
-  // a row number is lower than the previous one.
   remove(identifiers);
 
   Statement addItem(
       *database_,
       "INSERT INTO item(uid, domain, content_type, title, comment, genre, keywords, symbol, name)"
       " VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9)");
-  Statement addTokens(*database_, "INSERT INTO token(rowid, tok) VALUES(?1, ?2)");
+  Statement addTokens(*database_, "INSERT INTO token(id, tok) VALUES(?1, ?2)");
   for (const auto& identifier : identifiers) {
     continueUnlessAbandoned();
     const SearchableItem& item = *last.at(identifier);
@@ -222,23 +245,25 @@ void IndexStore::add(const std::vector<SearchableItem>& items) {
 }
 
 void IndexStore::remove(const std::vector<std::string>& identifiers) {
+  std::int64_t all = -1;  // the number of items, if it matters
+  if (identifiers.size() >= manyItems) {
+    Statement count(*database_, "SELECT count(*) FROM item");
+    count.step();
+    all = count.integer(0);
+    if (all == 0) return;
+  }
   std::vector<std::int64_t> rows;
-  bool everyItem = false;
   {
     Statement find(*database_, "SELECT id FROM item WHERE uid = ?1");
     for (const auto& identifier : identifiers) {
       if (find.bind(identifier).step()) rows.push_back(find.integer(0));
     }
-    std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    Statement count(*database_, "SELECT count(*) FROM item");
-    count.step();
-    everyItem = std::cmp_equal(count.integer(0), rows.size());
   }
-  // Hosts often delete all their items at once. To clear the tables is then faster than to delete the rows
-  // one by one, unless there are only a few.
-  if (everyItem && rows.size() >= manyItems) return clear();
-  Statement removeTokens(*database_, "DELETE FROM token WHERE rowid = ?1");
+  std::sort(rows.begin(), rows.end());
+  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+  // Hosts often replace all their items. To clear the tables is then faster than to delete the rows one by one.
+  if (std::cmp_equal(all, rows.size())) return clear();
+  Statement removeTokens(*database_, "DELETE FROM token WHERE id = ?1");
   Statement removeItem(*database_, "DELETE FROM item WHERE id = ?1");
   for (const auto row : rows) {
     continueUnlessAbandoned();
@@ -249,9 +274,7 @@ void IndexStore::remove(const std::vector<std::string>& identifiers) {
 
 void IndexStore::clear() {
   database_->execute("DELETE FROM item");
-  // Dropping the table is faster than deleting its rows one by one, and no traces of the rows remain.
-  database_->execute("DROP TABLE token");
-  database_->execute(tokenTable);
+  database_->execute("DELETE FROM token");
 }
 
 }  // namespace glyph

@@ -79,6 +79,7 @@ class IndexStore {
  private:
   void open(const DirectoryLock& lock);
   void createTables();
+  void replaceFullTextTable();
   void continueUnlessAbandoned() const;
 
   const std::filesystem::path file_;

@@ -2,7 +2,7 @@
 #include "glyphorium/services/search_index/index_tokens.h"
 
 #include <algorithm>
-#include <vector>
+#include <cstring>
 
 #include "glyphorium/text/text_pieces.h"
 #include "glyphorium/text/unicode_text.h"
@@ -15,9 +15,7 @@ namespace {
 // items of this application.
 constexpr std::string_view scope = "qv:";
 
-// Whether the index's tokenizer treats the code point as a separator, as it does with the general
-// categories Cc and Z. A term of a query must not contain a separator: the tokenizer would make a phrase of
-// such a term, and the index does not support phrases.
+// Whether the code point separates tokens: the general categories Cc and Z.
 bool separates(char32_t c) {
   return c <= 0x20 || (c >= 0x7f && c <= 0xa0) || c == 0x1680 || c == 0x180e ||
          (c >= 0x2000 && c <= 0x200a) || c == 0x2028 || c == 0x2029 || c == 0x202f || c == 0x205f ||
@@ -28,8 +26,7 @@ bool isAsciiPunctuation(char c) {
   return (c >= '!' && c <= '/') || (c >= ':' && c <= '@') || (c >= '[' && c <= '`') || (c >= '{' && c <= '~');
 }
 
-// Replaces each ill-formed UTF-8 sequence with U+FFFD, because the tokenizer would treat some of these
-// sequences as separators.
+// Replaces each ill-formed UTF-8 sequence with U+FFFD.
 std::string wellFormed(std::string text) {
   if (isWellFormedUtf8(text)) return text;
   std::string result;
@@ -40,12 +37,17 @@ std::string wellFormed(std::string text) {
 // Splits well-formed text at separators. The results are views of the text.
 std::vector<std::string_view> pieces(std::string_view text) {
   std::vector<std::string_view> result;
+  result.reserve(text.size() / 4);
   std::size_t begin = 0;
   const auto endPiece = [&](std::size_t end) {
     if (begin < end) result.push_back(text.substr(begin, end - begin));
   };
   for (std::size_t i = 0; i < text.size();) {
     const std::size_t end = i;
+    if (text[i] > ' ' && text[i] < '\x7f') {
+      ++i;  // the usual case, quickly
+      continue;
+    }
     if (!separates(static_cast<char32_t>(nextCodePoint(text, i)))) continue;
     endPiece(end);
     begin = i;
@@ -54,8 +56,18 @@ std::vector<std::string_view> pieces(std::string_view text) {
   return result;
 }
 
+// Like std::string_view::find(), which is slow if the first byte is frequent. Here it is the space.
+const char* find(std::string_view text, std::string_view part) {
+  return static_cast<const char*>(memmem(text.data(), text.size(), part.data(), part.size()));
+}
+
+bool contains(std::string_view text, std::string_view part) {
+  return find(text, part) != nullptr;
+}
+
 void appendTokens(std::vector<std::string_view>& tokens, std::string_view piece) {
   tokens.push_back(piece);
+  if (std::none_of(piece.begin(), piece.end(), isAsciiPunctuation)) return;
   for (auto from = piece.begin(); from != piece.end();) {
     from = std::find_if_not(from, piece.end(), isAsciiPunctuation);
     const auto to = std::find_if(from, piece.end(), isAsciiPunctuation);
@@ -79,11 +91,13 @@ std::string indexTokens(const SearchableItem& item) {
   for (const std::string& keyword : item.keywords) append(keyword);
 
   std::vector<std::string_view> tokens;
+  tokens.reserve(text.size() / 4);
   for (const std::string_view piece : pieces(text)) appendTokens(tokens, piece);
   std::sort(tokens.begin(), tokens.end());
   // Queries look for prefixes of tokens, so a token that is a prefix of the next token or equals it is not
   // needed.
   std::string result;
+  result.reserve(text.size());
   for (std::size_t i = 0; i < tokens.size(); ++i) {
     if (i + 1 < tokens.size() && tokens[i + 1].starts_with(tokens[i])) continue;
     if (!result.empty()) result += ' ';
@@ -109,13 +123,40 @@ IndexQuery indexQuery(std::string_view text) {
   if (scoped) wanted.push_back(scope);
   std::sort(wanted.begin(), wanted.end());
   wanted.erase(std::unique(wanted.begin(), wanted.end()), wanted.end());
-  for (const std::string_view term : wanted) {
-    if (!query.match.empty()) query.match += " AND ";
-    query.match += '"';
-    for (const char c : term) query.match.append(c == '"' ? 2 : 1, c);
-    query.match += "\" *";
-  }
+  query.terms.assign(wanted.begin(), wanted.end());
   return query;
+}
+
+void TokenTexts::add(std::int64_t id, std::string_view tokens) {
+  begins_.emplace_back(text_.size(), id);
+  text_ += ' ';
+  text_ += tokens;
+}
+
+void TokenTexts::clear() {
+  text_.clear();
+  begins_.clear();
+}
+
+std::vector<std::int64_t> TokenTexts::find(const std::vector<std::string>& terms) const {
+  std::vector<std::string> begun;  // each term after a space: the beginning of a token
+  for (const std::string& term : terms) begun.push_back(' ' + term);
+  std::sort(begun.begin(), begun.end(),
+            [](const std::string& a, const std::string& b) { return a.size() > b.size(); });
+  std::vector<std::int64_t> found;
+  const std::string_view text = text_;
+  for (std::size_t at = 0; !begun.empty() && at < text.size();) {
+    const char* const hit = glyph::find(text.substr(at), begun.front());
+    if (!hit) break;
+    const std::pair place(static_cast<std::size_t>(hit - text.data()), INT64_MAX);
+    const auto next = std::upper_bound(begins_.begin(), begins_.end(), place);
+    const auto [begin, id] = *std::prev(next);
+    at = next == begins_.end() ? text.size() : next->first;
+    const std::string_view tokens = text.substr(begin, at - begin);
+    if (std::all_of(begun.begin() + 1, begun.end(), [&](auto& term) { return contains(tokens, term); }))
+      found.push_back(id);
+  }
+  return found;
 }
 
 }  // namespace glyph

@@ -34,6 +34,18 @@ class SearchableIndexReader::File {
 
   const std::string& error() const { return error_; }
 
+  // Returns the tokens of all items. Reads them again if another connection has changed the file. There must
+  // be a transaction, so that they fit what else it reads.
+  const TokenTexts& tokens() {
+    Statement version(*database_, "PRAGMA data_version");
+    version.step();
+    if (std::exchange(tokensVersion_, version.integer(0)) == version.integer(0)) return tokens_;
+    tokens_.clear();
+    Statement token(*database_, "SELECT rowid, tok FROM token");
+    while (token.step()) tokens_.add(token.integer(0), token.text(1));
+    return tokens_;
+  }
+
  private:
   void report(const std::exception& reason) noexcept {
     try {
@@ -51,6 +63,7 @@ class SearchableIndexReader::File {
     if (!identity) return false;
     if (database_) return true;
     identity_ = identity;
+    tokensVersion_.reset();
     database_ = openIndexFile(*path_, SQLITE_OPEN_READONLY);
     // The timeout is short, because users wait for the answer while they type. A writer locks out readers
     // only briefly.
@@ -64,6 +77,8 @@ class SearchableIndexReader::File {
   std::optional<std::filesystem::path> path_;
   std::optional<FileIdentity> identity_;
   std::optional<Database> database_;
+  TokenTexts tokens_;
+  std::optional<std::int64_t> tokensVersion_;  // PRAGMA data_version when tokens_ was read
   std::string error_;
   bool reported_ = false;
 };
@@ -95,16 +110,22 @@ std::optional<SearchableItem> SearchableIndexReader::item(std::string_view uniqu
 }
 
 std::vector<SearchableItem> SearchableIndexReader::search(std::string_view query, int limit) {
-  return file_->ask<std::vector<SearchableItem>>([&](const Database& database) {
+  return file_->ask<std::vector<SearchableItem>>([&](Database& database) {
     std::vector<SearchableItem> found;
     const IndexQuery wanted = indexQuery(query);
-    if (wanted.match.empty() || limit <= 0) return found;
+    if (wanted.terms.empty() || limit <= 0) return found;
+    database.execute("BEGIN");
+    std::string ids;  // as a JSON array
+    for (const std::int64_t id : file_->tokens().find(wanted.terms))
+      ids.append(ids.empty() ? "[" : ",").append(std::to_string(id));
+    ids += ids.empty() ? "[]" : "]";
     Statement search(database, "SELECT " GLYPHORIUM_ITEM_COLUMNS
-                               " FROM token JOIN item ON item.id = token.rowid WHERE token MATCH ?1"
+                               " FROM json_each(?1) CROSS JOIN item ON item.id = json_each.value"
                                " ORDER BY CASE WHEN symbol = ?2 THEN 0 WHEN uid IN (?2, ?3) THEN 1"
                                " WHEN name = ?3 THEN 2 ELSE 3 END, length(name), length(uid), uid LIMIT ?4");
-    search.bind(wanted.match, wanted.exact, wanted.lowered, std::int64_t{limit});
+    search.bind(ids, wanted.exact, wanted.lowered, std::int64_t{limit});
     while (search.step()) found.push_back(itemOf(search));
+    database.execute("END");
     return found;
   });
 }
