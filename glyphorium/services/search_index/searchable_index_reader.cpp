@@ -42,7 +42,7 @@ class SearchableIndexReader::File {
     if (std::exchange(tokensVersion_, version.integer(0)) == version.integer(0)) return tokens_;
     tokens_.clear();
     Statement token(*database_, "SELECT rowid, tok FROM token");
-    while (token.step()) tokens_.add(token.integer(0), token.text(1));
+    while (token.step()) tokens_.add(token.integer(0), token.view(1));
     return tokens_;
   }
 

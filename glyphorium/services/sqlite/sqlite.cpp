@@ -51,10 +51,10 @@ bool Statement::step() {
   return code == SQLITE_ROW;
 }
 
-std::string Statement::text(int column) const {
+std::string_view Statement::view(int column) const {
   const auto* const text = reinterpret_cast<const char*>(sqlite3_column_text(statement_.get(), column));
   const auto length = static_cast<std::size_t>(sqlite3_column_bytes(statement_.get(), column));
-  return text ? std::string(text, length) : std::string();
+  return text ? std::string_view(text, length) : std::string_view();
 }
 
 void Statement::bindAt(int at, std::string_view text) {

@@ -75,7 +75,9 @@ class Statement {
     sqlite3_reset(statement_.get());
   }
 
-  std::string text(int column) const;
+  std::string text(int column) const { return std::string(view(column)); }
+  /// Returns the text of a column. It is valid until the next call of step() or bind().
+  std::string_view view(int column) const;
   std::int64_t integer(int column) const { return sqlite3_column_int64(statement_.get(), column); }
   bool isNull(int column) const { return sqlite3_column_type(statement_.get(), column) == SQLITE_NULL; }
 
