@@ -133,8 +133,9 @@ void TokenTexts::add(std::int64_t id, std::string_view tokens) {
   text_ += tokens;
 }
 
-void TokenTexts::clear() {
+void TokenTexts::clear(std::size_t bytes) {
   text_.clear();
+  text_.reserve(bytes);  // the system gives memory only for what is written
   begins_.clear();
 }
 

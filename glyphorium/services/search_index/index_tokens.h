@@ -35,7 +35,8 @@ class TokenTexts {
  public:
   /// Adds an item. `tokens` comes from indexTokens().
   void add(std::int64_t id, std::string_view tokens);
-  void clear();
+  /// Removes all items. The next ones have about so many bytes of tokens, or fewer.
+  void clear(std::size_t bytes);
   /// Returns the identifiers of the items that the terms find, in the order in which they were added.
   std::vector<std::int64_t> find(const std::vector<std::string>& terms) const;
 
