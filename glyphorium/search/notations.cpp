@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "glyphorium/characters/emoji.h"
 #include "glyphorium/characters/emoji_numbers.h"
 #include "glyphorium/data/notations.h"
 #include "glyphorium/search/text_parts.h"
@@ -112,8 +113,8 @@ std::optional<std::string_view> after(std::initializer_list<std::string_view> wo
     if (text.size() <= word.size() || lowercased(text.substr(0, word.size())) != word) continue;
     const std::string_view rest = text.substr(word.size());
     const std::size_t begin = rest.find_first_not_of(joints);
-    if (begin != std::string_view::npos && (begin > 0 || !isLetters(rest.substr(0, 1))))
-      return rest.substr(begin);
+    const bool isJoined = isLetters(word.substr(word.size() - 1)) && isLetters(rest.substr(0, 1));
+    if (begin != std::string_view::npos && (begin > 0 || !isJoined)) return rest.substr(begin);
   }
   return std::nullopt;
 }
@@ -122,6 +123,54 @@ std::string withoutBlanks(std::string_view text) {
   std::string result(text);
   std::erase(result, ' ');
   return result;
+}
+
+// Returns the text with a blank after each name of a key instead of the brackets around it: "Multi_key o c "
+// for "<Multi_key> <o> <c>", "Alt 0133" for "[Alt] 0133".
+std::string withoutKeyBrackets(std::string_view text) {
+  std::string result;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char closing = text[i] == '<' ? '>' : text[i] == '[' ? ']' : '\0';
+    const std::size_t end = closing ? text.find(closing, i + 1) : std::string_view::npos;
+    const bool isKey = end != std::string_view::npos && ascii::isAlphanumeric(text[i + 1]);
+    result += isKey ? std::string(text.substr(i + 1, end - i - 1)) + ' ' : std::string(1, text[i]);
+    if (isKey) i = end;
+  }
+  return result;
+}
+
+// Returns the character of a code before the keys that turn a code into its character in some word
+// processors: "2640 Alt+X".
+CodePoints codeBeforeKeys(std::string_view text) {
+  const std::string lower = lowercased(text);
+  for (const std::string_view keys : {"alt+x", "alt-x", "alt x"}) {
+    if (!lower.ends_with(keys)) continue;
+    const std::string code = withoutBlanks(text.substr(0, text.size() - keys.size()));
+    const auto number = ascii::number(code, 16);
+    if (number && code.size() >= 2) return {*number};
+  }
+  return {};
+}
+
+// Returns the characters of a shortcode without its colons. Chats add the skin tone as a second shortcode:
+// "+1::skin-tone-3".
+CodePoints shortcode(std::string_view name) {
+  constexpr std::string_view toneBegin = "::skin-tone-";
+  const std::size_t end = name.find(toneBegin);
+  const CodePoints found = exactly(notations::shortcodes, name.substr(0, end));
+  const std::string_view tone = end == std::string_view::npos ? "" : name.substr(end + toneBegin.size());
+  if (tone.size() != 1 || tone[0] < '2' || tone[0] > '6' || found.empty()) return found;
+  // The chats number the tones from 2, as the Fitzpatrick scale does.
+  const auto key =
+      characterKey(withSkinTone(textOfCharacterKey(found.front()), static_cast<SkinTone>(tone[0] - '1')));
+  return key ? CodePoints{*key} : found;
+}
+
+// Returns the character of an HTML reference to a C1 control: "&#150;". Browsers show the character that
+// Windows-1252 has for the number.
+CodePoints windowsReference(std::string_view text) {
+  if (!text.starts_with("&#1") || !text.ends_with(';')) return {};
+  return exactly(notations::altCodes, "0" + std::string(text.substr(2, text.size() - 3)));
 }
 
 // Returns the characters of a text whose UTF-8 was read as Windows-1252: "â€™" for "’".
@@ -147,6 +196,7 @@ CodePoints misread(std::string_view text) {
 
 NotationsFound readNotation(std::string_view text) {
   NotationsFound found;
+  const std::string keyText = withoutKeyBrackets(text);
   std::string_view command = text;
   if (command.size() > 2 && command.starts_with('$') && command.ends_with('$'))
     command = command.substr(1, command.size() - 2);
@@ -160,25 +210,33 @@ NotationsFound readNotation(std::string_view text) {
     std::string_view name = text.substr(1);
     const bool closed = name.ends_with(':');
     if (closed) name.remove_suffix(1);
-    found.certain = exactly(notations::shortcodes, name);
+    found.certain = shortcode(name);
     if (!closed && name.size() + 1 >= shortestBegun) {
       found.begun = begunWith(notations::shortcodes, name);
       if (name.find_first_of("abcdefghijklmnopqrstuvwxyz") == name.npos)
         found = {};  // a smiley such as ":-3"
     }
-  } else if (const auto number = after({"alt code", "alt"}, " +-", text)) {
+  } else if (const auto number = after({"alt code", "alt"}, " +-", keyText)) {
     found.certain = altCode(withoutBlanks(*number));
-  } else if (const auto keys = after({"compose", "multi_key", "multi key"}, " +:", text)) {
+  } else if (const auto keys = after({"compose", "multi_key", "multi key"}, " +:", keyText)) {
     found.certain = exactly(notations::composeSequences, withoutBlanks(*keys));
     // The comma may be a key or only separate the keys from the name of the Compose key.
     if (found.certain.empty() && keys->starts_with(','))
       found.certain = exactly(notations::composeSequences, withoutBlanks(keys->substr(1)));
-  } else if (const auto pair = after(
-                 {"ctrl-k", "ctrl+k", "<c-k>", "c-k", "^k", "vim digraph", "digraph", "vim"}, " ", text)) {
+    if (found.certain.empty()) {
+      std::string joined = withoutBlanks(*keys);
+      std::erase(joined, '+');
+      found.certain = exactly(notations::composeSequences, joined);
+    }
+  } else if (const auto pair =
+                 after({"ctrl-k", "ctrl+k", "c-k", "^k", "vim digraph", ":digraph", ":dig", "digraph", "vim"},
+                       " ", keyText)) {
     found.certain = exactly(notations::digraphs, withoutBlanks(*pair));
   } else if (text.size() == 2 && !(ascii::isAlphanumeric(text[0]) && ascii::isAlphanumeric(text[1]))) {
     found.guessed = exactly(notations::digraphs, text);
   }
+  if (found.certain.empty()) found.certain = codeBeforeKeys(text);
+  if (found.certain.empty()) found.certain = windowsReference(text);
   if (found.certain.empty()) found.certain = misread(text);
   found.drawn = exactly(notations::drawings, withoutBlanks(text));
   return found;

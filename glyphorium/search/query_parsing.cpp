@@ -117,6 +117,16 @@ void addBareNumber(std::string_view text, ParsedQuery& query) {
   numbers.insert(likely ? numbers.end() : numbers.begin(), *ascii::number(text, 10));
 }
 
+// Returns the code at the beginning of a line of UnicodeData.txt: "U+00A7" of "00A7;SECTION SIGN;Po;0;".
+// Returns any other text unchanged.
+std::string codeOfDataLine(std::string_view text) {
+  const std::size_t end = text.find(';');
+  const bool isLine =
+      end != std::string_view::npos && end >= 4 && end <= 6 && text.find(';', end + 1) != text.npos &&
+      std::all_of(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(end), ascii::isHexDigit);
+  return isLine ? "U+" + std::string(text.substr(0, end)) : std::string(text);
+}
+
 // Returns the escape sequence in a declaration of a style sheet: "\\201C" of 'content:"\\201C";'. Returns any
 // other text unchanged.
 std::string_view withoutDeclaration(std::string_view text) {
@@ -250,9 +260,11 @@ std::optional<ParsedQuery> parseQuery(std::string_view text) {
       static_cast<std::size_t>(parts.back().data() + parts.back().size() - parts.front().data()));
   query.notations = readNotation(trimmed);
   const std::string bytes = markedBytes(parts);
-  query.codes = parseCodes(bytes.empty() ? trimmed : bytes);
+  // A reference such as "&#150;" was read as a notation.
+  const bool isReference = trimmed.starts_with("&#") && !query.notations.certain.empty();
+  if (!isReference) query.codes = parseCodes(bytes.empty() ? codeOfDataLine(trimmed) : bytes);
   const std::string withoutCodes =
-      query.codes.empty() ? takeMarkedCodes(trimmed, query) : std::string(trimmed);
+      query.codes.empty() && !isReference ? takeMarkedCodes(trimmed, query) : std::string(trimmed);
   const std::string_view rest = withoutName(withoutCodes);
   const std::vector<std::string_view> numbers = splitAtBlanks(rest);
   numbers.size() > 1 ? addBareNumbers(numbers, query) : addBareNumber(rest, query);

@@ -158,9 +158,11 @@ std::vector<SearchResult> withoutIndex(const ParsedQuery& query, bool isFound) {
   return found;
 }
 
-// Returns the text that consists of the codes of the query. Empty if the query is anything else.
+// Returns the text that consists of the codes of the query, or the only character for which the query is a
+// notation. Empty if the query is anything else.
 std::string textOfCodes(const ParsedQuery& query) {
   std::string text;
+  if (query.notations.certain.size() == 1) return textOfCharacterKey(query.notations.certain.front());
   for (const ParsedCode& code : query.codes) {
     if (!code.htmlName.empty()) return {};
     text += utf8(static_cast<char32_t>(code.codePoint));

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -18,9 +19,16 @@ using Notations = std::map<std::string, std::vector<std::pair<std::size_t, std::
 // Documents write a letter of a mathematical alphabet as a command with an argument: "\mathbb{R}". The tables
 // have a separate command for each letter instead: "\BbbR".
 constexpr std::pair<std::string_view, std::string_view> alphabets[] = {
-    {"\\Bbb", "\\mathbb"},     {"\\mscr", "\\mathcal"}, {"\\mscr", "\\mathscr"},
-    {"\\mfrak", "\\mathfrak"}, {"\\mbf", "\\mathbf"},
+    {"\\Bbb", "\\mathbb"},   {"\\mscr", "\\mathcal"},   {"\\mscr", "\\mathscr"}, {"\\mfrak", "\\mathfrak"},
+    {"\\mbf", "\\mathbf"},   {"\\mbf", "\\boldsymbol"}, {"\\mbf", "\\bm"},       {"\\mit", "\\mathit"},
+    {"\\msans", "\\mathsf"}, {"\\mtt", "\\mathtt"},
 };
+
+const std::set<std::string, std::less<>> greekLetters{
+    "alpha",  "beta",    "gamma",  "delta",  "epsilon", "varepsilon", "zeta",    "eta",   "theta", "vartheta",
+    "iota",   "kappa",   "lambda", "mu",     "nu",      "xi",         "omicron", "pi",    "rho",   "sigma",
+    "tau",    "upsilon", "phi",    "varphi", "chi",     "psi",        "omega",   "Gamma", "Delta", "Theta",
+    "Lambda", "Xi",      "Pi",     "Sigma",  "Upsilon", "Phi",        "Psi",     "Omega"};
 
 Notations readLatex(const std::filesystem::path& file) {
   Notations notations;
@@ -33,8 +41,12 @@ Notations readLatex(const std::filesystem::path& file) {
     const std::size_t rank = 9 - static_cast<std::size_t>(commas);
     notations[command].emplace_back(rank, codePoint);
     for (const auto& [prefix, alphabet] : alphabets) {
-      if (command.size() == prefix.size() + 1 && command.starts_with(prefix))
-        notations[std::string(alphabet) + "{" + command.back() + "}"].emplace_back(rank, codePoint);
+      if (!command.starts_with(prefix) || command.size() == prefix.size()) continue;
+      // The rest of the command is a letter or the name of a Greek letter: "\mbfA", "\mbfalpha".
+      const std::string letter = command.substr(prefix.size());
+      const bool isOne = letter.size() == 1;
+      if (isOne || greekLetters.contains(letter))
+        notations[std::string(alphabet) + (isOne ? "{" : "{\\") + letter + "}"].emplace_back(rank, codePoint);
     }
   }
   return notations;
