@@ -90,7 +90,8 @@ void buildingSearch(benchmark::State& state) {
 }
 BENCHMARK(buildingSearch)->Unit(benchmark::kMillisecond);
 
-// Makes a CatalogSearch and asks it once. The argument is the number of characters that the user has added.
+// Makes a CatalogSearch and answers one query with it. The argument is the number of characters that the user
+// has added.
 void besideAdded(benchmark::State& state) {
   std::vector<std::string> codes;
   const std::size_t step = entities().size() / 100;

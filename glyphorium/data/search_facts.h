@@ -59,8 +59,8 @@ struct SearchLanguage {
   /// out these words.
   std::string_view functionWords;
   /// Each line is a rule: an ending of plurals, then the endings that the singular may have instead. The
-  /// search tries all rules in order, but stops after a matching rule whose singular ending equals the plural
-  /// ending: such a word is no plural.
+  /// search tries the rules in their order. A rule may have the same ending twice ("ss", "ss"): words with
+  /// this ending ("cross") are not plurals. After such a rule, the search tries no more rules.
   std::string_view plurals;
   std::string_view linkingLetters;  ///< each line has letters that may join the parts of a compound word
   /// Each line has letters as people type them, then the folded letters that they stand for.

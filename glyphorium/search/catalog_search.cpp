@@ -21,8 +21,9 @@
 namespace glyph {
 namespace {
 
-// Returns the place (see supplement_search.h) of the character with this hex code, or of the emoji with this
-// hex list.
+// Returns the place of the character with this hex code ("2192"), or of the emoji with this hex list
+// ("1f1e9,1f1ea"). A place is a number that stands for a character of the catalog or the supplement: see
+// supplement_search.h.
 std::optional<std::size_t> placeOfHex(std::string_view hex) {
   std::string text;
   for (std::string_view rest = hex; !rest.empty();) {
@@ -60,7 +61,8 @@ SearchResults CatalogSearch::query(std::string_view text, const SearchOptions& o
   SearchOptions all = options;
   all.limit = added_.size();
   SearchResults added = addedSearch_->query(text, all);
-  // Up to added_.size() results may be repeated, because the user added characters that are known already.
+  // A character that the user added may also be in the catalog or the supplement. Then it is in `found` and
+  // in `added`, but counts once. So `found` may need up to added_.size() results more than the limit.
   all.limit = options.limit + added_.size();
   SearchResults found = search(all);
   enum : char { onlyAdded, inCatalog, inSupplement, isFound };
@@ -74,16 +76,19 @@ SearchResults CatalogSearch::query(std::string_view text, const SearchOptions& o
   }
   std::erase_if(added.results, [&](const SearchResult& result) {
     const char state = states[result.index];
-    // The catalog's index compares its characters with all others. Only the group "custom" is not in it.
+    // If the character is also in the catalog, `found` has its result, so the result in `added` is dropped.
+    // In a search by group it is kept: only the added character is in the group "custom".
     const bool isRepeated = state == inCatalog && !inGroups;
-    // If results were cut off, the character may be among them, and is counted already.
+    // If the limit cut off results of the supplement, this character may be one of them. Then found.total
+    // counts it already.
     if (isRepeated || (state == inSupplement && cut)) --added.total;
     return isRepeated;
   });
   return search::merged(std::move(found), std::move(added), options.limit);
 }
 
-// Returns the position in added_ of the character with this place, if the user added it.
+// Returns the position in added_ of the character that has this place in the catalog or the supplement.
+// Returns nullopt if the user did not add the character.
 std::optional<std::size_t> CatalogSearch::addedAt(std::size_t place) const {
   const auto found = std::lower_bound(known_.begin(), known_.end(), std::pair{place, std::size_t{0}});
   return found != known_.end() && found->first == place ? std::optional(found->second) : std::nullopt;

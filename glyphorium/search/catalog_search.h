@@ -17,9 +17,9 @@ namespace glyph {
 
 /// Searches the catalog, the characters that the user added, and all other characters and emoji of Unicode:
 /// the supplement. It works without configure() and decodes only the entities that the caller asks for. If
-/// the user has added no characters, the constructor only reads the setting. Otherwise the constructor also
-/// builds a Search over the added characters. Later changes of the setting do not affect the object: see
-/// isCurrent(). Immutable: any number of threads may use one object.
+/// there are added characters, the constructor builds a Search over them. The object keeps the added
+/// characters and the preferred skin tone of the time when it was made: see isCurrent(). Immutable: any
+/// number of threads may use one object.
 class GLYPHORIUM_EXPORT CatalogSearch {
  public:
   /// Uses the added characters that settingsStore() has at the time of the call.
@@ -30,9 +30,9 @@ class GLYPHORIUM_EXPORT CatalogSearch {
   explicit CatalogSearch(std::vector<std::string> addedCodes);
 
   /// Searches like Search::query(). If a character is both added and in the catalog or the supplement, only
-  /// the added one is in the results. If one of the three matches the query without approximation,
-  /// approximate results of the others are dropped. Of equally good results, those of the catalog come first;
-  /// Han characters, which are found by their meanings and readings, come last.
+  /// the added one is in the results. If the catalog, the added characters or the supplement match the query
+  /// as typed, the approximate results of the other two are dropped. Of equally good results, those of the
+  /// catalog come first. Han characters, which are found by their meanings and readings, come last.
   ///
   /// An emoji and its variants with skin tones are one result. Words such as "medium skin tone" in the text
   /// choose the variant. Without such words, emoji have the preferredSkinTone() of the time when the object
@@ -58,8 +58,8 @@ class GLYPHORIUM_EXPORT CatalogSearch {
   /// Returns true if the result of this object is a character that the user added.
   bool isOfUser(const SearchResult& result) const { return result.index < added_.size(); }
 
-  /// Returns true if the result is a character of the catalog that the user did not add. Only entity() has
-  /// the other results: the user added them, or they are in the supplement.
+  /// Returns true if the result is a character of the catalog that the user did not add. Any other result was
+  /// added by the user or is in the supplement. Only entity() returns the entities of such results.
   bool isInCatalog(const SearchResult& result) const;
 
   /// Returns the position in Glyphorium::buildInEntities() of a result for which isInCatalog() is true. A

@@ -31,7 +31,7 @@ void addDictionaryWords(const Index& index, QueryWord& word, const Languages& la
     ++range.first;
   }
   // If the text is only a prefix of dictionary words, it is an incomplete word rather than a plural: "rocke"
-  // does not mean "rock".
+  // is the beginning of "rocket", not a form of "rock".
   if ((isWord || range.empty()) && word.text.size() >= shortestPlural) {
     for (const SearchLanguage* const language : languages) {
       for (const std::string& singular : singularsOf(*language, word.text)) {

@@ -14,8 +14,8 @@ namespace glyph::search {
 /// begin with word.text, and the synonyms of longer words.
 void addDictionaryWords(const Index& index, QueryWord& word, const Languages& languages, bool prefixes);
 
-/// Returns the number of postings of all alternatives of the word. The more postings a word has, the
-/// less it narrows the search.
+/// Returns the number of postings of all alternatives of the word. A posting is one occurrence of a
+/// dictionary word in a text of a character. The more postings a word has, the less it narrows the search.
 std::size_t postingCount(const Index& index, const QueryWord& word);
 
 }  // namespace glyph::search

@@ -11,8 +11,9 @@ Hits::Best Hits::best(std::size_t limit, std::size_t docCount) && {
   std::vector<Hit>& hits = best.hits;
   std::vector<char> seen(docCount, 0);
   for (const Hit& hit : hits) best.total += std::exchange(seen[hit.doc], 1) == 0;
-  // Only hits that may be among the `limit` best docs are sorted. Some of the first hits may be repeated hits
-  // of one doc, so the number of all repeated hits is added to the limit.
+  // Only the first hits are sorted, because only the `limit` best docs are needed. One doc may have several
+  // of these hits, and all but its best hit are removed later. So the number of such repeated hits is added
+  // to the limit.
   const auto isBefore = [](const Hit& a, const Hit& b) { return a.order < b.order; };
   if (limit < best.total) {
     const std::size_t repeated = hits.size() - best.total;

@@ -14,8 +14,9 @@ namespace glyph::search {
 class Hits {
  public:
   struct Hit {
-    /// Hits are sorted by this number. It is cost << 32 | doc, so that of two hits with equal cost the doc
-    /// with the better static rank comes first. For hits of addAtPosition(), it is the position.
+    /// Hits are sorted by this number. It is cost << 32 | doc. So of two hits with equal cost, the lower
+    /// document number comes first: this is the character that people want more often. For a hit that
+    /// addAtPosition() added, this number is the position.
     std::uint64_t order;
     std::uint32_t cost() const { return static_cast<std::uint32_t>(order >> 32); }
     std::uint32_t doc;

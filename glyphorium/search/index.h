@@ -11,7 +11,7 @@
 
 namespace glyph::search {
 
-/// Where a phrase comes from.
+/// The kinds of texts that a character has. The index calls each text a phrase.
 enum class PhraseKind : std::uint8_t {
   name,
   replacedName,  ///< the name in the Unicode table, if the catalog shows a better name instead
@@ -28,7 +28,8 @@ enum class PhraseKind : std::uint8_t {
   reading,  ///< one reading of a Han character in Latin letters or Hangul
 };
 
-/// What the index knows about one text of a character.
+/// A phrase: what the index stores about one text of a character, such as its name. The text itself is not
+/// stored.
 struct Phrase {
   std::uint32_t doc : 24;
   PhraseKind kind : 8;
@@ -37,21 +38,21 @@ struct Phrase {
   /// The number of words that are not stop words, at most 255. If all words are stop words, it equals
   /// `words`.
   std::uint8_t coreWords;
-  /// The position of the noun that the other words describe. This is the last word, or the first word in
-  /// languages in which nouns come first. Stop words do not count, nor do the first function word and the
-  /// words after it.
+  /// The position of the noun that the other words describe: "arrow" in "black arrow with hook". This is the
+  /// last word, or the first word in languages in which nouns come first. Stop words are skipped. So are the
+  /// first function word ("with") and all words after it.
   std::uint8_t head;
 };
 static_assert(sizeof(Phrase) == 8);
 
-/// The part of a phrase that many phrases share, because most texts are short. In place of the doc it has 0,
-/// or the number and position that `postings` explains.
+/// A phrase without its doc. Most texts are short, so many phrases have the same shape, and the index stores
+/// each shape once. Shape::doc is 0, or has another meaning: see Index::postings.
 using Shape = Phrase;
 
-/// A place at which a word occurs.
+/// One occurrence of a word in a text.
 struct Occurrence {
   Phrase phrase;
-  std::uint32_t text;  ///< identifies a text among those of its doc
+  std::uint32_t text;  ///< different for each text of the doc
   std::uint8_t position;
 };
 
@@ -91,9 +92,9 @@ struct Index {
   /// For each word, the position of its first posting in `postings`. The last element is the size of
   /// `postings`.
   std::span<const std::uint32_t> postingStart;
-  /// A posting is (number of the phrase) << 8 | (position of the word in the phrase). If `phrases` is empty,
-  /// it is (doc) << 16 | (number of the shape). Then Phrase::doc of the shape is (number of the text in the
-  /// doc) << 8 | (position of the word in the text).
+  /// A posting is one occurrence of a word in a text, as a number: (number of the phrase) << 8 | (position of
+  /// the word in the phrase). If `phrases` is empty, the posting is (doc) << 16 | (number of the shape). Then
+  /// Phrase::doc of the shape is (number of the text in the doc) << 8 | (position of the word in the text).
   std::span<const std::uint32_t> postings;
 
   TextList signs;                               ///< sign keys (see signKey()) in ascending order

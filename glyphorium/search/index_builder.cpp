@@ -132,8 +132,8 @@ void IndexBuilder::addText(PhraseKind kind, std::string_view languageCode, std::
   ++textOfDoc_;
 }
 
-// Returns the number of the shape. If there are too many shapes, returns the number of the shape that was
-// added last.
+// Returns the position of the shape in shapes_, and adds the shape if it is new. If shapes_ is full, returns
+// the position of its last shape.
 std::uint32_t IndexBuilder::numberOfShape(const Shape& shape) {
   const std::size_t most = form_ == Form::phrases ? maxShapesOfPhrases : maxShapesOfPostings;
   const auto next = static_cast<std::uint32_t>(std::min(shapes_.size(), most - 1));
@@ -142,7 +142,7 @@ std::uint32_t IndexBuilder::numberOfShape(const Shape& shape) {
   return known->second;
 }
 
-// Returns a bit mask. Bit 0: the word is a stop word. Bit i: it is a function word of language i.
+// Returns a bit mask. Bit 0: the word is a stop word. Bit i: the word is a function word of languages_[i].
 std::uint32_t IndexBuilder::languagesJoinedBy(std::string_view word) const {
   std::uint32_t bits = isStopWord(word) ? 1 : 0;
   for (const SearchLanguage& known : searchLanguages) {
@@ -153,8 +153,9 @@ std::uint32_t IndexBuilder::languagesJoinedBy(std::string_view word) const {
   return bits;
 }
 
-// Returns the number of a language, and adds the language if it is new. A bit mask of languages has 32 bits.
-// If all are used, returns 0, because texts with language number 0 are always searched.
+// Returns the position of the language in languages_, and adds the language if it is new. There can be only
+// 32 languages, because a set of languages is a bit mask. If languages_ is full, returns 0: texts with
+// language 0 are always searched.
 std::uint8_t IndexBuilder::numberOfLanguage(std::string_view language) {
   const auto found = std::find(languages_.begin(), languages_.end(), language);
   if (found != languages_.end()) return static_cast<std::uint8_t>(found - languages_.begin());

@@ -26,8 +26,9 @@ struct Texts {
   TextList list() const { return {bytes, begins}; }
 };
 
-/// Collects documents and their texts, and makes an index of them. Add each doc and then its texts, in the
-/// order of the static rank.
+/// Collects documents and their texts, and makes an index of them. A document, "doc" for short, is a
+/// character. Add each doc and then its texts. Add the docs in the order of the static rank (see
+/// static_rank.h).
 class IndexBuilder {
  public:
   /// How the index stores the positions of words: see Index::phrases and Index::postings.

@@ -16,18 +16,21 @@ namespace {
 
 constexpr std::uint32_t noCost = 0xFFFFFFFF;
 constexpr std::uint32_t noText = 0xFFFFFFFF;
-// If a word has more than this number of postings per character, a binary search for each character costs
-// less than reading all postings.
+// A posting is one occurrence of a word in a text of a character. If a word has more than this number of
+// postings for each character that already matches, a binary search for each of these characters costs less
+// than reading all postings.
 constexpr std::size_t postingsPerSearch = 16;
-constexpr std::size_t mostDocsForLetter = 3000;  // in which a letter is looked up as a prefix
-constexpr std::size_t shortestGroupWord = 3;     // in bytes; groups are not found by shorter words
+constexpr std::size_t mostDocsForLetter = 3000;  // a letter is not looked up as a prefix in more docs
+constexpr std::size_t shortestGroupWord = 3;     // in bytes; shorter words do not match groups
 
 // How a text matches the words of the query that were looked up so far.
 struct PhraseState {
   Phrase phrase{};
   std::uint32_t text = 0;       // Occurrence::text
   std::uint32_t next = noText;  // the position in Scratch::phrases of another text of the doc
-  std::uint32_t gain = 0;       // the weight that the matched words have not lost, in hundredths of a point
+  // The gain of a matched word is its weight minus its loss (see score.h). This is the sum for all matched
+  // words, in hundredths of a point.
+  std::uint32_t gain = 0;
   std::uint8_t lastWord = 0;
   std::uint8_t words = 0;
   std::uint8_t stopWords = 0;
@@ -42,8 +45,8 @@ struct PhraseState {
 
 struct DocState {
   std::uint32_t epoch = 0;
-  std::uint32_t gain = 0;     // as in PhraseState, without the last matched word
-  std::uint32_t current = 0;  // the gain of the last matched word
+  std::uint32_t gain = 0;     // as in PhraseState, but without the word that matched last
+  std::uint32_t current = 0;  // the gain of the word that matched last
   std::uint32_t matched = 0;  // bit i: word i of the query matches
   std::uint32_t matchedWeight = 0;
   std::uint32_t contentWords = 0;  // the number of matched words that are not stop words
@@ -95,8 +98,8 @@ class Matcher {
 
   Matches match() {
     weigh();
-    // The rarest word is matched first. A character that lacks too many of the first words can be skipped
-    // when a later word matches it.
+    // The words are matched from the rarest to the most frequent. A character that lacks too many rare words
+    // need not be examined when a frequent word matches it.
     std::vector<std::pair<std::size_t, std::uint8_t>> order;
     for (std::uint8_t place = 0; place < words_.size(); ++place) {
       const std::size_t last = words_[place].isStopWord ? index_.postings.size() : 0;
@@ -107,8 +110,8 @@ class Matcher {
     for (const auto& [count, place] : order) {
       const QueryWord& word = words_[place];
       if (!scratch_.touchedDocs.empty()) matchWord(word, place, Docs::begun);
-      // A character that no earlier word matches lacks all of them. If result() would leave it out for that,
-      // it is skipped here.
+      // A character that no earlier word matches lacks all earlier words. Their weight is `passed`. If
+      // `passed` is larger than `most`, result() would leave out the character, so it is not examined here.
       const std::uint32_t most =
           std::min(contentWeight_ * mostMissing / 100,
                    contentWeight_ - bestWeight_ + contentWeight_ * mostMissingBeyondBest / 100);
@@ -124,7 +127,7 @@ class Matcher {
  private:
   void weigh() {
     if (std::all_of(words_.begin(), words_.end(), [](const QueryWord& word) { return word.isStopWord; })) {
-      for (QueryWord& word : words_) word.isStopWord = false;  // such as "sign"
+      for (QueryWord& word : words_) word.isStopWord = false;  // the query is "sign", for example
     }
     for (std::size_t i = 0; i < words_.size(); ++i) {
       QueryWord& word = words_[i];
@@ -182,15 +185,16 @@ class Matcher {
       }
     }
     if (word.text.size() >= shortestGroupWord && !word.isStopWord) matchGroups(word, place, docs);
-    // The bits are set only now, because the word may match several texts of a character that no earlier word
-    // matched.
+    // The bits of the characters that this word matched first are set only now. If they were set earlier, the
+    // loops above would miss other texts of these characters.
     for (std::size_t i = begunDocs; i < scratch_.touchedDocs.size(); ++i) {
       const std::uint32_t doc = scratch_.touchedDocs[i];
       scratch_.begun[doc / 64] |= std::uint64_t{1} << doc % 64;
     }
   }
 
-  // Looks up a letter as a prefix in the characters that match other words, but not the letter itself.
+  // Looks up a single letter as a prefix. Examines only characters that match other words of the query and do
+  // not match the letter as a whole word.
   void matchLetterOfWord(const QueryWord& word, std::uint8_t place) {
     if (scratch_.touchedDocs.size() > mostDocsForLetter) return;
     for (const Alternative& alternative : word.alternatives) {
@@ -256,8 +260,8 @@ class Matcher {
     if (state.lastWord == 0) state.shift = static_cast<std::int8_t>(position - place);
     const bool isAligned = state.shift == static_cast<std::int8_t>(position - place);
     if (state.lastWord == place + 1) {
-      // The word is in the text several times. This place may fit the other words better than the earlier
-      // place.
+      // The word is in the text several times. This position may fit the positions of the other words better
+      // than the earlier position.
       if (isAligned && !state.isLastAligned) {
         ++state.aligned;
         state.isLastAligned = true;
@@ -296,12 +300,14 @@ class Matcher {
     return {state.words, state.stopWords, state.aligned, state.variants, state.prefixes, state.head};
   }
 
-  // `matched` is the number of matched words without stop words.
+  // Returns what the words of the query lose in total. `gain` is the gain of the matched words. `matched` is
+  // their number, without stop words.
   std::uint32_t loss(std::uint32_t gain, std::size_t matched) const {
     return allWeight_ - gain / 100 + missingWordCost * static_cast<std::uint32_t>(contentWords_ - matched);
   }
 
-  // Makes the text the best one of its doc if it has the lowest cost so far.
+  // Makes a text the best one of its doc if no earlier text has a lower cost. `number` is the position of the
+  // text in Scratch::phrases.
   void offer(std::uint32_t number) {
     const PhraseState& state = scratch_.phrases[number];
     const Phrase& phrase = state.phrase;
@@ -374,8 +380,8 @@ class Matcher {
   Scratch& scratch_;
   const std::uint32_t epoch_;
   std::uint32_t allWeight_ = 0;
-  std::uint32_t contentWeight_ = 0;  // without stop words
-  std::uint32_t bestWeight_ = 0;     // the largest weight of the matched words of a character
+  std::uint32_t contentWeight_ = 0;  // the weight of all words that are not stop words
+  std::uint32_t bestWeight_ = 0;     // the largest matchedWeight of a character
   std::size_t contentWords_ = 0;
   std::uint32_t contentBits_ = 0;  // bit i: word i is not a stop word
   const bool isShort_;

@@ -13,10 +13,10 @@ inline int change(const SearchResults& found) {
   return found.lacksWords + found.approximate;
 }
 
-/// Merges the results of a query in two indexes. If one of them changed the query more than the other, its
-/// results are dropped. Otherwise the results are sorted by cost, and of equal cost those of `first` come
-/// first. SearchResult::index must mean the same character in both: of a character that both have, the better
-/// result remains.
+/// Merges the results of one query in two indexes. If the query was changed more for one index than for the
+/// other, the results of the more changed query are dropped. Otherwise the results are sorted by cost. If
+/// costs are equal, the results of `first` come first. A value of SearchResult::index must mean the same
+/// character in both arguments. If a character is in both, only its better result remains.
 SearchResults merged(SearchResults first, SearchResults second, std::size_t limit);
 
 }  // namespace glyph::search

@@ -11,10 +11,10 @@
 namespace glyph::search {
 namespace {
 
-// Searches the sorted dictionary like a prefix tree. All words of a range begin with the same `depth` bytes.
-// At each depth, every edit is tried. After an edit, the rest of the query's word must follow unchanged. So
-// only a few hundred ranges are looked up. A comparison with each word of the dictionary would take about a
-// thousand times as many steps.
+// Searches the sorted dictionary like a prefix tree. All words that begin with the same bytes form a range of
+// the dictionary. At each byte of the query's word, every edit is tried. After an edit, the rest of the
+// query's word must follow unchanged. So only a few hundred ranges are looked up. A comparison with each word
+// of the dictionary would take about a thousand times as many steps.
 class MistypedWords {
  public:
   MistypedWords(const Index& index, QueryWord& word) : index_(index), word_(word), text_(word.text) {}
@@ -89,15 +89,16 @@ class MistypedWords {
   std::string_view text_;
 };
 
-constexpr std::size_t leastLetters = 4;        // in bytes
-constexpr std::size_t leastLettersForTwo = 8;  // shorter words with two mistakes are too unlike
+constexpr std::size_t leastLetters = 4;        // in bytes; shorter words are not corrected
+constexpr std::size_t leastLettersForTwo = 8;  // in bytes; in shorter words only one mistake is corrected
 constexpr std::size_t mostMistakes = 2;
 constexpr std::size_t longestCompared = 32;
 
-// Returns the number of edits (a byte inserted, removed or replaced, or two neighbours swapped) between two
-// texts, or a larger number than mostMistakes if it is larger. Both have at most longestCompared bytes.
+// Returns the number of edits between two texts. An edit inserts, removes or replaces a byte, or swaps two
+// adjacent bytes. If more than mostMistakes edits are needed, returns some number above mostMistakes. Both
+// texts must have at most longestCompared bytes.
 std::size_t mistakes(std::string_view a, std::string_view b) {
-  std::array<std::array<std::size_t, longestCompared + 1>, 3> rows{};  // of the last three bytes of `a`
+  std::array<std::array<std::size_t, longestCompared + 1>, 3> rows{};  // for three bytes of `a`
   for (std::size_t j = 0; j <= b.size(); ++j) rows[0][j] = j;
   for (std::size_t i = 1; i <= a.size(); ++i) {
     auto& row = rows[i % 3];

@@ -15,8 +15,8 @@ constexpr std::size_t shortestHighlight = 3;
 
 // Returns true if the word of the query may mean the word of the dictionary.
 bool means(const Index& index, const QueryWord& word, std::string_view other) {
-  // The dictionary is sorted and contains each word of a name. So a word of the name is in an alternative if
-  // it is between the first and the last word of the alternative.
+  // An alternative is a range of the sorted dictionary, and the dictionary contains each word of a name. So
+  // it is enough to compare the word with the first and the last word of the range.
   return std::any_of(word.alternatives.begin(), word.alternatives.end(), [&](const Alternative& alternative) {
     return other >= index.words[alternative.words.first] && other <= index.words[alternative.words.last - 1];
   });

@@ -66,8 +66,8 @@ std::string accented(std::string_view command) {
   return sign + "{" + letter + "}";
 }
 
-// Returns the characters for an Alt code. The table does not contain the ASCII codes, which equal their code
-// points.
+// Returns the characters for an Alt code. The table does not contain the codes of ASCII characters, because
+// these codes equal the code points.
 CodePoints altCode(std::string_view number) {
   const CodePoints found = exactly(notations::altCodes, number);
   const auto code = ascii::number(number, 10);
@@ -77,11 +77,12 @@ CodePoints altCode(std::string_view number) {
 CodePoints latex(std::string_view command) {
   CodePoints found = exactly(notations::latexCommands, command);
   if (!found.empty() || command.size() < 3) return found;
-  // A command that begins with two letters is a name. Any other command may be an accent with its letter.
+  // A LaTeX command that begins with two letters is a name, such as "\alpha". Any other command may be an
+  // accent and a letter, such as "\'e" or "\c c".
   if (!ascii::isLetter(command[1]) || !ascii::isLetter(command[2])) {
     std::string spelling = accented(command);
     found = exactly(notations::latexCommands, spelling);
-    // The table has accented i and j as "\i" and "\j", the letters without their dots.
+    // In the table, an accented i or j is written with the letter without a dot: "\'{\i}", not "\'{i}".
     if (found.empty() && spelling.size() == 5) {
       spelling.insert(3, 1, '\\');
       found = exactly(notations::latexCommands, spelling);
@@ -105,8 +106,9 @@ CodePoints latex(std::string_view command) {
   return found;
 }
 
-// If the text begins with one of the words and then characters of `joints`, returns the rest of the text.
-// Letter case does not count.
+// If the text begins with one of the words, returns the rest of the text after the word and any characters of
+// `joints`: "3" for "Alt+3". Letter case does not count. Returns nullopt if the word is only the beginning of
+// a longer word, and for any other text.
 std::optional<std::string_view> after(std::initializer_list<std::string_view> words, std::string_view joints,
                                       std::string_view text) {
   for (const std::string_view word : words) {
@@ -220,7 +222,8 @@ NotationsFound readNotation(std::string_view text) {
     found.certain = altCode(withoutBlanks(*number));
   } else if (const auto keys = after({"compose", "multi_key", "multi key"}, " +:", keyText)) {
     found.certain = exactly(notations::composeSequences, withoutBlanks(*keys));
-    // The comma may be a key or only separate the keys from the name of the Compose key.
+    // A comma after "Compose" may be a key. If that gives nothing, it only separates the keys from the word:
+    // "Compose, o c".
     if (found.certain.empty() && keys->starts_with(','))
       found.certain = exactly(notations::composeSequences, withoutBlanks(keys->substr(1)));
     if (found.certain.empty()) {

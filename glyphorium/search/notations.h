@@ -7,11 +7,12 @@
 
 namespace glyph::search {
 
-/// The characters that a text stands for in other programs, as keys: see characterKey().
+/// The characters that a text stands for in other programs. A character is given as its key, which is its
+/// code point or the number of an emoji: see characterKey().
 struct NotationsFound {
   std::vector<std::uint32_t> certain;  ///< the text is a whole notation in an unmistakable form
-  std::vector<std::uint32_t> begun;    ///< the text is a prefix of their notations
-  std::vector<std::uint32_t> drawn;    ///< the text draws them with the signs of a keyboard
+  std::vector<std::uint32_t> begun;    ///< one of their notations begins with the text
+  std::vector<std::uint32_t> drawn;    ///< the text is a drawing of them
   std::vector<std::uint32_t> guessed;  ///< the text may also mean something else
 };
 
@@ -23,7 +24,7 @@ struct NotationsFound {
 /// - an HTML reference to a C1 control, which means a character of Windows-1252: "&#150;";
 /// - characters whose UTF-8 was read as Windows-1252: "â€™" for "’";
 /// - a drawing with the signs of a keyboard: "|->", "[x]", ":-)";
-/// - a digraph of editors: "^K a:", "Ctrl-K a:", "digraph a:". Without such a word, it is only a guess.
+/// - a digraph of editors: "^K a:", "Ctrl-K a:", "digraph a:". If only "a:" is typed, it is a guess.
 NotationsFound readNotation(std::string_view text);
 
 }  // namespace glyph::search

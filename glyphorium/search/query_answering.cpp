@@ -100,8 +100,8 @@ class Answering {
       add(doc, place + index_.docPrior[doc], SearchField::notation, false);
     }
     if (!query_.notations.begun.empty()) place += mostPrior;
-    // A number without a prefix may be decimal or hexadecimal. The meaning whose character is in the catalog
-    // is the likelier one.
+    // A number without a prefix may be decimal or hexadecimal. If only one of the two characters is in the
+    // catalog, people more likely mean that one. So a character of the supplement costs more.
     const std::uint32_t behindCatalog = index_.weighedWith ? likelyNumberOfOtherCost : 0;
     for (const std::uint32_t number : query_.likelyNumbers)
       add(index_.docOfCodePoint(number), behindCatalog + place++, SearchField::code, true);
@@ -117,7 +117,8 @@ class Answering {
       add(index_.docOfCodePoint(character), offset_ + behindExactCost, SearchField::character, false);
     const std::uint32_t bareName = index_.docOfHtmlName(query_.bareText);
     const bool direct = !hits_.empty() || bareName != Index::noDoc;
-    // A code is not a mistyped word, even if its character is not in the index.
+    // A query that contains a code is not corrected, even if the character with this code is not in the
+    // index.
     const bool saysCode = std::any_of(query_.codes.begin(), query_.codes.end(),
                                       [](const ParsedCode& code) { return code.htmlName.empty(); });
     isDirect_ = direct || saysCode;
@@ -126,7 +127,7 @@ class Answering {
     if (bareName != Index::noDoc)
       add(bareName, offset_ + htmlNameCost + index_.docPrior[bareName], SearchField::htmlName, true);
     for (const std::uint32_t character : query_.otherCharacters) {
-      // Skip these characters if they are part of a code, or of words that matched.
+      // Skip the signs and letters of the query if they are part of a code, or of words that matched.
       if (!isCode && (hits_.empty() || query_.words.empty() || !wordsFound_))
         add(index_.docOfCodePoint(character), offset_ + lastCost + place++, SearchField::character, false);
     }

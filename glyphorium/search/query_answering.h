@@ -10,12 +10,12 @@ namespace glyph::search {
 struct Answer {
   SearchResults results;
   /// Whether the query was understood as typed: as a code, a character, or words that match a character. If
-  /// not, the results are empty, or those of a changed query if the search is persistent.
+  /// false, answer() either found nothing, or found results only after it corrected words or left words out.
   bool settled;
   /// Whether the query is a code, a character, or a whole text of a character.
   bool whole;
-  /// Whether the best result is a Han character that matches by its meaning. These results are less certain:
-  /// there are so many meanings that mistyped words match some, too.
+  /// Whether the best result is a Han character that matches by its meaning. Such a result is less certain:
+  /// Han characters have so many meanings that even a mistyped word is often one of them.
   bool byMeaning;
 };
 

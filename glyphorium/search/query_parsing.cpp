@@ -20,7 +20,7 @@ constexpr std::size_t longestText = 1000;
 constexpr std::size_t longestWord = 64;
 constexpr std::size_t mostWords = 32;
 
-// Only ASCII characters count as blanks. The user may search for another space, such as U+00A0.
+// Only ASCII characters count as blanks, because the user may search for another space, such as U+00A0.
 bool isBlank(char c) {
   return c == ' ' || (c >= '\t' && c <= '\r');
 }
@@ -87,8 +87,8 @@ void addBareNumbers(std::span<const std::string_view> numbers, ParsedQuery& quer
   if (!bytes && !codePoints) return;
   for (const std::string_view number : numbers) marked.append(bytes ? "\\x" : "\\u").append(number);
   const std::vector<ParsedCode> codes = parseCodes(marked);
-  // If there are as many codes as bytes, no bytes form a longer UTF-8 sequence. Then the text is probably not
-  // a dump of UTF-8, but consists of words or of numbers with two digits.
+  // If there are as many codes as bytes, each character consists of a single byte. Then the text is probably
+  // not a dump of UTF-8, but consists of words or of numbers with two digits.
   if (bytes && codes.size() == numbers.size()) return;
   for (const ParsedCode& code : codes) query.likelyNumbers.push_back(code.codePoint);
 }
@@ -208,7 +208,8 @@ void addCharacters(std::string_view text, ParsedQuery& query) {
   if (!hasLatin) query.characters.swap(query.besideWords);
 }
 
-// Returns letterWords() of a letter outside ASCII. Empty for other texts.
+// Returns the words that people use for a letter outside ASCII: "e grave" for "è" (see letterWords()). Empty
+// for other texts.
 std::string describedLetter(std::string_view text) {
   const std::u32string letter = codePoints(composed(text));
   if (letter.size() != 1 || letter.front() < 0x80) return {};
@@ -222,9 +223,9 @@ void addWords(std::string_view text, std::vector<std::string>& words) {
   WordReader reader(text);
   bool mayBeLetter = true;
   while (words.size() < mostWords && reader.next()) {
-    // A letter with an accent next to other words ("è maiuscola") is replaced by its description, because
-    // folding would remove the accent. In the middle of a text such a letter is a word ("carré à coins"),
-    // unless a word such as "capital" precedes it.
+    // A single accented letter next to other words ("è maiuscola") is replaced by its description, because
+    // folding would remove the accent. After another word, a single letter is a word ("carré à coins") unless
+    // that other word announces a letter, such as "capital".
     const std::string_view typed = text.substr(reader.begin(), reader.end() - reader.begin());
     std::string described = typed.size() < text.size() ? describedLetter(typed) : std::string();
     if (!mayBeLetter) described.clear();

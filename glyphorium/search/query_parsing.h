@@ -18,9 +18,11 @@ struct ParsedQuery {
 
   /// Codes that the user certainly means. The text consists of codes, or contains codes with a prefix.
   std::vector<ParsedCode> codes;
-  /// Code points of a text that consists of numbers without a prefix and is probably not words.
+  /// The text may consist of numbers without a prefix that are probably not words: "2192". These are their
+  /// code points.
   std::vector<std::uint32_t> likelyNumbers;
-  /// Code points of a text that is a number but may also be a word: "face".
+  /// The text may be a number that is less likely a code point: "face" may be a word, and "65" is short.
+  /// These are its code points.
   std::vector<std::uint32_t> otherNumbers;
 
   /// Characters for which the text is a notation in another program, or a prefix of a notation: see
@@ -29,10 +31,11 @@ struct ParsedQuery {
 
   /// Characters that the user certainly means. The text is a single character or has no Latin letters.
   std::vector<std::uint32_t> characters;
-  /// Characters beside Latin words that are neither Latin letters nor on the keyboard.
+  /// Characters next to Latin words, if they are neither Latin letters nor on the keyboard: the arrow in "→
+  /// double".
   std::vector<std::uint32_t> besideWords;
-  /// Signs and letters that are more likely a part of a search word than the character that the user looks
-  /// for.
+  /// Other signs and letters of the text. The user may look for one of these characters, but they are more
+  /// likely parts of words.
   std::vector<std::uint32_t> otherCharacters;
 
   /// The text without groups, without codes beside words, and without blanks at both ends. May be an HTML

@@ -13,10 +13,10 @@ namespace glyph::search {
 enum class WordMatch : std::uint8_t {
   whole,
   variant,     ///< the dictionary has a singular or a synonym of the word
-  prefix,      ///< the dictionary has a longer word
-  typo,        ///< one letter differs
+  prefix,      ///< the word is the beginning of a dictionary word
+  typo,        ///< the word is mistyped
   group,       ///< the word is in the name of the character's group
-  typoPrefix,  ///< one letter differs, and letters are missing at the end
+  typoPrefix,  ///< the word is mistyped, and letters are missing at the end
 };
 
 /// Words of the dictionary that a word of the query may mean.
@@ -33,8 +33,9 @@ struct QueryWord {
   std::uint32_t weight = 0;               ///< see score.h
 };
 
-/// Returns true if the word is a single letter that may be the beginning of longer words. So many words begin
-/// with the same letter that it only helps to choose among characters that match the other words.
+/// Returns true if the word is a single letter and the alternative consists of longer words that begin with
+/// this letter. Very many words begin with the same letter. So the letter only helps to choose among the
+/// characters that match the other words of the query.
 inline bool isLetterOfWord(const QueryWord& word, const Alternative& alternative) {
   return word.text.size() == 1 && alternative.match == WordMatch::prefix;
 }

@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t mostParts = 4;
 constexpr std::size_t shortestPart = 2;
 constexpr std::size_t mostSplits = 6;
-constexpr std::size_t longestSplit = 40;  // in bytes; there are more ways to split a longer word
+constexpr std::size_t longestSplit = 40;  // in bytes; there are too many ways to split longer words
 
 using Words = std::vector<std::string>;
 

@@ -14,9 +14,10 @@
 namespace glyph::search {
 
 // The score of a match is a cost: the smaller, the better. It is the sum of
-// - the loss of each word of the query. A word has a weight. It loses a part of it, depending on how it
-//   matches, or all of it if it does not match;
-// - how well the best matching text of the character and the query cover each other;
+// - the losses of the words of the query. Each word has a weight. The loss is a part of this weight if the
+//   word does not match exactly, and the whole weight if the word does not match;
+// - the cost of the best matching text of the character: the less the text and the query cover each other,
+//   the higher it is;
 // - the prior of the character, from 0 to 80, which decides between equally good matches: see static_rank.h.
 // See docs/search.md for a description with examples.
 
@@ -44,7 +45,7 @@ inline std::uint32_t wordWeight(std::string_view word, std::size_t texts) {
   return word.size() == 1 ? std::max(weight, leastLetterWeight) : weight;
 }
 
-/// Returns how many percent of its weight a word loses by this kind of match.
+/// Returns the percentage of its weight that a word loses by this kind of match.
 inline std::uint32_t lossPercent(WordMatch match) {
   switch (match) {
     case WordMatch::whole:
@@ -63,50 +64,54 @@ inline std::uint32_t lossPercent(WordMatch match) {
   return 100;
 }
 
-/// Returns how many percent of its weight a word loses at least if it matches a text of this kind.
+/// Returns the least percentage of its weight that a word loses if it matches a text of this kind.
 inline std::uint32_t lossPercent(PhraseKind kind) {
-  // A note may mention what the character is not. A comment may mention where it is used.
+  // A note may mention what the character is not. A comment may mention where the character is used.
   return kind == PhraseKind::note ? 75 : kind == PhraseKind::comment ? 20 : 0;
 }
 
-// The cost that a word adds if it matches only as a variant, if it is only the beginning of a word, and if it
-// does not match.
+// The cost that a word adds to its loss: if it matches only as a variant, if it is only the beginning of a
+// word, and if it does not match.
 inline constexpr std::uint32_t variantWordCost = 12;
 inline constexpr std::uint32_t prefixWordCost = 18;
 inline constexpr std::uint32_t missingWordCost = 90;
 
-// Both in percent of the weight of all words without stop words. If the words that the best character lacks
-// weigh more than mostMissing, nothing is found. Another character is left out if the weight of the words
-// that it lacks exceeds that of the best character by more than mostMissingBeyondBest.
+// The following three limits are percentages of the weight of the query: the weight of all its words except
+// stop words. If the words that the best character lacks weigh more than mostMissing, nothing is found.
+// Another character is left out if the words that it lacks weigh more than those that the best character
+// lacks, and the difference is larger than mostMissingBeyondBest.
 inline constexpr std::uint32_t mostMissing = 62;
 inline constexpr std::uint32_t mostMissingBeyondBest = 20;
-// The same for the loss of its words. It leaves out characters that match only by a note if others match
+// A character is also left out if its words lose more than those of the best character, and the difference is
+// larger than mostLossBeyondBest. This leaves out characters that match only by a note if others match
 // better.
 inline constexpr std::uint32_t mostLossBeyondBest = 55;
 
-// The costs that the best matching text adds. It adds none if the query covers it.
+// The costs that the best matching text adds. A text that consists of exactly the words of the query, in the
+// same order, adds none of the costs from otherOrderInPartCost to spreadCost.
 inline constexpr std::uint32_t otherOrderInPartCost = 10;
 inline constexpr std::uint32_t otherOrderCost = 30;   // the words have another order in the text
 inline constexpr std::uint32_t looselyWholeCost = 8;  // only stop words are left in the text
-inline constexpr std::uint32_t headCost = 40;         // a part of the text with its noun matches: "heart"
-inline constexpr std::uint32_t partCost = 70;         // a part of the text without its noun matches
+inline constexpr std::uint32_t headCost = 40;         // a part matches, with the noun of the text
+inline constexpr std::uint32_t partCost = 70;         // a part matches, without the noun
 inline constexpr std::uint32_t extraWordCost = 4;     // for each word of the text that is not in the query
 inline constexpr std::uint32_t mostExtraWords = 8;    // further extra words cost nothing
 inline constexpr std::uint32_t spreadCost = 140;      // the words are in several texts of the character
 inline constexpr std::uint32_t unnamedCost = 6;       // the words are not in the name
-inline constexpr std::uint32_t htmlNameCost = 25;  // many HTML names are abbreviations that are words: "die"
+// Many HTML names are abbreviations that look like other words: "die" is the name of the diaeresis.
+inline constexpr std::uint32_t htmlNameCost = 25;
 inline constexpr std::uint32_t htmlNameInNameCost = 4;  // used instead, if the word is also in the name
 // Few systems can show private-use characters. They come last, unless the query is the whole name.
 inline constexpr std::uint32_t privateUseCost = 400;
 inline constexpr std::uint32_t privateUseNameCost = 50;  // one-word names are also everyday words
 
-// With this cost, Han characters come after most other matches.
+// The cost of a match with the meaning of a Han character. It puts the character after most other matches.
 inline constexpr std::uint32_t hanMeaningCost = 300;
 
-// The cost of results that are not found by words, for example by a code or an HTML name.
+// Costs that order the different ways in which a query can be understood.
 inline constexpr std::uint32_t behindExactCost = 75;   // after the results with a text equal to the query
-inline constexpr std::uint32_t otherReadingCost = 45;  // added if words of the query were split or joined
-inline constexpr std::uint32_t likelyNumberOfOtherCost = 10;  // a number as a code beyond the catalog
+inline constexpr std::uint32_t otherReadingCost = 45;  // words were split or joined, or another language
+inline constexpr std::uint32_t likelyNumberOfOtherCost = 10;  // a code point beyond the catalog
 inline constexpr std::uint32_t lastCost = 8000;               // after all other results
 
 /// Returns the cost of a kind of text. The name says a little more about a character than its other texts. A
@@ -137,10 +142,12 @@ inline std::uint32_t kindCost(PhraseKind kind) {
 struct TextMatch {
   unsigned words = 0;      ///< the number of matched words of the query, without stop words
   unsigned stopWords = 0;  ///< the number of matched stop words
-  unsigned aligned = 0;    ///< the number of matched words with the same distance between query and text
-  unsigned variants = 0;   ///< the number of words that match only as variants
-  unsigned prefixes = 0;   ///< the number of words that are only the beginning of a word
-  bool head = false;       ///< whether the noun of the text matches
+  /// The number of matched words that are shifted by the same distance between query and text. It equals the
+  /// number of matched words if the text has them in the order of the query, without gaps.
+  unsigned aligned = 0;
+  unsigned variants = 0;  ///< the number of words that match only as variants
+  unsigned prefixes = 0;  ///< the number of words that are only the beginning of a word
+  bool head = false;      ///< whether the noun of the text matches
 };
 
 /// Returns true if the query contains all words of the text, except for stop words. A query that repeats a
@@ -161,8 +168,9 @@ inline std::uint32_t textCost(const Phrase& phrase, const TextMatch& match) {
   return cost + (match.head ? headCost : partCost);
 }
 
-// A query of a few letters is probably the beginning of a longer word. With this cost, the common signs with
-// such words come before the syllables of rare scripts whose names are these letters.
+// A query of one to three letters is probably the beginning of a longer word, but is also the name of
+// syllables of rare scripts. This cost is added to letters of scripts, so that for "eu" the euro sign comes
+// before the syllable "eu".
 inline constexpr std::size_t shortQuery = 3;  // in bytes
 inline constexpr std::uint32_t shortNameOfLetterCost = 40;
 

@@ -12,7 +12,7 @@
 
 namespace glyph {
 
-// An image and an index that refers to the image.
+// An index image (see index_image.h), and an index that consists of views of this image.
 struct Search::Own {
   explicit Own(search::IndexImage built) : image(std::move(built)), index(search::openIndex(image)) {}
   Own(const Own&) = delete;

@@ -56,9 +56,8 @@ struct SearchResult {
 struct SearchResults {
   std::vector<SearchResult> results;  ///< at most SearchOptions::limit results; the best result is first
   std::size_t total = 0;              ///< number of all matching characters; may be larger than the limit
-  /// Whether nothing matches the query as typed, so that the search changed the query. The best result
-  /// matches a query with corrected words or fewer words. Words that only join other words ("with") do not
-  /// count.
+  /// Whether nothing matches the query as typed. Then the search corrected words or left words out. It does
+  /// not count as a change if only words that join other words ("with") are left out.
   bool approximate = false;
   /// Whether the best result lacks a word of the query. Then the results are also approximate.
   bool lacksWords = false;
@@ -147,7 +146,8 @@ class GLYPHORIUM_EXPORT Search {
  private:
   friend class CatalogSearch;
   struct Own;
-  // Returns a search of the catalog in which the characters of `added` have the priors that they have there.
+  // Returns a search of the catalog. A character that is also in `added` has the same prior as in `added`. A
+  // prior says how often people want a character: see static_rank.h.
   static Search ofCatalogBeside(const Search& added);
   Search(std::shared_ptr<const search::Index> index, std::size_t byteCount);
   std::optional<std::size_t> indexOfDoc(std::uint32_t doc) const noexcept;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The indexes of the unchanged catalog and of the supplement, which the build made, in the read-only data of the
-// library.
+// Puts the indexes of the unchanged catalog and of the supplement into the read-only data of the library. The build
+// has made these indexes.
 .section .rodata
 .balign 64
 .global glyphoriumSearchIndex

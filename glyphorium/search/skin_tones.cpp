@@ -30,7 +30,7 @@ struct ToneName {
 };
 
 // The names of all tones in all languages. Names with more words come first, because "medium dark skin tone"
-// contains the name of another tone.
+// contains "dark skin tone".
 const std::vector<ToneName>& toneNames() {
   static NeverDestroyed<const std::vector<ToneName>> all([] {
     std::vector<ToneName> names;

@@ -9,11 +9,12 @@
 
 namespace glyph::search {
 
-/// Removes the names of skin tones, in any language of characterAnnotations, from the words of a query:
-/// "medium light skin tone", "dunkle hautfarbe". Returns the tones in the order of the query.
+/// Removes the names of skin tones from the folded words of a query: "medium light skin tone", "dunkle
+/// hautfarbe". The names may be in any language that has annotations. Returns the tones in the order of the
+/// query.
 std::vector<SkinTone> takeSkinTones(std::vector<std::string>& words);
 
-/// Returns the folded words of the name of an emoji, without those that name a skin tone.
+/// Returns the folded words of the name of an emoji, without the words that name a skin tone.
 std::vector<std::string> wordsWithoutSkinTones(std::string_view name);
 
 /// Returns the skin tones in the text of an emoji, in the order of the text. Empty if there are none.

@@ -43,7 +43,7 @@ unsigned groupCost(GroupKind kind) {
 
 // Returns the cost of the group with this name. A group that is not in groupKinds counts as a script.
 unsigned groupCost(std::string_view name) {
-  // The user added these characters, so the user is likely to search for them.
+  // The group "custom" has the characters that the user added. The user is likely to search for these.
   if (name == customGroup) return groupCost(GroupKind::commonSigns);
   const auto found = std::lower_bound(
       groupKinds.begin(), groupKinds.end(), name,
@@ -83,12 +83,13 @@ std::string_view shownName(const Entity& entity) {
   return better ? *additional->betterName : entity.computed.fallbackName;
 }
 
-// Returns at most 41, so that the prior decides only between matches that are about equally good (see
-// score.h).
+// Returns the prior of a character. `place` is its position in the list of the most wanted characters, or
+// notWanted. The prior is at most 41, so that it decides only between matches that are about equally good
+// (see score.h).
 unsigned priorOf(const Candidate& candidate, std::string_view name, std::uint32_t place) {
   if (place != notWanted) return std::min<unsigned>(place / 60, mostWantedPrior);
-  // People seldom search for a sign that is on the keyboard. But if they type its words, they most likely
-  // mean this sign.
+  // People seldom search for a sign that is on the keyboard. But if they type words of its name, they most
+  // likely mean this sign.
   if (candidate.codePoint < 0x80) return keyboardPrior;
   const unsigned group = candidate.group == noGroup ? groupCost(GroupKind::otherSigns) : candidate.group;
   const auto blanks = static_cast<unsigned>(std::count(name.begin(), name.end(), ' '));
@@ -112,7 +113,8 @@ RankedDocs rankDocs(std::span<const Entity> entities) {
     if (isNew) candidates.push_back({static_cast<std::uint32_t>(i), codePointOf(record.hex)});
     Candidate& candidate = candidates[known->second];
     candidate.group = std::min(candidate.group, groupCost(record.group));
-    // The rows of a group are consecutive, so the name of the group rarely changes.
+    // The entities of a group are consecutive in the list, so the group rarely differs from that of the
+    // entity before.
     if (result.groups.empty() || result.groups.back().name != record.group) {
       const auto [group, isNewGroup] =
           groupOfName.try_emplace(record.group, static_cast<std::uint32_t>(result.groups.size()));

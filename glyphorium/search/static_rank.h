@@ -8,10 +8,12 @@
 
 #include "glyphorium/entity/records.h"
 
-/// The static rank says how likely it is that people want a character, whatever the query is. If several
-/// characters match a query equally well, people nearly always mean a common sign. They hardly ever mean a
-/// similar combining, compatibility or private-use character. The order of code points does not show this
-/// difference: the results for "arrow" would begin with U+02C2.
+/// The static rank says how likely it is that people want a character, whatever the query is. It is an order
+/// of all characters, first of all by their priors. A prior is a number that is added to the cost of each
+/// match of the character, so a low prior means that people want the character often. If several characters
+/// match a query equally well, people nearly always mean a common sign. They hardly ever mean a similar
+/// combining, compatibility or private-use character. The order of code points does not show this difference:
+/// the results for "arrow" would begin with U+02C2.
 namespace glyph::search {
 
 /// The highest prior of the characters that people want most.

@@ -34,7 +34,7 @@ namespace {
 
 enum class DocKind {
   emoji,
-  variants,  // of an emoji of the catalog: only their names
+  variants,  // an emoji of the catalog: only the names of its variants are added
   character,
   han
 };
@@ -45,8 +45,8 @@ struct Doc {
   DocKind kind;
 };
 
-// The priors of the supplement. In the catalog, signs have a prior of at most 30, and private-use characters
-// have privateUsePrior or more.
+// The priors of the supplement: see static_rank.h. In the catalog, private-use characters have at least
+// privateUsePrior, and all other characters have less.
 constexpr unsigned emojiPrior = 17;
 constexpr unsigned signPrior = 25;
 constexpr unsigned letterPrior = 30;
@@ -68,15 +68,16 @@ unsigned priorOf(const CharacterFacts& facts) {
   return facts.codePoint < 0x10000 ? scriptPrior : rareScriptPrior;
 }
 
-// A character that has readings in all languages is common.
+// Returns the prior of a Han character. The more languages have a reading for it, the more common the
+// character is.
 unsigned hanPriorOf(std::string_view line) {
   unsigned missing = 0;
   for (std::size_t reading = 1; reading <= 4; ++reading) missing += column(line, reading).empty();
   return hanPrior + missing;
 }
 
-// Returns the names of an emoji's variants in a language, without the names of skin tones, as far as they
-// differ from the name of the emoji and from each other: "kiss: person, person".
+// Returns the names of an emoji's variants in a language, without the names of skin tones: "kiss: person,
+// person". Leaves out names that are equal to the name of the emoji or to each other.
 std::vector<std::string> variantNames(std::size_t place, std::string_view language) {
   std::vector<std::string> names{wordsOf(annotationOf(emojiAt(place).text, language).name)};
   for (const std::size_t variant : emojiVariants(place)) {
@@ -130,8 +131,8 @@ std::vector<Doc> docsOfSupplement() {
   return docs;
 }
 
-// Adds the code of the country, which the regional indicators of a flag spell. People search for flags by
-// this code.
+// Adds "flag de" for the flag of Germany, because people search for flags by the codes of countries. The
+// regional indicators of a flag spell the code.
 void addCountryCode(IndexBuilder& builder, std::string_view text) {
   std::string code;
   for (const char32_t point : codePoints(text)) {
@@ -166,7 +167,8 @@ void addHan(IndexBuilder& builder, std::string_view line) {
   for (std::string_view senses = definition; !senses.empty();) {
     std::string_view commaList = takePart(senses, ';');
     while (!commaList.empty()) {
-      // Stop words and function words are left out, because they are a third of all words and say nothing.
+      // Stop words and function words are left out, because they are a third of all words and say nothing
+      // about the character.
       std::string sense;
       for (WordReader reader(takePart(commaList, ',')); reader.next();) {
         if (isStopWord(reader.word()) || isFunctionWord(english, reader.word()) || reader.word() == "to")

@@ -5,10 +5,11 @@
 
 namespace glyph::search {
 
-/// Builds the index of the supplement: all named characters beyond the catalog, Han characters by their
-/// meanings and readings, and emoji. An emoji with skin tones has no doc of its own: the doc of its base
-/// stands for it. Index::docEntity and Index::docCodePoint have the keys of emoji_numbers.h. A few emoji of
-/// the catalog also have a doc here, with the names that only their variants have.
+/// Builds the index of the supplement: all named characters beyond the catalog, Han characters with their
+/// meanings and readings, and emoji. Each of these is a document, "doc" for short. A variant of an emoji with
+/// skin tones has no doc of its own: the doc of the emoji without tones stands for it. Index::docEntity and
+/// Index::docCodePoint contain the keys of characterKey(). A few emoji of the catalog also have a doc here,
+/// with the names that only their variants have.
 IndexImage buildSupplementIndex();
 
 }  // namespace glyph::search

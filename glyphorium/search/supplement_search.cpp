@@ -39,9 +39,9 @@ bool isMostWanted(const SearchResult& result) {
   return doc != Index::noDoc && catalogIndex().docPrior[doc] <= mostWantedPrior;
 }
 
-// Moves the emoji whose CLDR name consists of exactly these words to the front. This is needed because
-// Unicode's name and CLDR's name "grinning face with smiling eyes" belong to different emoji. But the most
-// wanted characters, such as the arrows, stay before emoji.
+// Moves the emoji whose CLDR name consists of exactly `words` to the front. Otherwise the name of another
+// emoji may match equally well: "grinning face with smiling eyes" is the Unicode name of one emoji and the
+// CLDR name of another. The most wanted characters, such as the arrows, stay before all emoji.
 void putNamedEmojiFirst(SearchResults& found, const std::string& words) {
   const auto end =
       found.results.begin() + static_cast<std::ptrdiff_t>(std::min(found.results.size(), mostExact));
@@ -66,28 +66,30 @@ SearchResults answerFromBoth(const Index& ofCatalog, const ParsedQuery& query, S
     supplement = answer(supplementIndex(), query, options, true);
   for (SearchResult& result : supplement.results.results)
     result.index = placeOfKey(static_cast<char32_t>(result.index));
-  // Han characters that match by their meanings do not displace the results of a changed query.
+  // If only Han characters match the query as typed, by their meanings, the results of the catalog for a
+  // changed query are kept, too.
   if (supplement.byMeaning && !catalog.results.results.empty() &&
       change(supplement.results) < change(catalog.results)) {
     supplement.results.approximate = catalog.results.approximate;
     supplement.results.lacksWords = catalog.results.lacksWords;
   }
-  // An emoji of the catalog may be in both answers, if its variants have names of their own.
+  // An emoji of the catalog may be in both answers: it is also in the supplement if its variants have other
+  // names.
   SearchResults found = merged(std::move(catalog.results), std::move(supplement.results), options.limit);
   putNamedEmojiFirst(found, joined(query.words, " "));
   return found;
 }
 
-// Returns the variant of an emoji with these skin tones. There may be several: with two persons, two women,
-// two men. Then returns the variant whose name without the tones is `words`, or the first variant if there is
-// none with this name.
+// Returns the variant of an emoji with these skin tones. Several variants may have the same tones, for
+// example those with two women and with two men. In this case, returns the variant whose name without the
+// tones is `words`. If no variant has this name, returns the first variant.
 std::string_view variantWith(std::size_t place, const std::vector<SkinTone>& tones,
                              const std::vector<std::string>& words) {
   std::string_view first;
   for (const std::size_t variant : emojiVariants(place)) {
     const std::string_view text = emojiAt(variant).text;
     std::vector<SkinTone> own = skinTonesOf(text);
-    // A single tone in the query means this tone for all people of an emoji.
+    // If the query has a single tone, it means this tone for all people of an emoji.
     if (tones.size() == 1 && std::adjacent_find(own.begin(), own.end(), std::not_equal_to<>()) == own.end())
       own.resize(1);
     if (own != tones) continue;
@@ -99,8 +101,8 @@ std::string_view variantWith(std::size_t place, const std::vector<SkinTone>& ton
   return first;
 }
 
-// Searches for the query, from which the names of tones were removed, and returns the variants with these
-// tones of the emoji that it finds.
+// Searches for emoji and returns those of their variants that have these skin tones. The names of the tones
+// must have been removed from query.words.
 SearchResults variants(const Index& catalog, ParsedQuery query, const std::vector<SkinTone>& tones,
                        SearchOptions options) {
   const std::size_t limit = std::exchange(options.limit, preparedRowCount());
@@ -122,8 +124,9 @@ SearchResults variants(const Index& catalog, ParsedQuery query, const std::vecto
   return found;
 }
 
-// Returns true if the query has the form of a computed name. This saves the call of characterNamed(), which
-// takes about a millisecond.
+// Returns true if the query may be a name that Unicode computes from a code point: "Hangul Syllable Ga", "CJK
+// Unified Ideograph-6F22". For other queries this saves a call of characterNamed(), which takes about a
+// millisecond.
 bool maybeComputedName(const ParsedQuery& query) {
   const std::vector<std::string>& words = query.words;
   if (words.size() == 3 && words[0] == "hangul" && words[1] == "syllable") return true;

@@ -11,11 +11,11 @@
 
 namespace glyph::search {
 
-/// Searches the catalog and the supplement, and ranks the results together. SearchResult::index is a "place".
-/// A place below preparedRowCount() is the position of an entity of the catalog. Any other place is the sum
-/// of preparedRowCount() and a key of emoji_numbers.h. Names of skin tones in the text choose variants of
-/// emoji. `catalog` is the index of the catalog, perhaps with other priors. `text` must not contain "group:",
-/// and `options` must have no groups.
+/// Searches the catalog and the supplement, and ranks the results together. SearchResult::index is a "place":
+/// a number that stands for a character or an emoji. A place below preparedRowCount() is the position of an
+/// entity of the catalog. Any other place is the sum of preparedRowCount() and the characterKey() of the
+/// character. Names of skin tones in the text choose variants of emoji. `catalog` is the index of the
+/// catalog, perhaps with changed priors. `text` must not contain "group:", and `options` must have no groups.
 SearchResults queryEverything(const Index& catalog, std::string_view text, const SearchOptions& options);
 
 /// Returns true if the query itself contains the character or its code.

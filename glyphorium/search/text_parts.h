@@ -15,7 +15,7 @@ inline std::string_view takePart(std::string_view& rest, char separator) {
   return part;
 }
 
-/// Returns the lines from the first one whose first column is not less than `text`. The lines must be in
+/// Skips the lines whose first column is less than `text`, and returns the rest. The lines must be in
 /// ascending byte order of their first columns, which end at a tab or a line feed.
 inline std::string_view firstLineFrom(std::string_view lines, std::string_view text) {
   std::size_t first = 0;

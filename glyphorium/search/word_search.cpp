@@ -27,8 +27,8 @@ class WordSearch {
     const bool complete = typed.isComplete();
     if (complete) keep(typed);
     if (complete && !isName(typed.matches)) addNamesInOtherLanguages();
-    // With its words split or joined, the query may be a whole text: "thumbsup". But a last letter is the
-    // beginning of a word: "not e" is not "note".
+    // If words are split or joined, the query may be a whole text of a character: "thumbsup". But a single
+    // letter at the end is the beginning of a word: "not e" does not mean "note".
     if (complete && !typed.matches.best.whole && words_.back().size() > 1) addWholeRespellings();
     if (complete || !persistently) return std::move(found_);
     Reading best = readWidely(std::move(typed));
@@ -50,16 +50,17 @@ class WordSearch {
                                          bool prefixes) const {
     std::vector<QueryWord> result;
     const std::size_t mostTooShort = index_.weighedWith ? 2 : 1;
-    bool afterJoining = false;  // whether the previous word is a stop word: in "with a", "a" is no letter
+    bool afterJoining = false;  // the previous word is a stop word: in "with a", "a" is no letter
     for (const std::string& text : words) {
       const bool isLast = &text == &words.back();
       const bool isOnly = words.size() == 1;
       const bool isStopWord = !isOnly && saysLittle(languages, text) && (text.size() > 1 || afterJoining);
       QueryWord& word = result.emplace_back(QueryWord{text, {}, isStopWord, 0});
       afterJoining = isStopWord;
-      // A single letter is a prefix of a tenth of all words. For the supplement, two letters are too few as
-      // well: enough words of the catalog begin with them. A word that is not the last one counts as
-      // incomplete only if it is not in the dictionary.
+      // If the query is a single word, it may be incomplete only if it is long enough. A single letter is a
+      // prefix of a tenth of all words. In the supplement, two letters are too short as well: the catalog has
+      // enough words that begin with them. A word before the last one may be incomplete only if it is not in
+      // the dictionary.
       const bool mayBeBegun = isLast
                                   ? !isOnly || text.size() > mostTooShort
                                   : text.size() >= shortestInnerPrefix && index_.words.exactly(text).empty();
@@ -101,8 +102,8 @@ class WordSearch {
     return matches.best.whole && matches.best.kind != PhraseKind::htmlName;
   }
 
-  // A word of another language may be a prefix of a word in the searched languages: "luna" means the moon,
-  // but is also a prefix of "lunate".
+  // Adds the characters that have the query as a whole text in another language. Without them, "luna" would
+  // find only English words that begin with it, such as "lunate", and not the moon.
   void addNamesInOtherLanguages() {
     MatchFilter others = filter_;
     others.languages = ~filter_.languages;
@@ -114,7 +115,7 @@ class WordSearch {
 
   void addWholeRespellings() {
     for (const std::vector<std::string>& spelling : respelled()) {
-      // If the query has more than two words, splitting its words hardly ever gives a whole text.
+      // If the query has more than two words, splitting them hardly ever gives a whole text of a character.
       if (words_.size() > 2 && spelling.size() >= words_.size()) continue;
       Reading other = read(dictionaryWords(spelling, languages_, false), filter_, otherReadingCost);
       std::erase_if(other.matches.all, [](const Match& match) { return !match.whole; });

@@ -13,7 +13,7 @@
 namespace glyph {
 namespace {
 
-// Leave out the supplement, which has its own tests.
+// These tests leave out the supplement, which has its own tests.
 const SearchOptions english{20, {{"en"}}, {}, false};
 
 std::vector<std::string> hexes(const CatalogSearch& search, const std::string& query,
@@ -25,7 +25,8 @@ std::vector<std::string> hexes(const CatalogSearch& search, const std::string& q
 }
 
 // The entities of the catalog and of added characters as one list, and a Search that is built from this list.
-// A CatalogSearch must find the same, but building it takes hundreds of times as long.
+// A CatalogSearch must have the same results as this Search. Building this Search takes hundreds of times as
+// long as making a CatalogSearch.
 struct WholeList {
   explicit WholeList(const std::vector<std::string>& codes) : entities(customEntities(codes)) {
     const std::vector<Entity>& catalog = testing::CatalogSearch::instance().entities;
@@ -70,8 +71,8 @@ TEST(CatalogSearch, RanksResultsLikeASingleSearchOverBothLists) {
   }
 }
 
-// The results of a query, ordered by cost and then by hex code, without those that have the last cost: of
-// these, some may have been cut off.
+// Returns the results of a query, ordered by cost and then by hex code. If the limit cut off results, leaves
+// out the results with the highest cost, because the list may have only some of them.
 template <class EntityOf>
 std::vector<std::pair<std::uint32_t, std::string>> byCost(const SearchResults& found, EntityOf entityOf) {
   std::vector<std::pair<std::uint32_t, std::string>> results;

@@ -23,8 +23,8 @@ bool isOneEdit(std::string_view a, std::string_view b) {
          restA.substr(2) == restB.substr(2);
 }
 
-// addMistypedWords() does not compare the mistyped word with every word of the dictionary, but must find the
-// same words as such a comparison, except words with digits.
+// addMistypedWords() does not compare the mistyped word with every word of the dictionary. This test makes
+// that comparison and expects the same words, except words with digits.
 TEST(MistypedWords, AreAllWordsThatDifferByOneEdit) {
   const Index index = openIndex(catalogIndexImage());
   for (const char* const text : {"arow", "arrow", "aarrow", "elipsis", "xarrow", "rokcet", "letterx", "sqare",

@@ -87,8 +87,8 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"...", {"2026"}, SearchField::notation},
       // notations for characters in other programs, such as LaTeX and Alt codes
       {"\\neq", {"2260"}, SearchField::notation},
-      {"\\cdot", {"22c5", "00b7"}, SearchField::notation},  // the first is in more sources
-      {"\\AA", {"00c5"}, SearchField::notation},            // not the escape of U+00AA
+      {"\\cdot", {"22c5", "00b7"}, SearchField::notation},  // more sources give the first one
+      {"\\AA", {"00c5"}, SearchField::notation},            // a LaTeX command, not the code AA
       {"$\\Rightarrow$", {"21d2"}, SearchField::notation},
       {"\\'e", {"00e9"}, SearchField::notation},
       {"\\c c", {"00e7"}, SearchField::notation},
@@ -114,7 +114,7 @@ TEST(SearchQueryForms, EveryFormOfACharacterFindsIt) {
       {"\\mathbf{\\alpha}", {"1d6c2"}, SearchField::notation},
       {"Compose , c", {"00e7"}, SearchField::notation},
       {"â€™", {"2019"}, SearchField::notation},
-      {"alt-228", {"03a3", "00f5"}, SearchField::notation},  // a character in each of two code pages
+      {"alt-228", {"03a3", "00f5"}, SearchField::notation},  // a different one in each of two code pages
       {"Compose < 3", {"2665"}, SearchField::notation},
       {"^K a:", {"00e4"}, SearchField::notation},
       {"U 2014", {"2014"}, SearchField::code},
@@ -148,7 +148,7 @@ TEST(SearchQueryForms, CodeFindsOnlyItsCharacter) {
   for (const char* const code : {"U+2192", "\\u2192", "\\u{2192}", "&#8594;", "&#x2192;"})
     EXPECT_EQ(CatalogSearch::instance().hexes(code), std::vector<std::string>{"2192"}) << code;
   EXPECT_EQ(CatalogSearch::instance().hexes("&#"),
-            (std::vector<std::string>{"0026", "0023"}));  // an incomplete code finds its characters
+            (std::vector<std::string>{"0026", "0023"}));  // not a complete code
 }
 
 TEST(SearchQueryForms, EveryHtmlReferenceFindsItsCharacterFirst) {

@@ -27,7 +27,7 @@ std::size_t placeOf(const ListedQuery& query, const std::vector<std::string>& fo
 
 // The queries whose first result is not a wanted character, with the position of the first wanted character,
 // or 0 if none is found. If a change makes a query find a wanted character first, remove the query from this
-// list. Add a query only if the change that makes it worse improves more than it spoils.
+// list. Add a query only if your change improves more queries than it makes worse.
 const std::map<std::string, std::size_t> knownMisses{
     {"&NotEqualTilde;", 0},
     {":+1::skin-tone-3:", 0},

@@ -57,7 +57,7 @@ TEST(SearchRanking, WordsAreLeftOutIfNoCharacterMatchesAllOfThem) {
     const char* language;
     const char* first;  // nullptr if nothing is found
   } cases[] = {
-      {"face with tears and joy", "en", "1f602"},  // "and" instead of the name's "of"
+      {"face with tears and joy", "en", "1f602"},  // the name has "of" in place of "and"
       {"purple qzwxv snowman", "en", "2603"},      // ignores an unknown word
       {"frozen snwman", "en", "2603"},             // the other word is mistyped
       {"square anchor", "en", "2693"},             // ignores the adjective
@@ -86,9 +86,9 @@ TEST(SearchRanking, EachPartOfTheScoreDecidesTheOrderOfSomeResults) {
       {"è maiuscola", "it", "00c8"},                         // the accent matters
       {"í con tilde mayúscula", "es", "00cd"},
       {"u mit zwei Punkten", "de", "00fc"},  // a description of the shape
-      {"power set", "en", "1d4ab"},          // and not a character whose usage note mentions this one
+      {"power set", "en", "1d4ab"},          // not a character whose usage note mentions this one
       {"estreya", "es", "2605"},             // a misspelling of "estrella" that sounds the same
-      {"co", "en", "00a9"},                  // and not a character with the syllable "Co" in its name
+      {"co", "en", "00a9"},                  // not a character with the syllable "Co" in its name
       {"giove", "it", "2643"},
   };
   for (const auto& test : cases) {

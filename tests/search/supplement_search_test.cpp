@@ -68,8 +68,8 @@ TEST(SupplementSearch, FindsCharactersBeyondTheCatalog) {
   }
 }
 
-// The query list was made for the catalog. No character of the supplement may come before the wanted
-// character.
+// Han characters come after all other results, and the supplement does not change the order of the results of
+// the catalog.
 TEST(SupplementSearch, ResultsOfTheCatalogComeFirst) {
   const auto water = hexes("water", "en", 10'000);
   const auto isHan = [](const std::string& hex) {
@@ -91,7 +91,8 @@ TEST(SupplementSearch, ResultsOfTheCatalogComeFirst) {
             std::vector(ofCatalog.begin(), ofCatalog.begin() + 3));
 }
 
-// The only exception: if one of the most wanted signs has the same name as an emoji, the sign comes first.
+// There is only one exception: if one of the most wanted signs has the same name as an emoji, the sign comes
+// first.
 TEST(SupplementSearch, FindsEveryEmojiFirstByItsEnglishName) {
   const std::set<std::string> namesOfSigns{
       "star",       "bookmark",   "dagger",     "hook",         "up arrow",    "right arrow",

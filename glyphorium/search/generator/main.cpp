@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A program that builds the search indexes of the catalog and of the supplement. The build runs this program,
-// so that other programs need not build them at run time. It is linked with the code of the library.
+// so that other programs need not build the indexes at run time. The program is linked with the code of the
+// library.
 #include <cstdio>
 #include <exception>
 
