@@ -96,7 +96,7 @@ class ScopeDelegate : public QStyledItemDelegate {
     QFont small = option.font;
     small.setPointSizeF(small.pointSizeF() * 0.88);
     painter.setFont(small);
-    // The faint colour has too little contrast to the background of the current row.
+    // The faint colour has too little contrast with the background of the current row.
     painter.setPen(isCurrent ? text : option.palette.color(QPalette::PlaceholderText));
     const QString count = QLocale().toString(index.data(ScopeModel::countRole).toLongLong());
     const int countWidth = QFontMetrics(small).horizontalAdvance(count);

@@ -32,7 +32,7 @@ std::string hexOfBytes(std::string_view bytes);
 /// text is something else.
 std::optional<std::string> bytesOfHex(std::string_view text);
 
-/// Converts bytes in an encoding, which may arrive in pieces, to UTF-8.
+/// Converts bytes in a given encoding to UTF-8. The bytes may arrive in pieces.
 class Decoder {
  public:
   using OnPiece = std::function<void(std::string_view)>;

@@ -151,7 +151,8 @@ typedef struct glyphorium_index {
    * means that a request is always done when its function returns. */
   bool (*wait)(void *user, int64_t milliseconds);
 } glyphorium_index;
-/** Makes the library use the host's index. NULL restores the file of the application. */
+/** Makes the library use the index that the program supplies through these callbacks. NULL restores the default: an
+    index file of the library for each application. */
 GLYPHORIUM_EXPORT bool glyphorium_set_index(const glyphorium_index *index, void *user, glyphorium_destroy destroy);
 /** Makes the library keep the index only in memory. For tests and for hosts without a desktop. */
 GLYPHORIUM_EXPORT bool glyphorium_use_memory_index(void);

@@ -12,8 +12,9 @@
 #include "glyphorium/export.h"
 #include "glyphorium/text/record_text.h"
 
-/// The records that describe characters. They are also members of the catalog type: Glyphorium::Entity and
-/// so on. The records do not check or normalise their fields. They are values: copies share constants only.
+/// The records that describe characters. They can also be named as members of the class Glyphorium, such as
+/// Glyphorium::Entity. The records do not check or normalise their fields. They are values: a change of a
+/// copy never changes the original.
 /// See RecordText for the conversion of the texts to std::string and for their lifetime.
 namespace glyph {
 

@@ -25,8 +25,9 @@ class GLYPHORIUM_EXPORT CatalogSearch {
   /// Uses the added characters that settingsStore() has at the time of the call.
   CatalogSearch();
 
-  /// Uses the added characters with these hex codes or hex lists, in the form that
-  /// Glyphorium::customAddedEntityUnicodes() returns. A code without a name is ignored.
+  /// Makes these characters, which the user has added, part of the search. Each is a hex code, or several hex
+  /// codes for an emoji of several code points, in the form that Glyphorium::customAddedEntityUnicodes()
+  /// returns. A code for which no name is known is ignored.
   explicit CatalogSearch(std::vector<std::string> addedCodes);
 
   /// Searches like Search::query(). If a character is both added and in the catalog or the supplement, only

@@ -157,7 +157,8 @@ inline bool coversText(const Phrase& phrase, const TextMatch& match) {
   return match.words + match.stopWords >= phrase.words || match.words >= phrase.coreWords;
 }
 
-/// Returns the cost that the text adds to the loss of the words.
+/// Returns the part of the cost of a match that depends on the text of the character in which the words of
+/// the query are. The other part is what the words lose: see lossPercent().
 inline std::uint32_t textCost(const Phrase& phrase, const TextMatch& match) {
   const unsigned matched = match.words + match.stopWords;
   const std::uint32_t left = phrase.words > matched ? phrase.words - matched : 0;

@@ -99,8 +99,8 @@ class GLYPHORIUM_EXPORT Search {
 
   /// Returns a search over buildInEntities() as configure() fills it. The results are the same as those of a
   /// Search that is built from that list. The library contains the index. So this call builds nothing, and
-  /// all processes share the index. The catalog need not be configured: buildInEntity() returns the entities
-  /// of the results.
+  /// all processes share the index. This also works before configure() is called: buildInEntity() then
+  /// returns the entities of the results.
   static Search ofCatalog();
 
   /// Returns the characters that match a UTF-8 text. The text may be:

@@ -20,9 +20,10 @@ inline int killRounds(int usual) {
 }
 
 /// Runs `write(descriptor)` in a child process and kills the child process after a random time, at most
-/// `most`. The time is counted from the first write if `begun` is true, otherwise from the start of the child
-/// process. Until the kill, this process calls `meanwhile` repeatedly. `write` must send one byte to the
-/// descriptor after each write and must not return. Returns the number of bytes that were sent.
+/// `most`. `write` must store something again and again and never return. Each time that it has stored
+/// something, it must send one byte to the descriptor. The time is counted from the first byte if `begun` is
+/// true, otherwise from the start of the child process. Until the kill, this process calls `meanwhile`
+/// repeatedly. Returns the number of bytes that were sent.
 template <class Write, class Meanwhile>
 std::size_t writesUntilKilled(bool begun, std::chrono::microseconds most, Write write, Meanwhile meanwhile) {
   static std::minstd_rand random(std::random_device{}());

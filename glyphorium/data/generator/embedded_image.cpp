@@ -15,7 +15,7 @@
 namespace glyph::generator {
 namespace {
 
-// Appends the number in the form of CodePointIndex.
+// Appends the number to `bytes`, in the byte order and size that CodePointIndex reads.
 void append(std::string& bytes, std::uint32_t number) {
   if (number >> 8 * CodePointIndex::numberSize != 0)
     throw std::runtime_error("a text of the image is too long");

@@ -20,8 +20,8 @@ std::string indexTokens(const SearchableItem& item);
 /// A query in the forms that the index needs. indexQuery() creates it from the text that the user has
 /// typed.
 struct IndexQuery {
-  /// The words and symbols, in lower case. An item must have a token that begins with each of them. Empty if
-  /// the query has none.
+  /// The words and symbols, in lower case. For each of them, an item must have a token that begins with it.
+  /// Empty if the query has none.
   std::vector<std::string> terms;
   std::string exact;    ///< the words without the prefix "qv:"; compared with an item's symbol and identifier
   std::string lowered;  ///< `exact` in lower case; compared with an item's identifier and name

@@ -137,7 +137,8 @@ void SettingsDatabase::check(Database& database) const {
   Statement check(database, "PRAGMA quick_check(1)");
   if (check.step() && check.text(0) != "ok") throw SqliteError(SQLITE_CORRUPT, check.text(0));
   if (isCut(database, file_)) {
-    // After a crash of the machine, the missing part of the page may still be in the log.
+    // If the machine crashed while a page was written, the page may be incomplete in the file but complete in
+    // the write-ahead log. A checkpoint then completes the file.
     sqlite3_wal_checkpoint_v2(database.handle(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
     if (isCut(database, file_)) throw SqliteError(SQLITE_CORRUPT, "the end of the file is missing");
   }

@@ -531,7 +531,8 @@ extern "C" {
     /// Reports that the host's index has finished a request. Call this exactly once for each request, on any
     /// thread. `error` is NULL after a success.
     pub fn glyphorium_request_done(request: *mut glyphorium_request, error: *const c_char);
-    /// Makes the library use the host's index. NULL restores the file of the application.
+    /// Makes the library use the index that the program supplies through these callbacks. NULL restores the default: an
+    /// index file of the library for each application.
     pub fn glyphorium_set_index(index: *const glyphorium_index, user: *mut c_void, destroy: glyphorium_destroy) -> bool;
     /// Makes the library keep the index only in memory. For tests and for hosts without a desktop.
     pub fn glyphorium_use_memory_index() -> bool;
