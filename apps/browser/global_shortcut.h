@@ -43,13 +43,11 @@ class GlobalShortcut : public QObject {
   /// The user pressed the key. The token lets a window come to the front; it may be empty.
   void activated(const QString& activationToken);
 
- private Q_SLOTS:
-  void takeSession(uint code, const QVariantMap& results);
-  void takeKey(uint code, const QVariantMap& results);
-  void takePress(const QDBusObjectPath& session, const QString& shortcut, qulonglong time,
-                 const QVariantMap& options);
-
  private:
+  Q_SLOT void takeSession(uint code, const QVariantMap& results);
+  Q_SLOT void takeKey(uint code, const QVariantMap& results);
+  Q_SLOT void takePress(const QDBusObjectPath& session, const QString& shortcut, qulonglong time,
+                        const QVariantMap& options);
   void call(const QString& method, QVariantList arguments, QVariantMap options, const char* slot);
   void setState(State state, const QString& keyText = {});
 

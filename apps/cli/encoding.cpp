@@ -83,7 +83,7 @@ void Decoder::decode(std::string_view bytes, bool isEnd) {
     char16_t units[1024];
     char16_t* unitsEnd = units;
     UErrorCode status = U_ZERO_ERROR;
-    ucnv_toUnicode(converter_, &unitsEnd, std::end(units), &next, end, nullptr, isEnd, &status);
+    ucnv_toUnicode(converter_, &unitsEnd, std::end(units), &next, end, nullptr, isEnd ? 1 : 0, &status);
     text.append(units, unitsEnd);
     if (status == U_BUFFER_OVERFLOW_ERROR) continue;
     giveText();

@@ -101,7 +101,7 @@ class Matcher {
     // The words are matched from the rarest to the most frequent. A character that lacks too many rare words
     // need not be examined when a frequent word matches it.
     std::vector<std::pair<std::size_t, std::uint8_t>> order;
-    for (std::uint8_t place = 0; place < words_.size(); ++place) {
+    for (std::uint8_t place = 0; std::size_t{place} < words_.size(); ++place) {
       const std::size_t last = words_[place].isStopWord ? index_.postings.size() : 0;
       order.emplace_back(last + postingCount(index_, words_[place]), place);
     }

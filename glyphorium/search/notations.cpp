@@ -159,7 +159,7 @@ CodePoints codeBeforeKeys(std::string_view text) {
 CodePoints shortcode(std::string_view name) {
   constexpr std::string_view toneBegin = "::skin-tone-";
   const std::size_t end = name.find(toneBegin);
-  const CodePoints found = exactly(notations::shortcodes, name.substr(0, end));
+  CodePoints found = exactly(notations::shortcodes, name.substr(0, end));
   const std::string_view tone = end == std::string_view::npos ? "" : name.substr(end + toneBegin.size());
   if (tone.size() != 1 || tone[0] < '2' || tone[0] > '6' || found.empty()) return found;
   // The chats number the tones from 2, as the Fitzpatrick scale does.
