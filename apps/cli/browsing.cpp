@@ -48,22 +48,22 @@ int listEntities(Output& output, const ListRequest& request, const Listing& list
   using Key = glyph::UserInfluencedEntityKey;
   const std::vector<Entity> added = addedEntities();
   std::vector<const Entity*> entities;
+  // Adds the entities whose characters are not in the list yet.
+  const auto appendOthers = [&](const std::vector<Entity>& from) {
+    std::unordered_set<std::string_view> known;
+    for (const Entity* const entity : entities) known.insert(entity->computed.hex.view());
+    for (const Entity& entity : from) {
+      if (!known.contains(entity.computed.hex.view())) entities.push_back(&entity);
+    }
+  };
   int exitCode = found;
   if (request.all && !isReadable(Key::customAddedEntities)) exitCode = notRead;  // the list is still printed
   if (request.groups.empty() && !request.all) {
     if (!isReadable(Key::displayedGroups) || !isReadable(Key::customAddedEntities)) return notRead;
-    std::unordered_set<std::string> shown;
-    for (const Entity& entity : glyph::selectedEntities().get()) {
-      entities.push_back(&entity);
-      shown.insert(entity.computed.hex);
-    }
+    for (const Entity& entity : glyph::selectedEntities().get()) entities.push_back(&entity);
     const std::vector<std::string> groups = catalog.selectedGroups();
-    if (std::find(groups.begin(), groups.end(), glyph::customGroup) != groups.end()) {
-      // The catalog leaves out those that the name table does not have.
-      for (const Entity& entity : added) {
-        if (!shown.contains(entity.computed.hex)) entities.push_back(&entity);
-      }
-    }
+    // The catalog leaves out those that the name table does not have.
+    if (std::find(groups.begin(), groups.end(), glyph::customGroup) != groups.end()) appendOthers(added);
     if (entities.empty()) {
       complain("the displayed groups contain no characters; 'glyphorium display add GROUP' displays more");
     }
@@ -93,13 +93,7 @@ int listEntities(Output& output, const ListRequest& request, const Listing& list
     append(catalog.buildInEntities(), &*group);
     append(added, &*group);
     // "emoji" is also the set of all emoji. Those that are not in the group follow it.
-    if (const auto set = charactersOfSet(*group)) {
-      std::unordered_set<std::string> inGroup;
-      for (const Entity* const entity : entities) inGroup.insert(entity->computed.hex);
-      for (const Entity& entity : sets.emplace_back(*set)) {
-        if (!inGroup.contains(entity.computed.hex)) entities.push_back(&entity);
-      }
-    }
+    if (auto set = charactersOfSet(*group)) appendOthers(sets.emplace_back(*std::move(set)));
   }
   std::deque<Entity> toned;
   if (const auto tone = glyph::skinToneNamed(request.tone)) {

@@ -2,6 +2,7 @@
 #include "lookup.h"
 
 #include <unicode/uchar.h>
+#include <unicode/uset.h>
 
 #include <algorithm>
 #include <charconv>
@@ -145,12 +146,14 @@ constexpr std::string_view binaryPrefix = "property:";
 // Returns the characters that have a property which is either true or false, such as "White_Space".
 std::vector<CodePointRange> charactersWithBinary(const std::string& name) {
   std::vector<CodePointRange> ranges;
-  const UProperty property = u_getPropertyEnum(name.c_str());
-  if (property < UCHAR_BINARY_START || property >= UCHAR_BINARY_LIMIT) return ranges;
-  for (char32_t c = 0; c <= 0x10FFFF; ++c) {
-    if (!u_hasBinaryProperty(static_cast<UChar32>(c), property)) continue;
-    if (ranges.empty() || ranges.back().last + 1 != c) ranges.push_back({c, c});
-    ranges.back().last = c;
+  UErrorCode status = U_ZERO_ERROR;
+  const USet* const set = u_getBinaryPropertySet(u_getPropertyEnum(name.c_str()), &status);
+  if (U_FAILURE(status)) return ranges;  // it has no such property
+  for (int32_t i = 0; i < uset_getItemCount(set); ++i) {
+    UChar32 first = 0, last = 0;
+    // The last items of some sets are texts of several characters, which are left out.
+    if (uset_getItem(set, i, &first, &last, nullptr, 0, &status) != 0 || U_FAILURE(status)) break;
+    ranges.push_back({static_cast<char32_t>(first), static_cast<char32_t>(last)});
   }
   return ranges;
 }
