@@ -18,7 +18,6 @@
 #include <algorithm>
 
 #include "catalog.h"
-#include "character_filter.h"
 #include "character_grid.h"
 #include "character_texts.h"
 #include "elided_label.h"
@@ -520,7 +519,7 @@ void CharacterCard::showFacts() {
     }
     add(tr("Also called"), fromUtf8(aliases));
     add(tr("Meaning"), fromUtf8(facts.hanDefinition));
-    if (!facts.block.empty()) add(tr("Block"), Scope{Scope::Kind::block, std::string(facts.block)}.title());
+    if (!facts.block.empty()) add(tr("Block"), blockTitle(std::string(facts.block)));
     add(tr("Script"), fromUtf8(facts.script));
     add(tr("Category"), categoryTitle(facts.category));
     add(tr("Since version"), fromUtf8(facts.version));

@@ -3,10 +3,21 @@
 
 #include <QCoreApplication>
 #include <QStringList>
+#include <algorithm>
+#include <span>
 
 #include "catalog.h"
 
 namespace browser {
+namespace {
+
+// Returns the translation of the text if it is one of the titles. Returns any other text unchanged.
+QString translated(const char* context, std::span<const char* const> titles, std::string_view text) {
+  const auto title = std::find(titles.begin(), titles.end(), text);
+  return title == titles.end() ? fromUtf8(text) : QCoreApplication::translate(context, *title);
+}
+
+}  // namespace
 
 QString codeText(const glyph::Entity& entity) {
   return fromUtf8(glyph::copyForm("code-point")->text(entity).value_or(entity.computed.hex));
@@ -54,10 +65,7 @@ QString emojiGroupTitle(std::string_view group) {
       QT_TRANSLATE_NOOP("EmojiGroup", "Symbols"),
       QT_TRANSLATE_NOOP("EmojiGroup", "Flags"),
   };
-  for (const char* const title : titles) {
-    if (title == group) return QCoreApplication::translate("EmojiGroup", title);
-  }
-  return fromUtf8(group);
+  return translated("EmojiGroup", titles, group);
 }
 
 QString categoryTitle(std::string_view category) {
@@ -95,10 +103,7 @@ QString categoryTitle(std::string_view category) {
       QT_TRANSLATE_NOOP("Category", "unassigned"),
   };
   const std::string_view name = glyph::categoryName(category);
-  for (const char* const title : titles) {
-    if (title == name) return QCoreApplication::translate("Category", title);
-  }
-  return fromUtf8(name);
+  return translated("Category", titles, name);
 }
 
 QString typingTitle(const glyph::WayToType& way) {
