@@ -2,6 +2,7 @@
 #include "glyphorium/search/notations.h"
 
 #include <algorithm>
+#include <array>
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -175,6 +176,20 @@ CodePoints windowsReference(std::string_view text) {
   return exactly(notations::altCodes, "0" + std::string(text.substr(2, text.size() - 3)));
 }
 
+// Returns the characters that Windows-1252 has for the bytes from 0x80 to 0x9F. It is 0 for the bytes for
+// which it has none.
+const std::array<char32_t, 32>& windowsCharacters() {
+  static const auto characters = [] {
+    std::array<char32_t, 32> made{};
+    for (std::size_t i = 0; i < made.size(); ++i) {
+      const CodePoints found = exactly(notations::altCodes, "0" + std::to_string(0x80 + i));
+      if (!found.empty()) made[i] = found.front();
+    }
+    return made;
+  }();
+  return characters;
+}
+
 // Returns the characters of a text whose UTF-8 was read as Windows-1252: "â€™" for "’".
 CodePoints misread(std::string_view text) {
   std::string bytes;
@@ -183,11 +198,10 @@ CodePoints misread(std::string_view text) {
       bytes += static_cast<char>(point);
       continue;
     }
-    int byte = 0x80;
-    while (byte < 0xA0 && exactly(notations::altCodes, "0" + std::to_string(byte)) != CodePoints{point})
-      ++byte;
-    if (byte == 0xA0) return {};
-    bytes += static_cast<char>(byte);
+    const auto& known = windowsCharacters();
+    const auto found = std::find(known.begin(), known.end(), point);
+    if (found == known.end()) return {};
+    bytes += static_cast<char>(0x80 + (found - known.begin()));
   }
   if (bytes == text || !isWellFormedUtf8(bytes)) return {};
   const std::u32string read = codePoints(bytes);
